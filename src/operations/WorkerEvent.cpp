@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "operations/WorkerEvent.h"
+
+#include <array>
+
+namespace songsweep {
+
+std::string_view text(EventName name) {
+    static constexpr std::array<std::string_view, 17> texts = {
+        "addFinish",
+        "xmlDoneParsing",
+        "xmlErrorParsing",
+        "xmlErrorProcessing",
+        "xmlerrornotfound",
+        "xmlModifiedDate",
+        "buildFinish",
+        "addCancel",
+        "step1",
+        "progressx",
+        "step2",
+        "progress",
+        "deleteAddCount",
+        "deleteValidity",
+        "deleteFinish",
+        "deleteCancel",
+        "tableviewSpacebar",
+    };
+    return texts.at(static_cast<std::size_t>(name));
+}
+
+} // namespace songsweep

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Files.h"
+
+#include <string_view>
+#include <variant>
+
+namespace songsweep {
+
+struct TrackRecord;
+class Operation;
+
+/// The events by which workers report, in the order in which the dispatch compares them.
+enum class EventName {
+    addFinish,
+    xmlDoneParsing,
+    xmlErrorParsing,
+    xmlErrorProcessing,
+    xmlerrornotfound,
+    xmlModifiedDate,
+    buildFinish,
+    addCancel,
+    step1,
+    progressx,
+    step2,
+    progress,
+    deleteAddCount,
+    deleteValidity,
+    deleteFinish,
+    deleteCancel,
+    tableviewSpacebar,
+};
+
+/// The event's text, as the log shows it ("addFinish").
+std::string_view text(EventName name);
+
+/// The payload of "progressx": work units done.
+struct ProgressUnits {
+    int prg = 0;
+};
+
+/// Nothing, a record, work units, or the library file's attributes.
+using WorkerEventPayload = std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes>;
+
+/// One event on its way from a worker to the main thread. A value; the record stays its storage's.
+struct WorkerEvent {
+    EventName name = EventName::addFinish;
+    WorkerEventPayload payload;
+    const Operation* sender = nullptr; ///< the worker; nothing where a view posted it
+};
+
+} // namespace songsweep

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argumentCount, char** arguments) {
+    ::testing::InitGoogleTest(&argumentCount, arguments);
+    const QApplication application(argumentCount, arguments);
+    return RUN_ALL_TESTS();
+}
