@@ -10,8 +10,8 @@
 
 namespace songsweep {
 
-/// What a script gives: a text, a number, a truth value, a date, a file, the missing value, or a list of
-/// these.
+/// What a script gives: a text, a number, a truth value, a date, a file, the missing value, an object of an
+/// application, or a list of these.
 ///
 /// A value; the operations are those of an Apple event descriptor.
 class Descriptor {
@@ -30,7 +30,13 @@ class Descriptor {
         std::string posixPath;
         bool operator==(const Alias&) const = default;
     };
-    using Value = std::variant<MissingValue, bool, std::int64_t, double, std::string, Date, Alias, List>;
+    /// An object of an application, in source notation: `artwork 1 of track 2 of playlist 1`.
+    struct Object {
+        std::string specifier;
+        bool operator==(const Object&) const = default;
+    };
+    using Value =
+        std::variant<MissingValue, bool, std::int64_t, double, std::string, Date, Alias, List, Object>;
 
     Descriptor() = default; ///< the missing value
     Descriptor(Value value)
@@ -40,7 +46,7 @@ class Descriptor {
     static Descriptor list(List items) { return Descriptor(Value(std::move(items))); }
 
     /// The text: of the missing value "msng", of a one-item list its item's, of an alias its HFS path;
-    /// nothing for a list of none or several items.
+    /// nothing for a list of none or several items, and for an object.
     std::optional<std::string> stringValue() const;
 
     /// The value as a 32-bit integer, clamped to its range; 0 where it has none.

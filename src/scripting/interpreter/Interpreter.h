@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Result.h"
+#include "scripting/Descriptor.h"
+#include "scripting/interpreter/HostObject.h"
+
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace songsweep::interpreter {
+
+/// An application and the name by which a text tells it: `tell application "iTunes"`. Letter case does not
+/// count in the name.
+struct NamedApplication {
+    std::string name;
+    std::shared_ptr<HostApplication> application;
+};
+
+/// Runs texts of the AppleScript subset that docs/applescript.md describes.
+///
+///     Interpreter interpreter({{"iTunes", iTunes}, {"Finder", finder}});
+///     interpreter.run("tell application \"iTunes\" to get version");
+///
+/// A text is parsed as a whole before any of it runs. It is bounded in depth, steps, and sizes of texts and
+/// lists (Limits.h): every text ends, and a hostile one with an error within a second.
+///
+/// Thread-safe: one text runs at a time, a second caller waits.
+class Interpreter {
+  public:
+    explicit Interpreter(std::vector<NamedApplication> applications);
+
+    /// The value of the last statement, nothing where it has none; or why the text could not be read or
+    /// stopped running: "line 2, column 5: …".
+    Result<std::optional<Descriptor>> run(std::string_view source);
+
+  private:
+    std::vector<NamedApplication> m_applications;
+    std::mutex m_lock;
+};
+
+} // namespace songsweep::interpreter

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "scripting/Descriptor.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace songsweep::interpreter {
+
+class HostObject;
+using ObjectPointer = std::shared_ptr<HostObject>;
+
+struct ListStorage;
+using ListPointer = std::shared_ptr<ListStorage>;
+
+using MissingValue = Descriptor::MissingValue;
+using Date = Descriptor::Date;
+using Alias = Descriptor::Alias;
+
+/// What a variable of a script can hold: the values of a `Descriptor`, and objects of the applications.
+///
+/// Copying is cheap but for texts. Lists are shared, as the language has it: after `set b to a`, what is put
+/// at the end of `b` is in `a` too. Never null inside: a list pointer and an object pointer always point.
+using Value = std::variant<MissingValue, bool, std::int64_t, double, std::string, Date, Alias, ListPointer,
+                           ObjectPointer>;
+
+/// The items of a list.
+struct ListStorage {
+    std::vector<Value> items;
+    bool isTracked = false; ///< held by a `ListRegistry`, which empties it when the script ends
+};
+
+/// A new list.
+Value makeList(std::vector<Value> items);
+
+/// The items of a list value, null for any other value. Lives as long as the list.
+const std::vector<Value>* listItems(const Value& value);
+
+} // namespace songsweep::interpreter
