@@ -60,6 +60,8 @@ class ControllerView {
 
     // The status line and the buttons.
     virtual void setStatusText(const std::string& /*text*/) {}
+    /// What was searched, beside the results; empty while there are none.
+    virtual void setSearchedText(const std::string& /*text*/) {}
     virtual void setStatusVisible(bool /*visible*/) {}
     virtual void setSearchEnabled(bool /*enabled*/) {}
     virtual void setMarkEnabled(bool /*enabled*/) {}
@@ -72,6 +74,9 @@ class ControllerView {
     virtual void alertNoDuplicates() {}
 
     // The mark dialog.
+    /// Kinds for the list of the kind rule, in their order; comes once in a run.
+    virtual void fillKinds(const std::vector<std::string>& /*kinds*/) {}
+    virtual void chooseMarkFolder() {}
     virtual void showMarkWindow() {}
     virtual void closeMarkWindow() {}
 

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "app/AddRecord.h"
+
+#include "library/ValueFormats.h"
+#include "scripting/Descriptor.h"
+
+#include <cmath>
+#include <cstring>
+#include <ctime>
+
+namespace songsweep {
+
+namespace {
+
+/// The values of a track item, by their place in the list that the batch script builds.
+enum Item {
+    nameItem = 1,
+    artistItem,
+    albumItem,
+    timeItem,
+    bitrateItem,
+    sizeItem,
+    dateAddedItem,
+    ratingItem,
+    pidItem,
+    playcountItem,
+    locationItem,
+    artworksItem,
+};
+
+constexpr std::int64_t secondsFrom1904To1970 = 2082844800;
+constexpr std::int64_t secondsFrom1970To2001 = 978307200;
+
+std::string textAt(const Descriptor& item, Item place) {
+    const Descriptor* const value = item.descriptorAtIndex(place);
+    return value ? value->stringValue().value_or(std::string()) : std::string();
+}
+
+/// Civil local time to UTC; in the hour that a change from summer time repeats, the platform chooses.
+std::int64_t utcOfLocal(std::int64_t localSeconds) {
+    const std::time_t asIfUtc = localSeconds;
+    std::tm civil = {};
+    gmtime_r(&asIfUtc, &civil);
+    civil.tm_isdst = -1;
+    return std::mktime(&civil);
+}
+
+void setDateAdded(TrackRecord& record, const Descriptor& item) {
+    const Descriptor* const value = item.descriptorAtIndex(dateAddedItem);
+    if (!value) return;
+    const std::vector<std::byte> data = value->data();
+    std::int64_t longDateTime = 0;
+    if (!std::holds_alternative<Descriptor::Date>(value->value()) || data.size() != sizeof longDateTime)
+        return;
+    std::memcpy(&longDateTime, data.data(), sizeof longDateTime);
+    record.dateaddedv = minuteOfLongDateTime(longDateTime);
+    record.hasdate = true;
+}
+
+void setTexts(TrackRecord& record, TrackStorage& storage, const Descriptor& item) {
+    record.name = storage.store(textAt(item, nameItem));
+    record.artist = storage.intern(textAt(item, artistItem));
+    record.album = storage.intern(textAt(item, albumItem));
+    record.time = storage.intern(textAt(item, timeItem));
+    record.bitrate = storage.intern(textAt(item, bitrateItem));
+    record.size = storage.store(textAt(item, sizeItem));
+    record.pid = storage.store(textAt(item, pidItem));
+    record.playcount = storage.intern(textAt(item, playcountItem));
+    record.location = storage.store(textAt(item, locationItem));
+}
+
+} // namespace
+
+std::int64_t minuteOfLongDateTime(std::int64_t longDateTime) {
+    const std::int64_t sinceReference =
+        utcOfLocal(longDateTime - secondsFrom1904To1970) - secondsFrom1970To2001;
+    return std::llround(static_cast<double>(sinceReference) / 60.0) * 60 + secondsFrom1970To2001;
+}
+
+bool isDeadTrackItem(const Descriptor& item) { return textAt(item, locationItem) == missingLocation; }
+
+TrackRecord& makeRecord(TrackStorage& storage, const Descriptor& item) {
+    TrackRecord& record = storage.makeRecord();
+    record.fromlibraryfile = false;
+    setTexts(record, storage, item);
+    setDateAdded(record, item);
+    record.timev = TimestringToSec(record.time);
+    const Descriptor* const rating = item.descriptorAtIndex(ratingItem);
+    record.rating = rating ? rating->int32Value() / 20 : 0;
+    record.isdead = record.location == missingLocation;
+    const Descriptor* const artworks = item.descriptorAtIndex(artworksItem);
+    record.hasartwork = artworks && artworks->numberOfItems() > 0;
+    return record;
+}
+
+} // namespace songsweep

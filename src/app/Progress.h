@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace songsweep {
+
+/// Where the progress bar stands. A value; the arithmetic of the bar and nothing else.
+struct Progress {
+    double prc = 0;                  ///< work units done in the present phase
+    std::int32_t total = 0;          ///< work units of the whole task
+    std::int32_t progressBase = 0;   ///< percentage at which the phase starts
+    std::int32_t progressSpan = 100; ///< its width in percent
+
+    /// Begins a phase with nothing done.
+    void beginPhase(std::int32_t base, std::int32_t span) {
+        prc = 0;
+        progressBase = base;
+        progressSpan = span;
+    }
+
+    /// The bar's value, a percentage; the phase's beginning while there is nothing to count.
+    double percent() const { return total == 0 ? progressBase : progressBase + progressSpan * (prc / total); }
+};
+
+} // namespace songsweep

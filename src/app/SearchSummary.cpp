@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "app/SearchSummary.h"
+
+#include <array>
+
+namespace songsweep {
+
+std::string searchSummary(const SearchParameters& parameters) {
+    struct Field {
+        bool chosen;
+        const char* name;
+    };
+    const std::array fields = {Field{parameters.issamename, "name"}, Field{parameters.issameartist, "artist"},
+                               Field{parameters.issamealbum, "album"}, Field{parameters.issametime, "time"}};
+    std::string names;
+    for (const Field& field : fields) {
+        if (!field.chosen) continue;
+        names += names.empty() ? "same " : ", ";
+        names += field.name;
+    }
+    return parameters.playlist.value_or("") + ": " + (names.empty() ? "everything" : names);
+}
+
+} // namespace songsweep
