@@ -14,16 +14,16 @@ namespace songsweep {
 /// (ValueFormats.h). Texts live in the TrackStorage that made the record. Handed from thread to thread by the
 /// chain of events, never used by two at once.
 struct TrackRecord {
-    Text name;
-    Text artist;
-    Text album;
-    Text time;      ///< duration for display, "3:07" or "1:02:03"
-    Text bitrate;   ///< kbit/s, decimal text exactly as the library gives it
-    Text size;      ///< bytes, decimal text exactly as the library gives it
-    Text pid = "0"; ///< persistent ID, hexadecimal text as the library writes it
-    Text playcount; ///< decimal text
-    Text location;  ///< POSIX path; "msng" for a track without a file where iTunes was asked
-    Text trackid;   ///< the library's numeric ID; only of the XML reader
+    Text name{};
+    Text artist{};
+    Text album{};
+    Text time{};          ///< duration for display, "3:07" or "1:02:03"
+    Text bitrate{};       ///< kbit/s, decimal text exactly as the library gives it
+    Text size{};          ///< bytes, decimal text exactly as the library gives it
+    Text pid = "0";       ///< persistent ID, hexadecimal text as the library writes it
+    Text playcount = "0"; ///< decimal text
+    Text location{};      ///< POSIX path; "msng" for a track without a file where iTunes was asked
+    Text trackid{};       ///< the library's numeric ID; only of the XML reader
 
     std::int64_t dateaddedv = 0; ///< seconds since 1970-01-01 00:00:00 UTC; 0 stands for no date
     std::int32_t timev = 0;      ///< whole seconds, of the text in "time"

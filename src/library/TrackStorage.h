@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -25,8 +26,12 @@ class TrackStorage {
 
     /// A copy of the text.
     Text store(std::string_view text);
-    /// A copy of the text, the same one for equal texts.
-    Text intern(std::string_view text);
+    /// A copy of the text, the same one for equal texts. `likely` is looked at first: artist and album mostly
+    /// are those of the record before. It has to be a literal or of this storage.
+    Text intern(std::string_view text, Text likely = {});
+
+    /// The bytes of a text that store() made, for a change in place that does not lengthen it.
+    std::span<char> bytes(Text stored);
 
     /// Forgets which texts were interned (they stay), giving the index back; for the end of a reading.
     void forgetInterned();
