@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "library/ValueFormats.h"
+
+#include <chrono>
+#include <string_view>
+
+namespace songsweep {
+
+namespace {
+
+/// Takes a date apart from its front; any mismatch makes the whole of it invalid.
+class DateScanner {
+  public:
+    explicit DateScanner(std::string_view text)
+        : m_left(text) {}
+
+    int number(std::size_t digits) {
+        int value = 0;
+        for (std::size_t i = 0; i < digits; ++i) {
+            const char c = next();
+            if (c < '0' || c > '9') m_valid = false;
+            value = value * 10 + (c - '0');
+        }
+        return value;
+    }
+
+    void literal(char expected) {
+        if (next() != expected) m_valid = false;
+    }
+
+    /// East of Greenwich, in seconds: "Z", "+0100", "-0430".
+    int zone() {
+        const char sign = next();
+        if (sign == 'Z') return 0;
+        if (sign != '+' && sign != '-') m_valid = false;
+        const int hours = number(2);
+        const int seconds = hours * 3600 + number(2) * 60;
+        return sign == '-' ? -seconds : seconds;
+    }
+
+    bool isCompleteAndValid() const { return m_valid && m_left.empty(); }
+
+  private:
+    char next() {
+        if (m_left.empty()) {
+            m_valid = false;
+            return '\0';
+        }
+        const char c = m_left.front();
+        m_left.remove_prefix(1);
+        return c;
+    }
+
+    std::string_view m_left;
+    bool m_valid = true;
+};
+
+} // namespace
+
+std::optional<std::int64_t> parseLibraryDate(std::string_view text) {
+    using namespace std::chrono;
+    DateScanner scanner(text);
+    const year years(scanner.number(4));
+    scanner.literal('-');
+    const month months(static_cast<unsigned>(scanner.number(2)));
+    scanner.literal('-');
+    const day days(static_cast<unsigned>(scanner.number(2)));
+    scanner.literal('T');
+    const int hour = scanner.number(2);
+    scanner.literal(':');
+    const int minute = scanner.number(2);
+    scanner.literal(':');
+    const int second = scanner.number(2);
+    const int zone = scanner.zone();
+
+    const year_month_day date(years, months, days);
+    if (!scanner.isCompleteAndValid() || !date.ok() || hour > 23 || minute > 59 || second > 59) return {};
+    const std::int64_t midnight = std::int64_t{sys_days(date).time_since_epoch().count()} * 86400;
+    return midnight + hour * 3600 + minute * 60 + second - zone;
+}
+
+} // namespace songsweep

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "library/ValueFormats.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unicode/timezone.h>
+#include <unicode/unistr.h>
+
+#include <limits>
+
+namespace songsweep {
+namespace {
+
+TEST(SecToTime, ShowsMinutesAndSeconds) {
+    EXPECT_EQ(SecToTime(0), "0:00");
+    EXPECT_EQ(SecToTime(187000), "3:07");
+    EXPECT_EQ(SecToTime(45000), "0:45");
+}
+
+TEST(SecToTime, RoundsHalfASecondDown) {
+    EXPECT_EQ(SecToTime(1500), "0:01");
+    EXPECT_EQ(SecToTime(1501), "0:02");
+    EXPECT_EQ(SecToTime(59500), "0:59");
+    EXPECT_EQ(SecToTime(59501), "1:00");
+    EXPECT_EQ(SecToTime(3599499), "59:59");
+}
+
+TEST(SecToTime, ShowsHoursFromTheFirstOn) {
+    EXPECT_EQ(SecToTime(3600000), "1:00:00");
+    EXPECT_EQ(SecToTime(3723000), "1:02:03");
+    EXPECT_EQ(SecToTime(36000000), "10:00:00");
+    EXPECT_EQ(SecToTime(3599501), "1:00:00");
+}
+
+TEST(SecToTime, TruncatesNegativeDurationsTowardsZero) {
+    EXPECT_EQ(SecToTime(-999), "0:00");
+    EXPECT_EQ(SecToTime(-1999), "0:-01");
+    EXPECT_EQ(SecToTime(std::numeric_limits<std::int32_t>::max()), "596:31:24");
+}
+
+TEST(TimestringToSec, ReadsUpToThreeFields) {
+    EXPECT_EQ(TimestringToSec("45"), 45);
+    EXPECT_EQ(TimestringToSec("3:45"), 225);
+    EXPECT_EQ(TimestringToSec("1:02:03"), 3723);
+    EXPECT_EQ(TimestringToSec("1:00:00"), 3600);
+}
+
+TEST(TimestringToSec, ReadsMissingFieldsAsZero) {
+    EXPECT_EQ(TimestringToSec(""), 0);
+    EXPECT_EQ(TimestringToSec(":30"), 30);
+    EXPECT_EQ(TimestringToSec("3:"), 180);
+    EXPECT_EQ(TimestringToSec("::"), 0);
+    EXPECT_EQ(TimestringToSec("x:1y"), 1);
+}
+
+TEST(TimestringToSec, IgnoresFieldsLeftOfTheHours) {
+    EXPECT_EQ(TimestringToSec("2:3:4:5"), 3 * 3600 + 4 * 60 + 5);
+    EXPECT_EQ(TimestringToSec("9:9:0:0:1"), 1);
+}
+
+TEST(TimestringToSec, GivesBackWhatSecToTimeShows) {
+    for (const std::int32_t seconds : {0, 1, 59, 60, 3599, 3600, 3661, 86399, 360000})
+        EXPECT_EQ(TimestringToSec(SecToTime(seconds * 1000)), seconds);
+}
+
+TEST(IntegerValue, ReadsTheLeadingInteger) {
+    EXPECT_EQ(integerValue("12abc"), 12);
+    EXPECT_EQ(integerValue(""), 0);
+    EXPECT_EQ(integerValue("abc"), 0);
+    EXPECT_EQ(integerValue(" \t\n42"), 42);
+    EXPECT_EQ(integerValue("-7.9"), -7);
+    EXPECT_EQ(integerValue("+7"), 7);
+    EXPECT_EQ(integerValue("- 7"), 0);
+}
+
+TEST(IntegerValue, IsHeldTo32Bits) {
+    EXPECT_EQ(integerValue("2147483647"), 2147483647);
+    EXPECT_EQ(integerValue("2147483648"), 2147483647);
+    EXPECT_EQ(integerValue("-2147483648"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(integerValue("-2147483649"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(integerValue("99999999999999999999999999"), 2147483647);
+    EXPECT_EQ(integerValue("-99999999999999999999999999"), std::numeric_limits<std::int32_t>::min());
+}
+
+TEST(Sizestring, RoundsUpByOneTenth) {
+    EXPECT_EQ(sizestring(0), "0.1 MB");
+    EXPECT_EQ(sizestring(1048576), "1.1 MB");
+    EXPECT_EQ(sizestring(1153433), "1.1 MB");
+    EXPECT_EQ(sizestring(1153434), "1.2 MB");
+    EXPECT_EQ(sizestring(5242880), "5.1 MB");
+}
+
+TEST(Sizestring, ShowsASizeAboveTwoGibibytesAsTheLargestInteger) {
+    EXPECT_EQ(sizestring(TrackRecord{.size = "3000000000"}), sizestring(2147483647));
+    EXPECT_EQ(sizestring(2147483647), "2048.0 MB");
+}
+
+TEST(Sizestring, IsEmptyWithoutASize) {
+    EXPECT_EQ(sizestring(TrackRecord{}), "");
+    EXPECT_EQ(sizestring(TrackRecord{.size = "0"}), "0.1 MB");
+}
+
+TEST(LibraryDate, IsReadAsUniversalTime) {
+    EXPECT_EQ(parseLibraryDate("1970-01-01T00:00:00Z"), 0);
+    EXPECT_EQ(parseLibraryDate("2009-03-14T15:09:26Z"), 1237043366);
+    EXPECT_EQ(parseLibraryDate("1904-01-01T00:00:00Z"), -2082844800);
+    EXPECT_EQ(parseLibraryDate("2000-02-29T23:59:59Z"), 951868799);
+}
+
+TEST(LibraryDate, TakesAnOffsetForTheZone) {
+    EXPECT_EQ(parseLibraryDate("2009-03-14T16:09:26+0100"), 1237043366);
+    EXPECT_EQ(parseLibraryDate("2009-03-14T10:39:26-0430"), 1237043366);
+    EXPECT_EQ(parseLibraryDate("2009-03-14T15:09:26-0000"), 1237043366);
+}
+
+TEST(LibraryDate, IsNoneForAnythingElse) {
+    for (const char* text : {"", "yesterday", "2009-03-14", "2009-03-14T15:09:26", "2009-03-14 15:09:26Z",
+                             "2009-13-14T15:09:26Z", "2009-02-29T15:09:26Z", "2009-03-14T24:09:26Z",
+                             "2009-03-14T15:60:26Z", "2009-03-14T15:09:60Z", "2009-03-14T15:09:26ZZ",
+                             "2009-03-14T15:09:26Z ", "2009-03-1xT15:09:26Z", "09-03-14T15:09:26Z"})
+        EXPECT_FALSE(parseLibraryDate(text).has_value()) << text;
+}
+
+class ShortDateTime : public testing::Test {
+  protected:
+    void SetUp() override { setZone("Etc/GMT-1"); }
+    void TearDown() override { setZone("Etc/UTC"); }
+    static void setZone(const char* name) {
+        icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(name)));
+    }
+};
+
+TEST_F(ShortDateTime, ShowsTheUsersTimeZone) {
+    EXPECT_THAT(shortDateTime(1237043366), testing::HasSubstr("4:09"));
+    setZone("Etc/UTC");
+    EXPECT_THAT(shortDateTime(1237043366), testing::HasSubstr("3:09"));
+}
+
+TEST_F(ShortDateTime, OfARecordIsEmptyWithoutADate) {
+    EXPECT_EQ(dateadded(TrackRecord{}), "");
+    EXPECT_EQ(dateadded(TrackRecord{.dateaddedv = 1237043366, .hasdate = true}), shortDateTime(1237043366));
+    EXPECT_NE(dateadded(TrackRecord{.dateaddedv = 0, .hasdate = true}), "");
+}
+
+} // namespace
+} // namespace songsweep
