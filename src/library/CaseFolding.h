@@ -11,6 +11,8 @@ namespace songsweep {
 
 /// The key of a text: decomposed, then folded. Keys compare byte by byte, which is by code point.
 std::string foldedKey(std::string_view text);
+/// The same, put behind what `key` holds already; costs no memory of its own for plain ASCII.
+void appendFoldedKey(std::string& key, std::string_view text);
 
 /// Whether two texts are equal without regard to case.
 bool equalIgnoringCase(std::string_view a, std::string_view b);
