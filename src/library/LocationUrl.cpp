@@ -4,37 +4,48 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace songsweep {
 
 namespace {
 
-bool isAlphanumeric(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-int hexDigit(char c) {
+constexpr int hexDigit(char c) {
     if (c >= '0' && c <= '9') return c - '0';
     if (c >= 'a' && c <= 'f') return c - 'a' + 10;
     if (c >= 'A' && c <= 'F') return c - 'A' + 10;
     return -1;
 }
 
-bool isAllowed(char c) {
-    constexpr std::string_view marks = "-._~!$&'()*+,;=:@/?%";
-    return isAlphanumeric(c) || marks.find(c) != std::string_view::npos;
+constexpr bool isAlphanumeric(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-/// The text without its fragment and query; the fragment's "#" may stand once.
-std::optional<std::string_view> withoutFragmentAndQuery(std::string_view url) {
-    const std::size_t hash = url.find('#');
-    if (hash != std::string_view::npos && url.find('#', hash + 1) != std::string_view::npos) return {};
-    if (hash != std::string_view::npos) {
-        const std::string_view fragment = url.substr(hash + 1);
-        if (!std::all_of(fragment.begin(), fragment.end(), isAllowed)) return {};
+/// Whether a character may stand in a URL as it is; "%" and "#" have rules of their own.
+constexpr std::array<bool, 256> plainCharacters = [] {
+    std::array<bool, 256> table{};
+    for (const char c : std::string_view("-._~!$&'()*+,;=:@/?[]"))
+        table[static_cast<unsigned char>(c)] = true;
+    for (std::size_t c = 0; c < 128; ++c)
+        if (isAlphanumeric(static_cast<char>(c))) table[c] = true;
+    return table;
+}();
+
+bool isEscape(std::string_view text) {
+    return text.size() >= 3 && hexDigit(text[1]) >= 0 && hexDigit(text[2]) >= 0;
+}
+
+/// Nothing but allowed characters and whole escapes, and one "#" at most.
+bool isUrl(std::string_view text) {
+    bool inFragment = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (plainCharacters[static_cast<unsigned char>(text[i])]) continue;
+        if (text[i] == '%' && isEscape(text.substr(i))) continue;
+        if (text[i] != '#' || inFragment) return false;
+        inFragment = true;
     }
-    return url.substr(0, std::min(hash, url.find('?')));
+    return true;
 }
 
 /// The length of a leading "scheme:", 0 where there is none.
@@ -47,55 +58,59 @@ std::size_t schemeLength(std::string_view url) {
     return 0;
 }
 
-std::string_view withoutHost(std::string_view url) {
+/// The path as it is written, a part of the URL; empty where it has none.
+std::string_view writtenPath(std::string_view url) {
+    url = url.substr(0, url.find_first_of("?#"));
+    const std::size_t scheme = schemeLength(url);
+    url.remove_prefix(scheme);
+    if (scheme > 0 && !url.starts_with('/')) return {}; // opaque, as "mailto:" is
     if (!url.starts_with("//")) return url;
-    const std::size_t path = url.find('/', 2);
-    return path == std::string_view::npos ? std::string_view() : url.substr(path);
+    const std::size_t afterHost = url.find('/', 2);
+    return afterHost == std::string_view::npos ? std::string_view() : url.substr(afterHost);
 }
 
-std::optional<std::string> decoded(std::string_view path) {
-    std::string result;
-    result.reserve(path.size());
+/// Writes the decoded path to `target`, which may be where the path comes from or before it.
+std::size_t decode(std::string_view path, char* target) {
+    std::size_t length = 0;
     for (std::size_t i = 0; i < path.size(); ++i) {
-        if (path[i] != '%') {
-            result += path[i];
-            continue;
+        char c = path[i];
+        if (c == '%') {
+            c = static_cast<char>(hexDigit(path[i + 1]) * 16 + hexDigit(path[i + 2]));
+            i += 2;
         }
-        if (i + 2 >= path.size()) return {};
-        const int value = hexDigit(path[i + 1]) * 16 + hexDigit(path[i + 2]);
-        if (hexDigit(path[i + 1]) < 0 || hexDigit(path[i + 2]) < 0 || value == 0) return {};
-        result += static_cast<char>(value);
-        i += 2;
+        target[length++] = c;
     }
-    return result;
+    return length;
 }
 
-bool isUtf8(std::string_view text) {
+bool isUtf8WithoutZero(std::string_view text) {
     const auto length = static_cast<std::int32_t>(text.size());
     for (std::int32_t i = 0; i < length;) {
         UChar32 c = 0;
         U8_NEXT(text.data(), i, length, c);
-        if (c < 0) return false;
+        if (c <= 0) return false;
     }
     return true;
 }
 
 } // namespace
 
+std::optional<std::size_t> makePathOfUrl(std::span<char> url) {
+    const std::string_view text(url.data(), url.size());
+    const std::string_view path = writtenPath(text);
+    if (!isUrl(text) || path.empty()) return {};
+    std::size_t length = decode(path, url.data());
+    if (!isUtf8WithoutZero(text.substr(0, length))) return {};
+    if (length > 1 && url[length - 1] == '/') --length;
+    return length;
+}
+
 std::optional<std::string> pathOfUrl(std::string_view url) {
-    const auto kept = withoutFragmentAndQuery(url);
-    const std::string_view main = url.substr(0, url.find('#'));
-    if (!kept || !std::all_of(main.begin(), main.end(), isAllowed)) return {};
-
-    const std::size_t scheme = schemeLength(*kept);
-    const std::string_view path = withoutHost(kept->substr(scheme));
-    const bool opaque = scheme > 0 && !path.starts_with('/');
-    if (path.empty() || opaque) return {};
-
-    auto result = decoded(path);
-    if (!result || !isUtf8(*result)) return {};
-    if (result->size() > 1 && result->ends_with('/')) result->pop_back();
-    return result;
+    std::string path(url);
+    const std::optional<std::size_t> length = makePathOfUrl(path);
+    if (!length) return {};
+    path.resize(*length);
+    return path;
 }
 
 } // namespace songsweep

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,5 +17,9 @@ namespace songsweep {
 /// where the text is no URL: a character that must be escaped, a broken escape, a decoded path that is not
 /// UTF-8 or holds a zero byte, or no path at all. Thread-safe.
 std::optional<std::string> pathOfUrl(std::string_view url);
+
+/// The same in place, for a million of them: the path's bytes take the place of the URL's first ones. Gives
+/// the path's length; nothing where there is no path, and the bytes are spoilt then.
+std::optional<std::size_t> makePathOfUrl(std::span<char> url);
 
 } // namespace songsweep
