@@ -31,6 +31,10 @@ class NotificationCenter {
     /// thread the observer is called directly.
     void post(const WorkerEvent& event);
 
+    /// Any thread but the main one. Returns when every count that this thread posted was handled; false when
+    /// the centre was closed before. The queue calls it before it lets go of an operation.
+    bool flush();
+
     /// The operation whose event is being handled now; nothing outside of a handler. Main thread.
     const Operation* handling() const;
 

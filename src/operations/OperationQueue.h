@@ -37,7 +37,8 @@ class OperationQueue {
 
   private:
     class Runner;
-    std::shared_ptr<Runner> m_runner;
+    NotificationCenter& m_center;
+    std::unique_ptr<Runner> m_runner;
 };
 
 } // namespace songsweep

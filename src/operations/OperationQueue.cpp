@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "operations/OperationQueue.h"
+
+#include "operations/NotificationCenter.h"
+#include "operations/OperationRunner.h"
+
+#include <utility>
+
+namespace songsweep {
+
+OperationQueue::OperationQueue(NotificationCenter& center, Log& log)
+    : m_center(center)
+    , m_runner(std::make_unique<Runner>(center, log)) {}
+
+OperationQueue::~OperationQueue() {
+    cancelAllOperations();
+    m_center.close();
+    waitUntilAllOperationsAreFinished();
+}
+
+void OperationQueue::add(std::unique_ptr<Operation> operation) {
+    const auto* handling = m_center.handling();
+    if (handling != nullptr && handling->isCancelled()) operation->cancel();
+    m_runner->add(std::move(operation));
+}
+
+void OperationQueue::cancelAllOperations() { m_runner->cancelAll(); }
+
+int OperationQueue::operationCount() const { return m_runner->count(); }
+
+void OperationQueue::setIdleHandler(std::function<void()> handler) {
+    m_runner->setIdleHandler(std::move(handler));
+}
+
+void OperationQueue::waitUntilAllOperationsAreFinished() { m_runner->waitUntilIdle(); }
+
+} // namespace songsweep

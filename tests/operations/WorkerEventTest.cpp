@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "operations/WorkerEvent.h"
+
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+TEST(WorkerEventTest, everyEventHasTheTextThatTheLogShows) {
+    EXPECT_EQ(text(EventName::addFinish), "addFinish");
+    EXPECT_EQ(text(EventName::xmlDoneParsing), "xmlDoneParsing");
+    EXPECT_EQ(text(EventName::xmlErrorParsing), "xmlErrorParsing");
+    EXPECT_EQ(text(EventName::xmlErrorProcessing), "xmlErrorProcessing");
+    EXPECT_EQ(text(EventName::xmlerrornotfound), "xmlerrornotfound");
+    EXPECT_EQ(text(EventName::xmlModifiedDate), "xmlModifiedDate");
+    EXPECT_EQ(text(EventName::buildFinish), "buildFinish");
+    EXPECT_EQ(text(EventName::addCancel), "addCancel");
+    EXPECT_EQ(text(EventName::step1), "step1");
+    EXPECT_EQ(text(EventName::progressx), "progressx");
+    EXPECT_EQ(text(EventName::step2), "step2");
+    EXPECT_EQ(text(EventName::progress), "progress");
+    EXPECT_EQ(text(EventName::deleteAddCount), "deleteAddCount");
+    EXPECT_EQ(text(EventName::deleteValidity), "deleteValidity");
+    EXPECT_EQ(text(EventName::deleteFinish), "deleteFinish");
+    EXPECT_EQ(text(EventName::deleteCancel), "deleteCancel");
+    EXPECT_EQ(text(EventName::tableviewSpacebar), "tableviewSpacebar");
+}
+
+} // namespace
+} // namespace songsweep
