@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/LibraryDocument.h"
+
+#include "hosts/FileWindow.h"
+#include "library/LocationUrl.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace songsweep {
+
+namespace {
+
+constexpr int mostAttempts = 3;
+
+struct IndexedFile {
+    LibraryFile file;
+    LibraryIndex index;
+};
+
+/// Opens and indexes a file; one that is written to meanwhile is read again.
+Result<IndexedFile> readIndexed(const std::string& path) {
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        auto file = LibraryFile::open(path);
+        if (!file) return file.error();
+        auto index = LibraryIndex::read(file.value());
+        if (index && index.value().stamp != file.value().stamp()) continue;
+        if (!index) return index.error();
+        return IndexedFile{std::move(file).value(), std::move(index).value()};
+    }
+    return Error{Error::Code::busy, path + " is being rewritten"};
+}
+
+/// The library first, then the others.
+std::vector<std::uint32_t> presentationOrder(const std::vector<PlaylistSlot>& playlists) {
+    std::vector<std::uint32_t> order(playlists.size());
+    std::iota(order.begin(), order.end(), 0U);
+    const auto library =
+        std::find_if(order.begin(), order.end(), [&](std::uint32_t i) { return playlists[i].master; });
+    if (library != order.end()) std::rotate(order.begin(), library, library + 1);
+    return order;
+}
+
+} // namespace
+
+Result<std::unique_ptr<LibraryDocument>> LibraryDocument::open(const std::string& path) {
+    auto read = readIndexed(path);
+    if (!read) return read.error();
+    IndexedFile indexed = std::move(read).value();
+    return std::unique_ptr<LibraryDocument>(
+        new LibraryDocument(path, std::move(indexed.file), std::move(indexed.index)));
+}
+
+LibraryDocument::LibraryDocument(std::string path, LibraryFile file, LibraryIndex index)
+    : m_path(std::move(path))
+    , m_file(std::move(file)) {
+    adopt(std::move(m_file), std::move(index));
+}
+
+LibraryDocument::~LibraryDocument() = default;
+
+Result<void> LibraryDocument::refresh() {
+    const auto stamp = LibraryFile::stampOf(m_path);
+    if (!stamp) return stamp.error();
+    if (stamp.value() == m_index.stamp) return {};
+    auto read = readIndexed(m_path);
+    if (!read) return read.error();
+    IndexedFile indexed = std::move(read).value();
+    adopt(std::move(indexed.file), std::move(indexed.index));
+    return {};
+}
+
+void LibraryDocument::adopt(LibraryFile file, LibraryIndex index) {
+    m_file = std::move(file);
+    m_index = std::move(index);
+    m_byPersistentId.build(m_index.tracks);
+    m_playlistOrder = presentationOrder(m_index.playlists);
+    m_cache.fill({});
+    m_deletedCount = 0;
+    forgetLists();
+}
+
+void LibraryDocument::forgetLists() {
+    m_lists.assign(std::max<std::size_t>(m_playlistOrder.size(), 1), std::nullopt);
+}
+
+std::vector<PlaylistInfo> LibraryDocument::playlists() {
+    std::vector<PlaylistInfo> infos;
+    for (std::size_t i = 0; i < playlistCount(); ++i) {
+        const PlaylistSlot& slot = playlist(i);
+        const bool library = i == 0;
+        infos.push_back({slot.name, slot.persistentId, static_cast<int>(tracksOf(i).size()), library,
+                         library || slot.smart, slot.folder});
+    }
+    return infos;
+}
+
+const std::vector<LibraryDocument::TrackPosition>& LibraryDocument::tracksOf(std::size_t playlist) {
+    auto& list = m_lists[playlist];
+    if (list) return *list;
+    if (playlist == 0) return list.emplace(libraryTracks());
+    list.emplace();
+    for (const ItemSlot& item : m_index.playlists[m_playlistOrder[playlist]].items)
+        if (item.track != LibraryIndex::noTrack && !isDeleted(item.track)) list->push_back(item.track);
+    return *list;
+}
+
+std::vector<LibraryDocument::TrackPosition> LibraryDocument::libraryTracks() const {
+    std::vector<TrackPosition> tracks;
+    tracks.reserve(m_index.tracks.size());
+    std::vector<bool> seen(m_index.tracks.size());
+    const auto add = [&](TrackPosition track) {
+        if (!seen[track] && !isDeleted(track)) tracks.push_back(track);
+        seen[track] = true;
+    };
+    if (playlistCount() > 0) {
+        for (const ItemSlot& item : playlist(0).items)
+            if (item.track != LibraryIndex::noTrack) add(item.track);
+    }
+    for (TrackPosition track = 0; track < m_index.tracks.size(); ++track)
+        add(track);
+    return tracks;
+}
+
+std::vector<LibraryDocument::TrackPosition>
+LibraryDocument::tracksWithPersistentId(std::string_view persistentId) {
+    const PersistentId id = PersistentId::of(persistentId);
+    std::vector<TrackPosition> found;
+    for (const TrackPosition track : m_byPersistentId.find(m_index.tracks, id)) {
+        if (isDeleted(track)) continue;
+        if (id.kind == PersistentId::Kind::hashed) {
+            const auto values = fields(track);
+            if (!values || PersistentId::of(values.value()->text("persistent id")) != id) continue;
+        }
+        found.push_back(track);
+    }
+    return found;
+}
+
+Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
+    Cached& cached = m_cache[track % m_cache.size()];
+    if (cached.track == track) return &cached.fields;
+    const auto bytes = m_file.read(m_index.tracks[track].range());
+    if (!bytes) return bytes.error();
+    auto parsed = TrackFields::parse(bytes.value(), m_index.entities);
+    if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
+    cached = {track, std::move(*parsed)};
+    return &cached.fields;
+}
+
+Result<void> LibraryDocument::forEachLocation(const LocationCallback& callback) {
+    FileWindow window(m_file);
+    for (const TrackSlot& track : m_index.tracks) {
+        if (track.deleted) continue;
+        const auto parsed = TrackFields::parse(window.view(track.range()), m_index.entities);
+        if (window.error()) return *window.error();
+        if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
+        const auto path = pathOfUrl(parsed->text("location"));
+        if (path) callback(parsed->text("persistent id"), *path);
+    }
+    return {};
+}
+
+void LibraryDocument::remove(TrackPosition track) {
+    if (isDeleted(track)) return;
+    m_index.tracks[track].deleted = true;
+    ++m_deletedCount;
+    forgetLists();
+}
+
+} // namespace songsweep

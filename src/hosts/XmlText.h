@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace songsweep {
+
+/// The internal entities that a document declares: name and replacement text.
+using XmlEntities = std::map<std::string, std::string, std::less<>>;
+
+/// The text of a run of raw bytes between two tags: references are replaced, CDATA sections unpacked,
+/// comments and processing instructions left out, line breaks made "\n".
+///
+/// A reference to an entity that nobody declared gives nothing, as in the readers. Nested entities are
+/// followed to a fixed depth and length; nothing where they go beyond, or where a reference is broken.
+std::optional<std::string> decodeXmlText(std::string_view raw, const XmlEntities& entities);
+
+/// The replacement text of an entity declared with this literal: only character references are replaced at
+/// the declaration, the rest where the entity is used. Nothing where a reference is broken.
+std::optional<std::string> entityReplacement(std::string_view literal);
+
+/// The characters that separate tokens in XML.
+inline bool isXmlSpace(char c) { return c == ' ' || c == '\n' || c == '\t' || c == '\r'; }
+
+} // namespace songsweep
