@@ -46,10 +46,10 @@ class Patience {
 
   private:
     using Clock = std::chrono::steady_clock;
-    static constexpr auto slowYield = std::chrono::microseconds(100);
-    static constexpr int shortestRest = 512;
-    static constexpr int longestRest = 1 << 15;
-    static constexpr int recovery = 1024; ///< good waits in a row after which the next rest is half as long
+    static constexpr auto slowYield = std::chrono::microseconds(50);
+    static constexpr int shortestRest = 4096;
+    static constexpr int longestRest = 1 << 17;
+    static constexpr int recovery = 16384; ///< good waits in a row after which the next rest is half as long
 
     void backOff() {
         m_rest = m_nextRest;
