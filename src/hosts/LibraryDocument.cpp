@@ -43,18 +43,21 @@ std::vector<std::uint32_t> presentationOrder(const std::vector<PlaylistSlot>& pl
 
 } // namespace
 
-Result<std::unique_ptr<LibraryDocument>> LibraryDocument::open(const std::string& path) {
+Result<std::unique_ptr<LibraryDocument>> LibraryDocument::open(const std::string& path, Options options) {
     auto read = readIndexed(path);
     if (!read) return read.error();
     IndexedFile indexed = std::move(read).value();
     return std::unique_ptr<LibraryDocument>(
-        new LibraryDocument(path, std::move(indexed.file), std::move(indexed.index)));
+        new LibraryDocument(path, options, std::move(indexed.file), std::move(indexed.index)));
 }
 
-LibraryDocument::LibraryDocument(std::string path, LibraryFile file, LibraryIndex index)
+LibraryDocument::LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index)
     : m_path(std::move(path))
+    , m_options(options)
     , m_file(std::move(file)) {
-    adopt(std::move(m_file), std::move(index));
+    PersistentIdTable table;
+    table.build(index.tracks);
+    adopt(std::move(m_file), std::move(index), std::move(table));
 }
 
 LibraryDocument::~LibraryDocument() = default;
@@ -65,15 +68,21 @@ Result<void> LibraryDocument::refresh() {
     if (stamp.value() == m_index.stamp) return {};
     auto read = readIndexed(m_path);
     if (!read) return read.error();
-    IndexedFile indexed = std::move(read).value();
-    adopt(std::move(indexed.file), std::move(indexed.index));
+    IndexedFile fresh = std::move(read).value();
+    PersistentIdTable table;
+    table.build(fresh.index.tracks);
+    std::size_t deleted = 0;
+    if (m_deletedCount > 0)
+        deleted = m_memory.carryOver(m_index, m_byPersistentId, fresh.file, fresh.index, table);
+    adopt(std::move(fresh.file), std::move(fresh.index), std::move(table));
+    m_deletedCount = deleted;
     return {};
 }
 
-void LibraryDocument::adopt(LibraryFile file, LibraryIndex index) {
+void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table) {
     m_file = std::move(file);
     m_index = std::move(index);
-    m_byPersistentId.build(m_index.tracks);
+    m_byPersistentId = std::move(table);
     m_playlistOrder = presentationOrder(m_index.playlists);
     m_cache.fill({});
     m_deletedCount = 0;
@@ -161,11 +170,17 @@ Result<void> LibraryDocument::forEachLocation(const LocationCallback& callback) 
     return {};
 }
 
-void LibraryDocument::remove(TrackPosition track) {
-    if (isDeleted(track)) return;
+Result<void> LibraryDocument::remove(TrackPosition track) {
+    if (isDeleted(track)) return {};
+    if (DeletionMemory::needsBytes(m_index, m_byPersistentId, track)) {
+        const auto bytes = m_file.read(m_index.tracks[track].range());
+        if (!bytes) return bytes.error();
+        m_memory.noteBytes(track, bytes.value());
+    }
     m_index.tracks[track].deleted = true;
     ++m_deletedCount;
     forgetLists();
+    return {};
 }
 
 } // namespace songsweep

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hosts/DeletionMemory.h"
 #include "hosts/LibraryIndex.h"
 #include "hosts/TrackFields.h"
 
@@ -46,9 +47,16 @@ class LibraryDocument {
   public:
     using TrackPosition = std::uint32_t;
 
+    struct Options {
+        std::chrono::milliseconds lockPatience{5000}; ///< how long a write waits for another program's
+    };
+
     /// Indexes the file. A folder, a missing file, one without permission, one that is not well formed, cut
     /// off or no library is an error; where there is a line, the message begins with "line N: ".
-    static Result<std::unique_ptr<LibraryDocument>> open(const std::string& path);
+    static Result<std::unique_ptr<LibraryDocument>> open(const std::string& path) {
+        return open(path, Options());
+    }
+    static Result<std::unique_ptr<LibraryDocument>> open(const std::string& path, Options options);
 
     LibraryDocument(const LibraryDocument&) = delete;
     LibraryDocument& operator=(const LibraryDocument&) = delete;
@@ -56,7 +64,8 @@ class LibraryDocument {
 
     const std::string& path() const { return m_path; }
 
-    /// Indexes the file again if it changed on disk. On an error nothing is known about the tracks until a
+    /// Indexes the file again if it changed on disk; deletions not yet written are made in the new version
+    /// too. On an error nothing is known about the tracks until a
     /// later call succeeds.
     Result<void> refresh();
 
@@ -87,11 +96,29 @@ class LibraryDocument {
     using LocationCallback = std::function<void(std::string_view persistentId, const std::string& posixPath)>;
     Result<void> forEachLocation(const LocationCallback& callback);
 
-    /// Deletes a track: its entry and every playlist item of it. Already deleted ones stay so.
-    void remove(TrackPosition track);
+    /// Deletes a track: its entry and every playlist item of it. Already deleted ones stay so. An error where
+    /// the track's bytes are needed to know it again and cannot be read.
+    Result<void> remove(TrackPosition track);
     bool isDeleted(TrackPosition track) const { return m_index.tracks[track].deleted; }
     /// The number of deletions that `flush` has yet to write.
     std::size_t pendingDeletions() const { return m_deletedCount; }
+
+    /// Writes the deletions, all in one go; nothing to do without any.
+    ///
+    /// All other bytes stay as they are. They go to a temporary file beside the library, which is flushed,
+    /// read back, compared, and renamed over it, so that at any moment the old version or the new one is
+    /// there, complete. Before the first write a full parser judges the whole file; the first write of a run
+    /// keeps the old version under a dated name. On an error (no space, no permission, not well formed, held
+    /// by another program) the library is as it was and the deletions are still pending.
+    Result<void> flush();
+
+    /// Why the last `flush` failed; nothing after one that succeeded.
+    const std::optional<Error>& lastWriteError() const { return m_lastWriteError; }
+
+    /// The next write keeps a backup again. A document begins with a run.
+    void beginDeletionRun() { m_backup.clear(); }
+    /// The backup of this run, "" while there is none.
+    const std::string& backup() const { return m_backup; }
 
   private:
     struct Cached {
@@ -99,12 +126,16 @@ class LibraryDocument {
         TrackFields fields;
     };
 
-    LibraryDocument(std::string path, LibraryFile file, LibraryIndex index);
-    void adopt(LibraryFile file, LibraryIndex index);
+    LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index);
+    void adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table);
     void forgetLists();
+    Result<void> write();
+    Result<void> replaceLibrary(const std::string& target, int folderDescriptor);
+    Result<void> judgeOnce();
     std::vector<TrackPosition> libraryTracks() const;
 
     std::string m_path;
+    Options m_options;
     LibraryFile m_file;
     LibraryIndex m_index;
     PersistentIdTable m_byPersistentId;
@@ -112,6 +143,10 @@ class LibraryDocument {
     std::vector<std::optional<std::vector<TrackPosition>>> m_lists; // of every playlist, as asked for
     std::array<Cached, 16> m_cache;
     std::size_t m_deletedCount = 0;
+    DeletionMemory m_memory;
+    FileStamp m_judged; // the version of the file that the full parser has accepted
+    std::string m_backup;
+    std::optional<Error> m_lastWriteError;
 };
 
 } // namespace songsweep

@@ -54,6 +54,7 @@ struct LibraryIndex {
     std::vector<PlaylistSlot> playlists; ///< in file order
     XmlEntities entities;
     FileStamp stamp;
+    bool trackIdsRepeat = false; ///< two tracks share an ID by which playlists refer to them
 
     /// Reads the file once, front to back. Refuses what is not well formed, cut off, or no library, with the
     /// line.
@@ -68,6 +69,9 @@ class PersistentIdTable {
 
     /// The tracks of this key in file order, deleted ones included; valid until the table is built again.
     std::span<const std::uint32_t> find(const std::vector<TrackSlot>& tracks, PersistentId id) const;
+
+    /// All tracks with a persistent ID, those of the same one next to each other.
+    std::span<const std::uint32_t> all() const { return m_order; }
 
   private:
     std::vector<std::uint32_t> m_order;

@@ -356,6 +356,10 @@ void Indexer::resolveItems() {
     const auto byId = [&](std::uint32_t a, std::uint32_t b) { return tracks[a].trackId < tracks[b].trackId; };
     if (!std::is_sorted(order.begin(), order.end(), byId)) std::stable_sort(order.begin(), order.end(), byId);
 
+    m_index.trackIdsRepeat =
+        std::adjacent_find(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+            return tracks[a].trackId == tracks[b].trackId && tracks[a].trackId >= 0;
+        }) != order.end();
     const auto find = [&](std::int64_t id) {
         if (id < 0) return LibraryIndex::noTrack;
         const auto found =

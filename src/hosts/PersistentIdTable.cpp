@@ -29,12 +29,10 @@ void PersistentIdTable::build(const std::vector<TrackSlot>& tracks) {
 std::span<const std::uint32_t> PersistentIdTable::find(const std::vector<TrackSlot>& tracks,
                                                        PersistentId id) const {
     const Key wanted(id.kind, id.value);
-    const auto first =
-        std::lower_bound(m_order.begin(), m_order.end(), wanted,
-                         [&](std::uint32_t track, const Key& key) { return keyOf(tracks[track]) < key; });
-    auto last = first;
-    while (last != m_order.end() && keyOf(tracks[*last]) == wanted)
-        ++last;
+    const auto first = std::partition_point(
+        m_order.begin(), m_order.end(), [&](std::uint32_t track) { return keyOf(tracks[track]) < wanted; });
+    const auto last = std::partition_point(
+        first, m_order.end(), [&](std::uint32_t track) { return keyOf(tracks[track]) == wanted; });
     return {first, last};
 }
 

@@ -127,7 +127,7 @@ TEST_F(LibraryDocumentTest, NamesEveryFileThatTracksUse) {
                          {4, "A4", "<key>Location</key><string>not a url</string>"},
                          {5, "A5", "<key>Location</key><string>file://localhost/gone.mp3</string>"}},
                         {}));
-    library.remove(4);
+    ASSERT_TRUE(library.remove(4));
     std::vector<std::string> seen;
     ASSERT_TRUE(library.forEachLocation(
         [&](std::string_view id, const std::string& path) { seen.push_back(std::string(id) + " " + path); }));
@@ -138,8 +138,8 @@ TEST_F(LibraryDocumentTest, ADeletedTrackIsGoneAtOnce) {
     LibraryDocument& library =
         open(libraryXml({{1, "A1", ""}, {2, "A2", ""}}, {{"All", "", {1, 2}}, {"P", "", {1, 1, 2}}}));
     EXPECT_EQ(library.playlists()[1].trackCount, 3);
-    library.remove(0);
-    library.remove(0);
+    ASSERT_TRUE(library.remove(0));
+    ASSERT_TRUE(library.remove(0));
     EXPECT_EQ(library.trackCount(), 1);
     EXPECT_EQ(library.pendingDeletions(), 1U);
     EXPECT_EQ(library.playlists()[0].trackCount, 1);
