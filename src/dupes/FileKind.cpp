@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "dupes/FileKind.h"
+
+#include "library/CaseFolding.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace songsweep {
+
+namespace {
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+} // namespace
+
+std::string_view fileExtension(std::string_view path) {
+    const std::string_view name = path.substr(path.rfind('/') + 1);
+    const std::size_t dot = name.rfind('.');
+    return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
+}
+
+std::string fileKind(std::string_view path) { return uppercase(fileExtension(path)); }
+
+bool isOfKind(std::string_view path, std::string_view kind) {
+    const std::string_view extension = fileExtension(path);
+    if (!isAscii(extension)) return uppercase(extension) == kind;
+    return std::equal(extension.begin(), extension.end(), kind.begin(), kind.end(),
+                      [](char a, char b) { return upper(a) == b; });
+}
+
+std::vector<std::string> kindsOf(const std::vector<TrackRecord*>& rows) {
+    std::vector<std::string> kinds;
+    std::unordered_set<std::string> known;
+    for (const TrackRecord* const record : rows) {
+        std::string kind = fileKind(record->location);
+        if (!kind.empty() && known.insert(kind).second) kinds.push_back(std::move(kind));
+    }
+    return kinds;
+}
+
+} // namespace songsweep
