@@ -3,23 +3,14 @@
 
 #include "platform/Result.h"
 #include "scripting/Descriptor.h"
-#include "scripting/interpreter/HostObject.h"
+#include "scripting/interpreter/Applications.h"
 
-#include <memory>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
 namespace songsweep::interpreter {
-
-/// An application and the name by which a text tells it: `tell application "iTunes"`. Letter case does not
-/// count in the name.
-struct NamedApplication {
-    std::string name;
-    std::shared_ptr<HostApplication> application;
-};
 
 /// Runs texts of the AppleScript subset that docs/applescript.md describes.
 ///
@@ -39,7 +30,7 @@ class Interpreter {
     Result<std::optional<Descriptor>> run(std::string_view source);
 
   private:
-    std::vector<NamedApplication> m_applications;
+    const Applications m_applications;
     std::mutex m_lock;
 };
 

@@ -31,7 +31,8 @@ using Value = std::variant<MissingValue, bool, std::int64_t, double, std::string
 /// The items of a list.
 struct ListStorage {
     std::vector<Value> items;
-    bool isTracked = false; ///< held by a `ListRegistry`, which empties it when the script ends
+    int depth = 1;          ///< how deep its lists in lists go, as it was made
+    bool isTracked = false; ///< held by the context, which empties it when the script ends
 };
 
 /// A new list.

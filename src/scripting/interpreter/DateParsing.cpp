@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/interpreter/ValueProperties.h"
+#include "scripting/interpreter/Words.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+
+namespace songsweep::interpreter {
+namespace {
+
+constexpr std::array monthNames{"January", "February", "March",     "April",   "May",      "June",
+                                "July",    "August",   "September", "October", "November", "December"};
+constexpr std::array dayNames{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+
+/// Reads a text from left to right.
+class Reader {
+  public:
+    explicit Reader(std::string_view text)
+        : m_rest(text) {}
+
+    bool atEnd() {
+        skipBlanks();
+        return m_rest.empty();
+    }
+    bool take(char symbol) {
+        if (!m_rest.starts_with(symbol)) return false;
+        m_rest.remove_prefix(1);
+        return true;
+    }
+    bool takeWord(std::string_view word) {
+        skipBlanks();
+        if (!isSameWord(m_rest.substr(0, word.size()), word)) return false;
+        m_rest.remove_prefix(word.size());
+        return true;
+    }
+    /// A number of at most `digits` digits.
+    std::optional<int> number(std::size_t digits) {
+        skipBlanks();
+        int value = 0;
+        const auto parsed = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), value);
+        const auto length = static_cast<std::size_t>(parsed.ptr - m_rest.data());
+        if (parsed.ec != std::errc() || length > digits || value < 0) return {};
+        m_rest.remove_prefix(length);
+        return value;
+    }
+    void skipBlanks() {
+        while (m_rest.starts_with(' '))
+            m_rest.remove_prefix(1);
+    }
+
+  private:
+    std::string_view m_rest;
+};
+
+using Day = std::optional<std::chrono::year_month_day>;
+
+Day calendarDay(std::optional<int> year, std::optional<int> month, std::optional<int> day) {
+    if (!year || !month || !day) return {};
+    const std::chrono::year_month_day date{std::chrono::year(*year), std::chrono::month(unsigned(*month)),
+                                           std::chrono::day(unsigned(*day))};
+    return date.ok() ? Day(date) : Day();
+}
+
+/// "Saturday, November 21, 2026 at"
+Day spelledDay(Reader reader, Reader& after) {
+    for (const char* const name : dayNames) {
+        if (reader.takeWord(name)) reader.take(',');
+    }
+    for (std::size_t month = 0; month < monthNames.size(); ++month) {
+        if (!reader.takeWord(monthNames.at(month))) continue;
+        const std::optional<int> day = reader.number(2);
+        reader.take(',');
+        const std::optional<int> year = reader.number(4);
+        reader.takeWord("at");
+        after = reader;
+        return calendarDay(year, int(month) + 1, day);
+    }
+    return {};
+}
+
+/// "2026-11-21" or "11/21/2026"
+Day numericDay(Reader reader, Reader& after) {
+    const std::optional<int> first = reader.number(4);
+    const bool isYearFirst = reader.take('-');
+    if (!isYearFirst && !reader.take('/')) return {};
+    const std::optional<int> second = reader.number(2);
+    if (!reader.take(isYearFirst ? '-' : '/')) return {};
+    const std::optional<int> third = reader.number(isYearFirst ? 2 : 4);
+    if (isYearFirst) reader.take('T');
+    after = reader;
+    return isYearFirst ? calendarDay(first, second, third) : calendarDay(third, first, second);
+}
+
+/// "1:45", "1:45:30", "1:45:30 AM": the seconds of the day.
+std::optional<int> timeOfDay(Reader& reader) {
+    std::optional<int> hour = reader.number(2);
+    if (!hour || !reader.take(':')) return {};
+    const std::optional<int> minute = reader.number(2);
+    const std::optional<int> second = reader.take(':') ? reader.number(2) : 0;
+    if (!minute || !second || *minute > 59 || *second > 59) return {};
+    const bool isMorning = reader.takeWord("AM");
+    if (isMorning || reader.takeWord("PM")) {
+        if (*hour < 1 || *hour > 12) return {};
+        hour = *hour % 12 + (isMorning ? 0 : 12);
+    }
+    if (*hour > 23) return {};
+    return *hour * 3600 + *minute * 60 + *second;
+}
+
+} // namespace
+
+std::optional<Date> dateIn(std::string_view text) {
+    using namespace std::chrono;
+    Reader reader(text);
+    Day day = spelledDay(Reader(text), reader);
+    if (!day) day = numericDay(Reader(text), reader);
+    if (!day) return {};
+    const std::optional<int> time = reader.atEnd() ? 0 : timeOfDay(reader);
+    if (!time || !reader.atEnd()) return {};
+    const auto start = sys_days(year{1904} / January / 1);
+    return Date{duration_cast<seconds>(sys_days(*day) - start).count() + *time};
+}
+
+} // namespace songsweep::interpreter

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/interpreter/DescriptorMaker.h"
+
+#include "scripting/interpreter/Limits.h"
+
+namespace songsweep::interpreter {
+namespace {
+
+std::string quoted(const std::string& text) {
+    std::string result = "\"";
+    for (const char letter : text) {
+        if (letter == '"' || letter == '\\') result += '\\';
+        result += letter;
+    }
+    return result + '"';
+}
+
+/// `track 1 of playlist 1 of application "iTunes"`.
+std::string notationOf(const Context& context, const HostObject& object) {
+    const Applications::Entry* const owner = context.applications().owning(object);
+    if (!owner) return object.specifier();
+    const std::string application = "application " + quoted(owner->name);
+    if (&object == owner->application.get()) return application;
+    return object.specifier() + " of " + application;
+}
+
+Result<Descriptor> made(Context& context, const Value& value, int depth);
+
+struct Maker {
+    Context& context;
+    int depth;
+
+    template <class Plain>
+    Result<Descriptor> operator()(const Plain& plain) const {
+        return Descriptor(Descriptor::Value(plain));
+    }
+    Result<Descriptor> operator()(const ObjectPointer& object) const {
+        return Descriptor(Descriptor::Object{notationOf(context, *object)});
+    }
+    Result<Descriptor> operator()(const ListPointer& list) const {
+        if (depth > maximumListNesting) {
+            return context.fail(context.errorPosition(), ErrorNumber::general, "the result lies too deep");
+        }
+        Descriptor::List items;
+        items.reserve(list->items.size());
+        for (const Value& item : list->items) {
+            Result<Descriptor> descriptor = made(context, item, depth + 1);
+            if (!descriptor) return descriptor;
+            items.push_back(std::move(descriptor).value());
+        }
+        return Descriptor::list(std::move(items));
+    }
+};
+
+Result<Descriptor> made(Context& context, const Value& value, int depth) {
+    const auto* const text = std::get_if<std::string>(&value);
+    if (!context.spend(text ? 1 + text->size() / textBytesOfOneStep : 1)) return context.exhausted({});
+    return std::visit(Maker{context, depth}, value);
+}
+
+} // namespace
+
+Result<Descriptor> descriptorOf(Context& context, const Value& value) { return made(context, value, 1); }
+
+} // namespace songsweep::interpreter

@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/interpreter/ast/ElementSet.h"
+
+#include "scripting/interpreter/Coercion.h"
+#include "scripting/interpreter/Comparing.h"
+#include "scripting/interpreter/ast/Operators.h"
+
+#include <limits>
+
+namespace songsweep::interpreter {
+namespace {
+
+using Objects = std::vector<ObjectPointer>;
+
+/// The walk over one set: what its steps have in common.
+class Walk {
+  public:
+    Walk(Context& context, Position position, const ElementSet& set)
+        : m_context(context)
+        , m_position(position)
+        , m_container(*set.container)
+        , m_class(set.elementClass)
+        , m_filter(set.filter) {}
+
+    /// The class as the container's application numbers it.
+    Result<TermCode> code() const;
+    Result<std::int64_t> count() const;
+    Result<ObjectPointer> element(std::int64_t index) const;
+    Result<void> visitRange(std::int64_t first, std::int64_t last, const ElementVisitor& visit) const;
+    Result<void> visitMatches(const ElementVisitor& visit) const;
+    Result<std::optional<Objects>> candidates(const PropertyTest& test) const;
+    Result<void> visitAll(const std::optional<Objects>& candidates, const ElementVisitor& visit) const;
+
+  private:
+    Result<std::optional<Objects>> filterCandidates() const;
+    Result<bool> matches(const ObjectPointer& element) const;
+
+    Context& m_context;
+    Position m_position;
+    HostObject& m_container;
+    ClassReference m_class;
+    const Expression* m_filter;
+};
+
+Result<TermCode> Walk::code() const {
+    if (&m_container.terminology() == m_class.origin) return m_class.term->code;
+    if (const ClassTerm* const term = m_container.terminology().elementClass(m_class.term->singular)) {
+        return term->code;
+    }
+    return m_context.fail(m_position, ErrorNumber::noSuchObject,
+                          m_container.specifier() + " has no " + m_class.term->plural);
+}
+
+Result<std::int64_t> Walk::count() const {
+    const Result<TermCode> classCode = code();
+    if (!classCode) return classCode.error();
+    const Result<std::size_t> count = m_container.count(classCode.value());
+    if (!count) return m_context.fail(m_position, count.error());
+    return static_cast<std::int64_t>(count.value());
+}
+
+Result<ObjectPointer> Walk::element(std::int64_t index) const {
+    const Result<TermCode> classCode = code();
+    if (!classCode) return classCode.error();
+    Result<ObjectPointer> element = m_container.element(classCode.value(), static_cast<std::size_t>(index));
+    if (!element) return m_context.fail(m_position, element.error());
+    return element;
+}
+
+Result<std::optional<Objects>> Walk::candidates(const PropertyTest& test) const {
+    const Result<TermCode> classCode = code();
+    if (!classCode) return classCode.error();
+    Result<std::optional<Objects>> found = m_container.candidates(classCode.value(), test);
+    if (!found) return m_context.fail(m_position, found.error());
+    return found;
+}
+
+Result<std::optional<Objects>> Walk::filterCandidates() const {
+    std::vector<const CompareExpression*> tests;
+    m_filter->collectTests(tests);
+    for (const CompareExpression* const test : tests) {
+        const Result<std::optional<PropertyTest>> plain =
+            test->propertyTest(m_context, m_container.terminology());
+        if (!plain) return plain.error();
+        if (!plain.value()) continue;
+        Result<std::optional<Objects>> found = candidates(*plain.value());
+        if (!found || found.value()) return found;
+    }
+    return std::optional<Objects>();
+}
+
+Result<bool> Walk::matches(const ObjectPointer& element) const {
+    Context::FilterScope scope(m_context);
+    scope.look(element);
+    const Result<Value> verdict = m_filter->evaluate(m_context);
+    if (!verdict) return verdict.error();
+    // A test of a value that an element does not have says neither yes nor no.
+    if (std::holds_alternative<MissingValue>(verdict.value())) return false;
+    return truthOf(m_context, m_position, verdict.value());
+}
+
+Result<void> Walk::visitRange(std::int64_t first, std::int64_t last, const ElementVisitor& visit) const {
+    for (std::int64_t index = first; index <= last; ++index) {
+        if (!m_context.spend()) return m_context.exhausted(m_position);
+        const Result<ObjectPointer> current = element(index);
+        if (!current) return current.error();
+        const Result<bool> goesOn = visit(current.value());
+        if (!goesOn) return goesOn.error();
+        if (!goesOn.value()) break;
+    }
+    return {};
+}
+
+Result<void> Walk::visitAll(const std::optional<Objects>& candidates, const ElementVisitor& visit) const {
+    if (!candidates) {
+        const Result<std::int64_t> end = count();
+        if (!end) return end.error();
+        return visitRange(1, end.value(), visit);
+    }
+    for (const ObjectPointer& candidate : *candidates) {
+        if (!m_context.spend()) return m_context.exhausted(m_position);
+        const Result<bool> goesOn = visit(candidate);
+        if (!goesOn) return goesOn.error();
+        if (!goesOn.value()) break;
+    }
+    return {};
+}
+
+Result<void> Walk::visitMatches(const ElementVisitor& visit) const {
+    const Result<std::optional<Objects>> candidates = filterCandidates();
+    if (!candidates) return candidates.error();
+    return visitAll(candidates.value(), [&](const ObjectPointer& element) -> Result<bool> {
+        const Result<bool> matching = matches(element);
+        if (!matching) return matching.error();
+        return matching.value() ? visit(element) : true;
+    });
+}
+
+ElementSet wholeOf(ElementSet set) {
+    set.first = 1;
+    set.last = -1;
+    return set;
+}
+
+Error noSuchElement(Context& context, Position position, const ElementSet& set, const std::string& which) {
+    return context.fail(position, ErrorNumber::noSuchObject,
+                        "there is no " + set.elementClass.term->singular + " " + which);
+}
+
+Result<Objects> allOf(Context& context, Position position, const ElementSet& set) {
+    Objects objects;
+    const Result<void> walked = forEachElement(context, position, set, [&](const ObjectPointer& element) {
+        objects.push_back(element);
+        return Result<bool>(true);
+    });
+    if (!walked) return walked.error();
+    return objects;
+}
+
+/// `tracks 2 thru 5`: every element of the range has to be there.
+Result<void> forEachInRange(Context& context, Position position, const ElementSet& set,
+                            const ElementVisitor& visit) {
+    const Result<std::int64_t> count = countOf(context, position, wholeOf(set));
+    if (!count) return count.error();
+    const std::int64_t first = fromBeginning(set.first, count.value());
+    const std::int64_t last = fromBeginning(set.last, count.value());
+    if (first < 1 || last > count.value() || first > last) {
+        return noSuchElement(context, position, set, "in all of that range");
+    }
+    if (!set.filter) return Walk(context, position, set).visitRange(first, last, visit);
+    std::int64_t index = 0;
+    return forEachElement(context, position, wholeOf(set), [&](const ObjectPointer& element) -> Result<bool> {
+        ++index;
+        if (index < first) return true;
+        const Result<bool> goesOn = visit(element);
+        if (!goesOn) return goesOn;
+        return goesOn.value() && index < last;
+    });
+}
+
+Result<ObjectPointer> matchingElementAt(Context& context, Position position, const ElementSet& set,
+                                        std::int64_t index) {
+    ObjectPointer found;
+    std::int64_t seen = 0;
+    const Result<void> walked = forEachElement(context, position, set, [&](const ObjectPointer& element) {
+        if (++seen == index) found = element;
+        return Result<bool>(found == nullptr);
+    });
+    if (!walked) return walked.error();
+    if (!found) return noSuchElement(context, position, set, std::to_string(index));
+    return found;
+}
+
+} // namespace
+
+Result<void> forEachElement(Context& context, Position position, const ElementSet& set,
+                            const ElementVisitor& visit) {
+    if (!set.isWhole()) return forEachInRange(context, position, set, visit);
+    const Walk walk(context, position, set);
+    return set.filter ? walk.visitMatches(visit) : walk.visitAll({}, visit);
+}
+
+Result<std::int64_t> countOf(Context& context, Position position, const ElementSet& set) {
+    if (set.isWhole() && !set.filter) return Walk(context, position, set).count();
+    std::int64_t count = 0;
+    const Result<void> walked = forEachElement(context, position, set, [&](const ObjectPointer&) {
+        ++count;
+        return Result<bool>(true);
+    });
+    if (!walked) return walked.error();
+    return count;
+}
+
+Result<ObjectPointer> elementAt(Context& context, Position position, const ElementSet& set,
+                                std::int64_t index) {
+    if (index > 0 && (set.filter || !set.isWhole())) return matchingElementAt(context, position, set, index);
+    if (set.filter || !set.isWhole()) {
+        const Result<Objects> all = allOf(context, position, set);
+        if (!all) return all.error();
+        const std::int64_t place = fromBeginning(index, static_cast<std::int64_t>(all.value().size()));
+        if (place < 1) return noSuchElement(context, position, set, std::to_string(index));
+        return all.value()[static_cast<std::size_t>(place) - 1];
+    }
+    const Walk walk(context, position, set);
+    const Result<std::int64_t> count = walk.count();
+    if (!count) return count.error();
+    const std::int64_t place = fromBeginning(index, count.value());
+    if (place < 1 || place > count.value())
+        return noSuchElement(context, position, set, std::to_string(index));
+    return walk.element(place);
+}
+
+Result<ObjectPointer> elementBy(Context& context, Position position, const ElementSet& set,
+                                std::string_view propertyName, const Value& value) {
+    const PropertyTerm* const term = set.container->terminology().property(propertyName);
+    if (!term) return noSuchElement(context, position, set, "by " + std::string(propertyName));
+    const Walk walk(context, position, set);
+    const Result<std::optional<Objects>> candidates = walk.candidates({term->code, Comparison::equal, value});
+    if (!candidates) return candidates.error();
+    ObjectPointer found;
+    const Result<void> walked =
+        walk.visitAll(candidates.value(), [&](const ObjectPointer& element) -> Result<bool> {
+            const Result<Value> property = element->property(term->code);
+            if (!property) return context.fail(position, property.error());
+            const Result<bool> same = compared(context, position, Comparison::equal, property.value(), value);
+            if (!same) return same;
+            if (same.value()) found = element;
+            return !same.value();
+        });
+    if (!walked) return walked.error();
+    if (found) return found;
+    const Result<std::string> text = textOf(context, position, value);
+    if (!text) return text.error();
+    return noSuchElement(context, position, set, "“" + text.value() + "”");
+}
+
+Result<Value> listOf(Context& context, Position position, const ElementSet& set) {
+    Result<Objects> objects = allOf(context, position, set);
+    if (!objects) return objects.error();
+    std::vector<Value> items(objects.value().begin(), objects.value().end());
+    return context.makeList(position, std::move(items));
+}
+
+} // namespace songsweep::interpreter

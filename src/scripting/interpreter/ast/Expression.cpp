@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/interpreter/ast/Expression.h"
+
+#include <algorithm>
+
+namespace songsweep::interpreter {
+
+Result<Value> Expression::evaluate(Context& context) const {
+    if (!context.spend()) return context.exhausted(m_position);
+    return compute(context);
+}
+
+Result<Referent> Expression::resolve(Context& context) const {
+    if (!context.spend()) return context.exhausted(m_position);
+    return computeReferent(context);
+}
+
+Result<void> Expression::assign(Context& context, Value) const {
+    return context.fail(m_position, ErrorNumber::general, "this cannot be set");
+}
+
+Result<Referent> Expression::computeReferent(Context& context) const {
+    Result<Value> value = compute(context);
+    if (!value) return value.error();
+    return Referent{std::move(value).value()};
+}
+
+int depthAboveAll(const std::vector<ExpressionPointer>& children) {
+    int depth = 0;
+    for (const ExpressionPointer& child : children)
+        depth = std::max(depth, child->treeDepth());
+    return depth + 1;
+}
+
+} // namespace songsweep::interpreter

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/interpreter/ast/Literals.h"
+
+#include "scripting/interpreter/Limits.h"
+
+#include <algorithm>
+
+namespace songsweep::interpreter {
+namespace {
+
+/// The steps that copying a value takes: texts are copied, all else is shared.
+std::size_t copyCost(const Value& value) {
+    const auto* const text = std::get_if<std::string>(&value);
+    return text ? text->size() / textBytesOfOneStep : 0;
+}
+
+} // namespace
+
+Result<Value> LiteralExpression::compute(Context& context) const {
+    if (!context.spend(copyCost(m_value))) return context.exhausted(position());
+    return m_value;
+}
+
+Result<Value> ListExpression::compute(Context& context) const {
+    std::vector<Value> items;
+    items.reserve(m_items.size());
+    for (const ExpressionPointer& item : m_items) {
+        Result<Value> value = item->evaluate(context);
+        if (!value) return value;
+        items.push_back(std::move(value).value());
+    }
+    return context.makeList(position(), std::move(items));
+}
+
+bool ListExpression::isAssignable() const {
+    return !m_items.empty() &&
+           std::ranges::all_of(m_items, [](const ExpressionPointer& item) { return item->isAssignable(); });
+}
+
+bool ListExpression::dependsOnTarget() const {
+    return std::ranges::any_of(m_items,
+                               [](const ExpressionPointer& item) { return item->dependsOnTarget(); });
+}
+
+Result<void> ListExpression::assign(Context& context, Value value) const {
+    const auto* const values = listItems(value);
+    if (!values || values->size() < m_items.size()) {
+        return context.fail(position(), ErrorNumber::noSuchObject,
+                            "there are too few values to set these to");
+    }
+    // A copy, since setting may change the list itself.
+    const std::vector<Value> items = *values;
+    for (std::size_t i = 0; i < m_items.size(); ++i) {
+        if (Result<void> assigned = m_items[i]->assign(context, items[i]); !assigned) return assigned;
+    }
+    return {};
+}
+
+Result<Value> VariableExpression::compute(Context& context) const {
+    const std::optional<Value>& value = context.variable(m_slot);
+    if (!value) {
+        return context.fail(position(), ErrorNumber::undefinedVariable,
+                            "the variable “" + m_name + "” is not defined");
+    }
+    if (!context.spend(copyCost(*value))) return context.exhausted(position());
+    return *value;
+}
+
+Result<void> VariableExpression::assign(Context& context, Value value) const {
+    context.variable(m_slot) = std::move(value);
+    return {};
+}
+
+Result<Value> ResultExpression::compute(Context& context) const {
+    const std::optional<Value>& value = context.result();
+    if (!value) return context.fail(position(), ErrorNumber::undefinedVariable, "there is no result");
+    if (!context.spend(copyCost(*value))) return context.exhausted(position());
+    return *value;
+}
+
+} // namespace songsweep::interpreter
