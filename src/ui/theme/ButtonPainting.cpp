@@ -73,7 +73,9 @@ void toolButtonLabel(const Canvas& canvas, const QStyleOptionToolButton& button,
     const bool enabled = (button.state & QStyle::State_Enabled) != 0;
     const QIcon::Mode mode = enabled ? QIcon::Normal : QIcon::Disabled;
     if (button.toolButtonStyle == Qt::ToolButtonIconOnly || button.text.isEmpty()) {
-        button.icon.paint(&canvas.painter, button.rect, Qt::AlignCenter, mode);
+        QRect icon(QPoint(), button.iconSize);
+        icon.moveCenter(button.rect.center());
+        button.icon.paint(&canvas.painter, icon, Qt::AlignCenter, mode);
         return;
     }
     QRect icon(QPoint(), button.iconSize);

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "ui/PaperCell.h"
+
+#include "ui/TrackTableModel.h"
+
+#include <QPainter>
+
+namespace songsweep {
+
+namespace {
+
+RowState stateOf(const QStyleOptionViewItem& option) {
+    if (!option.state.testFlag(QStyle::State_Selected)) return RowState::plain;
+    return option.state.testFlag(QStyle::State_Active) ? RowState::selected : RowState::selectedInactive;
+}
+
+QColor backgroundOf(RowState state, bool tinted) {
+    if (state == RowState::selected) return selectedBand;
+    if (state == RowState::selectedInactive) return selectedInactiveBand;
+    return tinted ? tintedBand : whiteBand;
+}
+
+} // namespace
+
+RowLook willDisplayCell(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const RowState state = stateOf(option);
+    return {backgroundOf(state, index.data(TrackTableModel::TintedRole).toBool()), rowColors(state)};
+}
+
+PaperCell::PaperCell(QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_metrics(QFont()) {}
+
+void PaperCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    drawWithFrame(*painter, option, willDisplayCell(option, index), index);
+}
+
+void PaperCell::drawWithFrame(QPainter& painter, const QStyleOptionViewItem& option, const RowLook& look,
+                              const QModelIndex& index) const {
+    painter.fillRect(option.rect, look.background);
+    painter.save();
+    drawInterior(painter, option, look.colors, index);
+    painter.restore();
+}
+
+QSize PaperCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return {option.rect.width(), m_metrics.rowHeight};
+}
+
+} // namespace songsweep

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ui/TextCell.h"
+
+#include "ui/ColumnLook.h"
+#include "ui/TrackTableModel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace songsweep {
+
+namespace {
+
+int leftEdge(const QRect& rect, int width, Qt::Alignment alignment) {
+    if (alignment.testFlag(Qt::AlignRight)) return rect.right() + 1 - width;
+    if (alignment.testFlag(Qt::AlignHCenter)) return rect.left() + (rect.width() - width) / 2;
+    return rect.left();
+}
+
+bool isSecondary(Column column, const QString& text, const QModelIndex& index) {
+    if (index.data(TrackTableModel::MissingRole).toBool()) return true;
+    return column == Column::hasartwork && text == QStringLiteral("No");
+}
+
+} // namespace
+
+QRect TextCell::textRect(const QRect& frame) const {
+    return frame.adjusted(metrics().padding, 0, -metrics().padding, 0);
+}
+
+void TextCell::drawInterior(QPainter& painter, const QStyleOptionViewItem& option, const RowColors& colors,
+                            const QModelIndex& index) const {
+    const Column column = columnOf(index.column());
+    const ColumnLook& look = columnLook(column);
+    const QRect rect = textRect(option.rect);
+    const QFontMetrics& font = option.fontMetrics;
+    const QString whole = index.data(Qt::DisplayRole).toString().simplified();
+    const QString text = font.elidedText(whole, look.elision, rect.width());
+
+    painter.setFont(option.font);
+    painter.setPen(isSecondary(column, whole, index) ? colors.secondaryText : colors.text);
+    const int baseline = rect.top() + (rect.height() - font.height()) / 2 + font.ascent();
+    painter.setClipRect(option.rect, Qt::IntersectClip);
+    painter.drawText(leftEdge(rect, font.horizontalAdvance(text), look.alignment), baseline, text);
+}
+
+bool TextCell::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip) return PaperCell::helpEvent(event, view, option, index);
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QString text = index.data(Qt::ToolTipRole).toString();
+    if (cell.fontMetrics.horizontalAdvance(text) <= textRect(option.rect).width())
+        QToolTip::hideText();
+    else
+        return PaperCell::helpEvent(event, view, option, index);
+    return true;
+}
+
+} // namespace songsweep
