@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainWindow.h"
+
+#include "ui/SWTableView.h"
+#include "ui/TrackHeaderView.h"
+#include "ui/TrackTableModel.h"
+#include "ui_MainWindow.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace songsweep {
+
+MainWindow::MainWindow(const DisplayedList& tableDataSource, Log& log, QWidget* parent)
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::MainWindow>())
+    , m_tableDataSource(tableDataSource)
+    , m_model(new TrackTableModel(this)) {
+    m_ui->setupUi(this);
+    m_ui->contentStack->setBackgroundRole(QPalette::Base);
+    setUpToolbar();
+    setUpTable(log);
+    setUpContextMenu();
+    connectFileMenu();
+    connectMarkAndTrackMenu();
+    connectWindowAndHelpMenu();
+    applyMetrics();
+    setMarkEnabled(false);
+    setDeleteEnabled(false);
+    m_ui->emptyPage->setFocus(Qt::OtherFocusReason);
+}
+
+MainWindow::~MainWindow() = default;
+
+SWTableView& MainWindow::tableview() const { return *m_ui->tableview; }
+
+void MainWindow::reloadTable() {
+    const bool firstResults = m_model->rows().empty();
+    m_ui->tableview->reloadData(m_tableDataSource);
+    if (firstResults && !m_model->rows().empty())
+        m_ui->tableview->selectionModel()->setCurrentIndex(m_model->index(0, static_cast<int>(Column::name)),
+                                                           QItemSelectionModel::NoUpdate);
+    updateSearchedLabel();
+}
+
+void MainWindow::setTableVisible(bool visible) {
+    m_tableVisible = visible;
+    showPage();
+}
+
+void MainWindow::setPerformLabelVisible(bool visible) {
+    m_performLabelVisible = visible;
+    showPage();
+}
+
+void MainWindow::showPage() {
+    QWidget* page = m_ui->blankPage;
+    QWidget* focus = nullptr;
+    if (m_tableVisible) {
+        page = m_ui->tableviewContainer;
+        focus = m_ui->tableview;
+    } else if (m_progressVisible) {
+        page = m_ui->progressPage;
+        focus = m_ui->formprogressCancelButton;
+    } else if (m_performLabelVisible) {
+        page = m_ui->emptyPage;
+        focus = m_ui->emptyPage;
+    }
+    updateSearchedLabel();
+    const bool changes = page != m_ui->contentStack->currentWidget();
+    m_ui->contentStack->setCurrentWidget(page);
+    if (focus && changes) focus->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::setHorizontalScroller(bool shown) {
+    m_ui->tableview->setHorizontalScrollBarPolicy(shown ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+}
+
+void MainWindow::setSortIndicator(Column column, bool ascending) {
+    m_ui->tableview->header().setSortIndicator(column, ascending);
+}
+
+void MainWindow::clearSortIndicator() { m_ui->tableview->header().clearSortIndicator(); }
+
+std::vector<int> MainWindow::selectedRows() const { return m_ui->tableview->selectedRows(); }
+
+int MainWindow::selectedRow() const { return m_ui->tableview->selectedRow(); }
+
+void MainWindow::beginProgress() {
+    m_progressVisible = true;
+    showPage();
+}
+
+void MainWindow::endProgress() {
+    m_progressVisible = false;
+    showPage();
+}
+
+void MainWindow::setProgressValue(double percent) {
+    const int value = std::isfinite(percent) ? static_cast<int>(std::clamp(percent, 0.0, 100.0)) : 0;
+    m_ui->formprogress->setValue(value);
+    m_ui->progressValueLabel->setText(QStringLiteral("%1 %").arg(value));
+}
+
+void MainWindow::setProgressInfo(const std::string& phase) {
+    m_ui->progressInfoLabel->setText(QString::fromStdString(phase));
+}
+
+void MainWindow::setStatusText(const std::string& text) {
+    m_ui->statusBottomLabel->setText(QString::fromStdString(text));
+}
+
+void MainWindow::setStatusVisible(bool visible) { m_ui->statusBottomLabel->setVisible(visible); }
+
+void MainWindow::setSearchedText(const std::string& text) {
+    m_searchedText = QString::fromStdString(text);
+    updateSearchedLabel();
+}
+
+void MainWindow::updateSearchedLabel() {
+    const bool results = m_tableVisible && !m_model->rows().empty();
+    m_ui->searchedLabel->setText(results ? m_searchedText : QString());
+}
+
+void MainWindow::setSearchEnabled(bool enabled) {
+    m_ui->searchButton->setEnabled(enabled);
+    m_ui->emptySearchButton->setEnabled(enabled);
+    validateMenuItems();
+}
+
+void MainWindow::setMarkEnabled(bool enabled) {
+    m_ui->autoMarkButton->setEnabled(enabled);
+    validateMenuItems();
+}
+
+void MainWindow::setDeleteEnabled(bool enabled) { m_ui->deleteButton->setEnabled(enabled); }
+
+bool MainWindow::validateMenuItem(const QAction& item) const {
+    if (&item == m_ui->autoMarkMenuitem) return m_ui->autoMarkButton->isEnabled();
+    if (&item == m_ui->searchMenuitem) return m_ui->searchButton->isEnabled();
+    return true;
+}
+
+void MainWindow::validateMenuItems() {
+    for (QAction* item : {m_ui->autoMarkMenuitem, m_ui->searchMenuitem})
+        item->setEnabled(validateMenuItem(*item));
+}
+
+void MainWindow::openAtFirstSize() {
+    constexpr QSize wanted(1280, 760);
+    const QRect free = screen()->availableGeometry();
+    resize(wanted.boundedTo(free.size()));
+}
+
+void MainWindow::present() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+} // namespace songsweep

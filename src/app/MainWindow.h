@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/DisplayedList.h"
+
+#include <QMainWindow>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Ui {
+class MainWindow;
+}
+
+class QAction;
+class QFileDialog;
+
+namespace songsweep {
+
+class Log;
+class SWTableView;
+class TrackTableModel;
+
+/// The main window: toolbar, menus, the content page (results, empty state, progress or blank) and the strip.
+///
+/// Knows no controller. It shows what it is told and says by signals what the user asks for, each signal
+/// named after the action it asks for; who makes the window connects them. Toolbar and strip never change
+/// their size, so that the states differ in their content alone. Main thread.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+  public:
+    /// The list is shown as it is at each reloadTable(); it outlives the window.
+    MainWindow(const DisplayedList& tableDataSource, Log& log, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    SWTableView& tableview() const;
+    TrackTableModel& tableModel() const { return *m_model; }
+    /// Whether the item of a menu may be used now.
+    bool validateMenuItem(const QAction& item) const;
+
+    // The results table.
+    void reloadTable();
+    void setTableVisible(bool visible);
+    void setPerformLabelVisible(bool visible);
+    void setHorizontalScroller(bool shown);
+    void setSortIndicator(Column column, bool ascending);
+    void clearSortIndicator();
+    std::vector<int> selectedRows() const;
+    int selectedRow() const;
+
+    // The progress of a search.
+    void beginProgress();
+    void endProgress();
+    /// A percentage; what is none shows as 0.
+    void setProgressValue(double percent);
+    void setProgressInfo(const std::string& phase);
+
+    // The strip and the buttons.
+    void setStatusText(const std::string& text);
+    void setStatusVisible(bool visible);
+    /// What was searched; shown beside results.
+    void setSearchedText(const std::string& text);
+    void setSearchEnabled(bool enabled);
+    void setMarkEnabled(bool enabled);
+    void setDeleteEnabled(bool enabled);
+
+    /// Opens at 1280 by 760, or at the screen's free size where that is less.
+    void openAtFirstSize();
+    /// Brings the window to the front.
+    void present();
+
+  Q_SIGNALS:
+    void startButtonClick();
+    void markButtonClick();
+    void deleteButtonClick();
+    void deleteMarkedMenuClick();
+    void cancelformButtonClick();
+    void openLibrary(const QString& path);
+    void markMenuClick(std::int32_t tag);
+    void playMenuClick();
+    void showinFinderMenuClick();
+    void mainWindowMenuClick();
+    void aboutButtonClick();
+    void websiteButtonClick();
+    void helpButtonClick();
+    void contactButtonClick();
+    void tableviewSpacebar();
+    void tableviewDoubleClick();
+    void didClickTableColumn(songsweep::Column column);
+    void setObjectValue(bool value, songsweep::Column column, int row);
+    void closed();
+    void quit();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void setUpToolbar();
+    void setUpTable(Log& log);
+    void setUpContextMenu();
+    void connectFileMenu();
+    void connectMarkAndTrackMenu();
+    void connectWindowAndHelpMenu();
+    void applyMetrics();
+    void validateMenuItems();
+    void showPage();
+    void updateSearchedLabel();
+    void chooseLibrary();
+
+    std::unique_ptr<Ui::MainWindow> m_ui;
+    const DisplayedList& m_tableDataSource;
+    TrackTableModel* m_model;
+    QString m_searchedText;
+    bool m_tableVisible = false;
+    bool m_performLabelVisible = true;
+    bool m_progressVisible = false;
+};
+
+} // namespace songsweep

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainWindow.h"
+#include "ui/SWTableView.h"
+#include "ui/TrackTableModel.h"
+#include "ui/theme/Icons.h"
+#include "ui/theme/Metrics.h"
+#include "ui_MainWindow.h"
+
+#include <QMenu>
+#include <QShortcut>
+
+namespace songsweep {
+
+namespace {
+
+/// "Find duplicates (Ctrl+F)".
+QString toolTipWithKey(const QString& text, const QKeySequence& key) {
+    return QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText));
+}
+
+} // namespace
+
+void MainWindow::setUpToolbar() {
+    m_ui->searchButton->setIcon(themedIcon(Icon::search));
+    m_ui->autoMarkButton->setIcon(themedIcon(Icon::mark));
+    m_ui->deleteButton->setIcon(themedIcon(Icon::bin));
+    m_ui->formprogressCancelButton->setIcon(themedIcon(Icon::cancel));
+    m_ui->formprogressCancelButton->setShortcut(Qt::Key_Escape);
+    m_ui->searchButton->setToolTip(
+        toolTipWithKey(QStringLiteral("Find duplicates"), m_ui->searchMenuitem->shortcut()));
+    m_ui->autoMarkButton->setToolTip(
+        toolTipWithKey(QStringLiteral("Mark copies by a rule"), m_ui->autoMarkMenuitem->shortcut()));
+    m_ui->deleteButton->setToolTip(
+        toolTipWithKey(QStringLiteral("Delete the marked tracks"), m_ui->deleteMarkedMenuitem->shortcut()));
+    m_ui->formprogressCancelButton->setToolTip(
+        toolTipWithKey(QStringLiteral("Cancel search"), m_ui->formprogressCancelButton->shortcut()));
+    auto* pressDefault = new QShortcut(Qt::Key_Return, m_ui->emptyPage);
+    pressDefault->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(pressDefault, &QShortcut::activated, m_ui->emptySearchButton, &QPushButton::click);
+    connect(m_ui->searchButton, &QToolButton::clicked, this, &MainWindow::startButtonClick);
+    connect(m_ui->emptySearchButton, &QPushButton::clicked, this, &MainWindow::startButtonClick);
+    connect(m_ui->autoMarkButton, &QToolButton::clicked, this, &MainWindow::markButtonClick);
+    connect(m_ui->deleteButton, &QToolButton::clicked, this, &MainWindow::deleteButtonClick);
+    connect(m_ui->formprogressCancelButton, &QToolButton::clicked, this, &MainWindow::cancelformButtonClick);
+}
+
+void MainWindow::setUpTable(Log& log) {
+    m_model->setDtrackImage(QIcon(QStringLiteral(":/dtrack.png")));
+    m_model->setObjectValueHandler(
+        [this](Column column, int row, bool value) { Q_EMIT setObjectValue(value, column, row); });
+    SWTableView* table = m_ui->tableview;
+    table->setUp(*m_model, log);
+    connect(table, &SWTableView::tableviewSpacebar, this, &MainWindow::tableviewSpacebar);
+    connect(table, &SWTableView::tableviewDoubleClick, this, &MainWindow::tableviewDoubleClick);
+    connect(table, &SWTableView::didClickTableColumn, this, &MainWindow::didClickTableColumn);
+}
+
+void MainWindow::setUpContextMenu() {
+    auto* menu = new QMenu(m_ui->tableview);
+    menu->addAction(m_ui->playMenuitem);
+    menu->addAction(m_ui->showinFinderMenuitem);
+    menu->addSeparator();
+    menu->addAction(m_ui->markSelectedMenuitem);
+    menu->addAction(m_ui->unmarkSelectedMenuitem);
+    menu->addSeparator();
+    menu->addAction(m_ui->markAllMenuitem);
+    menu->addAction(m_ui->unmarkAllMenuitem);
+    m_ui->tableview->setContextMenu(menu);
+}
+
+void MainWindow::connectFileMenu() {
+    connect(m_ui->openLibraryMenuitem, &QAction::triggered, this, &MainWindow::chooseLibrary);
+    connect(m_ui->searchMenuitem, &QAction::triggered, this, &MainWindow::startButtonClick);
+    connect(m_ui->deleteMarkedMenuitem, &QAction::triggered, this, &MainWindow::deleteMarkedMenuClick);
+    connect(m_ui->closeMenuitem, &QAction::triggered, this, &MainWindow::close);
+    connect(m_ui->quitMenuitem, &QAction::triggered, this, &MainWindow::quit);
+#ifdef Q_OS_MACOS
+    m_ui->deleteMarkedMenuitem->setShortcut(Qt::CTRL | Qt::Key_Backspace);
+    m_ui->helpMenuitem->setShortcut(Qt::CTRL | Qt::Key_Question);
+    m_ui->showinFinderMenuitem->setText(QStringLiteral("Show in Finder"));
+#endif
+}
+
+void MainWindow::connectMarkAndTrackMenu() {
+    connect(m_ui->autoMarkMenuitem, &QAction::triggered, this, &MainWindow::markButtonClick);
+    const std::array<QAction*, 4> byTag = {m_ui->markSelectedMenuitem, m_ui->unmarkSelectedMenuitem,
+                                           m_ui->markAllMenuitem, m_ui->unmarkAllMenuitem};
+    for (std::size_t tag = 0; tag < byTag.size(); ++tag)
+        connect(byTag[tag], &QAction::triggered, this,
+                [this, tag] { Q_EMIT markMenuClick(static_cast<std::int32_t>(tag)); });
+    connect(m_ui->playMenuitem, &QAction::triggered, this, &MainWindow::playMenuClick);
+    connect(m_ui->showinFinderMenuitem, &QAction::triggered, this, &MainWindow::showinFinderMenuClick);
+}
+
+void MainWindow::connectWindowAndHelpMenu() {
+    connect(m_ui->mainWindowMenuitem, &QAction::triggered, this, &MainWindow::mainWindowMenuClick);
+    connect(m_ui->helpMenuitem, &QAction::triggered, this, &MainWindow::helpButtonClick);
+    connect(m_ui->websiteMenuitem, &QAction::triggered, this, &MainWindow::websiteButtonClick);
+    connect(m_ui->contactMenuitem, &QAction::triggered, this, &MainWindow::contactButtonClick);
+    connect(m_ui->aboutMenuitem, &QAction::triggered, this, &MainWindow::aboutButtonClick);
+}
+
+void MainWindow::applyMetrics() {
+    const auto grown = [this](int length) { return scaledLength(length, this); };
+    constexpr int line = 1;
+    setMinimumSize(grown(760), grown(420));
+    m_ui->toolbar->setFixedHeight(grown(48) - line);
+    m_ui->strip->setFixedHeight(grown(24) - line);
+    m_ui->toolbarSeparator->setFixedSize(line, grown(20));
+    const QSize icon(grown(20), grown(20));
+    for (QToolButton* button :
+         {m_ui->searchButton, m_ui->autoMarkButton, m_ui->deleteButton, m_ui->formprogressCancelButton})
+        button->setIconSize(icon);
+    m_ui->formprogressCancelButton->setFixedSize(grown(28), grown(28));
+}
+
+} // namespace songsweep
