@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "sample-library/BulkLibrary.h"
+#include "sample-library/DesktopLibrary.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+int report(const songsweep::Result<void>& result) {
+    if (result) return 0;
+    std::cerr << "songsweep-sample: " << result.error().message << '\n';
+    return 1;
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    CLI::App program("Makes sample libraries: one to try the program on, and large ones for measurements.");
+    std::string folder;
+    songsweep::sample::BulkOptions bulk;
+    bool makesNoFiles = false;
+    auto* files =
+        program.add_option("--files", folder, "Make FOLDER/library.xml with tracks that players can open");
+    auto* tracks = program.add_option("--tracks", bulk.tracks, "Make a library of this many tracks");
+    auto* output = program.add_option("--output", bulk.file, "The library file of --tracks");
+    program.add_option("--music", bulk.musicFolder, "Where its music lies (default: beside it, \"Music\")");
+    program.add_option("--seed", bulk.seed, "The same number makes the same library");
+    program.add_flag("--no-files", makesNoFiles, "Make none of its files; otherwise nine of ten are there");
+    tracks->check(CLI::Range(1, 5000000))->needs(output)->excludes(files);
+    output->needs(tracks);
+    program.require_option(1, 0);
+    CLI11_PARSE(program, argumentCount, arguments);
+
+    if (*files) return report(songsweep::sample::makeDesktopLibrary(folder));
+    const auto library = std::filesystem::absolute(bulk.file).lexically_normal();
+    bulk.file = library;
+    if (bulk.musicFolder.empty()) bulk.musicFolder = library.parent_path() / "Music";
+    bulk.makesFiles = !makesNoFiles;
+    return report(songsweep::sample::makeBulkLibrary(bulk));
+}
