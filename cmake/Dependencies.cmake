@@ -12,6 +12,7 @@ pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 
 if(SONGSWEEP_TESTS)
     find_package(GTest REQUIRED)
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
     find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
 endif()
 if(SONGSWEEP_BENCHMARKS)

@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppController.h"
+#include "platform/Log.h"

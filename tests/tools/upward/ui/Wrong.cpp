@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+#include "dupes/MarkDialog.h"
+#include "ui/Right.h"
