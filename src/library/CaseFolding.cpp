@@ -94,10 +94,13 @@ std::string foldedKey(std::string_view text) {
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    if (a == b) return true;
-    if (isAscii(a) && isAscii(b))
-        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                          [](char x, char y) { return asciiLower(x) == asciiLower(y); });
+    const auto [restA, restB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                              [](char x, char y) { return asciiLower(x) == asciiLower(y); });
+    if (restA == a.end() && restB == b.end()) return true;
+    // No accent behind it makes a plain letter another one, nor an ended text a longer one.
+    const bool plainA = restA == a.end() || isAscii(*restA);
+    const bool plainB = restB == b.end() || isAscii(*restB);
+    if (plainA && plainB) return false;
     return foldedKey(a) == foldedKey(b);
 }
 

@@ -13,7 +13,7 @@ struct SearchParameters {
     bool issamealbum = false;
     bool issametime = false;
     bool isignoredead = false;           ///< leave out tracks whose file is missing
-    std::optional<std::string> playlist; ///< name as chosen; nothing where no playlist was selected
+    std::optional<std::string> playlist{}; ///< name as chosen; nothing where no playlist was selected
 
     bool operator==(const SearchParameters&) const = default;
 };

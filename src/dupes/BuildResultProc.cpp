@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "dupes/BuildResultProc.h"
+
+#include "library/CaseFolding.h"
+#include "library/KeySort.h"
+#include "operations/NotificationCenter.h"
+
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+/// Repeated texts are one and the same, which settles most comparisons of artists and albums.
+bool equalTexts(Text a, Text b) { return a.c_str() == b.c_str() || equalIgnoringCase(a, b); }
+
+bool comparesAnything(const SearchParameters& parameters) {
+    return parameters.issamename || parameters.issameartist || parameters.issamealbum ||
+           parameters.issametime;
+}
+
+void addRecord(SortKey& key, const TrackRecord& record, const SearchParameters& parameters) {
+    if (parameters.issamename) key.text(record.name);
+    if (parameters.issameartist) key.text(record.artist);
+    if (parameters.issamealbum) key.text(record.album);
+    if (parameters.issametime) key.number(record.timev);
+}
+
+} // namespace
+
+bool isSameTag(const TrackRecord& a, const TrackRecord& b, const SearchParameters& parameters) {
+    if (parameters.issameartist && !equalTexts(a.artist, b.artist)) return false;
+    if (parameters.issamename && !equalTexts(a.name, b.name)) return false;
+    if (parameters.issamealbum && !equalTexts(a.album, b.album)) return false;
+    if (!parameters.issametime) return true;
+    return !a.time.empty() && a.time == b.time;
+}
+
+BuildResultProc::BuildResultProc(std::shared_ptr<TrackList> list, SearchParameters parameters,
+                                 NotificationCenter& center)
+    : m_list(std::move(list))
+    , m_searchparams(std::move(parameters))
+    , m_center(center) {}
+
+void BuildResultProc::main() {
+    try {
+        sortList();
+        group();
+    } catch (...) {
+        finish();
+        throw;
+    }
+    finish();
+}
+
+void BuildResultProc::sortList() {
+    std::vector<TrackRecord*>& records = m_list->records;
+    if (!comparesAnything(m_searchparams)) return;
+    KeySort sort(records.size());
+    SortKey key;
+    for (const TrackRecord* record : records) {
+        addRecord(key.clear(), *record, m_searchparams);
+        sort.add(key.bytes());
+    }
+
+    std::vector<TrackRecord*> sorted;
+    sorted.reserve(records.size());
+    for (const std::uint32_t index : sort.order())
+        sorted.push_back(records[index]);
+    records.swap(sorted);
+}
+
+void BuildResultProc::group() {
+    const std::vector<TrackRecord*>& records = m_list->records;
+    std::int32_t groupCount = 0;
+    bool opensGroup = true;
+    for (std::size_t i = 1; i < records.size(); ++i) {
+        if (isCancelled()) return;
+        TrackRecord& a = *records[i - 1];
+        TrackRecord& b = *records[i];
+        post(EventName::progress, &a);
+        if (!isSameTag(a, b, m_searchparams)) {
+            opensGroup = true;
+            continue;
+        }
+        if (opensGroup) addToGroup(a, ++groupCount);
+        opensGroup = false;
+        addToGroup(b, groupCount);
+    }
+}
+
+void BuildResultProc::addToGroup(TrackRecord& record, std::int32_t gid) {
+    record.gid = gid;
+    post(EventName::step2, &record);
+}
+
+void BuildResultProc::finish() {
+    m_list->records = {};
+    post(isCancelled() ? EventName::addCancel : EventName::buildFinish);
+}
+
+void BuildResultProc::post(EventName name, WorkerEventPayload payload) {
+    m_center.post({name, payload, this});
+}
+
+} // namespace songsweep

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/SearchParameters.h"
+#include "library/TrackStorage.h"
+#include "operations/Operation.h"
+#include "operations/WorkerEvent.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace songsweep {
+
+class NotificationCenter;
+
+/// Whether two records are duplicates by what the parameters compare. Texts are equal without regard to case;
+/// times by their texts, of which an empty one equals none.
+bool isSameTag(const TrackRecord& a, const TrackRecord& b, const SearchParameters& parameters);
+
+/// Cuts the track list into duplicate groups.
+///
+/// Sorts the list by what is compared, gives each record that is the same as a neighbour the number of its
+/// group, counted from 1, and posts it ("step2"); "progress" before each comparison. Ends with "buildFinish",
+/// or "addCancel" when cancelled, and leaves the list empty in any case. Texts are folded once a record; one
+/// sort, one pass.
+class BuildResultProc final : public Operation {
+  public:
+    BuildResultProc(std::shared_ptr<TrackList> list, SearchParameters parameters, NotificationCenter& center);
+
+    void main() override;
+
+  private:
+    void sortList();
+    void group();
+    void addToGroup(TrackRecord& record, std::int32_t gid);
+    void finish();
+    void post(EventName name, WorkerEventPayload payload = {});
+
+    std::shared_ptr<TrackList> m_list;
+    SearchParameters m_searchparams;
+    NotificationCenter& m_center;
+};
+
+} // namespace songsweep
