@@ -1,60 +1,79 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/LibraryFileFinder.h"
+#include "library/PlaylistItems.h"
+#include "library/ReadError.h"
+#include "library/ReaderServices.h"
 #include "library/SearchParameters.h"
 #include "library/TrackStorage.h"
 #include "operations/Operation.h"
-#include "platform/Result.h"
+#include "operations/WorkerEvent.h"
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
-#include <mutex>
-#include <optional>
+#include <string_view>
 
 namespace songsweep {
 
-class AppleScript;
-class Files;
-class Log;
-class NotificationCenter;
-class Preferences;
-class Sleeper;
+class LibraryWalk;
+class XmlReader;
 
-/// What the readers work with; all of it outlives every worker.
-struct ReaderServices {
-    NotificationCenter& center;
-    AppleScript& scripts;
-    Files& files;
-    Preferences& preferences;
-    Sleeper& sleeper;
-    Log& log;
-};
-
-/// The first read error of a library file: its line (from 1) and the reader's reason.
-struct ReadError {
-    int line = 0;
-    std::string reason;
-};
-
-/// Where a reader leaves its first read error for whoever asks. Thread-safe.
-class ReadErrorSlot {
+/// Fills the track list from iTunes' library file.
+///
+/// Finds the file by iTunes' preferences, waits until iTunes has rewritten it after a deletion, walks it into
+/// records, and keeps the file tracks of the chosen playlist, asking iTunes for the location of those whose
+/// file is missing. Ends with "addFinish", or with "xmlErrorParsing" or "xmlErrorProcessing" where the file
+/// cannot be had or trusted; "addCancel" besides when cancelled. One pass, constant time a record.
+class SWXMLParser final : public Operation {
   public:
-    void set(ReadError error) {
-        const std::lock_guard lock(m_mutex);
-        if (!m_error) m_error = std::move(error);
-    }
-    void clear() {
-        const std::lock_guard lock(m_mutex);
-        m_error.reset();
-    }
-    std::optional<ReadError> get() const {
-        const std::lock_guard lock(m_mutex);
-        return m_error;
-    }
+    /// `trackCount` is iTunes' own count of tracks, which the file has to match; for the next four see
+    /// RewriteWait. `error`, if given, outlives this and takes the first read error.
+    SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters parameters, std::int32_t trackCount,
+                std::int64_t lastModified, bool hasDelete, std::int32_t readDelay, std::int32_t readDelayMax,
+                ReaderServices services, ReadErrorSlot* error = nullptr);
+    /// Everything empty, zero or none.
+    explicit SWXMLParser(ReaderServices services);
+
+    void main() override;
+
+    /// Whether the record is among the chosen playlist's items, each of which admits one record.
+    bool isInMusicPlaylist(const TrackRecord& record);
+
+    /// Asks iTunes where the track's file is; the record stays as it is where iTunes does not know.
+    void refreshLocationApplescript(TrackRecord& record);
 
   private:
-    mutable std::mutex m_mutex;
-    std::optional<ReadError> m_error;
+    using Clock = std::chrono::steady_clock;
+
+    void read();
+    bool parse(XmlReader& reader);
+    bool walkWhole(XmlReader& reader, LibraryWalk& walk);
+    void process(Clock::time_point start);
+    void finish();
+
+    void keepTracksOfPlaylist();
+    bool keeps(TrackRecord& record);
+    bool findFile(TrackRecord& record);
+    bool fileExists(const TrackRecord& record) const;
+    void makePath(TrackRecord& record);
+
+    /// Empties the list and posts, after an exception.
+    void fail(EventName event, std::string_view reason);
+    void post(EventName name, WorkerEventPayload payload = {}) const;
+    void log(std::string_view line) const;
+
+    std::shared_ptr<TrackList> m_list;
+    SearchParameters m_searchparams;
+    std::int32_t m_trueTrackCount = 0;
+    RewriteWait m_wait;
+    ReaderServices m_services;
+    ReadErrorSlot* m_error = nullptr;
+
+    PlaylistItems m_songlist;
+    std::int32_t m_trackCount = 0;
+    int m_progressCount = 0;
 };
 
 } // namespace songsweep

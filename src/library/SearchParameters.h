@@ -12,7 +12,7 @@ struct SearchParameters {
     bool issameartist = false;
     bool issamealbum = false;
     bool issametime = false;
-    bool isignoredead = false;           ///< leave out tracks whose file is missing
+    bool isignoredead = false;             ///< leave out tracks whose file is missing
     std::optional<std::string> playlist{}; ///< name as chosen; nothing where no playlist was selected
 
     bool operator==(const SearchParameters&) const = default;

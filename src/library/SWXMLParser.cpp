@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "library/SWXMLParser.h"
+
+#include "library/LibraryWalk.h"
+#include "library/XmlReader.h"
+#include "operations/NotificationCenter.h"
+#include "platform/Files.h"
+#include "platform/Log.h"
+#include "platform/Sleeper.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+/// Room for the tracks announced is made at once; an announcement beyond this may be an error.
+constexpr std::int32_t mostRecordsReserved = 4'000'000;
+
+/// The rest between two steps after a read error.
+constexpr std::chrono::milliseconds restAfterReadError(10);
+
+std::string asText(double seconds) {
+    char buffer[64];
+    return {buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "%f", seconds))};
+}
+
+} // namespace
+
+SWXMLParser::SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters parameters,
+                         std::int32_t trackCount, std::int64_t lastModified, bool hasDelete,
+                         std::int32_t readDelay, std::int32_t readDelayMax, ReaderServices services,
+                         ReadErrorSlot* error)
+    : m_list(std::move(list))
+    , m_searchparams(std::move(parameters))
+    , m_trueTrackCount(trackCount)
+    , m_wait{hasDelete, lastModified, readDelay, readDelayMax}
+    , m_services(services)
+    , m_error(error) {}
+
+SWXMLParser::SWXMLParser(ReaderServices services)
+    : SWXMLParser(std::make_shared<TrackList>(), {}, 0, 0, false, 0, 0, services) {}
+
+void SWXMLParser::main() {
+    try {
+        read();
+    } catch (...) {
+        finish();
+        throw;
+    }
+    finish();
+}
+
+void SWXMLParser::read() {
+    log("XML Parsing");
+    const LibraryFileFinder finder(m_services, *this);
+    const std::optional<std::string> path = finder.locate();
+    if (!path) return post(EventName::xmlErrorParsing);
+    const std::optional<FileAttributes> attributes = finder.waitUntilRewritten(*path, m_wait);
+    if (!attributes) return post(EventName::xmlErrorParsing);
+    post(EventName::xmlModifiedDate, *attributes);
+
+    const std::unique_ptr<XmlReader> reader = XmlReader::open(m_services.files.localPath(*path));
+    if (!reader) return post(EventName::xmlErrorParsing);
+    const Clock::time_point start = Clock::now();
+    log("Begin Parse XML");
+    if (parse(*reader)) process(start);
+}
+
+bool SWXMLParser::parse(XmlReader& reader) {
+    try {
+        m_list->records.reserve(
+            static_cast<std::size_t>(std::clamp(m_trueTrackCount, 0, mostRecordsReserved)));
+        LibraryWalk walk(*m_list, m_songlist, m_searchparams.playlist, m_services.log,
+                         [this](int records) { post(EventName::progressx, ProgressUnits{records}); });
+        if (!walkWhole(reader, walk)) return false;
+        walk.finish();
+        m_trackCount = walk.trackCount();
+        m_list->storage->forgetInterned();
+        log("End Parse XML");
+        if (m_trackCount != m_trueTrackCount) {
+            log("trackCount (" + std::to_string(m_trackCount) + ") != trueTrackCount (" +
+                std::to_string(m_trueTrackCount) + ")");
+            m_list->records.clear();
+            post(EventName::xmlErrorParsing);
+            return false;
+        }
+        post(EventName::xmlDoneParsing);
+        return true;
+    } catch (const std::exception& exception) {
+        fail(EventName::xmlErrorParsing, exception.what());
+    } catch (...) {
+        fail(EventName::xmlErrorParsing, "unknown");
+    }
+    return false;
+}
+
+bool SWXMLParser::walkWhole(XmlReader& reader, LibraryWalk& walk) {
+    XmlNode node;
+    while (!isCancelled()) {
+        if (!reader.read(node)) return true;
+        walk.feed(node.type, node.name, node.value);
+        if (!reader.error()) continue;
+        // The walk ends by being cancelled alone, with nothing more to come.
+        if (m_error) m_error->set(*reader.error());
+        m_services.sleeper.sleep(restAfterReadError);
+    }
+    return false;
+}
+
+void SWXMLParser::process(Clock::time_point start) {
+    try {
+        m_songlist.sort();
+        log("Songs count in Music playlist Begin: " + std::to_string(m_songlist.count()));
+        log("Begin Processing List");
+        keepTracksOfPlaylist();
+        log("End Processing List");
+        log("Songs count in Music playlist End: " + std::to_string(m_songlist.count()));
+        const std::chrono::duration<double> consumed = Clock::now() - start;
+        log("Finish, track count: " + std::to_string(m_trackCount) + ", list count: " +
+            std::to_string(m_list->records.size()) + ", time consumed: " + asText(consumed.count()));
+        post(EventName::addFinish);
+    } catch (const std::exception& exception) {
+        log("Exception occured");
+        fail(EventName::xmlErrorProcessing, exception.what());
+    } catch (...) {
+        log("Exception occured");
+        fail(EventName::xmlErrorProcessing, "unknown");
+    }
+}
+
+void SWXMLParser::finish() {
+    log("Begin XML Finally");
+    m_songlist.clear();
+    if (isCancelled()) {
+        m_list->records.clear();
+        post(EventName::addCancel);
+    }
+    log("End XML Finally");
+}
+
+void SWXMLParser::fail(EventName event, std::string_view reason) {
+    log("Parse XML exception [reason] : " + std::string(reason));
+    log("Parse XML exception [userInfo] : (null)");
+    m_list->records.clear();
+    post(event);
+}
+
+void SWXMLParser::post(EventName name, WorkerEventPayload payload) const {
+    m_services.center.post({name, payload, this});
+}
+
+void SWXMLParser::log(std::string_view line) const { m_services.log.line(line); }
+
+} // namespace songsweep

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "library/CaseFolding.h"
+#include "library/LibraryWalk.h"
+#include "library/LocationUrl.h"
+#include "library/SWXMLParser.h"
+#include "platform/Files.h"
+#include "scripting/AppleScript.h"
+
+#include <exception>
+#include <stdexcept>
+
+namespace songsweep {
+
+namespace {
+
+std::string locationScript(std::string_view pid) {
+    std::string script = "tell application \"iTunes\" \n"
+                         "set tlocation2 to location of (tracks whose persistent ID is \"";
+    script += pid;
+    script += "\") \n"
+              "try \n"
+              "set tlocation to POSIX path of tlocation2 \n"
+              "on error \n"
+              "set tlocation to tlocation2 \n"
+              "end try \n"
+              "{tlocation} \n"
+              "end tell";
+    return script;
+}
+
+} // namespace
+
+void SWXMLParser::keepTracksOfPlaylist() {
+    // The kept records gather at the list's end, so that the whole costs one pass.
+    std::vector<TrackRecord*>& records = m_list->records;
+    auto kept = records.end();
+    for (auto record = records.end(); record != records.begin();) {
+        --record;
+        if (keeps(**record)) *--kept = *record;
+    }
+    records.erase(records.begin(), kept);
+}
+
+bool SWXMLParser::keeps(TrackRecord& record) {
+    // The playlist is asked for every record: what it finds is used up.
+    const bool isInPlaylist = isInMusicPlaylist(record);
+    if (!record.isfile || !isInPlaylist) return false;
+
+    if (!record.location.empty()) makePath(record);
+    const bool isThere = fileExists(record) || findFile(record);
+    if (!isThere && !m_searchparams.isignoredead) record.isdead = true;
+    if (++m_progressCount == LibraryWalk::recordsPerProgress) {
+        post(EventName::progressx, ProgressUnits{m_progressCount});
+        m_progressCount = 0;
+    }
+    return isThere || !m_searchparams.isignoredead;
+}
+
+bool SWXMLParser::findFile(TrackRecord& record) {
+    refreshLocationApplescript(record);
+    if (!m_searchparams.isignoredead) log(record.location);
+    return fileExists(record);
+}
+
+bool SWXMLParser::fileExists(const TrackRecord& record) const {
+    return !record.location.empty() && m_services.files.exists(record.location.c_str());
+}
+
+void SWXMLParser::makePath(TrackRecord& record) {
+    const std::span<char> bytes = m_list->storage->bytes(record.location);
+    const std::string_view url = record.location;
+    const std::optional<std::size_t> length = makePathOfUrl(bytes);
+    if (!length) throw std::runtime_error("the location of track " + record.trackid.string() + " is no URL");
+    if (*length < url.size()) bytes[*length] = '\0';
+}
+
+bool SWXMLParser::isInMusicPlaylist(const TrackRecord& record) { return m_songlist.take(record.trackid); }
+
+void SWXMLParser::refreshLocationApplescript(TrackRecord& record) {
+    try {
+        const Result<Descriptor> result =
+            m_services.scripts.executeAndReturnError(locationScript(record.pid));
+        if (!result) return;
+        const std::optional<std::string> location = result.value().stringValue();
+        if (location && lowercase(*location) != "msng") record.location = m_list->storage->store(*location);
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): the track keeps its location
+    }
+}
+
+} // namespace songsweep
