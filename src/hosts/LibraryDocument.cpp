@@ -91,6 +91,7 @@ void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTa
 
 void LibraryDocument::forgetLists() {
     m_lists.assign(std::max<std::size_t>(m_playlistOrder.size(), 1), std::nullopt);
+    m_listsMade = false;
 }
 
 std::vector<PlaylistInfo> LibraryDocument::playlists() {
@@ -107,6 +108,7 @@ std::vector<PlaylistInfo> LibraryDocument::playlists() {
 const std::vector<LibraryDocument::TrackPosition>& LibraryDocument::tracksOf(std::size_t playlist) {
     auto& list = m_lists[playlist];
     if (list) return *list;
+    m_listsMade = true;
     if (playlist == 0) return list.emplace(libraryTracks());
     list.emplace();
     for (const ItemSlot& item : m_index.playlists[m_playlistOrder[playlist]].items)
@@ -146,6 +148,16 @@ LibraryDocument::tracksWithPersistentId(std::string_view persistentId) {
     return found;
 }
 
+std::vector<LibraryDocument::TrackPosition>
+LibraryDocument::tracksOfWithPersistentId(std::size_t playlist, std::string_view persistentId) {
+    std::vector<TrackPosition> found = tracksWithPersistentId(persistentId);
+    if (playlist == 0 || found.empty()) return found;
+    std::vector<TrackPosition> members;
+    for (const TrackPosition track : tracksOf(playlist))
+        if (std::binary_search(found.begin(), found.end(), track)) members.push_back(track);
+    return members;
+}
+
 Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
     Cached& cached = m_cache[track % m_cache.size()];
     if (cached.track == track) return &cached.fields;
@@ -179,7 +191,7 @@ Result<void> LibraryDocument::remove(TrackPosition track) {
     }
     m_index.tracks[track].deleted = true;
     ++m_deletedCount;
-    forgetLists();
+    if (m_listsMade) forgetLists();
     return {};
 }
 

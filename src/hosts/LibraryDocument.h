@@ -87,6 +87,10 @@ class LibraryDocument {
     /// The tracks of a persistent ID in file order, mostly one; letter case does not count. Microseconds.
     std::vector<TrackPosition> tracksWithPersistentId(std::string_view persistentId);
 
+    /// The same among the tracks of a playlist, in its order and as often as it holds them. Linear in the
+    /// playlist for any but the library.
+    std::vector<TrackPosition> tracksOfWithPersistentId(std::size_t playlist, std::string_view persistentId);
+
     /// The values of a track; the last few tracks asked for are kept. The pointer is good until the next
     /// call.
     Result<const TrackFields*> fields(TrackPosition track);
@@ -141,6 +145,7 @@ class LibraryDocument {
     PersistentIdTable m_byPersistentId;
     std::vector<std::uint32_t> m_playlistOrder;
     std::vector<std::optional<std::vector<TrackPosition>>> m_lists; // of every playlist, as asked for
+    bool m_listsMade = false;
     std::array<Cached, 16> m_cache;
     std::size_t m_deletedCount = 0;
     DeletionMemory m_memory;

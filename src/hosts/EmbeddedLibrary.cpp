@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/EmbeddedLibrary.h"
+
+namespace songsweep {
+
+Result<LibraryDocument*> EmbeddedLibrary::document() {
+    if (!m_checked) {
+        m_checked = true;
+        const auto stamp = LibraryFile::stampOf(m_path);
+        const bool refusedAlready = m_refused && stamp && stamp.value() == *m_refused;
+        if (!refusedAlready) {
+            const auto done = openOrRefresh();
+            m_error = done ? std::nullopt : std::optional(done.error());
+            m_refused = !done && stamp ? std::optional(stamp.value()) : std::nullopt;
+        }
+    }
+    if (m_error) return *m_error;
+    return m_document.get();
+}
+
+Result<void> EmbeddedLibrary::openOrRefresh() {
+    if (m_document) return m_document->refresh();
+    auto opened = LibraryDocument::open(m_path, m_options);
+    if (!opened) return opened.error();
+    m_document = std::move(opened).value();
+    return {};
+}
+
+} // namespace songsweep

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/EmbeddedScripting.h"
+
+#include "hosts/FinderApplication.h"
+#include "hosts/ITunesApplication.h"
+#include "platform/Log.h"
+
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+std::vector<interpreter::NamedApplication> applications(ITunesServices& services) {
+    return {{"iTunes", std::make_shared<ITunesApplication>(services)},
+            {"Finder", std::make_shared<FinderApplication>(services.files, services.desktop)}};
+}
+
+} // namespace
+
+EmbeddedScripting::EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files, Options options)
+    : m_library(std::move(libraryPath), options.library)
+    , m_iTunes{m_library, files, desktop, std::move(options.iTunesVersion)}
+    , m_interpreter(applications(m_iTunes))
+    , m_schedule(options.writes)
+    , m_libraryOptions(options.library)
+    , m_log(options.log)
+    , m_writer([this](const std::stop_token& stop) { writeWhenDue(stop); }) {}
+
+EmbeddedScripting::~EmbeddedScripting() {
+    m_writer.request_stop();
+    m_writer.join();
+    // The log has the reason of a failure; nobody is left to tell.
+    static_cast<void>(flush());
+}
+
+Result<Descriptor> EmbeddedScripting::executeAndReturnError(std::string_view source) {
+    auto result = run(source);
+    if (!result) return result.error();
+    return std::move(result).value().value_or(Descriptor());
+}
+
+Result<std::optional<Descriptor>> EmbeddedScripting::run(std::string_view source) {
+    const std::lock_guard lock(m_lock);
+    m_library.beginScript();
+    const std::size_t before = m_library.opened() ? m_library.opened()->pendingDeletions() : 0;
+    auto result = m_interpreter.run(source);
+    noteDeletions(before);
+    return result;
+}
+
+void EmbeddedScripting::noteDeletions(std::size_t before) {
+    if (m_library.opened() == nullptr || m_library.opened()->pendingDeletions() == before) return;
+    const bool writerWaits = m_schedule.due().has_value(); // It looks again when its time has come.
+    m_schedule.changed(WriteSchedule::Clock::now());
+    if (!writerWaits) m_scheduleChanged.notify_all();
+}
+
+Result<LibraryDocument*> EmbeddedScripting::currentDocument() {
+    m_library.beginScript();
+    return m_library.document();
+}
+
+Result<void> EmbeddedScripting::openLibrary(std::string path) {
+    const std::lock_guard lock(m_lock);
+    if (auto written = flushLocked(); !written) return written;
+    m_library = EmbeddedLibrary(std::move(path), m_libraryOptions);
+    return {};
+}
+
+std::string EmbeddedScripting::libraryPath() const {
+    const std::lock_guard lock(m_lock);
+    return m_library.path();
+}
+
+Result<void> EmbeddedScripting::readLibrary() {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    return document ? Result<void>() : Result<void>(document.error());
+}
+
+std::optional<Error> EmbeddedScripting::libraryError() const {
+    const std::lock_guard lock(m_lock);
+    return m_library.error();
+}
+
+Result<int> EmbeddedScripting::trackCount() {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    if (!document) return document.error();
+    return document.value()->trackCount();
+}
+
+Result<std::vector<PlaylistInfo>> EmbeddedScripting::playlists() {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    if (!document) return document.error();
+    return document.value()->playlists();
+}
+
+Result<void> EmbeddedScripting::forEachLocation(const LibraryDocument::LocationCallback& callback) {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    if (!document) return document.error();
+    return document.value()->forEachLocation(callback);
+}
+
+Result<void> EmbeddedScripting::flush() {
+    const std::lock_guard lock(m_lock);
+    return flushLocked();
+}
+
+Result<void> EmbeddedScripting::flushLocked() {
+    LibraryDocument* document = m_library.opened();
+    if (document == nullptr || document->pendingDeletions() == 0) {
+        m_schedule.written();
+        return {};
+    }
+    const std::size_t deletions = document->pendingDeletions();
+    auto written = document->flush();
+    if (written) {
+        m_schedule.written();
+    } else {
+        m_schedule.failed(WriteSchedule::Clock::now());
+    }
+    if (m_log != nullptr)
+        m_log->line(written ? "Library written : " + std::to_string(deletions) + " tracks deleted"
+                            : "Library not written : " + written.error().message);
+    return written;
+}
+
+std::size_t EmbeddedScripting::pendingDeletions() const {
+    const std::lock_guard lock(m_lock);
+    return m_library.opened() ? m_library.opened()->pendingDeletions() : 0;
+}
+
+std::optional<Error> EmbeddedScripting::lastWriteError() const {
+    const std::lock_guard lock(m_lock);
+    return m_library.opened() ? m_library.opened()->lastWriteError() : std::nullopt;
+}
+
+void EmbeddedScripting::beginDeletionRun() {
+    const std::lock_guard lock(m_lock);
+    // A failed write keeps its deletions and its reason; they go with this run's.
+    static_cast<void>(flushLocked());
+    if (m_library.opened() != nullptr) m_library.opened()->beginDeletionRun();
+}
+
+std::string EmbeddedScripting::backup() const {
+    const std::lock_guard lock(m_lock);
+    return m_library.opened() ? m_library.opened()->backup() : std::string();
+}
+
+/// The writer's loop: waits until something is due and writes it, between two texts.
+void EmbeddedScripting::writeWhenDue(const std::stop_token& stop) {
+    std::unique_lock lock(m_lock);
+    while (!stop.stop_requested()) {
+        const auto due = m_schedule.due();
+        if (due && *due <= WriteSchedule::Clock::now()) {
+            static_cast<void>(flushLocked()); // Kept as the last write error, and logged.
+        } else if (due) {
+            m_scheduleChanged.wait_until(lock, stop, *due, [] { return false; });
+        } else {
+            m_scheduleChanged.wait(lock, stop, [&] { return m_schedule.due().has_value(); });
+        }
+    }
+}
+
+} // namespace songsweep

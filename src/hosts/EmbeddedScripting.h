@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hosts/EmbeddedLibrary.h"
+#include "hosts/ITunesObjects.h"
+#include "hosts/WriteSchedule.h"
+#include "scripting/AppleScript.h"
+#include "scripting/InterpretedAppleScript.h"
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+namespace songsweep {
+
+class Desktop;
+class Files;
+class Log;
+
+/// Runs AppleScript texts against an iTunes and a Finder of the program's own, over one library XML file.
+///
+/// Texts run one at a time, whichever thread sends them. The file is indexed when the first text asks iTunes
+/// something, and looked at again by each later one. Deletions are seen at once and written together, a
+/// little after the last one, by a thread of this object's own; the destructor writes what is left. A library
+/// that is refused, or missing, fails the texts that tell iTunes; `libraryError` has the reason.
+///
+///     EmbeddedScripting scripts(path, desktop, files);
+///     scripts.executeAndReturnError("tell application \"iTunes\" to get version");
+///
+/// Thread-safe. Desktop, files and log outlive the object.
+class EmbeddedScripting final : public AppleScript {
+  public:
+    struct Options {
+        std::string iTunesVersion = "12.0";
+        WriteSchedule::Times writes;
+        LibraryDocument::Options library;
+        Log* log = nullptr; ///< told of every write and of every failed one
+    };
+
+    EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files)
+        : EmbeddedScripting(std::move(libraryPath), desktop, files, Options()) {}
+    EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files, Options options);
+    ~EmbeddedScripting() override;
+
+    /// Runs a text; an error says position and reason.
+    Result<Descriptor> executeAndReturnError(std::string_view source) override;
+
+    /// The same, but nothing for a text without a result.
+    Result<std::optional<Descriptor>> run(std::string_view source);
+
+    /// Writes what is left of the present library and turns to another file, which is indexed when it is
+    /// needed. An error of the write, which changes nothing then.
+    Result<void> openLibrary(std::string path);
+    std::string libraryPath() const;
+
+    /// Indexes the library now, if it is not, and says why it cannot be read.
+    Result<void> readLibrary();
+    /// Why the library could not be read when it was last needed: "line N: …" where a line is to blame.
+    std::optional<Error> libraryError() const;
+
+    Result<int> trackCount();
+    Result<std::vector<PlaylistInfo>> playlists();
+    /// As LibraryDocument::forEachLocation. The callback must not run scripts.
+    Result<void> forEachLocation(const LibraryDocument::LocationCallback& callback);
+
+    /// Writes pending deletions now.
+    Result<void> flush();
+    std::size_t pendingDeletions() const;
+    /// Why the last write failed, whoever asked for it; nothing after one that succeeded.
+    std::optional<Error> lastWriteError() const;
+
+    /// A new deletion begins: what an earlier one left is written, and the next write keeps a backup again.
+    void beginDeletionRun();
+    /// The backup of the present run, "" while nothing was written.
+    std::string backup() const;
+
+  private:
+    Result<LibraryDocument*> currentDocument();
+    Result<void> flushLocked();
+    void noteDeletions(std::size_t before);
+    void writeWhenDue(const std::stop_token& stop);
+
+    mutable std::mutex m_lock; // of everything below, and held while a text runs
+    EmbeddedLibrary m_library;
+    ITunesServices m_iTunes;
+    InterpretedAppleScript m_interpreter;
+    WriteSchedule m_schedule;
+    LibraryDocument::Options m_libraryOptions;
+    Log* m_log;
+    std::condition_variable_any m_scheduleChanged;
+    std::jthread m_writer; // last, so that it ends first
+};
+
+} // namespace songsweep

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "scripting/interpreter/HostObject.h"
+
+namespace songsweep {
+
+class Desktop;
+class Files;
+
+/// The embedded Finder: moves files to the Trash and mutes the sound.
+///
+/// It takes files as aliases. Files have no lock here: `locked` is false, taking it away does nothing, and
+/// setting it is refused. What the Trash refuses stays where it is, and the script fails with the reason.
+class FinderApplication final : public interpreter::HostApplication {
+  public:
+    FinderApplication(Files& files, Desktop& desktop);
+
+    const interpreter::Terminology& terminology() const override { return m_words; }
+    std::string specifier() const override { return "application \"Finder\""; }
+    Result<interpreter::Value> property(interpreter::TermCode property) override;
+    Result<std::optional<interpreter::Value>> perform(const interpreter::Command& command) override;
+    /// A file that exists, for an alias.
+    Result<interpreter::ObjectPointer> objectFor(const interpreter::Value& value) override;
+
+  private:
+    Result<void> moveToTrash(const interpreter::Value& value);
+    Result<void> setVolume(const interpreter::Command& command);
+
+    interpreter::Terminology m_words;
+    Files& m_files;
+    Desktop& m_desktop;
+};
+
+} // namespace songsweep

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/ITunesApplication.h"
+
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/HfsPath.h"
+
+#include <algorithm>
+
+namespace songsweep {
+
+namespace {
+
+using interpreter::Command;
+using interpreter::ObjectPointer;
+using interpreter::TermCode;
+using interpreter::Value;
+
+/// The track behind a value, null where it is none.
+std::shared_ptr<TrackObject> trackOf(const Value& value) {
+    const auto* object = std::get_if<ObjectPointer>(&value);
+    return object ? std::dynamic_pointer_cast<TrackObject>(*object) : nullptr;
+}
+
+/// The path that a text names, in HFS notation or as it stands.
+std::string pathNamed(const std::string& text) {
+    return text.starts_with('/') ? text : posixPath(text).value_or(text);
+}
+
+} // namespace
+
+Result<Value> ITunesApplication::property(TermCode property) {
+    // A library that was refused fails every question to this application.
+    const auto library = m_services.library.document();
+    if (!library) return library.error();
+    switch (static_cast<ITunesProperty>(property)) {
+    case ITunesProperty::name:
+        return Value(std::string("iTunes"));
+    case ITunesProperty::version:
+        return Value(m_services.version);
+    default:
+        return Error{Error::Code::notFound, "the application has no such property"};
+    }
+}
+
+Result<std::size_t> ITunesApplication::playlistCount() const {
+    const auto library = m_services.library.document();
+    if (!library) return library.error();
+    return library.value()->playlistCount();
+}
+
+Result<std::size_t> ITunesApplication::count(TermCode elementClass) {
+    switch (static_cast<ITunesClass>(elementClass)) {
+    case ITunesClass::userPlaylist:
+        return playlistCount();
+    case ITunesClass::playlist: {
+        // A library without any playlist listed is a playlist all the same.
+        const auto number = playlistCount();
+        return number ? Result<std::size_t>(std::max<std::size_t>(number.value(), 1)) : number;
+    }
+    default:
+        return m_tracks->count(elementClass);
+    }
+}
+
+Result<ObjectPointer> ITunesApplication::element(TermCode elementClass, std::size_t index) {
+    const bool playlist = elementClass == static_cast<TermCode>(ITunesClass::playlist) ||
+                          elementClass == static_cast<TermCode>(ITunesClass::userPlaylist);
+    if (!playlist) return m_tracks->element(elementClass, index);
+    const auto number = count(elementClass);
+    if (!number) return number.error();
+    if (index == 0 || index > number.value())
+        return Error{Error::Code::notFound, "there is no such playlist"};
+    return ObjectPointer(std::make_shared<PlaylistObject>(m_services, index - 1));
+}
+
+Result<std::optional<std::vector<ObjectPointer>>>
+ITunesApplication::candidates(TermCode elementClass, const interpreter::PropertyTest& test) {
+    return m_tracks->candidates(elementClass, test);
+}
+
+Result<std::optional<Value>> ITunesApplication::perform(const Command& command) {
+    const auto done = [&]() -> Result<void> {
+        switch (static_cast<ITunesCommand>(command.code)) {
+        case ITunesCommand::play:
+            return play(command);
+        case ITunesCommand::stop:
+            return m_services.desktop.stopPlaying();
+        case ITunesCommand::deleteObject:
+            if (!command.direct) return Error{Error::Code::invalid, "there is nothing to delete"};
+            return deleteTracks(*command.direct);
+        }
+        return Error{Error::Code::notSupported, "the command is not known"};
+    }();
+    if (!done) return done.error();
+    return std::optional<Value>();
+}
+
+Result<void> ITunesApplication::play(const Command& command) {
+    if (!command.direct) return Error{Error::Code::notSupported, "there is nothing to play"};
+    const auto path = fileOf(*command.direct);
+    if (!path) return path.error();
+    if (!m_services.files.exists(path.value()))
+        return Error{Error::Code::notFound, "there is no file " + path.value()};
+    return m_services.desktop.play(m_services.files.localPath(path.value()));
+}
+
+Result<std::string> ITunesApplication::fileOf(const Value& value) {
+    if (const auto* text = std::get_if<std::string>(&value)) return pathNamed(*text);
+    if (const auto* alias = std::get_if<interpreter::Alias>(&value)) return alias->posixPath;
+    if (const auto* items = interpreter::listItems(value); items && items->size() == 1)
+        return fileOf(items->front());
+    if (const auto track = trackOf(value)) {
+        const auto location = track->property(static_cast<TermCode>(ITunesProperty::location));
+        if (!location) return location.error();
+        if (std::holds_alternative<interpreter::Alias>(location.value())) return fileOf(location.value());
+    }
+    return Error{Error::Code::notFound, "there is no file to play"};
+}
+
+Result<void> ITunesApplication::deleteTracks(const Value& value) {
+    const auto library = m_services.library.document();
+    if (!library) return library.error();
+    if (const auto* items = interpreter::listItems(value)) {
+        for (const Value& item : *items)
+            if (auto deleted = deleteTracks(item); !deleted) return deleted;
+        return {};
+    }
+    const auto track = trackOf(value);
+    if (!track) return Error{Error::Code::notSupported, "only tracks can be deleted"};
+    return library.value()->remove(track->track());
+}
+
+} // namespace songsweep

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/ITunesTerms.h"
+
+namespace songsweep {
+
+namespace {
+
+interpreter::PropertyTerm property(const char* name, ITunesProperty code) {
+    return {name, static_cast<interpreter::TermCode>(code)};
+}
+
+interpreter::ClassTerm elements(const char* singular, const char* plural, ITunesClass code) {
+    return {singular, plural, static_cast<interpreter::TermCode>(code)};
+}
+
+interpreter::CommandTerm command(const char* name, ITunesCommand code) {
+    return {name, static_cast<interpreter::TermCode>(code), {}};
+}
+
+} // namespace
+
+interpreter::Terminology iTunesTerminology() {
+    return {{property("name", ITunesProperty::name), property("version", ITunesProperty::version),
+             property("index", ITunesProperty::index), property("smart", ITunesProperty::smart),
+             property("persistent ID", ITunesProperty::persistentId),
+             property("artist", ITunesProperty::artist), property("album", ITunesProperty::album),
+             property("time", ITunesProperty::time), property("bit rate", ITunesProperty::bitRate),
+             property("size", ITunesProperty::size), property("date added", ITunesProperty::dateAdded),
+             property("rating", ITunesProperty::rating),
+             property("played count", ITunesProperty::playedCount),
+             property("location", ITunesProperty::location)},
+            {elements("playlist", "playlists", ITunesClass::playlist),
+             elements("user playlist", "user playlists", ITunesClass::userPlaylist),
+             elements("track", "tracks", ITunesClass::track),
+             elements("file track", "file tracks", ITunesClass::track),
+             elements("artwork", "artworks", ITunesClass::artwork)},
+            {command("play", ITunesCommand::play), command("stop", ITunesCommand::stop),
+             command("delete", ITunesCommand::deleteObject)}};
+}
+
+} // namespace songsweep

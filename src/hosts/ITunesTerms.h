@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "scripting/interpreter/Terminology.h"
+
+namespace songsweep {
+
+/// The properties that the embedded iTunes knows, of the application, its playlists and its tracks.
+enum class ITunesProperty : interpreter::TermCode {
+    name,
+    version,
+    index,
+    smart,
+    persistentId,
+    artist,
+    album,
+    time,
+    bitRate,
+    size,
+    dateAdded,
+    rating,
+    playedCount,
+    location
+};
+
+enum class ITunesClass : interpreter::TermCode { playlist, userPlaylist, track, artwork };
+
+enum class ITunesCommand : interpreter::TermCode { play, stop, deleteObject };
+
+/// The words of the embedded iTunes.
+interpreter::Terminology iTunesTerminology();
+
+} // namespace songsweep

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hosts/ITunesTerms.h"
+#include "hosts/TrackFields.h"
+#include "scripting/interpreter/Value.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace songsweep {
+
+class Files;
+
+/// The value of a track's property as iTunes gives it, made so that a record put together from these equals
+/// the one read from the file: numbers as numbers, but as text where the file writes them in some other way,
+/// "" where it has none; a rating and a played count of 0 and a persistent ID of "0" where it has none. The
+/// location is the missing value where no file is there. Nothing for a property that tracks do not have.
+std::optional<interpreter::Value> trackValue(const TrackFields& fields, ITunesProperty property,
+                                             const Files& files);
+
+/// The number of a track's artworks.
+std::size_t artworkCount(const TrackFields& fields);
+
+/// An instant (seconds since 1970-01-01 00:00:00 UTC) as a LongDateTime: seconds of local time since
+/// 1904-01-01 00:00:00, summer time included.
+std::int64_t longDateTime(std::int64_t secondsSince1970);
+
+} // namespace songsweep
