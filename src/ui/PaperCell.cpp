@@ -9,9 +9,11 @@ namespace songsweep {
 
 namespace {
 
+/// The window counts and not the focus within it, which the state of the option would tell.
 RowState stateOf(const QStyleOptionViewItem& option) {
     if (!option.state.testFlag(QStyle::State_Selected)) return RowState::plain;
-    return option.state.testFlag(QStyle::State_Active) ? RowState::selected : RowState::selectedInactive;
+    const bool inKeyWindow = option.widget != nullptr && option.widget->isActiveWindow();
+    return inKeyWindow ? RowState::selected : RowState::selectedInactive;
 }
 
 QColor backgroundOf(RowState state, bool tinted) {

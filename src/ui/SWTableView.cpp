@@ -129,7 +129,7 @@ void SWTableView::paintEvent(QPaintEvent* event) {
 void SWTableView::drawCurrentRow() {
     const QModelIndex current = currentIndex();
     QStyleOptionViewItem option;
-    option.initFrom(this);
+    option.widget = this;
     option.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(current));
     const int width = std::min(viewport()->width(), m_header->length());
     const QRect row(0, rowViewportPosition(current.row()), width, rowHeight(current.row()));

@@ -89,8 +89,7 @@ void TrackHeaderView::drawTitle(QPainter& painter, const QRect& rect, Column col
     const ColumnLook& look = columnLook(column);
     painter.setPen(sorted ? colors.sortedHeaderText : colors.secondaryText);
     if (column == Column::checkbox) drawBin(painter, rect);
-    const QString title =
-        fontMetrics().elidedText(look.title, Qt::ElideRight, titleRoom(rect, look.alignment));
+    const QString title = fontMetrics().elidedText(look.title, Qt::ElideRight, titleRoom(column));
     const QRect place = titlePlace(rect, fontMetrics().horizontalAdvance(title), look.alignment);
     const int baseline = place.top() + (place.height() - fontMetrics().height()) / 2 + fontMetrics().ascent();
     painter.drawText(place.left(), baseline, title);
@@ -103,11 +102,11 @@ void TrackHeaderView::drawBin(QPainter& painter, const QRect& rect) const {
     paintIcon(painter, Icon::bin, QRect(corner, QSize(side, side)), painter.pen().color());
 }
 
-/// How wide a title may be, so that the triangle stands beside it.
-int TrackHeaderView::titleRoom(const QRect& rect, Qt::Alignment alignment) const {
+int TrackHeaderView::titleRoom(Column column) const {
+    const int width = sectionSize(sectionOf(column));
     const int edge = scaledLength(edgeAir, this);
-    if (alignment.testFlag(Qt::AlignHCenter)) return rect.width() - 2 * edge;
-    return rect.width() - scaledLength(titlePadding + triangle.width() + triangleAir, this) - edge;
+    if (columnLook(column).alignment.testFlag(Qt::AlignHCenter)) return width - 2 * edge;
+    return width - scaledLength(titlePadding + triangle.width() + triangleAir, this) - edge;
 }
 
 QRect TrackHeaderView::titlePlace(const QRect& rect, int width, Qt::Alignment alignment) const {

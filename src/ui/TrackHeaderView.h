@@ -27,6 +27,9 @@ class TrackHeaderView : public QHeaderView {
     /// Takes a size a little smaller than that of the table's font.
     void applyFont(const QFont& ofTable);
 
+    /// How wide a column's title may be, so that the triangle stands beside it; in pixels.
+    int titleRoom(Column column) const;
+
     QSize sizeHint() const override;
 
   protected:
@@ -36,7 +39,6 @@ class TrackHeaderView : public QHeaderView {
   private:
     void drawTitle(QPainter& painter, const QRect& rect, Column column, bool sorted) const;
     void drawBin(QPainter& painter, const QRect& rect) const;
-    int titleRoom(const QRect& rect, Qt::Alignment alignment) const;
     QRect titlePlace(const QRect& rect, int width, Qt::Alignment alignment) const;
     void drawTriangle(QPainter& painter, const QRect& section, const QRect& title,
                       Qt::Alignment alignment) const;
