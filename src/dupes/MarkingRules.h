@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "dupes/MarkChoice.h"
 #include "library/TrackRecord.h"
 
 #include <cstdint>
@@ -39,15 +40,6 @@ inline constexpr std::int32_t leastPlayed = 13;
 inline constexpr std::int32_t kind = 100;
 inline constexpr std::int32_t folder = 200;
 } // namespace markType
-
-/// A rule as a user chooses it. A value.
-struct MarkChoice {
-    std::int32_t markType = markType::none;
-    bool exceptOne = false;
-    std::string text; ///< the kind ("MP3") or the folder, for the two rules that need one
-
-    bool operator==(const MarkChoice&) const = default;
-};
 
 using TrackRows = std::vector<TrackRecord*>;
 

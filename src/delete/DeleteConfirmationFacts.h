@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace songsweep {
+
+/// What the delete confirmation tells before anything happens. Counts are of the marked tracks; the file
+/// counts assume that files are to be trashed and that files shared with a track that stays are left.
+struct DeleteConfirmationFacts {
+    int tracks = 0;
+    int filesToTrash = 0;
+    std::int64_t bytesToTrash = 0;
+    int sharedFiles = 0;          ///< files that a track that stays uses too
+    std::int64_t sharedBytes = 0; ///< their sizes, for the case that they are not left
+    int missingFiles = 0;
+    int groupsLosingEveryCopy = 0;
+    bool embeddedLibrary = false; ///< the library is a file that this program itself writes
+
+    bool operator==(const DeleteConfirmationFacts&) const = default;
+};
+
+} // namespace songsweep

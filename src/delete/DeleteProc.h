@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delete/DeletePlan.h"
+#include "delete/DeleteReport.h"
+#include "library/DisplayedList.h"
+#include "operations/Operation.h"
+#include "platform/Result.h"
+
+#include <cstddef>
+#include <exception>
+#include <memory>
+#include <string>
+#include <unordered_set>
+
+namespace songsweep {
+
+class AppleScript;
+class Files;
+class Log;
+class NotificationCenter;
+
+/// What a deletion works with; all of it outlives the worker.
+struct DeleteServices {
+    NotificationCenter& center;
+    AppleScript& scripts;
+    Files& files;
+    Log& log;
+};
+
+/// Deletes the marked tracks: each from iTunes by its persistent ID, its file to the Trash if asked, its
+/// record from the displayed list itself.
+///
+/// The rows that stay are moved together as the loop goes, so that a deletion of many tracks is linear; the
+/// list is whole again whenever the loop is left. The sound is off meanwhile. What became of each track
+/// stands in the report, and in the log after the final event.
+class DeleteProc final : public Operation {
+  public:
+    /// `list` is the controller's own and outlives the worker. Files of tracks that the plan calls shared are
+    /// left. The report is filled before the final event.
+    DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices services, DeletePlan plan = {},
+               std::shared_ptr<DeleteReport> report = std::make_shared<DeleteReport>());
+
+    void main() override;
+
+  private:
+    class Gap;
+
+    bool deleteRows();
+    void unmute(std::exception_ptr& failure);
+    void deleteMarked(TrackRecord& record);
+    void deleteTrack(const TrackRecord& record, DeleteOutcome& outcome);
+    void deleteFile(const TrackRecord& record, DeleteOutcome& outcome);
+    void trash(const TrackRecord& record, DeleteOutcome& outcome);
+    Result<void> run(const std::string& text);
+    void noteNotAttempted();
+    void postEnd();
+
+    DisplayedList& m_list;
+    bool m_isDelFile;
+    DeleteServices m_services;
+    DeletePlan m_plan;
+    std::shared_ptr<DeleteReport> m_report;
+    std::unordered_set<std::string> m_trashed; ///< canonical paths
+};
+
+} // namespace songsweep

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeleteReport.h"
+
+#include <algorithm>
+
+namespace songsweep {
+
+namespace {
+
+std::string trackText(DeleteOutcome::Track track) {
+    switch (track) {
+    case DeleteOutcome::Track::deleted:
+        return "deleted";
+    case DeleteOutcome::Track::failed:
+        return "failed";
+    case DeleteOutcome::Track::notAttempted:
+        return "not attempted";
+    }
+    return {};
+}
+
+std::string fileText(DeleteOutcome::File file) {
+    switch (file) {
+    case DeleteOutcome::File::notAsked:
+        return "";
+    case DeleteOutcome::File::trashed:
+        return ", file trashed";
+    case DeleteOutcome::File::missing:
+        return ", file missing";
+    case DeleteOutcome::File::kept:
+        return ", file kept";
+    }
+    return {};
+}
+
+} // namespace
+
+bool DeleteReport::allDealtWith() const {
+    return std::all_of(outcomes.begin(), outcomes.end(),
+                       [](const DeleteOutcome& outcome) { return outcome.dealtWith; });
+}
+
+std::string outcomeText(const DeleteOutcome& outcome) {
+    std::string text = trackText(outcome.track) + fileText(outcome.file);
+    if (!outcome.reason.empty()) text += ": " + outcome.reason;
+    return text;
+}
+
+std::string outcomeLine(const DeleteOutcome& outcome) {
+    std::string line = "Track " + outcome.name + " by " + outcome.artist + " (" + outcome.pid + ") ";
+    line += outcomeText(outcome);
+    if (!outcome.location.empty()) line += ", " + outcome.location;
+    return line;
+}
+
+} // namespace songsweep

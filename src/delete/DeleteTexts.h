@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace songsweep {
+
+/// The AppleScript texts of a deletion.
+namespace deleteTexts {
+
+inline constexpr const char* mute = "tell application \"Finder\" \nset volume with output muted \nend tell";
+inline constexpr const char* unmute =
+    "tell application \"Finder\" \nset volume without output muted \nend tell";
+
+std::string deleteTrack(std::string_view pid);
+std::string deleteFile(std::string_view hfsPath);
+
+} // namespace deleteTexts
+
+/// The HFS path by which a file can be named in a text, or nothing.
+///
+/// A text is sent only where its literal reads back as that very path: a quote would end the literal, and a
+/// backslash begins an escape, which could name another file.
+std::optional<std::string> nameableHfsPath(std::string_view posixPath);
+
+/// Whether nameableHfsPath has an answer.
+bool canNameFile(std::string_view posixPath);
+
+} // namespace songsweep
