@@ -6,7 +6,7 @@
 #include "app/Progress.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
-#include "dupes/MarkingRules.h"
+#include "dupes/MarkChoice.h"
 #include "library/DisplayedList.h"
 #include "library/SWXMLParser.h"
 #include "library/SearchParameters.h"
@@ -118,8 +118,9 @@ class AppController {
     const DisplayedList& tableDataSource() const { return m_tableDataSource; }
     const SearchParameters& params() const { return m_params; }
     const Progress& progress() const { return m_progress; }
+    /// What became of the tracks of the last deletion; null before the first. Complete once it has ended.
     const DeleteReport* lastDeleteReport() const { return m_deleteReport.get(); }
-    /// The rule that marked last, for the reasons of its marks; nothing after marks set by hand.
+    /// The rule that marked last, for the reasons of its marks; nothing before a rule marked these results.
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_lastMark; }
     bool isSearching() const { return m_searching; }
     bool isDeleting() const { return m_deletion != Deletion::none; }
@@ -130,8 +131,8 @@ class AppController {
     int listedCount() const { return m_listedCount; }
     /// Tracks that iTunes reports for the library.
     std::int32_t totalCount() const { return m_libraryCount; }
-    /// Called after every handled worker event and each time the last worker has returned.
-    void setActivityHandler(std::function<void()> handler);
+    /// Called from the event loop each time the last worker has returned.
+    void setIdleHandler(std::function<void()> handler);
 
   private:
     enum class Deletion { none, confirming, starting, running };
@@ -169,7 +170,7 @@ class AppController {
     void showSearching();
     bool mayChangeMarks() const { return m_deletion == Deletion::none; }
     void setAllMarks(bool value);
-    void reportActivity();
+    void reportIdle();
     ReaderServices readerServices();
 
     ControllerServices m_services;
@@ -204,11 +205,12 @@ class AppController {
 
     Deletion m_deletion = Deletion::none;
     bool m_deleteFiles = false;
+    bool m_leaveSharedFiles = true;
     DeletePlan m_deletePlan;
     std::shared_ptr<DeleteReport> m_deleteReport;
 
     std::uint64_t m_searchSerial = 0; ///< of the present search's first worker
-    std::function<void()> m_activityHandler;
+    std::function<void()> m_idleHandler;
     OperationQueue m_queue; ///< last, so that its workers end before what they use
 };
 
