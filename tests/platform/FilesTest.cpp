@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Files.h"
+
+#include "platform/NameForms.h"
+#include "support/TemporaryFolder.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace songsweep {
+namespace {
+
+using test::TemporaryFolder;
+
+const std::string composed = "Beyonc\u00e9";
+const std::string decomposed = "Beyonce\u0301";
+
+TEST(Files, knowsWhetherAnythingExistsAtAPath) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("a.mp3", "x");
+    const Files files;
+    EXPECT_TRUE(files.exists(file));
+    EXPECT_TRUE(files.exists(folder.path()));
+    EXPECT_FALSE(files.exists(folder.path() + "/b.mp3"));
+    EXPECT_FALSE(files.exists(file + "/b.mp3"));
+    EXPECT_FALSE(files.exists(""));
+}
+
+TEST(Files, followsSymbolicLinks) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("a.mp3", "four");
+    std::filesystem::create_symlink(file, folder.path() + "/link");
+    std::filesystem::create_symlink(folder.path() + "/nothing", folder.path() + "/dangling");
+    const Files files;
+    EXPECT_EQ(files.attributes(folder.path() + "/link"), files.attributes(file));
+    EXPECT_FALSE(files.exists(folder.path() + "/dangling"));
+}
+
+TEST(Files, tellsTheAttributesOfAFile) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("a.mp3", "four");
+    ASSERT_EQ(::link(file.c_str(), (folder.path() + "/b.mp3").c_str()), 0);
+    const timespec times[2] = {{1, 2}, {1'700'000'000, 123'456'789}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+    struct stat expected {};
+    ASSERT_EQ(::stat(file.c_str(), &expected), 0);
+
+    const std::optional<FileAttributes> attributes = Files().attributes(file);
+
+    ASSERT_TRUE(attributes);
+    EXPECT_EQ(attributes->modificationNanoseconds, 1'700'000'000'123'456'789);
+    EXPECT_EQ(attributes->size, 4U);
+    EXPECT_EQ(attributes->inode, expected.st_ino);
+    EXPECT_EQ(attributes->device, expected.st_dev);
+    EXPECT_EQ(attributes->linkCount, 2U);
+}
+
+TEST(Files, hasNoAttributesOfWhatDoesNotExist) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(Files().attributes(folder.path() + "/b.mp3"), std::nullopt);
+}
+
+TEST(Files, looksWhereThePathMapPoints) {
+    const TemporaryFolder folder;
+    folder.write("Abba/SOS.mp3", "x");
+    PathMap map;
+    map.add("/C:/Music", folder.path());
+    const Files files(map);
+    EXPECT_TRUE(files.exists("/C:/Music/Abba/SOS.mp3"));
+    EXPECT_TRUE(files.attributes("/C:/Music/Abba/SOS.mp3"));
+    EXPECT_EQ(files.localPath("/C:/Music/Abba/SOS.mp3"), folder.path() + "/Abba/SOS.mp3");
+    EXPECT_FALSE(files.exists("/C:/Musical/Abba/SOS.mp3"));
+}
+
+TEST(Files, namesTheMappedPathOfWhatDoesNotExist) {
+    PathMap map;
+    map.add("/C:/Music", "/no such folder");
+    EXPECT_EQ(Files(map).localPath("/C:/Music/" + composed), "/no such folder/" + composed);
+}
+
+TEST(Files, findsAComposedNameOnDiskByItsDecomposedForm) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write(composed + ".mp3", "x");
+    const std::string asked = folder.path() + "/" + decomposed + ".mp3";
+    EXPECT_TRUE(Files().exists(asked));
+    EXPECT_TRUE(Files().attributes(asked));
+    EXPECT_EQ(Files().localPath(asked), file);
+}
+
+TEST(Files, findsADecomposedNameOnDiskByItsComposedForm) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write(decomposed + ".mp3", "x");
+    EXPECT_EQ(Files().localPath(folder.path() + "/" + composed + ".mp3"), file);
+}
+
+TEST(Files, findsAFolderAndAFileInDifferentForms) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write(composed + "/plain/" + decomposed, "x");
+    for (const std::string& first : {composed, decomposed})
+        for (const std::string& second : {composed, decomposed})
+            EXPECT_EQ(Files().localPath(folder.path() + "/" + first + "/plain/" + second), file);
+}
+
+TEST(Files, prefersTheNameAsWritten) {
+    const TemporaryFolder folder;
+    const std::string one = folder.write(composed, "x");
+    const std::string other = folder.write(decomposed, "yy");
+    EXPECT_EQ(Files().localPath(one), one);
+    EXPECT_EQ(Files().localPath(other), other);
+    EXPECT_EQ(Files().attributes(other)->size, 2U);
+}
+
+TEST(Files, takesAccentsForDistinct) {
+    const TemporaryFolder folder;
+    folder.write("Beyonce", "x");
+    EXPECT_FALSE(Files().exists(folder.path() + "/" + composed));
+}
+
+TEST(Files, findsANameThatIsNoValidText) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("caf\xe9", "x");
+    EXPECT_TRUE(Files().exists(file));
+    EXPECT_FALSE(Files().exists(folder.path() + "/caf\xe8"));
+}
+
+TEST(NameForms, findNothingBelowAFolderThatIsMissing) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(existingInOtherForm(folder.path() + "/" + composed + "/a.mp3"), std::nullopt);
+    EXPECT_EQ(existingInOtherForm(""), std::nullopt);
+}
+
+TEST(NameForms, knowAsciiTexts) {
+    EXPECT_TRUE(isAscii(""));
+    EXPECT_TRUE(isAscii("a/b \x7f"));
+    EXPECT_FALSE(isAscii(composed));
+}
+
+} // namespace
+} // namespace songsweep

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "platform/PathMap.h"
+
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+PathMap mapOf(std::initializer_list<std::pair<const char*, const char*>> rules) {
+    PathMap map;
+    for (const auto& [from, to] : rules)
+        map.add(from, to);
+    return map;
+}
+
+TEST(PathMap, leavesAPathThatNoRuleCovers) {
+    EXPECT_EQ(PathMap().map("/Users/ann/a.mp3"), "/Users/ann/a.mp3");
+    EXPECT_EQ(mapOf({{"/Volumes", "/media"}}).map("/Users/ann/a.mp3"), "/Users/ann/a.mp3");
+}
+
+TEST(PathMap, replacesTheBeginning) {
+    const PathMap map = mapOf({{"/C:/Music", "/media/music"}});
+    EXPECT_EQ(map.map("/C:/Music/Abba/SOS.mp3"), "/media/music/Abba/SOS.mp3");
+    EXPECT_EQ(map.map("/C:/Music"), "/media/music");
+}
+
+TEST(PathMap, appliesAtAComponentsEndOnly) {
+    const PathMap map = mapOf({{"/C:/Music", "/media/music"}});
+    EXPECT_EQ(map.map("/C:/Music2/a.mp3"), "/C:/Music2/a.mp3");
+    EXPECT_EQ(map.map("/C:/Musi"), "/C:/Musi");
+}
+
+TEST(PathMap, prefersTheLongestRuleWhateverTheirOrder) {
+    const PathMap shortFirst = mapOf({{"/a", "/1"}, {"/a/b", "/2"}});
+    const PathMap longFirst = mapOf({{"/a/b", "/2"}, {"/a", "/1"}});
+    for (const PathMap* map : {&shortFirst, &longFirst}) {
+        EXPECT_EQ(map->map("/a/b/c"), "/2/c");
+        EXPECT_EQ(map->map("/a/bc"), "/1/bc");
+    }
+}
+
+TEST(PathMap, prefersTheLaterOfTwoRulesForOneBeginning) {
+    EXPECT_EQ(mapOf({{"/a", "/1"}, {"/a/", "/2"}}).map("/a/b"), "/2/b");
+}
+
+TEST(PathMap, dropsATrailingSlashOfEitherSide) { EXPECT_EQ(mapOf({{"/a/", "/b/"}}).map("/a/c"), "/b/c"); }
+
+TEST(PathMap, mapsTheRoot) {
+    EXPECT_EQ(mapOf({{"/", "/mnt/mac"}}).map("/Users/ann"), "/mnt/mac/Users/ann");
+    EXPECT_EQ(mapOf({{"/mnt/mac", "/"}}).map("/mnt/mac/Users/ann"), "/Users/ann");
+    EXPECT_EQ(mapOf({{"/mnt/mac", "/"}}).map("/mnt/mac"), "/");
+}
+
+TEST(PathMap, doesNotMapWhatItHasMapped) {
+    EXPECT_EQ(mapOf({{"/a", "/b"}, {"/b", "/c"}}).map("/a/x"), "/b/x");
+}
+
+} // namespace
+} // namespace songsweep
