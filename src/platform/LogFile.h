@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Log.h"
+#include "platform/Result.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace songsweep {
+
+/// The user's Documents folder; nothing where there is none.
+std::optional<std::string> documentsFolder();
+
+/// Sends standard error to "songsweep-log.txt" in the folder, emptied, for the rest of the process.
+///
+/// True on success. The log is told the file's path while its lines still go to the console, and why it
+/// failed. What counts as success is what duplicating the descriptor answers: anything but 0, which it never
+/// answers for descriptor 2, so that a failed duplication counts too. `descriptor` is for tests. Main thread,
+/// once, before any worker runs.
+bool redirectStandardError(const std::optional<std::string>& folder, Log& log, int descriptor = 2);
+
+/// A log that empties the file, or makes it, and writes its lines there.
+Result<std::unique_ptr<Log>> openLogFile(const std::string& path);
+
+} // namespace songsweep
