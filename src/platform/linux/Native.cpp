@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Native.h"
+
+#include "platform/linux/LinuxDesktop.h"
+#include "platform/linux/LinuxPreferences.h"
+
+namespace songsweep {
+
+std::unique_ptr<Desktop> nativeDesktop() { return std::make_unique<LinuxDesktop>(); }
+
+std::unique_ptr<Preferences> nativePreferences() {
+    return std::make_unique<LinuxPreferences>(LinuxPreferences::userFolders());
+}
+
+} // namespace songsweep
