@@ -101,4 +101,23 @@ std::string manyTracks(int count) {
                        {"Third", "", third}});
 }
 
+std::string withoutTracks(const std::string& text, const std::set<int>& ids) {
+    std::string rest;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t lineEnd = text.find('\n', at) + 1;
+        const std::string line = text.substr(at, lineEnd - at);
+        std::size_t end = lineEnd;
+        if (line.starts_with("\t\t<key>") && ids.contains(std::stoi(line.substr(7))))
+            end = text.find("\n\t\t</dict>\n", at) + 11;
+        const std::string item = "\t\t\t\t<dict>\n\t\t\t\t\t<key>Track ID</key><integer>";
+        if (text.compare(at, item.size(), item) == 0 &&
+            ids.contains(std::stoi(text.substr(at + item.size(), 9))))
+            end = text.find("\n\t\t\t\t</dict>\n", at) + 13;
+        else if (end == lineEnd)
+            rest += line;
+        at = end;
+    }
+    return rest;
+}
+
 } // namespace songsweep::test

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,5 +50,9 @@ std::string persistentIdOf(int n);
 /// A library of `count` tracks with all usual values, in a master playlist, a smart one and one with every
 /// third track.
 std::string manyTracks(int count);
+
+/// The text of a library of the above forms without the tracks of these IDs and their items, found line by
+/// line and not as the program does it.
+std::string withoutTracks(const std::string& text, const std::set<int>& ids);
 
 } // namespace songsweep::test

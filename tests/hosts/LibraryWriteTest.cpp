@@ -21,6 +21,7 @@ using test::contentOf;
 using test::Folder;
 using test::libraryXml;
 using test::persistentIdOf;
+using test::withoutTracks;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -48,26 +49,6 @@ class LibraryWriteTest : public testing::Test {
     Folder m_folder;
     std::unique_ptr<LibraryDocument> m_library;
 };
-
-/// A library of some tracks in the fixture's form, put together here without the tracks left out.
-std::string withoutTracks(const std::string& text, const std::set<int>& ids) {
-    std::string rest;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t lineEnd = text.find('\n', at) + 1;
-        const std::string line = text.substr(at, lineEnd - at);
-        std::size_t end = lineEnd;
-        if (line.starts_with("\t\t<key>") && ids.contains(std::stoi(line.substr(7))))
-            end = text.find("\n\t\t</dict>\n", at) + 11;
-        const std::string item = "\t\t\t\t<dict>\n\t\t\t\t\t<key>Track ID</key><integer>";
-        if (text.compare(at, item.size(), item) == 0 &&
-            ids.contains(std::stoi(text.substr(at + item.size(), 9))))
-            end = text.find("\n\t\t\t\t</dict>\n", at) + 13;
-        else if (end == lineEnd)
-            rest += line;
-        at = end;
-    }
-    return rest;
-}
 
 TEST_F(LibraryWriteTest, TakesOutATrackAndItsItemsAndLeavesNoBlankLine) {
     openText(libraryXml(
