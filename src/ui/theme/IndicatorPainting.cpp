@@ -92,8 +92,8 @@ void focusRing(const Canvas& canvas, const QRectF& control, qreal radius) {
 }
 
 void chevron(const Canvas& canvas, const QPointF& center, const QColor& color) {
-    constexpr qreal halfWidth = 3.5;
-    constexpr qreal halfHeight = 1.75;
+    constexpr qreal halfWidth = 3;
+    constexpr qreal halfHeight = 1.5;
     constexpr qreal stroke = 1.6;
     const qreal x = halfWidth * canvas.scale;
     const qreal y = halfHeight * canvas.scale;

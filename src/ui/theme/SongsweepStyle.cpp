@@ -63,6 +63,7 @@ int SongsweepStyle::styleHint(StyleHint hint, const QStyleOption* option, const 
         return buttonLayout(QProxyStyle::styleHint(hint, option, widget, returnData));
     case SH_FocusFrame_AboveWidget:
         return 1;
+    case SH_FocusFrame_Mask: // the ring is drawn, not cut out
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ComboBox_Popup:
     case SH_ToolBar_Movable:

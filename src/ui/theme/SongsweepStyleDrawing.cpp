@@ -83,6 +83,12 @@ bool SongsweepStyle::drawButton(ControlElement element, const QStyleOption* opti
             QProxyStyle::drawControl(element, &label, painter, widget);
             return true;
         }
+        if (element == CE_CheckBoxLabel && widget != nullptr) {
+            QStyleOptionButton label = *button;
+            label.palette.setColor(QPalette::WindowText, label.palette.color(widget->foregroundRole()));
+            QProxyStyle::drawControl(element, &label, painter, widget);
+            return true;
+        }
     }
     if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option);
         button != nullptr && element == CE_ToolButtonLabel) {
@@ -148,13 +154,13 @@ void SongsweepStyle::drawFocusFrame(const QStyleOption* option, QPainter* painte
     constexpr qreal controlRadius = 6;
     constexpr qreal boxRadius = 4;
     const painting::Canvas canvas = canvasOf(painter, option, frame);
-    const int reach = proxy()->pixelMetric(PM_FocusFrameHMargin, option, frame);
-    QRect control = option->rect.adjusted(reach, reach, -reach, -reach);
-    qreal radius = controlRadius * canvas.scale;
     const QWidget* widget = static_cast<const QFocusFrame*>(frame)->widget();
+    if (widget == nullptr) return;
+    QRect control(frame->mapFromGlobal(widget->mapToGlobal(QPoint())), widget->size());
+    qreal radius = controlRadius * canvas.scale;
     QStyleOptionButton indicator;
     indicator.rect = control;
-    if (widget != nullptr) indicator.direction = widget->layoutDirection();
+    indicator.direction = widget->layoutDirection();
     if (qobject_cast<const QCheckBox*>(widget) != nullptr) {
         control = proxy()->subElementRect(SE_CheckBoxIndicator, &indicator, widget);
         radius = boxRadius * canvas.scale;

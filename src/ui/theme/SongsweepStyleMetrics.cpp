@@ -2,7 +2,6 @@
 #include "ui/theme/Metrics.h"
 #include "ui/theme/SongsweepStyle.h"
 
-#include <QFocusFrame>
 #include <QStyleOption>
 #include <QWidget>
 
@@ -27,7 +26,6 @@ std::optional<int> controlMetric(QStyle::PixelMetric metric) {
         return 20;
     case QStyle::PM_LayoutHorizontalSpacing:
     case QStyle::PM_LayoutVerticalSpacing:
-    case QStyle::PM_CheckBoxLabelSpacing:
     case QStyle::PM_RadioButtonLabelSpacing:
         return 8;
     case QStyle::PM_IndicatorWidth:
@@ -80,6 +78,11 @@ std::optional<int> unscaledMetric(QStyle::PixelMetric metric) {
     default:
         return std::nullopt;
     }
+}
+
+/// A button in the line of a field, and as high as it.
+bool isInline(const QWidget* widget) {
+    return widget != nullptr && widget->property("role").toString() == QLatin1String("inline");
 }
 
 QSize toolButtonSize(const QStyleOptionToolButton& button, const QSize& text, const QWidget* widget) {
@@ -140,10 +143,12 @@ QRect scrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part, int 
 
 int SongsweepStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     if (metric == PM_FocusFrameHMargin || metric == PM_FocusFrameVMargin) {
-        const bool ring = qobject_cast<const QFocusFrame*>(widget) != nullptr;
-        return ring ? scaledLength(FocusRing::reach, widget)
-                    : QProxyStyle::pixelMetric(metric, option, widget);
+        // QFocusFrame asks without a widget; everyone else, such as item views, names itself.
+        return widget == nullptr ? scaledLength(FocusRing::reach, widget)
+                                 : QProxyStyle::pixelMetric(metric, option, widget);
     }
+    if (metric == PM_CheckBoxLabelSpacing) // counted from the last pixel of the box
+        return proxy()->pixelMetric(PM_RadioButtonLabelSpacing, option, widget) + 1;
     if (const auto fixed = unscaledMetric(metric)) return *fixed;
     if (const auto length = controlMetric(metric)) return scaledLength(*length, widget);
     if (const auto length = barMetric(metric)) return scaledLength(*length, widget);
@@ -155,7 +160,13 @@ QSize SongsweepStyle::sizeFromContents(ContentsType type, const QStyleOption* op
     const auto grown = [&](int length) { return scaledLength(length, widget); };
     switch (type) {
     case CT_PushButton:
-        return {std::max(grown(88), contents.width() + grown(32)), std::max(grown(30), contents.height())};
+        if (isInline(widget))
+            return {contents.width() + grown(26), std::max(grown(28), contents.height() + 2)};
+        return {std::max(grown(88), contents.width() + grown(32)),
+                std::max(grown(30), contents.height() + 2)};
+    case CT_CheckBox:
+    case CT_RadioButton:
+        return {grown(16 + 8) + contents.width(), std::max(grown(16), contents.height())};
     case CT_ComboBox:
         return {contents.width() + grown(fieldPadding) + grown(arrowWidth),
                 std::max(grown(28), contents.height() + 2)};

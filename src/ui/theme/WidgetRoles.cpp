@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ui/theme/WidgetRoles.h"
 
+#include "ui/theme/Icons.h"
 #include "ui/theme/Metrics.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QEvent>
 #include <QLabel>
 #include <QVariant>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace songsweep {
 
@@ -63,12 +66,43 @@ int grown(const QWidget& widget, const char* property) {
 void applyLengths(QWidget& widget) {
     if (widget.property("baseWidth").isValid()) widget.setMinimumWidth(grown(widget, "baseWidth"));
     if (widget.property("baseHeight").isValid()) widget.setMinimumHeight(grown(widget, "baseHeight"));
-    if (widget.property("baseFixedWidth").isValid()) widget.setFixedWidth(grown(widget, "baseFixedWidth"));
+    if (widget.property("baseFixedHeight").isValid()) widget.setFixedHeight(grown(widget, "baseFixedHeight"));
+}
+
+std::optional<Icon> iconNamed(const QString& name) {
+    if (name == QLatin1String("application")) return Icon::application;
+    if (name == QLatin1String("bin")) return Icon::binLarge;
+    if (name == QLatin1String("warning")) return Icon::warning;
+    return std::nullopt;
+}
+
+void applyIcon(QLabel& label) {
+    const std::optional<Icon> icon = iconNamed(label.property("icon").toString());
+    if (!icon) return;
+    const int size = grown(label, "baseIconSize");
+    label.setPixmap(themedIcon(*icon).pixmap(QSize(size, size), label.devicePixelRatioF()));
+}
+
+void applyLabel(QLabel& label) {
+    applyRole(label);
+    applyIcon(label);
+    if (label.property("baseIndent").isValid()) label.setIndent(grown(label, "baseIndent"));
+}
+
+void applyRole(QCheckBox& box) {
+    if (box.property("role").toString() == QLatin1String("secondary"))
+        box.setForegroundRole(QPalette::PlaceholderText);
 }
 
 void apply(QWidget& widget) {
-    if (auto* label = qobject_cast<QLabel*>(&widget)) applyRole(*label);
+    if (auto* label = qobject_cast<QLabel*>(&widget)) applyLabel(*label);
+    if (auto* box = qobject_cast<QCheckBox*>(&widget)) applyRole(*box);
     applyLengths(widget);
+}
+
+bool mattersToRoles(QEvent::Type type) {
+    return type == QEvent::FontChange || type == QEvent::ApplicationFontChange ||
+           type == QEvent::PaletteChange;
 }
 
 } // namespace
@@ -79,7 +113,7 @@ void WidgetRoles::polish(QWidget* widget) {
 }
 
 bool WidgetRoles::eventFilter(QObject* object, QEvent* event) {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange) {
+    if (mattersToRoles(event->type())) {
         for (QWidget* widget : object->findChildren<QWidget*>())
             apply(*widget);
     }

@@ -12,11 +12,15 @@ namespace songsweep {
 ///
 /// - "role" of a label: "heading" (1.15, bold), "title" (1.4), "secondary" (quieter), "helper" (quieter and
 ///   0.92), "small" (0.92), "warning" (warning colour), "smallWarning" (warning colour, 0.92).
-/// - "role" of a push button: "destructive" (text in the destructive colour).
+/// - "role" of a push button: "destructive" (text in the destructive colour), "inline" (beside a field and as
+///   high as it).
 /// - "baseWidth", "baseHeight" of any widget: least lengths in pixels of a 13 px font.
-/// - "baseFixedWidth" of any widget: such a length, neither less nor more.
+/// - "baseFixedHeight" of any widget: a height, neither less nor more.
+/// - "baseIndent" of a label: how far its text stands from its left edge.
+/// - "icon" of a label: "application", "bin" or "warning", drawn "baseIconSize" large in the theme's colours.
 ///
-/// They are applied when the widget is first shown and again when its window's font changes. Main thread.
+/// They are applied when the widget is first shown and again when its window's font or palette changes. Main
+/// thread.
 class WidgetRoles : public QObject {
     Q_OBJECT
 

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "app/AlertBox.h"
+
+#include "ui/theme/Metrics.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+
+#include <algorithm>
+
+namespace songsweep {
+
+namespace {
+
+constexpr int textRow = 0;
+
+/// Takes the indent away that the box puts between its icon and its text.
+void removeIndent(QGridLayout& grid, bool hasIcon) {
+    QLayoutItem* item = grid.itemAtPosition(textRow, hasIcon ? 1 : 0);
+    if (item != nullptr && item->spacerItem() != nullptr)
+        item->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+} // namespace
+
+AlertBox::AlertBox(Icon icon, const QString& text, QWidget* parent)
+    : QMessageBox(icon, QStringLiteral("Songsweep"), text, NoButton, parent, Qt::Sheet) {
+    setTextFormat(Qt::PlainText);
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (auto* grid = qobject_cast<QGridLayout*>(layout())) removeIndent(*grid, icon != NoIcon);
+}
+
+bool AlertBox::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) return QDialog::event(event); // or it would set its own width
+    const bool handled = QMessageBox::event(event);
+    if (event->type() == QEvent::FontChange && isVisible()) fit();
+    return handled;
+}
+
+void AlertBox::showEvent(QShowEvent* event) {
+    QMessageBox::showEvent(event);
+    fit();
+}
+
+void AlertBox::fit() {
+    constexpr int leastWidth = 280;
+    constexpr int dialogWidth = 440;
+    setWrapped(false);
+    layout()->activate();
+    const int natural = std::max(layout()->totalMinimumSize().width(), scaledLength(leastWidth, this));
+    const int widest = scaledLength(dialogWidth, this);
+    setWrapped(natural > widest);
+    layout()->activate();
+    const int width = std::min(natural, std::max(widest, layout()->totalMinimumSize().width()));
+    setFixedSize(width, layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                      : layout()->totalMinimumSize().height());
+}
+
+void AlertBox::setWrapped(bool wrapped) {
+    for (QLabel* label : findChildren<QLabel*>()) {
+        if (label->pixmap().isNull()) label->setWordWrap(wrapped);
+    }
+}
+
+} // namespace songsweep

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "app/Alerts.h"
+
+#include "app/AlertBox.h"
+
+#include <QPushButton>
+
+namespace songsweep::alerts {
+
+namespace {
+
+QPushButton* addOkButton(QMessageBox& box) {
+    QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box.setDefaultButton(ok);
+    box.setEscapeButton(ok);
+    return ok;
+}
+
+} // namespace
+
+QMessageBox* openNoDuplicates(QWidget* parent) {
+    auto* box = new AlertBox(QMessageBox::NoIcon, QStringLiteral("No duplicates found."), parent);
+    addOkButton(*box);
+    box->open();
+    return box;
+}
+
+QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QString& reason,
+                            std::function<void(int)> ended) {
+    auto* box = new AlertBox(QMessageBox::Warning, message, parent);
+    box->setInformativeText(reason);
+    addOkButton(*box);
+    QPushButton* help = box->addButton(QStringLiteral("&Help"), QMessageBox::ActionRole);
+    help->setAutoDefault(false);
+    QObject::connect(box, &QMessageBox::finished, box, [box, help, ended = std::move(ended)] {
+        ended(box->clickedButton() == help ? secondButton : firstButton);
+    });
+    box->open();
+    return box;
+}
+
+} // namespace songsweep::alerts

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class QMessageBox;
+class QWidget;
+
+/// The alerts, opened as sheets over `parent` and gone when answered; nothing waits for them. Main thread.
+namespace songsweep::alerts {
+
+/// What the buttons of an alert are called in its end handler: the first, the second.
+enum ReturnCode { firstButton = 1000, secondButton = 1001 };
+
+/// "No duplicates found."
+QMessageBox* openNoDuplicates(QWidget* parent);
+
+/// That iTunes does not answer, with "OK" and "Help". `reason` is a second paragraph, or empty; `ended` is
+/// told the return code, `firstButton` also for Escape.
+QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QString& reason,
+                            std::function<void(int)> ended);
+
+} // namespace songsweep::alerts

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "app/ParametersDialog.h"
+
+#include "ui_ParametersDialog.h"
+
+#include <QAccessible>
+#include <QPushButton>
+
+namespace songsweep {
+
+ParametersDialog::ParametersDialog(QWidget* parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ParametersDialog>()) {
+    m_ui->setupUi(this);
+    setUpButtons();
+    QSizePolicy keepsItsRoom = m_ui->paramWarningLabel->sizePolicy();
+    keepsItsRoom.setRetainSizeWhenHidden(true);
+    m_ui->paramWarningLabel->setSizePolicy(keepsItsRoom);
+    for (QCheckBox* field :
+         {m_ui->paramSameNameCK, m_ui->paramSameArtistCK, m_ui->paramSameAlbumCK, m_ui->paramSameTimeCK})
+        connect(field, &QCheckBox::toggled, this, &ParametersDialog::updateWarning);
+    updateWarning();
+}
+
+ParametersDialog::~ParametersDialog() = default;
+
+SearchParameters ParametersDialog::parameters() const {
+    SearchParameters parameters;
+    parameters.issamename = m_ui->paramSameNameCK->isChecked();
+    parameters.issameartist = m_ui->paramSameArtistCK->isChecked();
+    parameters.issamealbum = m_ui->paramSameAlbumCK->isChecked();
+    parameters.issametime = m_ui->paramSameTimeCK->isChecked();
+    parameters.isignoredead = m_ui->paramIgnoreDeadCK->isChecked();
+    if (m_ui->paramLocationCB->currentIndex() >= 0)
+        parameters.playlist = m_ui->paramLocationCB->currentText().toStdString();
+    return parameters;
+}
+
+void ParametersDialog::clearPlaylists() { m_ui->paramLocationCB->clear(); }
+
+void ParametersDialog::addPlaylist(const std::string& name) {
+    const int selected = m_ui->paramLocationCB->currentIndex();
+    m_ui->paramLocationCB->addItem(QString::fromStdString(name));
+    m_ui->paramLocationCB->setCurrentIndex(selected); // a first item selects itself
+}
+
+void ParametersDialog::selectPlaylist(int index) { m_ui->paramLocationCB->setCurrentIndex(index); }
+
+void ParametersDialog::showEvent(QShowEvent* event) {
+    m_ui->paramSameNameCK->setFocus();
+    QDialog::showEvent(event);
+}
+
+void ParametersDialog::setUpButtons() {
+    auto* cancel = m_ui->paramButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
+    auto* search = m_ui->paramButtons->addButton(QStringLiteral("&Search"), QDialogButtonBox::AcceptRole);
+    cancel->setObjectName(QStringLiteral("paramCancelButton"));
+    cancel->setAutoDefault(false);
+    search->setObjectName(QStringLiteral("paramSearchButton"));
+    search->setDefault(true);
+    connect(cancel, &QPushButton::clicked, this, &ParametersDialog::reject);
+    connect(search, &QPushButton::clicked, this, [this] { Q_EMIT searchRequested(parameters()); });
+}
+
+void ParametersDialog::updateWarning() {
+    const SearchParameters chosen = parameters();
+    const bool anyField = chosen.issamename || chosen.issameartist || chosen.issamealbum || chosen.issametime;
+    m_ui->paramWarningLabel->setVisible(!anyField);
+    if (anyField) return;
+    QAccessibleEvent announcement(m_ui->paramWarningLabel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+}
+
+} // namespace songsweep

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/SearchParameters.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <string>
+
+namespace songsweep {
+
+namespace Ui {
+class ParametersDialog;
+}
+
+/// The window that a search starts from: which fields must agree, and which playlist is searched.
+///
+/// It gives SearchParameters and keeps its settings between openings; it stays open until it is told to
+/// close, so that whoever starts the search decides when. Main thread.
+class ParametersDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit ParametersDialog(QWidget* parent = nullptr);
+    ~ParametersDialog() override;
+
+    SearchParameters parameters() const;
+
+    void clearPlaylists();
+    /// Adds a playlist's name (UTF-8) at the end; nothing gets selected by it.
+    void addPlaylist(const std::string& name);
+    /// Selects by position from 0; -1 for none.
+    void selectPlaylist(int index);
+
+  Q_SIGNALS:
+    /// "Search" was pressed. Cancelling is `rejected`.
+    void searchRequested(const songsweep::SearchParameters& parameters);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void setUpButtons();
+    void updateWarning();
+
+    std::unique_ptr<Ui::ParametersDialog> m_ui;
+};
+
+} // namespace songsweep

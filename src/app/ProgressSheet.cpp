@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "app/ProgressSheet.h"
+
+#include "ui_ProgressSheet.h"
+
+#include <QPushButton>
+
+#include <algorithm>
+#include <cmath>
+
+namespace songsweep {
+
+ProgressSheet::ProgressSheet(QWidget* parent)
+    : QDialog(parent, Qt::Sheet)
+    , m_ui(std::make_unique<Ui::ProgressSheet>()) {
+    m_ui->setupUi(this);
+    setFocusPolicy(Qt::StrongFocus);
+    auto* cancel = m_ui->progressButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("progressCancelButton"));
+    cancel->setAccessibleName(QStringLiteral("Cancel deletion"));
+    cancel->setAutoDefault(false);
+    connect(cancel, &QPushButton::clicked, this, &ProgressSheet::reject);
+}
+
+ProgressSheet::~ProgressSheet() = default;
+
+void ProgressSheet::setTitle(const std::string& title) {
+    m_ui->progressLabel->setText(QString::fromStdString(title));
+}
+
+void ProgressSheet::setValue(double percent) {
+    const double shown = std::isnan(percent) ? 0.0 : std::clamp(percent, 0.0, 100.0);
+    m_ui->progress->setValue(static_cast<int>(std::lround(shown)));
+}
+
+void ProgressSheet::showEvent(QShowEvent* event) {
+    setFocus(); // so that no key but Escape cancels by accident
+    QDialog::showEvent(event);
+}
+
+} // namespace songsweep

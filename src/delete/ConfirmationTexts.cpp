@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "delete/ConfirmationTexts.h"
+
+#include <cmath>
+
+namespace songsweep::confirmationTexts {
+
+namespace {
+
+/// One of two wordings by the count; "%1" in the second is the count.
+QString worded(int count, const QString& one, const QString& many) {
+    return count == 1 ? one : QString(many).replace(QStringLiteral("%1"), QString::number(count));
+}
+
+} // namespace
+
+QString heading(const DeleteConfirmationFacts& facts) {
+    if (facts.tracks == 0) return QStringLiteral("No tracks are marked");
+    const QString where = facts.embeddedLibrary ? QStringLiteral("the library") : QStringLiteral("iTunes");
+    return worded(facts.tracks, QStringLiteral("Delete 1 track from "),
+                  QStringLiteral("Delete %1 tracks from ")) +
+           where + QStringLiteral("?");
+}
+
+QString explanation(const DeleteConfirmationFacts& facts) {
+    if (facts.tracks == 0) return QStringLiteral("Nothing will be deleted.");
+    return worded(facts.tracks, QStringLiteral("It also leaves every playlist. "),
+                  QStringLiteral("They also leave every playlist. ")) +
+           (facts.embeddedLibrary ? QStringLiteral("A copy of the library file is kept beside it.")
+                                  : QStringLiteral("iTunes cannot undo this."));
+}
+
+QString fileOption(const DeleteConfirmationFacts& facts) {
+    return worded(facts.tracks, QStringLiteral("Move its &file to the Trash too"),
+                  QStringLiteral("Move their &files to the Trash too"));
+}
+
+QString deleteButton(const DeleteConfirmationFacts& facts) {
+    if (facts.tracks == 0) return QStringLiteral("&Delete");
+    return worded(facts.tracks, QStringLiteral("&Delete 1 track"), QStringLiteral("&Delete %1 tracks"));
+}
+
+QString filesStayLine(const DeleteConfirmationFacts& facts) {
+    return worded(facts.tracks, QStringLiteral("The file stays where it is."),
+                  QStringLiteral("The files stay where they are."));
+}
+
+QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared) {
+    const int files = facts.filesToTrash + (leaveShared ? 0 : facts.sharedFiles);
+    const std::int64_t bytes = facts.bytesToTrash + (leaveShared ? 0 : facts.sharedBytes);
+    if (files == 0) return {};
+    return worded(files, QStringLiteral("1 file, %2, goes to the Trash."),
+                  QStringLiteral("%1 files, %2, go to the Trash."))
+        .replace(QStringLiteral("%2"), megabytes(bytes));
+}
+
+QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared) {
+    if (facts.sharedFiles == 0) return {};
+    if (leaveShared)
+        return worded(facts.sharedFiles,
+                      QStringLiteral("1 file is shared with a track that stays, and is kept."),
+                      QStringLiteral("%1 files are shared with tracks that stay, and are kept."));
+    return worded(facts.sharedFiles,
+                  QStringLiteral("1 file is shared with a track that stays, and goes too."),
+                  QStringLiteral("%1 files are shared with tracks that stay, and go too."));
+}
+
+QString missingLine(const DeleteConfirmationFacts& facts) {
+    if (facts.missingFiles == 0) return {};
+    return worded(facts.missingFiles, QStringLiteral("1 file is missing already."),
+                  QStringLiteral("%1 files are missing already."));
+}
+
+QString warning(const DeleteConfirmationFacts& facts) {
+    if (facts.groupsLosingEveryCopy == 0) return {};
+    return worded(facts.groupsLosingEveryCopy, QStringLiteral("No copy of 1 song will be left."),
+                  QStringLiteral("No copy of %1 songs will be left."));
+}
+
+QString megabytes(std::int64_t bytes) {
+    constexpr double bytesPerMegabyte = 1048576;
+    const double tenths = std::floor(static_cast<double>(bytes) / bytesPerMegabyte * 10 + 1);
+    return QString::asprintf("%.1f MB", tenths / 10);
+}
+
+} // namespace songsweep::confirmationTexts

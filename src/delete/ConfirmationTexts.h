@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delete/DeleteConfirmationFacts.h"
+
+#include <QString>
+
+/// The sentences of the delete confirmation, each worded for one and for many. "&" marks mnemonics where the
+/// text is that of a control.
+namespace songsweep::confirmationTexts {
+
+QString heading(const DeleteConfirmationFacts& facts);
+QString explanation(const DeleteConfirmationFacts& facts);
+QString fileOption(const DeleteConfirmationFacts& facts);
+QString deleteButton(const DeleteConfirmationFacts& facts);
+
+/// What is told while no file is to be trashed.
+QString filesStayLine(const DeleteConfirmationFacts& facts);
+
+/// What happens to files; each is empty where it has nothing to count. `leaveShared` is the user's choice.
+QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
+QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);
+QString missingLine(const DeleteConfirmationFacts& facts);
+QString warning(const DeleteConfirmationFacts& facts);
+
+/// Bytes in megabytes, written as sizes are in the table: one tenth above the truncated value.
+QString megabytes(std::int64_t bytes);
+
+} // namespace songsweep::confirmationTexts

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeleteConfirmation.h"
+
+#include "delete/ConfirmationTexts.h"
+#include "ui_DeleteConfirmation.h"
+
+#include <QPushButton>
+
+namespace songsweep {
+
+namespace {
+
+template <class Control>
+void showText(Control* control, const QString& text) {
+    control->setText(text);
+    control->setVisible(!text.isEmpty());
+}
+
+} // namespace
+
+DeleteConfirmation::DeleteConfirmation(QWidget* parent)
+    : QDialog(parent, Qt::Sheet)
+    , m_ui(std::make_unique<Ui::DeleteConfirmation>()) {
+    m_ui->setupUi(this);
+    setUpButtons();
+    connect(m_ui->delConfFileCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
+    connect(m_ui->delConfSharedCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
+    setFacts({});
+}
+
+DeleteConfirmation::~DeleteConfirmation() = default;
+
+void DeleteConfirmation::setFacts(const DeleteConfirmationFacts& facts) {
+    m_facts = facts;
+    m_ui->delConfSharedCK->setChecked(true);
+    updateHeading();
+    updateLines();
+}
+
+bool DeleteConfirmation::deletesFiles() const { return m_ui->delConfFileCK->isChecked(); }
+
+bool DeleteConfirmation::leavesSharedFiles() const { return m_ui->delConfSharedCK->isChecked(); }
+
+void DeleteConfirmation::showEvent(QShowEvent* event) {
+    m_cancelButton->setFocus();
+    QDialog::showEvent(event);
+}
+
+void DeleteConfirmation::setUpButtons() {
+    m_cancelButton = m_ui->delConfButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
+    m_deleteButton = m_ui->delConfButtons->addButton(QStringLiteral("&Delete"), QDialogButtonBox::AcceptRole);
+    m_cancelButton->setObjectName(QStringLiteral("delConfCancelButton"));
+    m_deleteButton->setObjectName(QStringLiteral("delConfOkButton"));
+    m_deleteButton->setProperty("role", QStringLiteral("destructive"));
+    m_deleteButton->setAutoDefault(false);
+    m_cancelButton->setDefault(true);
+    connect(m_cancelButton, &QPushButton::clicked, this, &DeleteConfirmation::reject);
+    connect(m_deleteButton, &QPushButton::clicked, this,
+            [this] { Q_EMIT deleteRequested(deletesFiles(), leavesSharedFiles()); });
+}
+
+void DeleteConfirmation::updateHeading() {
+    const bool some = m_facts.tracks > 0;
+    m_ui->delConfHeadingLabel->setText(confirmationTexts::heading(m_facts));
+    m_ui->delConfTextLabel->setText(confirmationTexts::explanation(m_facts));
+    m_ui->delConfFileCK->setText(confirmationTexts::fileOption(m_facts));
+    m_ui->delConfFileCK->setVisible(some);
+    m_ui->delConfLines->setVisible(some);
+    m_deleteButton->setText(confirmationTexts::deleteButton(m_facts));
+    const QString warning = confirmationTexts::warning(m_facts);
+    m_ui->delConfWarningLabel->setText(warning);
+    m_ui->delConfWarning->setVisible(!warning.isEmpty());
+    setAccessibleDescription(m_ui->delConfHeadingLabel->text() + QChar::Space +
+                             m_ui->delConfTextLabel->text());
+}
+
+void DeleteConfirmation::updateLines() {
+    const bool shared = leavesSharedFiles();
+    if (!deletesFiles()) {
+        showText(m_ui->delConfTrashLabel, confirmationTexts::filesStayLine(m_facts));
+        showText(m_ui->delConfSharedCK, QString());
+        showText(m_ui->delConfMissingLabel, QString());
+        return;
+    }
+    showText(m_ui->delConfTrashLabel, confirmationTexts::trashLine(m_facts, shared));
+    showText(m_ui->delConfSharedCK, confirmationTexts::sharedLine(m_facts, shared));
+    showText(m_ui->delConfMissingLabel, confirmationTexts::missingLine(m_facts));
+}
+
+} // namespace songsweep

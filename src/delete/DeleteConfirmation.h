@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delete/DeleteConfirmationFacts.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QPushButton;
+
+namespace songsweep {
+
+namespace Ui {
+class DeleteConfirmation;
+}
+
+/// The sheet that asks before tracks are deleted.
+///
+/// Return and Escape both cancel; deleting needs a deliberate key or click. Whether files go to the Trash is
+/// kept from one confirmation to the next; leaving files that other tracks use is on again each time. The
+/// room of the lines about files is reserved, so that nothing moves when the box is switched. Main thread.
+class DeleteConfirmation : public QDialog {
+    Q_OBJECT
+
+  public:
+    explicit DeleteConfirmation(QWidget* parent = nullptr);
+    ~DeleteConfirmation() override;
+
+    /// Words the sheet for these facts; to be called before each opening.
+    void setFacts(const DeleteConfirmationFacts& facts);
+
+    bool deletesFiles() const;
+    bool leavesSharedFiles() const;
+
+  Q_SIGNALS:
+    /// The user confirmed. Cancelling is `rejected`.
+    void deleteRequested(bool deleteFiles, bool leaveSharedFiles);
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void setUpButtons();
+    void updateHeading();
+    void updateLines();
+
+    std::unique_ptr<Ui::DeleteConfirmation> m_ui;
+    QPushButton* m_cancelButton = nullptr;
+    QPushButton* m_deleteButton = nullptr;
+    DeleteConfirmationFacts m_facts;
+};
+
+} // namespace songsweep
