@@ -36,9 +36,12 @@ bool isOfKind(std::string_view path, std::string_view kind) {
 std::vector<std::string> kindsOf(const std::vector<TrackRecord*>& rows) {
     std::vector<std::string> kinds;
     std::unordered_set<std::string> known;
+    std::unordered_set<std::string_view> seen; // as written, so that most rows cost no conversion
     for (const TrackRecord* const record : rows) {
-        std::string kind = fileKind(record->location);
-        if (!kind.empty() && known.insert(kind).second) kinds.push_back(std::move(kind));
+        const std::string_view extension = fileExtension(record->location);
+        if (extension.empty() || !seen.insert(extension).second) continue;
+        std::string kind = uppercase(extension);
+        if (known.insert(kind).second) kinds.push_back(std::move(kind));
     }
     return kinds;
 }

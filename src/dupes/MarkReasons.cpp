@@ -20,6 +20,7 @@ std::string textOrNone(std::string_view text) { return text.empty() ? "none" : s
 std::string bitrateText(const TrackRecord& record) { return textOrNone(record.bitrate); }
 std::string timeText(const TrackRecord& record) { return textOrNone(record.time); }
 std::string sizeText(const TrackRecord& record) { return textOrNone(sizestring(record)); }
+std::string bytesText(const TrackRecord& record) { return record.size.string() + " bytes"; }
 std::string dateText(const TrackRecord& record) { return textOrNone(dateadded(record)); }
 std::string ratingText(const TrackRecord& record) { return std::to_string(record.rating); }
 std::string playCountText(const TrackRecord& record) {
@@ -45,8 +46,12 @@ constexpr ValueWords valueWords[] = {
 std::string valueReason(const ValueWords& words, const TrackRecord& record, const TrackRecord& kept,
                         bool loses) {
     const std::string own = words.text(record);
+    const std::string other = words.text(kept);
     if (!loses) return std::string("same ") + words.field + " as the kept copy: " + own;
-    return std::string(words.loses) + " than the kept copy: " + own + " against " + words.text(kept);
+    const std::string beginning = std::string(words.loses) + " than the kept copy: ";
+    const bool roundedAlike = words.text == sizeText && own == other;
+    if (roundedAlike) return beginning + bytesText(record) + " against " + bytesText(kept);
+    return beginning + own + " against " + other;
 }
 
 std::string truthReason(const MarkChoice& choice, const TrackRecord& record) {

@@ -65,8 +65,9 @@ int countThatWouldBeMarked(const TrackRows& rows, const MarkChoice& choice) {
 }
 
 bool isSubfolder(std::string_view folder, std::string_view path) {
-    if (path.size() > folder.size() && path.starts_with(folder) && path[folder.size()] == '/') return true;
-    return path == folder;
+    if (path == folder) return true;
+    return !folder.empty() && path.size() > folder.size() && path.starts_with(folder) &&
+           path[folder.size()] == '/';
 }
 
 std::vector<std::string> markRuleNames() {

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "dupes/MarkReasons.h"
+
+#include "dupes/MarkRows.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+namespace songsweep {
+namespace {
+
+using test::MarkRows;
+using testing::ElementsAre;
+
+std::vector<std::string> reasons(std::initializer_list<TrackRecord> records, const MarkChoice& choice) {
+    MarkRows rows;
+    for (const TrackRecord& record : records)
+        rows.add(1, record);
+    MarkReasons reasons(rows.rows(), choice);
+    std::vector<std::string> texts;
+    for (std::size_t row = 0; row < rows.rows().size(); ++row)
+        texts.push_back(reasons.of(row));
+    return texts;
+}
+
+TEST(MarkReasonsTest, aLosingValueIsHeldAgainstTheKeptOne) {
+    EXPECT_THAT(reasons({{.bitrate = "128"}, {.bitrate = "320"}}, {markType::highestBitrate, false, ""}),
+                ElementsAre("lower bit rate than the kept copy: 128 against 320", ""));
+    EXPECT_THAT(reasons({{.time = "3:07", .timev = 187}, {.time = "3:45", .timev = 225}},
+                        {markType::shortest, false, ""}),
+                ElementsAre("", "longer than the kept copy: 3:45 against 3:07"));
+    EXPECT_THAT(reasons({{.playcount = "2"}, {.playcount = "11"}}, {markType::mostPlayed, false, ""}),
+                ElementsAre("played less than the kept copy: 2 against 11", ""));
+}
+
+TEST(MarkReasonsTest, aCopyWithAnEqualValueGoesBecauseAnotherStays) {
+    EXPECT_THAT(reasons({{.bitrate = "320"}, {.bitrate = "320"}}, {markType::highestBitrate, true, ""}),
+                ElementsAre("", "same bit rate as the kept copy: 320"));
+}
+
+TEST(MarkReasonsTest, aMissingFileIsReasonEnough) {
+    EXPECT_THAT(reasons({{.isdead = true}, {}}, {markType::longest, false, ""}),
+                ElementsAre("file missing", ""));
+}
+
+TEST(MarkReasonsTest, kindFolderAndArtworkSpeakForThemselves) {
+    EXPECT_THAT(
+        reasons({{.location = "/Music/Old/a.mp3"}, {.location = "/b.m4a"}}, {markType::kind, false, "MP3"}),
+        ElementsAre("of the kind MP3", ""));
+    EXPECT_THAT(reasons({{.location = "/Music/Old/a.mp3"}, {.location = "/b.m4a"}},
+                        {markType::folder, false, "/Music/Old"}),
+                ElementsAre("in the folder /Music/Old", ""));
+    EXPECT_THAT(reasons({{}, {.hasartwork = true}, {.hasartwork = true}}, {markType::withArtwork, true, ""}),
+                ElementsAre("no artwork", "another copy with artwork is kept", ""));
+}
+
+TEST(MarkReasonsTest, aCopyThatDoesNotLoseByKindGoesBecauseAnotherStays) {
+    EXPECT_THAT(reasons({{.location = "/a.m4a"}, {.location = "/b.m4a"}}, {markType::kind, true, "MP3"}),
+                ElementsAre("another copy is kept", ""));
+}
+
+TEST(MarkReasonsTest, sizesThatReadAlikeAreToldInBytes) {
+    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "5242990"}}, {markType::largest, false, ""}),
+                ElementsAre("smaller than the kept copy: 5242880 bytes against 5242990 bytes", ""));
+    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "10485760"}}, {markType::largest, false, ""}),
+                ElementsAre("smaller than the kept copy: 5.1 MB against 10.1 MB", ""));
+}
+
+TEST(MarkReasonsTest, rowsMayBeAskedInAnyOrder) {
+    MarkRows rows;
+    for (int gid = 1; gid <= 3; ++gid) {
+        rows.add(gid, {.timev = 1});
+        rows.add(gid, {.timev = 2});
+    }
+    MarkReasons reasons(rows.rows(), {markType::longest, false, ""});
+    for (const std::size_t row : {4U, 0U, 2U})
+        EXPECT_FALSE(reasons.of(row).empty()) << row;
+    for (const std::size_t row : {5U, 3U, 1U})
+        EXPECT_TRUE(reasons.of(row).empty()) << row;
+}
+
+} // namespace
+} // namespace songsweep

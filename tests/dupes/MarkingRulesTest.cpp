@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "dupes/MarkingRules.h"
+
+#include "dupes/MarkRows.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+namespace songsweep {
+namespace {
+
+using test::MarkRows;
+
+constexpr bool exceptOne = true;
+
+/// One group of the records in turn.
+MarkRows group(std::initializer_list<TrackRecord> records) {
+    MarkRows rows;
+    for (const TrackRecord& record : records)
+        rows.add(1, record);
+    return rows;
+}
+
+MarkRows bitRates() { return group({{.bitrate = "128"}, {.bitrate = "320"}, {.bitrate = "320"}}); }
+
+std::string marks(const MarkRows& rows, std::int32_t type, bool exceptOneCopy = false) {
+    markItems(rows.rows(), type, exceptOneCopy);
+    return rows.checks();
+}
+
+TEST(MarkingRulesTest, theHighestBitRateLeavesEqualCopiesUnchecked) {
+    EXPECT_EQ(marks(bitRates(), markType::highestBitrate), "x--");
+}
+
+TEST(MarkingRulesTest, theHighestBitRateExceptOneKeepsTheFirstOfEqualCopies) {
+    EXPECT_EQ(marks(bitRates(), markType::highestBitrate, exceptOne), "x-x");
+}
+
+TEST(MarkingRulesTest, theLowestBitRateExceptOneKeepsTheLowest) {
+    EXPECT_EQ(marks(bitRates(), markType::lowestBitrate, exceptOne), "-xx");
+}
+
+TEST(MarkingRulesTest, theBestOfTheLiveCopiesIsKeptWhereTheBestOfAllIsMissing) {
+    const MarkRows rows = group({{.bitrate = "128"}, {.bitrate = "320", .isdead = true}, {.bitrate = "256"}});
+    EXPECT_EQ(marks(rows, markType::highestBitrate), "xx-");
+    EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "xx-");
+}
+
+TEST(MarkingRulesTest, aGroupOfMissingFilesKeepsItsFirstTrackWithExceptOne) {
+    const MarkRows rows = group({{.isdead = true}, {.isdead = true}, {.isdead = true}});
+    EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "-xx");
+    EXPECT_EQ(marks(rows, markType::highestBitrate), "xxx");
+}
+
+TEST(MarkingRulesTest, withArtworkChecksAllOfAGroupWithoutAny) {
+    const MarkRows rows = group({{}, {}, {}});
+    EXPECT_EQ(marks(rows, markType::withArtwork), "xxx");
+    EXPECT_EQ(marks(rows, markType::withArtwork, exceptOne), "-xx");
+}
+
+TEST(MarkingRulesTest, theLastCopyWithArtworkIsTheKeptOne) {
+    const MarkRows rows = group({{.hasartwork = true}, {.hasartwork = true}, {}});
+    EXPECT_EQ(marks(rows, markType::withArtwork, exceptOne), "x-x");
+    EXPECT_EQ(marks(rows, markType::withoutArtwork, exceptOne), "xx-");
+    EXPECT_EQ(marks(rows, markType::withoutArtwork), "xx-");
+}
+
+TEST(MarkingRulesTest, theKindRuleKeepsTheLastTrackOfAnotherKind) {
+    const MarkRows rows = group({{.location = "/a.mp3"}, {.location = "/b.m4a"}, {.location = "/c.M4A"}});
+    markItemsByKind(rows.rows(), "MP3", exceptOne);
+    EXPECT_EQ(rows.checks(), "xx-");
+    markItemsByKind(rows.rows(), "MP3", !exceptOne);
+    EXPECT_EQ(rows.checks(), "x--");
+}
+
+TEST(MarkingRulesTest, aKindInLowerCaseMatchesNothing) {
+    const MarkRows rows = group({{.location = "/a.mp3"}, {.location = "/b.mp3"}});
+    markItemsByKind(rows.rows(), "mp3", !exceptOne);
+    EXPECT_EQ(rows.checks(), "--");
+}
+
+TEST(MarkingRulesTest, anEmptyKindChecksTheFilesWithoutExtension) {
+    const MarkRows rows = group({{.location = "/a"}, {.location = "/b.mp3"}, {.location = "/c.d/e"}});
+    markItemsByKind(rows.rows(), "", !exceptOne);
+    EXPECT_EQ(rows.checks(), "x-x");
+}
+
+TEST(MarkingRulesTest, theFolderRuleTakesNoFolderOfALongerName) {
+    const MarkRows rows = group({{.location = "/Music/Old/x.mp3"}, {.location = "/Music/Older/y.mp3"}});
+    markItemsByFolder(rows.rows(), "/Music/Old", !exceptOne);
+    EXPECT_EQ(rows.checks(), "x-");
+    EXPECT_TRUE(isSubfolder("/Music/Old", "/Music/Old/x.mp3"));
+    EXPECT_FALSE(isSubfolder("/Music/Old", "/Music/Older/y.mp3"));
+}
+
+TEST(MarkingRulesTest, aFolderHoldsItselfAndMindsTheCase) {
+    EXPECT_TRUE(isSubfolder("/Music/Old", "/Music/Old"));
+    EXPECT_FALSE(isSubfolder("/Music/Old", "/music/old/x.mp3"));
+}
+
+TEST(MarkingRulesTest, aFolderThatEndsWithASlashHoldsNoFile) {
+    EXPECT_FALSE(isSubfolder("/", "/x.mp3"));
+    EXPECT_FALSE(isSubfolder("/", "/Music/x.mp3"));
+    EXPECT_FALSE(isSubfolder("/Music/", "/Music/x.mp3"));
+    EXPECT_TRUE(isSubfolder("/", "/"));
+}
+
+TEST(MarkingRulesTest, anEmptyFolderHoldsOnlyTheEmptyPath) {
+    EXPECT_FALSE(isSubfolder("", "/Music/x.mp3"));
+    EXPECT_TRUE(isSubfolder("", ""));
+}
+
+TEST(MarkingRulesTest, theEarliestAddedLeavesATrackWithoutADateBeforeADatedOne) {
+    const MarkRows rows = group({{.dateaddedv = 0}, {.dateaddedv = 1237043366}});
+    EXPECT_EQ(marks(rows, markType::earliestAdded), "--");
+    EXPECT_EQ(marks(rows, markType::earliestAdded, exceptOne), "--");
+}
+
+TEST(MarkingRulesTest, theLatestAddedChecksATrackWithoutADate) {
+    const MarkRows rows = group({{.dateaddedv = 0}, {.dateaddedv = 1237043366}});
+    EXPECT_EQ(marks(rows, markType::latestAdded), "x-");
+    EXPECT_EQ(marks(rows, markType::latestAdded, exceptOne), "x-");
+}
+
+TEST(MarkingRulesTest, aGroupWithoutALoserLosesItsEarlierMarks) {
+    const MarkRows rows = group({{.timev = 200, .checkbox = true}, {.timev = 200, .checkbox = true}});
+    EXPECT_EQ(marks(rows, markType::longest), "--");
+}
+
+TEST(MarkingRulesTest, eachValueRuleReadsItsOwnField) {
+    const MarkRows rows = group({{.size = "10", .playcount = "5", .dateaddedv = 5, .timev = 1, .rating = 2},
+                                 {.size = "9", .playcount = "6", .dateaddedv = 4, .timev = 2, .rating = 1}});
+    EXPECT_EQ(marks(rows, markType::longest), "x-");
+    EXPECT_EQ(marks(rows, markType::shortest), "-x");
+    EXPECT_EQ(marks(rows, markType::largest), "-x");
+    EXPECT_EQ(marks(rows, markType::smallest), "x-");
+    EXPECT_EQ(marks(rows, markType::earliestAdded), "x-");
+    EXPECT_EQ(marks(rows, markType::latestAdded), "-x");
+    EXPECT_EQ(marks(rows, markType::highestRating), "-x");
+    EXPECT_EQ(marks(rows, markType::lowestRating), "x-");
+    EXPECT_EQ(marks(rows, markType::mostPlayed), "x-");
+    EXPECT_EQ(marks(rows, markType::leastPlayed), "-x");
+}
+
+TEST(MarkingRulesTest, aSizeBeyond32BitsCountsAsTheLargestOfThem) {
+    const MarkRows rows = group({{.size = "4294967296"}, {.size = "2147483647"}});
+    EXPECT_EQ(marks(rows, markType::largest), "--");
+}
+
+TEST(MarkingRulesTest, anUnknownMarkTypeChecksOnlyMissingFiles) {
+    const MarkRows rows = group({{.checkbox = true}, {.isdead = true}, {}});
+    EXPECT_EQ(marks(rows, markType::none), "-x-");
+    EXPECT_EQ(marks(rows, 14), "-x-");
+    EXPECT_EQ(marks(rows, markType::kind), "-x-");
+    EXPECT_EQ(marks(rows, markType::folder, exceptOne), "-x-");
+}
+
+TEST(MarkingRulesTest, aGroupThatWasSplitCountsAsTwo) {
+    MarkRows rows;
+    rows.add(1, {.bitrate = "128"});
+    rows.add(2, {.bitrate = "64"});
+    rows.add(1, {.bitrate = "320"});
+    EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "---");
+}
+
+TEST(MarkingRulesTest, anEmptyListStaysEmpty) {
+    const MarkRows rows;
+    EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "");
+}
+
+TEST(MarkingRulesTest, theCountAndTheMarksAgreeAndCountingMarksNothing) {
+    const MarkRows rows = bitRates();
+    EXPECT_EQ(countThatWouldBeMarked(rows.rows(), {markType::highestBitrate, exceptOne, ""}), 2);
+    EXPECT_EQ(rows.checks(), "---");
+}
+
+TEST(MarkingRulesTest, everyRuleHasANameForTheCommandLine) {
+    const std::vector<std::string> names = {
+        "highest-bitrate", "lowest-bitrate",  "longest",        "shortest",
+        "largest",         "smallest",        "earliest-added", "latest-added",
+        "with-artwork",    "without-artwork", "highest-rating", "lowest-rating",
+        "most-played",     "least-played",    "kind",           "folder"};
+    EXPECT_EQ(markRuleNames(), names);
+    for (std::size_t i = 0; i < 14; ++i)
+        EXPECT_EQ(markTypeOfRule(names[i]), static_cast<std::int32_t>(i)) << names[i];
+    EXPECT_EQ(markTypeOfRule("kind"), 100);
+    EXPECT_EQ(markTypeOfRule("folder"), 200);
+    EXPECT_FALSE(markTypeOfRule("best"));
+}
+
+} // namespace
+} // namespace songsweep
