@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <map>
 #include <set>
+#include <unordered_map>
 #include <utility>
 
 namespace songsweep {
@@ -24,21 +25,13 @@ std::string canonicalPath(const std::string& localPath) {
     return error ? localPath : canonical.string();
 }
 
+using Tracks = std::vector<const TrackRecord*>;
+
 /// The marked tracks and their files, ready to be held against the rest of the library.
 struct MarkedFiles {
-    struct File {
-        std::string canonical;
-        std::vector<const TrackRecord*> tracks;
-    };
     std::unordered_set<std::string_view> pids;
-    std::map<FileKey, std::vector<File>> files;
-
-    void add(const TrackRecord& record, const FileAttributes& attributes, std::string canonical) {
-        std::vector<File>& sameKey = files[keyOf(attributes)];
-        for (File& file : sameKey)
-            if (file.canonical == canonical) return file.tracks.push_back(&record);
-        sameKey.push_back({std::move(canonical), {&record}});
-    }
+    /// By the file system's key, then by canonical path: file systems there are that repeat their keys.
+    std::map<FileKey, std::unordered_map<std::string, Tracks>> files;
 };
 
 /// Marks as shared the tracks whose file is the one of a track that stays.
@@ -52,14 +45,17 @@ class SharedFinder {
     void look(std::string_view pid, const std::string& path) {
         const bool goes = !pid.empty() && m_marked.pids.contains(pid);
         if (goes) return;
-        const auto attributes = m_files.attributes(path);
+        const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
         if (!attributes) return;
         const auto found = m_marked.files.find(keyOf(*attributes));
         if (found == m_marked.files.end()) return;
-        const std::string canonical = canonicalPath(m_files.localPath(path));
-        for (const MarkedFiles::File& file : found->second)
-            if (attributes->linkCount > 1 || file.canonical == canonical)
-                m_plan.shared.insert(file.tracks.begin(), file.tracks.end());
+        if (attributes->linkCount > 1) {
+            for (const auto& [name, tracks] : found->second)
+                m_plan.shared.insert(tracks.begin(), tracks.end());
+        } else if (const auto file = found->second.find(canonicalPath(m_files.localPath(path)));
+                   file != found->second.end()) {
+            m_plan.shared.insert(file->second.begin(), file->second.end());
+        }
     }
 
   private:
@@ -74,11 +70,11 @@ MarkedFiles lookAtMarked(const std::vector<TrackRecord*>& rows, const Files& fil
         if (!record->checkbox) continue;
         marked.pids.insert(record->pid);
         const std::string path = record->location.string();
-        const auto attributes = files.attributes(path);
+        const auto attributes = isPath(path) ? files.attributes(path) : std::nullopt;
         if (!attributes) continue;
         std::string canonical = canonicalPath(files.localPath(path));
         plan.files.emplace(record, canonical);
-        marked.add(*record, *attributes, std::move(canonical));
+        marked.files[keyOf(*attributes)][std::move(canonical)].push_back(record);
     }
     return marked;
 }
@@ -89,8 +85,13 @@ DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& fi
                           const LibraryLocations& locations) {
     DeletePlan plan;
     const MarkedFiles marked = lookAtMarked(rows, files, plan);
-    if (!locations || marked.files.empty()) return plan;
+    if (marked.files.empty()) return plan;
     SharedFinder finder(marked, files, plan);
+    if (!locations) {
+        for (const TrackRecord* const record : rows)
+            if (!record->checkbox) finder.look({}, record->location.string());
+        return plan;
+    }
     locations([&](std::string_view pid, const std::string& path) { finder.look(pid, path); });
     return plan;
 }

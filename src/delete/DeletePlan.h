@@ -33,7 +33,8 @@ struct DeletePlan {
 ///
 /// Two paths are one file when their canonical paths are equal, or, where the link count is above one, their
 /// device and inode. Linear in the rows and the library: one look at the file system for each track. Without
-/// `locations` the library is not known, and no file counts as shared.
+/// `locations` the library is not known, and the rows that are not marked stand for it. A track without a
+/// persistent ID stays, since nothing can name it, and so does its file.
 DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
                           const LibraryLocations& locations);
 

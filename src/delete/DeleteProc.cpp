@@ -13,13 +13,15 @@ namespace songsweep {
 
 namespace {
 
-DeleteOutcome outcomeOf(const TrackRecord& record) {
-    DeleteOutcome outcome;
-    outcome.pid = record.pid.string();
-    outcome.name = record.name.string();
-    outcome.artist = record.artist.string();
-    outcome.location = record.location.string();
-    return outcome;
+void addReason(DeleteOutcome& outcome, const std::string& reason) {
+    if (!outcome.reason.empty()) outcome.reason += "; ";
+    outcome.reason += reason;
+}
+
+void keepFile(DeleteOutcome& outcome, const std::string& reason) {
+    outcome.file = DeleteOutcome::File::kept;
+    outcome.dealtWith = false;
+    addReason(outcome, reason);
 }
 
 } // namespace
@@ -106,51 +108,69 @@ void DeleteProc::deleteMarked(TrackRecord& record) {
 }
 
 void DeleteProc::deleteTrack(const TrackRecord& record, DeleteOutcome& outcome) {
+    outcome.track = DeleteOutcome::Track::failed;
+    if (!canStandInText(record.pid)) {
+        addReason(outcome, "its persistent ID cannot be told to iTunes");
+        return;
+    }
     const Result<void> deleted = run(deleteTexts::deleteTrack(record.pid));
-    outcome.track = deleted ? DeleteOutcome::Track::deleted : DeleteOutcome::Track::failed;
-    outcome.dealtWith = deleted.hasValue();
-    if (!deleted) outcome.reason = deleted.error().message;
+    if (!deleted) {
+        addReason(outcome, deleted.error().message);
+        return;
+    }
+    outcome.track = DeleteOutcome::Track::deleted;
+    outcome.dealtWith = true;
 }
 
+/// Whatever goes wrong with one file does not end the deletion of the others.
 void DeleteProc::deleteFile(const TrackRecord& record, DeleteOutcome& outcome) {
-    const auto known = m_plan.files.find(&record);
-    const bool trashedBefore = known != m_plan.files.end() && m_trashed.contains(known->second);
-    if (!m_services.files.exists(record.location.c_str())) {
-        outcome.file = trashedBefore ? DeleteOutcome::File::trashed : DeleteOutcome::File::missing;
-        return;
+    try {
+        if (!hasFile(record)) {
+            const bool trashedBefore = m_trashed.contains(fileOf(record));
+            outcome.file = trashedBefore ? DeleteOutcome::File::trashed : DeleteOutcome::File::missing;
+        } else if (m_plan.shared.contains(&record)) {
+            outcome.file = DeleteOutcome::File::kept;
+            addReason(outcome, fileIsShared);
+        } else {
+            trash(record, outcome);
+        }
+    } catch (const std::exception& exception) {
+        keepFile(outcome, exception.what());
     }
-    outcome.file = DeleteOutcome::File::kept;
-    if (outcome.track == DeleteOutcome::Track::failed) return; // its reason stands there already
-    if (m_plan.shared.contains(&record)) {
-        outcome.reason = "a track that stays uses it too";
-        return;
-    }
-    trash(record, outcome);
 }
 
 void DeleteProc::trash(const TrackRecord& record, DeleteOutcome& outcome) {
-    outcome.dealtWith = false;
     const auto hfs = nameableHfsPath(record.location);
     if (!hfs) {
-        outcome.reason = "its name cannot be told to Finder";
+        keepFile(outcome, fileCannotBeNamed);
         return;
     }
-    try {
-        const Result<void> trashed = run(deleteTexts::deleteFile(*hfs));
-        if (!trashed) outcome.reason = trashed.error().message;
-    } catch (const std::exception& exception) {
-        // A file that cannot be deleted does not end the deletion of the others.
-        outcome.reason = exception.what();
-    }
-    if (m_services.files.exists(record.location.c_str())) {
-        if (outcome.reason.empty()) outcome.reason = "it is still there";
+    const Result<void> trashed = runCatching(deleteTexts::deleteFile(*hfs));
+    if (hasFile(record)) {
+        keepFile(outcome, trashed ? "it is still there" : trashed.error().message);
         return;
     }
     outcome.file = DeleteOutcome::File::trashed;
-    outcome.dealtWith = true;
-    outcome.reason.clear();
+    m_trashed.insert(fileOf(record));
+}
+
+/// A location that is no path, as that of a track without a file, names nothing.
+bool DeleteProc::hasFile(const TrackRecord& record) const {
+    return isPath(record.location) && m_services.files.exists(record.location.c_str());
+}
+
+/// What tracks that share a file have in common.
+std::string DeleteProc::fileOf(const TrackRecord& record) const {
     const auto known = m_plan.files.find(&record);
-    if (known != m_plan.files.end()) m_trashed.insert(known->second);
+    return known != m_plan.files.end() ? known->second : record.location.string();
+}
+
+Result<void> DeleteProc::runCatching(const std::string& text) {
+    try {
+        return run(text);
+    } catch (const std::exception& exception) {
+        return Error{Error::Code::failed, exception.what()};
+    }
 }
 
 Result<void> DeleteProc::run(const std::string& text) {

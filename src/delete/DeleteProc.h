@@ -52,7 +52,10 @@ class DeleteProc final : public Operation {
     void deleteTrack(const TrackRecord& record, DeleteOutcome& outcome);
     void deleteFile(const TrackRecord& record, DeleteOutcome& outcome);
     void trash(const TrackRecord& record, DeleteOutcome& outcome);
+    bool hasFile(const TrackRecord& record) const;
+    std::string fileOf(const TrackRecord& record) const;
     Result<void> run(const std::string& text);
+    Result<void> runCatching(const std::string& text);
     void noteNotAttempted();
     void postEnd();
 

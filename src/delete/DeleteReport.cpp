@@ -40,6 +40,15 @@ bool DeleteReport::allDealtWith() const {
                        [](const DeleteOutcome& outcome) { return outcome.dealtWith; });
 }
 
+DeleteOutcome outcomeOf(const TrackRecord& record) {
+    DeleteOutcome outcome;
+    outcome.pid = record.pid.string();
+    outcome.name = record.name.string();
+    outcome.artist = record.artist.string();
+    outcome.location = record.location.string();
+    return outcome;
+}
+
 std::string outcomeText(const DeleteOutcome& outcome) {
     std::string text = trackText(outcome.track) + fileText(outcome.file);
     if (!outcome.reason.empty()) text += ": " + outcome.reason;
@@ -50,6 +59,8 @@ std::string outcomeLine(const DeleteOutcome& outcome) {
     std::string line = "Track " + outcome.name + " by " + outcome.artist + " (" + outcome.pid + ") ";
     line += outcomeText(outcome);
     if (!outcome.location.empty()) line += ", " + outcome.location;
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     return line;
 }
 

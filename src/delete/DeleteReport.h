@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/TrackRecord.h"
+
 #include <string>
 #include <vector>
 
 namespace songsweep {
+
+/// Why a file is left though it was to be trashed.
+inline constexpr const char* fileIsShared = "a track that stays uses it too";
+inline constexpr const char* fileCannotBeNamed = "its name cannot be told to Finder";
 
 /// What became of one marked track.
 struct DeleteOutcome {
@@ -13,7 +19,7 @@ struct DeleteOutcome {
 
     Track track = Track::notAttempted;
     File file = File::notAsked;
-    std::string reason; ///< why the track failed, or why the file was kept; a phrase
+    std::string reason; ///< why the track failed or the file was kept; a phrase, or two joined by "; "
     std::string pid;
     std::string name;
     std::string artist;
@@ -31,10 +37,14 @@ struct DeleteReport {
     bool allDealtWith() const;
 };
 
+/// The outcome of a track that nobody has dealt with yet.
+DeleteOutcome outcomeOf(const TrackRecord& record);
+
 /// The outcome in words: "deleted, file trashed", "deleted, file kept: the Trash refuses it".
 std::string outcomeText(const DeleteOutcome& outcome);
 
-/// A line for the log: "Deleted, file trashed: Song by Artist (00A1...) /music/song.mp3".
+/// A line for the log: "Track Song by Artist (00A1B2C3D4E5F607) deleted, file trashed, /music/song.mp3". Line
+/// breaks in names are blanks there.
 std::string outcomeLine(const DeleteOutcome& outcome);
 
 } // namespace songsweep

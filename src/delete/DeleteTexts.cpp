@@ -19,10 +19,13 @@ std::string deleteFile(std::string_view hfsPath) {
 
 } // namespace deleteTexts
 
+bool canStandInText(std::string_view words) { return words.find_first_of("\"\\") == std::string_view::npos; }
+
+bool isPath(std::string_view location) { return location.starts_with('/'); }
+
 std::optional<std::string> nameableHfsPath(std::string_view path) {
     std::optional<std::string> hfs = hfsPath(path);
-    if (!hfs || hfs->find_first_of("\"\\") != std::string::npos) return std::nullopt;
-    if (posixPath(*hfs) != path) return std::nullopt;
+    if (!hfs || !canStandInText(*hfs) || posixPath(*hfs) != path) return std::nullopt;
     return hfs;
 }
 

@@ -19,10 +19,16 @@ std::string deleteFile(std::string_view hfsPath);
 
 } // namespace deleteTexts
 
+/// Whether words written between two quotes in a text read back as themselves: a quote would end the literal,
+/// and a backslash begins an escape.
+bool canStandInText(std::string_view words);
+
+/// Whether a record's location is a path at all: "" and "msng" stand for a track without a file.
+bool isPath(std::string_view location);
+
 /// The HFS path by which a file can be named in a text, or nothing.
 ///
-/// A text is sent only where its literal reads back as that very path: a quote would end the literal, and a
-/// backslash begins an escape, which could name another file.
+/// A text is sent only where its literal reads back as that very path; another one could name another file.
 std::optional<std::string> nameableHfsPath(std::string_view posixPath);
 
 /// Whether nameableHfsPath has an answer.

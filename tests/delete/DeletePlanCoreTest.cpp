@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeleteFixture.h"
+#include "delete/DeletePlan.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace songsweep {
+namespace {
+
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+class DeletePlanTest : public test::DeleteFixture {
+  protected:
+    /// The library's tracks: the displayed rows and these.
+    DeletePlan plan(const std::vector<std::pair<std::string, std::string>>& others,
+                    const Files& files) const {
+        return makeDeletePlan(m_list.rows, files, [&](const LocationVisitor& visit) {
+            for (const TrackRecord* const record : m_list.rows)
+                visit(record->pid, record->location.string());
+            for (const auto& [pid, location] : others)
+                visit(pid, location);
+        });
+    }
+    DeletePlan plan(const std::vector<std::pair<std::string, std::string>>& others = {}) const {
+        return plan(others, m_files);
+    }
+    DeleteConfirmationFacts facts(const DeletePlan& plan) const {
+        return confirmationFacts(m_list.rows, m_files, plan);
+    }
+};
+
+/// A file system on which every file has the same number.
+class OneNumberFiles final : public Files {
+  public:
+    std::optional<FileAttributes> attributes(const std::string& path) const override {
+        auto attributes = Files::attributes(path);
+        if (attributes) attributes->device = attributes->inode = 0;
+        return attributes;
+    }
+};
+
+TEST_F(DeletePlanTest, aMarkedTrackDoesNotShareWithItselfOrAnotherMarkedOne) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true, path("a.mp3"));
+    EXPECT_THAT(plan().shared, IsEmpty());
+}
+
+TEST_F(DeletePlanTest, aTrackOutsideOfTheResultsCanShareAFile) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    addFile("B", true, "b.mp3");
+    EXPECT_THAT(plan({{"X", path("a.mp3")}, {"Y", path("c.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aLinkedFolderLeadsToTheSameFile) {
+    const TrackRecord& a = addFile("A", true, "real/a.mp3");
+    std::filesystem::create_directory_symlink(path("real"), path("linked"));
+    EXPECT_THAT(plan({{"X", path("linked/../linked/a.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aLinkedFileIsTheFileItLeadsTo) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
+    EXPECT_THAT(plan({{"X", path("link.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aHardLinkIsTheSameFile) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    std::filesystem::create_hard_link(path("a.mp3"), path("other.mp3"));
+    EXPECT_THAT(plan({{"X", path("other.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, anEqualFileNumberAloneIsNoSharing) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    addFile("B", true, "b.mp3");
+    addFile("C", false, "c.mp3");
+    const OneNumberFiles files;
+    EXPECT_THAT(plan({}, files).shared, IsEmpty());
+    EXPECT_THAT(plan({{"X", path("a.mp3")}}, files).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aMarkedTrackWithoutAnIdKeepsItsFileSinceNothingCanDeleteIt) {
+    const TrackRecord& a = addFile("0", true, "a.mp3");
+    EXPECT_THAT(
+        makeDeletePlan(m_list.rows, m_files, [&](const LocationVisitor& visit) { visit("", path("a.mp3")); })
+            .shared,
+        UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, withoutALibraryTheUnmarkedRowsStandForIt) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    add(1, "B", false, path("a.mp3"));
+    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aLocationThatIsNoPathIsNoFile) {
+    add(1, "A", true, "msng");
+    add(1, "B", true, "");
+    EXPECT_THAT(plan({{"X", "msng"}, {"Y", ""}}).files, IsEmpty());
+}
+
+TEST_F(DeletePlanTest, theFactsCountTracksFilesBytesAndWhatIsShared) {
+    addFile("A", true, "four");        // 4 bytes
+    addFile("B", true, "sixsix");      // 6 bytes
+    add(2, "C", true, path("sixsix")); // the file of B once more
+    add(2, "D", true, path("gone"));
+    addFile("E", true, "shared9"); // 7 bytes
+    add(3, "F", false, path("four2"));
+    const DeleteConfirmationFacts expected = {.tracks = 5,
+                                              .filesToTrash = 2,
+                                              .bytesToTrash = 10,
+                                              .sharedFiles = 1,
+                                              .sharedBytes = 7,
+                                              .missingFiles = 1,
+                                              .groupsLosingEveryCopy = 3};
+    EXPECT_EQ(facts(plan({{"X", path("shared9")}})), expected);
+}
+
+TEST_F(DeletePlanTest, aFileThatCannotBeNamedIsNotCountedAsGoing) {
+    addFile("A", true, "say \"hi\".mp3");
+    EXPECT_EQ(facts(plan()).filesToTrash, 0);
+}
+
+TEST_F(DeletePlanTest, groupsThatLoseEveryCopyAreThoseWithAllRowsMarked) {
+    add(1, "A", true);
+    add(1, "B", true);
+    add(2, "C", true);
+    add(2, "D", false);
+    add(3, "E", true);
+    EXPECT_EQ(groupsLosingEveryCopy(m_list.rows), 2);
+    EXPECT_EQ(groupsLosingEveryCopy({}), 0);
+}
+
+} // namespace
+} // namespace songsweep

@@ -1,0 +1,286 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeleteFixture.h"
+#include "delete/DeletePlan.h"
+#include "platform/HfsPath.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace songsweep {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr bool withFiles = true;
+constexpr bool withoutFiles = false;
+
+class DeleteProcTest : public test::DeleteFixture {
+  protected:
+    std::string fileEntry(const std::string& name) const { return "file " + hfsPath(path(name)).value(); }
+
+    /// Throws at the entry.
+    template <class Thrown>
+    void throwAt(const std::string& entry, Thrown thrown) {
+        setHook([=](const std::string& noted) {
+            if (noted == entry) throw Thrown(thrown);
+        });
+    }
+    void cancelAt(const std::string& entry) {
+        setHook([this, entry](const std::string& noted) {
+            if (noted == entry) cancel();
+        });
+    }
+};
+
+TEST_F(DeleteProcTest, anEmptyListRunsNoScriptAndPostsOnlyTheEnd) {
+    run(withFiles);
+    EXPECT_THAT(wholeJournal(), ElementsAre("event deleteFinish"));
+}
+
+TEST_F(DeleteProcTest, withNothingMarkedTheSoundGoesOffAndOnAndTheRowsAreVisited) {
+    add(1, "A", false);
+    add(1, "B", false);
+    run(withFiles);
+    EXPECT_THAT(wholeJournal(), ElementsAre("mute", "unmute", "event deleteValidity", "event deleteFinish"));
+    EXPECT_THAT(pidsLeft(), ElementsAre("A", "B"));
+}
+
+TEST_F(DeleteProcTest, eachMarkedTrackIsDeletedAndCounted) {
+    add(1, "A", true);
+    add(1, "B", false);
+    add(2, "C", true);
+    run(withoutFiles);
+    EXPECT_THAT(journal(),
+                ElementsAre("mute", "track A", "event deleteAddCount", "track C", "event deleteAddCount",
+                            "unmute", "event deleteValidity", "event deleteFinish"));
+    EXPECT_THAT(pidsLeft(), ElementsAre("B"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted", "C: deleted"));
+}
+
+TEST_F(DeleteProcTest, aFileFollowsItsTrack) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    run(withFiles);
+    EXPECT_THAT(journal(), ElementsAre("mute", "track A", fileEntry("a.mp3"), "event deleteAddCount",
+                                       "unmute", "event deleteValidity", "event deleteFinish"));
+    EXPECT_FALSE(exists("a.mp3"));
+    EXPECT_TRUE(exists("b.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed"));
+    EXPECT_TRUE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, withoutTheFileOptionFilesStay) {
+    addFile("A", true, "a.mp3");
+    run(withoutFiles);
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_THAT(journal("file"), IsEmpty());
+}
+
+TEST_F(DeleteProcTest, outcomesAreLoggedAfterTheFinalEvent) {
+    addFile("A", true, "a.mp3");
+    run(withFiles);
+    const auto& entries = wholeJournal();
+    EXPECT_EQ(entries.at(entries.size() - 2), "event deleteFinish");
+    EXPECT_EQ(entries.back(), "log Track Song by Artist (A) deleted, file trashed, " + path("a.mp3"));
+}
+
+TEST_F(DeleteProcTest, aPathWithColonsOrOtherLettersGoesInHfsNotation) {
+    addFile("A", true, "a:b – été 歌.mp3");
+    run(withFiles);
+    std::string folder = hfsPath(m_folder.path()).value();
+    EXPECT_THAT(journal("file"), ElementsAre("file " + folder + ":a/b – été 歌.mp3"));
+    EXPECT_EQ(trashedCount(), 1);
+}
+
+TEST_F(DeleteProcTest, aNameOf255BytesWithALineBreakIsDeleted) {
+    const std::string name = std::string(100, 'n') + "\n" + std::string(154, 'm');
+    addFile("A", true, name);
+    run(withFiles);
+    EXPECT_FALSE(exists(name));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed"));
+}
+
+class UnspeakableNameTest : public DeleteProcTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(UnspeakableNameTest, theFileStaysAndNoTextIsSent) {
+    addFile("A", true, GetParam());
+    run(withFiles);
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_TRUE(exists(GetParam()));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: its name cannot be told to Finder"));
+    EXPECT_FALSE(m_report.allDealtWith());
+    EXPECT_THAT(pidsLeft(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(names, UnspeakableNameTest,
+                         testing::Values("say \"hi\".mp3", "back\\slash.mp3", "tab\\t.mp3", "\\", "\""));
+
+TEST_F(DeleteProcTest, aMissingFileIsNotToldToFinder) {
+    add(1, "A", true, path("gone.mp3"));
+    add(1, "B", true, "");
+    add(1, "C", true, "msng");
+    run(withFiles);
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file missing", "B: deleted, file missing",
+                                        "C: deleted, file missing"));
+    EXPECT_TRUE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aFailedScriptStillTakesTheRowAwayAndCounts) {
+    addFile("A", true, "a.mp3");
+    failAt("track A", "iTunes got an error");
+    run(withFiles);
+    EXPECT_THAT(journal("event"),
+                ElementsAre("event deleteAddCount", "event deleteValidity", "event deleteFinish"));
+    EXPECT_THAT(journal("file"), ElementsAre(fileEntry("a.mp3")));
+    EXPECT_THAT(pidsLeft(), IsEmpty());
+    EXPECT_THAT(outcomes(), ElementsAre("A: failed, file trashed: iTunes got an error"));
+    EXPECT_FALSE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aFileThatFinderLeavesIsReportedWithTheReason) {
+    addFile("A", true, "a.mp3");
+    failAt(fileEntry("a.mp3"), "the Trash refuses it");
+    run(withFiles);
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: the Trash refuses it"));
+    EXPECT_THAT(pidsLeft(), IsEmpty());
+}
+
+TEST_F(DeleteProcTest, anIdThatCouldEndItsLiteralIsNotSent) {
+    add(1, "A\" or \"1\" is \"1", true);
+    run(withoutFiles);
+    EXPECT_THAT(journal("track"), IsEmpty());
+    EXPECT_THAT(journal("event deleteAddCount"), testing::SizeIs(1));
+    EXPECT_FALSE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aCancelInTheMiddleStopsBeforeTheNextRow) {
+    add(1, "A", true);
+    add(1, "B", true);
+    add(1, "C", false);
+    cancelAt("track A");
+    run(withoutFiles);
+    EXPECT_THAT(journal(),
+                ElementsAre("mute", "track A", "event deleteAddCount", "unmute", "event deleteCancel"));
+    EXPECT_THAT(pidsLeft(), ElementsAre("B", "C"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted", "B: not attempted"));
+    EXPECT_FALSE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aCancelWhileMutingDeletesNothing) {
+    add(1, "A", true);
+    cancelAt("mute");
+    run(withoutFiles);
+    EXPECT_THAT(journal(), ElementsAre("mute", "unmute", "event deleteCancel"));
+    EXPECT_THAT(pidsLeft(), ElementsAre("A"));
+}
+
+TEST_F(DeleteProcTest, aCancelAfterTheLastRowPostsBothEvents) {
+    add(1, "A", true);
+    cancelAt("event deleteAddCount");
+    run(withoutFiles);
+    EXPECT_THAT(journal("event"),
+                ElementsAre("event deleteAddCount", "event deleteValidity", "event deleteCancel"));
+}
+
+TEST_F(DeleteProcTest, anExceptionEndsTheLoopUnmutesAndComesOut) {
+    add(1, "A", true);
+    add(1, "B", true);
+    add(1, "C", false);
+    throwAt("track B", std::runtime_error("broken"));
+    EXPECT_THROW(run(withoutFiles), std::runtime_error);
+    EXPECT_THAT(journal(), ElementsAre("mute", "track A", "event deleteAddCount", "track B", "unmute",
+                                       "event deleteFinish"));
+    EXPECT_THAT(pidsLeft(), ElementsAre("B", "C"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted", "B: not attempted"));
+}
+
+TEST_F(DeleteProcTest, anExceptionWhileDeletingAFileIsSwallowed) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true);
+    throwAt(fileEntry("a.mp3"), std::runtime_error("the disk is gone"));
+    run(withFiles);
+    EXPECT_THAT(journal("event"), ElementsAre("event deleteAddCount", "event deleteAddCount",
+                                              "event deleteValidity", "event deleteFinish"));
+    EXPECT_THAT(outcomes(),
+                ElementsAre("A: deleted, file kept: the disk is gone", "B: deleted, file missing"));
+}
+
+TEST_F(DeleteProcTest, anExceptionOfAnotherKindWhileDeletingAFileEndsTheLoop) {
+    addFile("A", true, "a.mp3");
+    throwAt(fileEntry("a.mp3"), 42);
+    EXPECT_THROW(run(withFiles), int);
+    EXPECT_THAT(journal("event"), ElementsAre("event deleteFinish"));
+    EXPECT_THAT(journal("unmute"), ElementsAre("unmute"));
+    EXPECT_THAT(pidsLeft(), ElementsAre("A"));
+}
+
+TEST_F(DeleteProcTest, anExceptionAfterACancelPostsTheCancel) {
+    add(1, "A", true);
+    setHook([this](const std::string& entry) {
+        if (entry != "track A") return;
+        cancel();
+        throw std::runtime_error("broken");
+    });
+    EXPECT_THROW(run(withoutFiles), std::runtime_error);
+    EXPECT_THAT(journal("event"), ElementsAre("event deleteCancel"));
+}
+
+TEST_F(DeleteProcTest, anExceptionWhileMutingUnmutesAndEnds) {
+    add(1, "A", true);
+    throwAt("mute", std::runtime_error("no sound"));
+    EXPECT_THROW(run(withoutFiles), std::runtime_error);
+    EXPECT_THAT(journal(), ElementsAre("mute", "unmute", "event deleteFinish"));
+}
+
+TEST_F(DeleteProcTest, anExceptionWhileUnmutingStillEnds) {
+    add(1, "A", true);
+    throwAt("unmute", std::runtime_error("no sound"));
+    EXPECT_THROW(run(withoutFiles), std::runtime_error);
+    EXPECT_THAT(journal("event"),
+                ElementsAre("event deleteAddCount", "event deleteValidity", "event deleteFinish"));
+}
+
+TEST_F(DeleteProcTest, copiesThatShareAFileAreTrashedOnceAndBothDealtWith) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true, path("a.mp3"));
+    run(withFiles, makeDeletePlan(m_list.rows, m_files, {}));
+    EXPECT_THAT(journal("file"), ElementsAre(fileEntry("a.mp3")));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_TRUE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, copiesThatShareAFileByALinkedFolderAreTrashedOnce) {
+    addFile("A", true, "real/a.mp3");
+    std::filesystem::create_directory_symlink(path("real"), path("linked"));
+    add(1, "B", true, path("linked/a.mp3"));
+    run(withFiles, makeDeletePlan(m_list.rows, m_files, {}));
+    EXPECT_THAT(journal("file"), ElementsAre(fileEntry("real/a.mp3")));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+}
+
+TEST_F(DeleteProcTest, aFileThatATrackUsesThatStaysIsLeft) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, path("a.mp3"));
+    run(withFiles, makeDeletePlan(m_list.rows, m_files, {}));
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: a track that stays uses it too"));
+    EXPECT_TRUE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aSharedFileGoesWhereTheUserWantsIt) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, path("a.mp3"));
+    DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
+    plan.shared.clear();
+    run(withFiles, std::move(plan));
+    EXPECT_FALSE(exists("a.mp3"));
+}
+
+} // namespace
+} // namespace songsweep
