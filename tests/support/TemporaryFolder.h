@@ -8,12 +8,22 @@
 #include <iterator>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace songsweep::test {
 
 /// A folder of its own for one test; it goes away with everything in it.
 class TemporaryFolder {
   public:
+    TemporaryFolder() = default;
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    /// Qt would leave names that are no valid text.
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path(), ignored);
+    }
+
     std::string path() const { return m_folder.path().toStdString(); }
 
     /// Writes a file, with the folders on the way to it, and gives its path.

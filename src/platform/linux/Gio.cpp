@@ -16,6 +16,7 @@ Error::Code codeFor(gint code) {
         return Error::Code::notSupported;
     case G_IO_ERROR_NO_SPACE:
         return Error::Code::noSpace;
+    case G_IO_ERROR_TIMED_OUT:
     case G_IO_ERROR_BUSY:
         return Error::Code::busy;
     case G_IO_ERROR_CANCELLED:

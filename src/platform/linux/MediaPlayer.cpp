@@ -6,6 +6,7 @@
 #include "platform/linux/SessionBus.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -33,32 +34,35 @@ std::vector<std::string> runningPlayers(const SessionBus& bus) {
     return players;
 }
 
-/// A property's value; null where the player does not tell it.
-gio::Owned<GVariant> property(const SessionBus& bus, const std::string& player, const char* interface,
-                              const char* name) {
+/// A property's value; where the player does not tell it, or not in time, the error says so.
+Result<gio::Owned<GVariant>> property(const SessionBus& bus, const std::string& player, const char* interface,
+                                      const char* name) {
     const SessionBus::Method get{player, playerPath, "org.freedesktop.DBus.Properties", "Get"};
     const auto answer = bus.call(get, g_variant_new("(ss)", interface, name), answerLimit);
-    if (!answer || g_variant_is_of_type(answer.value().get(), G_VARIANT_TYPE("(v)")) == 0) return nullptr;
+    if (!answer) return answer.error();
+    if (g_variant_is_of_type(answer.value().get(), G_VARIANT_TYPE("(v)")) == 0)
+        return Error{Error::Code::invalid, "Not a property"};
     GVariant* value = nullptr;
     g_variant_get(answer.value().get(), "(v)", &value);
     return gio::Owned<GVariant>(value);
 }
 
-/// How close a player is to playing: 0 when it plays, 1 when it is paused, else 2.
-int distanceFromPlaying(const SessionBus& bus, const std::string& player) {
+/// How close a player is to playing: 0 when it plays, 1 when it is paused, else 2. Nothing for one that
+/// hangs.
+std::optional<int> distanceFromPlaying(const SessionBus& bus, const std::string& player) {
     const auto status = property(bus, player, playerInterface, "PlaybackStatus");
-    if (!status || g_variant_is_of_type(status.get(), G_VARIANT_TYPE_STRING) == 0) return 2;
-    const std::string_view text = g_variant_get_string(status.get(), nullptr);
+    if (!status && status.error().code == Error::Code::busy) return std::nullopt;
+    if (!status || g_variant_is_of_type(status.value().get(), G_VARIANT_TYPE_STRING) == 0) return 2;
+    const std::string_view text = g_variant_get_string(status.value().get(), nullptr);
     if (text == "Playing") return 0;
     return text == "Paused" ? 1 : 2;
 }
 
 std::vector<std::string> playersByPreference(const SessionBus& bus) {
     std::vector<std::pair<int, std::string>> ranked;
-    for (std::string& name : runningPlayers(bus)) {
-        const int distance = distanceFromPlaying(bus, name);
-        ranked.emplace_back(distance, std::move(name));
-    }
+    for (std::string& name : runningPlayers(bus))
+        if (const std::optional<int> distance = distanceFromPlaying(bus, name))
+            ranked.emplace_back(*distance, std::move(name));
     std::sort(ranked.begin(), ranked.end());
     std::vector<std::string> players;
     for (auto& [distance, name] : ranked)
@@ -69,8 +73,11 @@ std::vector<std::string> playersByPreference(const SessionBus& bus) {
 /// False only where the player lists what it opens, and files are not in the list, as browsers do.
 bool opensFiles(const SessionBus& bus, const std::string& player) {
     const auto schemes = property(bus, player, "org.mpris.MediaPlayer2", "SupportedUriSchemes");
-    if (!schemes || g_variant_is_of_type(schemes.get(), G_VARIANT_TYPE_STRING_ARRAY) == 0) return true;
-    const gio::Owned<const gchar*> list(g_variant_get_strv(schemes.get(), nullptr));
+    if (!schemes || g_variant_is_of_type(schemes.value().get(), G_VARIANT_TYPE_STRING_ARRAY) == 0)
+        return true;
+    // The array is ours, its texts stay the value's.
+    const std::unique_ptr<const gchar*, decltype(&g_free)> list(
+        g_variant_get_strv(schemes.value().get(), nullptr), &g_free);
     return g_strv_contains(list.get(), "file") != 0;
 }
 
