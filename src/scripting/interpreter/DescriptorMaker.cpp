@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/interpreter/DescriptorMaker.h"
 
+#include "scripting/SourceNotation.h"
 #include "scripting/interpreter/Limits.h"
 
 namespace songsweep::interpreter {
 namespace {
 
-std::string quoted(const std::string& text) {
-    std::string result = "\"";
-    for (const char letter : text) {
-        if (letter == '"' || letter == '\\') result += '\\';
-        result += letter;
-    }
-    return result + '"';
-}
-
 /// `track 1 of playlist 1 of application "iTunes"`.
 std::string notationOf(const Context& context, const HostObject& object) {
     const Applications::Entry* const owner = context.applications().owning(object);
     if (!owner) return object.specifier();
-    const std::string application = "application " + quoted(owner->name);
+    const std::string application = "application " + quotedNotation(owner->name);
     if (&object == owner->application.get()) return application;
     return object.specifier() + " of " + application;
 }
