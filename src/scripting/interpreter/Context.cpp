@@ -49,8 +49,8 @@ Context::~Context() {
 }
 
 bool Context::spend(std::size_t steps) {
-    m_spent += steps;
-    if (m_spent > maximumSteps) m_isExhausted = true;
+    m_spent += m_isFiltering ? steps : steps * filterNodesOfOneStep;
+    if (m_spent > maximumSteps * filterNodesOfOneStep) m_isExhausted = true;
     return !m_isExhausted;
 }
 
@@ -78,7 +78,7 @@ Error Context::fail(Position position, const Error& error) {
 
 Result<Value> Context::makeList(Position position, std::vector<Value> items) {
     if (items.size() > maximumListItems) return fail(position, ErrorNumber::general, "the list is too long");
-    std::size_t cost = items.size();
+    std::size_t cost = items.size() / listItemsOfOneStep;
     int depth = 0;
     for (const Value& item : items) {
         depth = std::max(depth, depthOf(item));

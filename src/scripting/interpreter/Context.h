@@ -115,7 +115,7 @@ class Context {
     std::optional<Value> m_result;
     ObjectPointer m_target;
     HostApplication* m_application = nullptr;
-    std::size_t m_spent = 0;
+    std::size_t m_spent = 0; // in the fractions of a step that a filter's node costs
     Position m_errorPosition;
     int m_errorNumber = 0;
     bool m_isFiltering = false;

@@ -44,9 +44,16 @@ struct Maker {
     }
 };
 
+// A list of its own costs as much as several items.
+constexpr std::size_t stepsOfOneList = 8;
+
+std::size_t costOf(const Value& value) {
+    if (const auto* const text = std::get_if<std::string>(&value)) return 1 + text->size() / textBytesOfOneStep;
+    return listItems(value) ? stepsOfOneList : 1;
+}
+
 Result<Descriptor> made(Context& context, const Value& value, int depth) {
-    const auto* const text = std::get_if<std::string>(&value);
-    if (!context.spend(text ? 1 + text->size() / textBytesOfOneStep : 1)) return context.exhausted({});
+    if (!context.spend(costOf(value))) return context.exhausted({});
     return std::visit(Maker{context, depth}, value);
 }
 

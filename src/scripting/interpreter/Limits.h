@@ -15,8 +15,11 @@ inline constexpr int maximumNesting = 100;
 inline constexpr int maximumTreeDepth = 500;
 
 /// What a script may spend: one step for every node of the tree it passes, for every element it walks over
-/// and for each few bytes of text it copies. Enough to look at every track of a large library several times.
-inline constexpr std::size_t maximumSteps = 5'000'000;
+/// and for each few items and bytes of text it copies. The nodes of a filter cost a fraction, so that a
+/// script can walk over every track of a large library.
+inline constexpr std::size_t maximumSteps = 3'000'000;
+inline constexpr std::size_t filterNodesOfOneStep = 10;
+inline constexpr std::size_t listItemsOfOneStep = 8;
 inline constexpr std::size_t textBytesOfOneStep = 64;
 
 /// Largest text and largest list that a script may make.

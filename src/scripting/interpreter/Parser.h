@@ -106,6 +106,7 @@ class Parser {
     ExpressionResult parseProduct();
     ExpressionResult parsePower();
     ExpressionResult parseSign();
+    ExpressionResult parseExistence();
 
     // References and values (ParserReferences.cpp, ParserSpecifiers.cpp, ParserValues.cpp).
     ExpressionResult parseReference();

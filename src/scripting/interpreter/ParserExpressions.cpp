@@ -259,7 +259,7 @@ Parser::ExpressionResult Parser::parsePower() {
 }
 
 Parser::ExpressionResult Parser::parseSign() {
-    if (!atSymbol(U'-') && !atSymbol(U'+')) return parseReference();
+    if (!atSymbol(U'-') && !atSymbol(U'+')) return parseExistence();
     const Nesting nesting(*this);
     if (nesting.isTooDeep()) return nesting.error();
     const Position place = position();
@@ -268,6 +268,15 @@ Parser::ExpressionResult Parser::parseSign() {
     ExpressionResult operand = parseSign();
     if (!operand || !isNegative) return operand;
     return make<NegateExpression>(place, std::move(operand).value());
+}
+
+/// `x exists`.
+Parser::ExpressionResult Parser::parseExistence() {
+    ExpressionResult reference = parseReference();
+    if (!reference || !at(Keyword::exists)) return reference;
+    const Position place = position();
+    skip(1);
+    return make<ExistsExpression>(place, std::move(reference).value());
 }
 
 } // namespace songsweep::interpreter

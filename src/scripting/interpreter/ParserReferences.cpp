@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/interpreter/ParserSupport.h"
-#include "scripting/interpreter/ast/Operators.h"
 
 namespace songsweep::interpreter {
 
@@ -11,11 +10,7 @@ Parser::ExpressionResult Parser::parseReference() {
         skip(1);
     ExpressionResult reference = parseUnowned();
     if (!reference) return reference;
-    reference = parsePossessives(std::move(reference).value());
-    if (!reference || !at(Keyword::exists)) return reference;
-    const Position place = position();
-    skip(1);
-    return make<ExistsExpression>(place, std::move(reference).value());
+    return parsePossessives(std::move(reference).value());
 }
 
 Parser::ExpressionResult Parser::parseUnowned() {
@@ -52,7 +47,8 @@ Result<void> Parser::parseFilter(Specifier& specifier) {
 /// `playlist 1's name`.
 Parser::ExpressionResult Parser::parsePossessives(ExpressionPointer owner) {
     while (takeSymbol(U'\'')) {
-        if (!atSpecifier()) return expected("a property or an element");
+        const bool isPlainWord = at(Keyword::none) && (peek().kind == Token::Kind::word);
+        if (!isPlainWord && !atSpecifier()) return expected("a property or an element");
         Result<Specifier> specifier = parseSpecifier();
         if (!specifier) return specifier.error();
         if (Result<void> filtered = parseFilter(specifier.value()); !filtered) return filtered.error();

@@ -103,6 +103,7 @@ Result<Parser::Specifier> Parser::parseOrdinal() {
     skip(1);
     Result<Specifier> specifier = parseElements(true);
     if (!specifier) return specifier;
+    specifier.value().isOrdinal = true;
     Selector& selector = specifier.value().selector;
     selector.kind = isMiddle ? Selector::Kind::middle : Selector::Kind::index;
     if (!isMiddle) selector.first = std::make_unique<const LiteralExpression>(place, Value(ordinal->index));

@@ -34,11 +34,13 @@ struct Parser::Specifier {
     ClassReference elementClass;
     Selector selector;
     ExpressionPointer filter;
+    bool isOrdinal = false;
 
     bool needsContainer() const { return kind != Kind::element && (kind != Kind::property || !property); }
+    /// `every track whose …`, `tracks whose …`, `first track whose …`; not `track 1 whose …`, so that a
+    /// filter behind `every track of playlist 1` is one of the tracks.
     bool canBeFiltered() const {
-        return kind == Kind::element && !filter && selector.kind != Selector::Kind::name &&
-               selector.kind != Selector::Kind::id;
+        return kind == Kind::element && !filter && (isOrdinal || selector.kind == Selector::Kind::every);
     }
 };
 

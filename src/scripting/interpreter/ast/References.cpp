@@ -42,35 +42,55 @@ Result<ObjectPointer> ContainedReference::objectOf(Context& context, const Value
     return context.fail(position(), ErrorNumber::noSuchObject, kindName(value) + " has no such part");
 }
 
-Result<Value> ContainedReference::gathered(Context& context, const std::vector<Value>& values,
-                                           const Inside& inside) const {
-    std::vector<Value> results;
-    for (const Value& value : values) {
-        const Result<Referent> result =
-            insideEach(context, Referent{value, listItems(value) != nullptr}, inside);
-        if (!result) return result.error();
-        const auto* const set = std::get_if<ElementSet>(&result.value().what);
-        Result<Value> item = set ? listOf(context, position(), *set) : std::get<Value>(result.value().what);
-        if (!item) return item;
-        results.push_back(std::move(item).value());
-    }
-    return context.makeList(position(), std::move(results));
-}
-
 Result<Referent> ContainedReference::insideEach(Context& context, const Referent& containers,
                                                 const Inside& inside) const {
     if (const auto* const set = std::get_if<ElementSet>(&containers.what)) {
-        const Result<Value> elements = listOf(context, position(), *set);
-        if (!elements) return elements.error();
-        Result<Value> values = gathered(context, *listItems(elements.value()), inside);
-        if (!values) return values.error();
-        return Referent{std::move(values).value(), true};
+        return insideElements(context, *set, inside);
     }
     const Value& value = std::get<Value>(containers.what);
-    if (!containers.isGathered) return inside(value);
-    Result<Value> values = gathered(context, *listItems(value), inside);
-    if (!values) return values.error();
-    return Referent{std::move(values).value(), true};
+    return containers.isGathered ? insideItems(context, *listItems(value), inside) : inside(value);
+}
+
+Result<Referent> ContainedReference::insideElements(Context& context, const ElementSet& elements,
+                                                    const Inside& inside) const {
+    std::vector<Value> values;
+    const auto visit = [&](const ObjectPointer& element) -> Result<bool> {
+        Result<Value> value = insideOne(context, Value(element), inside);
+        if (!value) return value.error();
+        values.push_back(std::move(value).value());
+        return true;
+    };
+    const Result<void> walked = forEachElement(context, position(), elements, visit);
+    if (!walked) return walked.error();
+    return gathered(context, std::move(values));
+}
+
+Result<Referent> ContainedReference::insideItems(Context& context, const std::vector<Value>& items,
+                                                 const Inside& inside) const {
+    std::vector<Value> values;
+    for (const Value& item : items) {
+        Result<Value> value = insideOne(context, item, inside);
+        if (!value) return value.error();
+        values.push_back(std::move(value).value());
+    }
+    return gathered(context, std::move(values));
+}
+
+/// What is inside of one of several, as a value; what was gathered before is gone into.
+Result<Value> ContainedReference::insideOne(Context& context, const Value& value,
+                                            const Inside& inside) const {
+    const auto* const several = listItems(value);
+    Result<Referent> result = several ? insideItems(context, *several, inside) : inside(value);
+    if (!result) return result.error();
+    const auto* const set = std::get_if<ElementSet>(&result.value().what);
+    if (set) return listOf(context, position(), *set);
+    return std::get<Value>(std::move(result.value().what));
+}
+
+Result<Referent> ContainedReference::gathered(Context& context, std::vector<Value> values) const {
+    Result<Value> list = context.makeList(position(), std::move(values));
+    if (!list) return list.error();
+    return Referent{std::move(list).value(), true};
 }
 
 std::optional<TermCode> PropertyReference::codeIn(const Terminology& words) const {

@@ -48,8 +48,9 @@ class ApplicationReference final : public Reference {
 /// A reference inside another object: `x of container`. Without a container it is one of the object told.
 class ContainedReference : public Reference {
   public:
+    /// `depth` is that of what else is below the node.
     ContainedReference(Position position, int depth, ExpressionPointer container)
-        : Reference(position, depth)
+        : Reference(position, std::max(depth, depthAbove(container)))
         , m_container(std::move(container)) {}
 
     bool dependsOnTarget() const override { return !m_container || m_container->dependsOnTarget(); }
@@ -68,7 +69,11 @@ class ContainedReference : public Reference {
     Result<Referent> insideEach(Context& context, const Referent& containers, const Inside& inside) const;
 
   private:
-    Result<Value> gathered(Context& context, const std::vector<Value>& values, const Inside& inside) const;
+    Result<Referent> insideElements(Context& context, const ElementSet& elements, const Inside& inside) const;
+    Result<Referent> insideItems(Context& context, const std::vector<Value>& items,
+                                 const Inside& inside) const;
+    Result<Value> insideOne(Context& context, const Value& value, const Inside& inside) const;
+    Result<Referent> gathered(Context& context, std::vector<Value> values) const;
 
     ExpressionPointer m_container;
 };
@@ -80,7 +85,7 @@ class PropertyReference final : public ContainedReference {
     /// itself says to the name is seen when it is asked.
     PropertyReference(Position position, std::string name, const Terminology* origin,
                       const PropertyTerm* term, ExpressionPointer container)
-        : ContainedReference(position, depthAbove(container), std::move(container))
+        : ContainedReference(position, 1, std::move(container))
         , m_name(std::move(name))
         , m_origin(origin)
         , m_term(term) {}
@@ -106,7 +111,7 @@ class PropertyReference final : public ContainedReference {
 class PosixPathReference final : public ContainedReference {
   public:
     PosixPathReference(Position position, ExpressionPointer container)
-        : ContainedReference(position, depthAbove(container), std::move(container)) {}
+        : ContainedReference(position, 1, std::move(container)) {}
 
   protected:
     Result<Referent> computeReferent(Context& context) const override;
@@ -125,7 +130,7 @@ class ElementReference final : public ContainedReference {
   public:
     ElementReference(Position position, ClassReference elementClass, Selector selector,
                      ExpressionPointer filter, ExpressionPointer container)
-        : ContainedReference(position, depthAbove(selector.first, selector.last, filter, container),
+        : ContainedReference(position, depthAbove(selector.first, selector.last, filter),
                              std::move(container))
         , m_class(elementClass)
         , m_selector(std::move(selector))
@@ -149,8 +154,7 @@ class ElementReference final : public ContainedReference {
 class ItemReference final : public ContainedReference {
   public:
     ItemReference(Position position, Selector selector, ExpressionPointer container)
-        : ContainedReference(position, depthAbove(selector.first, selector.last, container),
-                             std::move(container))
+        : ContainedReference(position, depthAbove(selector.first, selector.last), std::move(container))
         , m_selector(std::move(selector)) {}
 
     bool isAssignable() const override { return m_selector.kind == Selector::Kind::index; }
@@ -176,7 +180,7 @@ class InsertionReference final : public ContainedReference {
   public:
     enum class Place { beginning, end };
     InsertionReference(Position position, Place place, ExpressionPointer container)
-        : ContainedReference(position, depthAbove(container), std::move(container))
+        : ContainedReference(position, 1, std::move(container))
         , m_place(place) {}
 
     bool isAssignable() const override { return true; }
