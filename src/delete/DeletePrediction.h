@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delete/DeletePlan.h"
+#include "delete/DeleteReport.h"
+
+#include <vector>
+
+namespace songsweep {
+
+/// What a deletion of the marked rows would come to if nothing fails; touches nothing.
+DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFile, const DeletePlan& plan);
+
+} // namespace songsweep
