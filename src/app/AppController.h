@@ -37,6 +37,8 @@ struct ControllerServices {
     std::function<std::string()> unreachableReason = [] { return std::string(); };
     /// Every track of the whole library with its file, for finding files that two tracks share.
     LibraryLocations libraryLocations = {};
+    /// Told that a deletion is about to begin, so that it gets a backup of its own.
+    std::function<void()> beginDeletionRun = [] {};
     bool embeddedLibrary = true; ///< for the words of the delete confirmation
 };
 

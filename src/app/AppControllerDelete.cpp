@@ -2,6 +2,8 @@
 // The deletion: its confirmation, its start, and what is left of the groups afterwards.
 #include "app/AppController.h"
 
+#include <utility>
+
 namespace songsweep {
 
 void AppController::deleteButtonClick() {
@@ -44,6 +46,7 @@ void AppController::beginDelete() {
     m_progress.total = getCheckedCount();
     if (m_progress.total > 0) m_deletedSinceRead = true;
     m_progress.beginPhase(0, 100);
+    m_services.beginDeletionRun();
     m_deleteReport = std::make_shared<DeleteReport>();
     const DeleteServices services = {m_center, m_services.scripts, m_services.files, m_services.log};
     m_queue.add(std::make_unique<DeleteProc>(m_tableDataSource, m_deleteFiles, services,

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "app/Program.h"
+
+#include "library/LocationUrl.h"
+#include "platform/GivenLibrary.h"
+#include "platform/Log.h"
+#include "platform/Native.h"
+
+#include <filesystem>
+
+namespace songsweep {
+
+namespace {
+
+std::string absolutePath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute.lexically_normal().string();
+}
+
+EmbeddedScripting::Options scriptingOptions(const ProgramOptions& options, Log& log) {
+    EmbeddedScripting::Options made;
+    made.iTunesVersion = options.iTunesVersion;
+    made.log = &log;
+    return made;
+}
+
+} // namespace
+
+void ChosenLibraryPreferences::choose(const std::string& path) { m_chosen = std::make_unique<GivenLibrary>(path); }
+
+const Preferences& ChosenLibraryPreferences::present() const { return m_chosen ? *m_chosen : *m_others; }
+
+std::optional<IAppsDomain> ChosenLibraryPreferences::iAppsDomain() const { return present().iAppsDomain(); }
+
+std::optional<IAppsDomain> ChosenLibraryPreferences::iAppsPropertyList(const std::string& path) const {
+    return present().iAppsPropertyList(path);
+}
+
+std::string ChosenLibraryPreferences::homeFolder() const { return present().homeFolder(); }
+
+std::string ChosenLibraryPreferences::libraryPath() const {
+    std::optional<IAppsDomain> domain = iAppsDomain();
+    if (!domain) domain = iAppsPropertyList(homeFolder() + "/Library/Preferences/com.apple.iApps.plist");
+    if (!domain || domain->iTunesRecentDatabases.empty()) return {};
+    return pathOfUrl(domain->iTunesRecentDatabases.front()).value_or(std::string());
+}
+
+Program::Program(ProgramOptions options, Log& log)
+    : m_options(std::move(options))
+    , m_log(log)
+    , m_files(m_options.map)
+    , m_desktop(nativeDesktop())
+    , m_preferences(nativePreferences())
+    , m_scripting({}, *m_desktop, m_files, scriptingOptions(m_options, log)) {
+    if (!m_options.library.empty()) m_preferences.choose(absolutePath(m_options.library));
+    // Nothing is pending in a program that has just begun.
+    (void)m_scripting.openLibrary(m_preferences.libraryPath());
+}
+
+ControllerServices Program::controllerServices() {
+    return {
+        .scripts = m_scripting,
+        .files = m_files,
+        .preferences = m_preferences,
+        .sleeper = m_sleeper,
+        .log = m_log,
+        .desktop = *m_desktop,
+        .version = m_options.version,
+        .unreachableReason = [this] { return unreachableReason(); },
+        .libraryLocations = [this](const LocationVisitor& visit) { visitLocations(visit); },
+        .beginDeletionRun = [this] { m_scripting.beginDeletionRun(); },
+        .embeddedLibrary = true,
+    };
+}
+
+Result<void> Program::openLibrary(const std::string& path) {
+    const std::string absolute = absolutePath(path);
+    if (Result<void> opened = m_scripting.openLibrary(absolute); !opened) return opened;
+    m_preferences.choose(absolute);
+    return m_scripting.readLibrary();
+}
+
+std::string Program::unreachableReason() const {
+    const std::optional<Error> error = m_scripting.libraryError();
+    if (!error) return {};
+    const std::string path = m_scripting.libraryPath();
+    return path.empty() ? error->message : path + ": " + error->message;
+}
+
+void Program::visitLocations(const LocationVisitor& visit) {
+    const Result<void> visited = m_scripting.forEachLocation(visit);
+    if (!visited) m_log.line("The files of the library could not be looked at: " + visited.error().message);
+}
+
+} // namespace songsweep

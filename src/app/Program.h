@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/AppController.h"
+#include "hosts/EmbeddedScripting.h"
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/PathMap.h"
+#include "platform/Preferences.h"
+#include "platform/Sleeper.h"
+
+#include <memory>
+#include <string>
+
+namespace songsweep {
+
+class Log;
+
+/// What the program is started with.
+struct ProgramOptions {
+    std::string library; ///< path of the library file; empty for the one that iTunes' preferences name
+    PathMap map;
+    std::string iTunesVersion = "12.0";
+    std::string version; ///< of this program
+};
+
+/// iTunes' preferences, but for a library that the user named: that one comes first then.
+class ChosenLibraryPreferences final : public Preferences {
+  public:
+    explicit ChosenLibraryPreferences(std::unique_ptr<Preferences> others)
+        : m_others(std::move(others)) {}
+
+    /// Takes an absolute path. Main thread, while no worker runs.
+    void choose(const std::string& path);
+
+    std::optional<IAppsDomain> iAppsDomain() const override;
+    std::optional<IAppsDomain> iAppsPropertyList(const std::string& path) const override;
+    std::string homeFolder() const override;
+
+    /// The path of the file that a reader would take; empty where there is none.
+    std::string libraryPath() const;
+
+  private:
+    const Preferences& present() const;
+
+    std::unique_ptr<Preferences> m_others;
+    std::unique_ptr<Preferences> m_chosen;
+};
+
+/// The parts that a controller works with, put together around the embedded iTunes.
+///
+/// Owns them; outlives the controller. Pending changes of the library are written when it goes.
+class Program {
+  public:
+    Program(ProgramOptions options, Log& log);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    ControllerServices controllerServices();
+    EmbeddedScripting& scripting() { return m_scripting; }
+    Files& files() { return m_files; }
+    Desktop& desktop() { return *m_desktop; }
+
+    /// Turns to another library file. An error where what is left to write of the present one cannot be.
+    Result<void> openLibrary(const std::string& path);
+
+    /// Why the library cannot be read, with its path: for alerts and the console. Empty where it can.
+    std::string unreachableReason() const;
+
+  private:
+    void visitLocations(const LocationVisitor& visit);
+
+    ProgramOptions m_options;
+    Log& m_log;
+    Files m_files;
+    std::unique_ptr<Desktop> m_desktop;
+    ChosenLibraryPreferences m_preferences;
+    Sleeper m_sleeper;
+    EmbeddedScripting m_scripting;
+};
+
+} // namespace songsweep
