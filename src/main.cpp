@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <cstdio>
-#include <cstring>
+#include "cli/RunCommand.h"
+
+#include <variant>
+
+using namespace songsweep;
 
 int main(int argumentCount, char** arguments) {
-    if (argumentCount > 1 && std::strcmp(arguments[1], "--version") == 0)
-        std::puts("Songsweep " SONGSWEEP_VERSION);
-    return 0;
+    const auto parsed = cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION);
+    if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);
+    return cli::runCommand(std::get<cli::Command>(parsed), argumentCount, arguments, SONGSWEEP_VERSION);
 }

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/CommandLine.h"
+#include "dupes/MarkChoice.h"
+
+#include <string>
+
+namespace songsweep::cli {
+
+/// The rule that the options name.
+MarkChoice choiceOf(const MarkOptions& options);
+
+/// Each runs one command to its end and gives the process's exit code. Results go to standard output or the
+/// file asked for, everything else to standard error. Main thread, under a QCoreApplication.
+ExitCode runFind(const FindOptions& options, const std::string& version);
+ExitCode runMark(const MarkOptions& options, const std::string& version);
+ExitCode runDelete(const DeleteOptions& options, const std::string& version);
+ExitCode runScript(const ScriptOptions& options, const std::string& version);
+
+/// Prints "songsweep: MESSAGE" on standard error and gives the code of a failure.
+ExitCode fail(const std::string& message);
+
+} // namespace songsweep::cli

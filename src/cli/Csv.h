@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace songsweep::cli {
+
+/// A text as a field of a CSV row: quoted where it holds a comma, a quote or a line break (RFC 4180).
+std::string csvField(std::string_view text);
+
+std::string csvTruth(bool value);
+
+} // namespace songsweep::cli

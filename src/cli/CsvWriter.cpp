@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Csv.h"
+#include "cli/Output.h"
+#include "cli/SearchReport.h"
+#include "library/ValueFormats.h"
+
+namespace songsweep::cli {
+
+namespace {
+
+constexpr const char* header =
+    "checkbox,name,artist,album,timev,time,bitrate,size,sizestring,rating,pid,gid,showid,"
+    "playcount,location,dateaddedv,dateadded,hasartwork,isfile,isdead,trackid";
+
+std::string row(const TrackRecord& record) {
+    const std::string fields[] = {
+        csvTruth(record.checkbox),
+        csvField(record.name),
+        csvField(record.artist),
+        csvField(record.album),
+        std::to_string(record.timev),
+        csvField(record.time),
+        csvField(record.bitrate),
+        csvField(record.size),
+        csvField(sizestring(record)),
+        std::to_string(record.rating),
+        csvField(record.pid),
+        std::to_string(record.gid),
+        record.showid ? "1" : "0",
+        std::to_string(integerValue(record.playcount)),
+        csvField(record.location),
+        std::to_string(record.dateaddedv),
+        csvField(dateadded(record)),
+        csvTruth(record.hasartwork),
+        record.fromlibraryfile ? csvTruth(record.isfile) : "",
+        csvTruth(record.isdead),
+        csvField(record.trackid),
+    };
+    std::string line;
+    for (const std::string& value : fields)
+        line += (line.empty() ? "" : ",") + value;
+    return line;
+}
+
+} // namespace
+
+std::string csvTruth(bool value) { return value ? "true" : "false"; }
+
+std::string csvField(std::string_view text) {
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"') quoted += '"';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+void writeCsv(Output& output, const SearchReport& report) {
+    output.write(std::string(header) + (report.reason ? ",reason\r\n" : "\r\n"));
+    for (int index = 0; index < static_cast<int>(report.rows.size()); ++index) {
+        output.write(row(*report.rows.at(index)));
+        if (report.reason) output.write("," + csvField(report.reason(index)));
+        output.write("\r\n");
+    }
+}
+
+} // namespace songsweep::cli

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Commands.h"
+#include "cli/LibrarySearch.h"
+#include "cli/OutcomeReport.h"
+#include "cli/Output.h"
+#include "delete/DeletePrediction.h"
+
+namespace songsweep::cli {
+
+namespace {
+
+std::string refusal(int groups) {
+    const std::string songs = groups == 1 ? "1 song" : std::to_string(groups) + " songs";
+    return "no copy of " + songs + " would be left; nothing was deleted (--allow-all-copies allows it)";
+}
+
+std::optional<ExitCode> writeReportTo(const DeleteOptions& options, const DeleteReport& report) {
+    Result<Output> output = Output::open(options.output);
+    if (!output) return fail(output.error().message);
+    writeOutcomes(output.value(), report, options.dryRun, options.format);
+    if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
+    return std::nullopt;
+}
+
+ExitCode predict(LibrarySearch& search, const DeleteOptions& options) {
+    const auto& rows = search.controller().tableDataSource().rows;
+    DeletePlan plan = makeDeletePlan(rows, search.program().files(),
+                                     search.program().controllerServices().libraryLocations);
+    if (options.sharedFiles) plan.shared.clear();
+    const DeleteReport report = predictedReport(rows, options.files, plan);
+    return writeReportTo(options, report).value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);
+}
+
+ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options) {
+    const bool completed = search.deleteMarked(options.files, !options.sharedFiles);
+    const Result<void> written = search.program().scripting().flush();
+    const DeleteReport nothing;
+    const DeleteReport* const report = search.controller().lastDeleteReport();
+    const auto problem = writeReportTo(options, report ? *report : nothing);
+    if (!written) return fail(options.library + ": " + written.error().message);
+    if (problem) return *problem;
+    if (!completed) return ExitCode::interrupted;
+    return !report || report->allDealtWith() ? ExitCode::done : ExitCode::failed;
+}
+
+} // namespace
+
+ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
+    LibrarySearch search(options, version);
+    if (const auto problem = search.run()) return *problem;
+    search.controller().markOkButtonClick(choiceOf(options));
+    const int lost = groupsLosingEveryCopy(search.controller().tableDataSource().rows);
+    if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
+    return options.dryRun ? predict(search, options) : carryOut(search, options);
+}
+
+} // namespace songsweep::cli

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Output.h"
+#include "cli/SearchReport.h"
+#include "library/ValueFormats.h"
+
+#include <nlohmann/json.hpp>
+
+namespace songsweep::cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// All keys of a record, in their order; a record of the AppleScript reader lacks "isfile" and "trackid".
+Json trackObject(const TrackRecord& record) {
+    Json track;
+    track["checkbox"] = record.checkbox;
+    track["name"] = record.name.view();
+    track["artist"] = record.artist.view();
+    track["album"] = record.album.view();
+    track["timev"] = record.timev;
+    track["time"] = record.time.view();
+    track["bitrate"] = record.bitrate.view();
+    track["size"] = record.size.view();
+    track["sizestring"] = sizestring(record);
+    track["rating"] = record.rating;
+    track["pid"] = record.pid.view();
+    track["gid"] = record.gid;
+    track["showid"] = record.showid ? "1" : "0";
+    track["playcount"] = integerValue(record.playcount);
+    track["location"] = record.location.view();
+    track["dateaddedv"] = record.dateaddedv;
+    track["dateadded"] = dateadded(record);
+    track["hasartwork"] = record.hasartwork;
+    if (record.fromlibraryfile) track["isfile"] = record.isfile;
+    track["isdead"] = record.isdead;
+    if (record.fromlibraryfile) track["trackid"] = record.trackid.view();
+    return track;
+}
+
+/// A name that is not UTF-8 shows a replacement character instead of ending the output.
+std::string dump(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }
+
+} // namespace
+
+void writeJson(Output& output, const SearchReport& report) {
+    output.write("{\n  \"tracks\": " + std::to_string(report.tracks) +
+                 ",\n  \"listed\": " + std::to_string(report.listed) +
+                 ",\n  \"songs\": " + std::to_string(report.rows.size()) + ",\n  \"groups\": [");
+    forEachGroup(report.rows, [&](int first, int end) {
+        output.write(first == 0 ? "\n" : ",\n");
+        output.write("    {\"gid\": " + std::to_string(report.rows.at(first)->gid) + ", \"tracks\": [");
+        for (int row = first; row < end; ++row) {
+            Json track = trackObject(*report.rows.at(row));
+            if (report.reason) track["reason"] = report.reason(row);
+            output.write((row == first ? "\n      " : ",\n      ") + dump(track));
+        }
+        output.write("\n    ]}");
+    });
+    output.write(report.rows.empty() ? "]\n}\n" : "\n  ]\n}\n");
+}
+
+} // namespace songsweep::cli

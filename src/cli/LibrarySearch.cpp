@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "cli/LibrarySearch.h"
+
+#include "cli/Commands.h"
+#include "cli/Output.h"
+#include "library/CaseFolding.h"
+#include "platform/LogFile.h"
+
+#include <algorithm>
+
+namespace songsweep::cli {
+
+namespace {
+
+std::string listOf(const std::vector<PlaylistInfo>& playlists) {
+    if (playlists.empty()) return "; the library has none";
+    std::string names;
+    for (const PlaylistInfo& playlist : playlists)
+        names += "\n  " + playlist.name;
+    return "; the library has" + names;
+}
+
+} // namespace
+
+LibrarySearch::LibrarySearch(const FindOptions& options, const std::string& version)
+    : m_options(options)
+    , m_version(version)
+    , m_interrupts([this] { m_run.interrupt(); }) {}
+
+std::optional<ExitCode> LibrarySearch::run() {
+    if (const auto problem = prepare()) return fail(*problem);
+    const auto failure = m_run.run(*m_controller, m_options.parameters);
+    if (!failure) return std::nullopt;
+    if (failure->interrupted) return ExitCode::interrupted;
+    return fail(withPath(failure->message));
+}
+
+std::optional<std::string> LibrarySearch::prepare() {
+    if (!m_options.log.empty()) {
+        Result<std::unique_ptr<Log>> log = openLogFile(m_options.log);
+        if (!log) return log.error().message;
+        m_log = std::move(log).value();
+    }
+    m_program = std::make_unique<Program>(
+        ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion, m_version}, *m_log);
+    if (const Result<void> read = m_program->scripting().readLibrary(); !read)
+        return withPath(read.error().message);
+    if (const auto problem = choosePlaylist()) return problem;
+    m_controller = std::make_unique<AppController>(m_program->controllerServices(), m_run);
+    m_controller->awakeFromNib();
+    return std::nullopt;
+}
+
+/// The library's own playlist unless one was named; a name is compared as the readers do.
+std::optional<std::string> LibrarySearch::choosePlaylist() {
+    const Result<int> count = m_program->scripting().trackCount();
+    const Result<std::vector<PlaylistInfo>> playlists = m_program->scripting().playlists();
+    if (!count) return withPath(count.error().message);
+    if (!playlists) return withPath(playlists.error().message);
+    m_trackCount = count.value();
+    std::optional<std::string>& chosen = m_options.parameters.playlist;
+    if (!chosen) {
+        if (!playlists.value().empty()) chosen = playlists.value().front().name;
+        return std::nullopt;
+    }
+    const std::string wanted = lowercase(*chosen);
+    const bool there =
+        std::any_of(playlists.value().begin(), playlists.value().end(),
+                    [&](const PlaylistInfo& playlist) { return lowercase(playlist.name) == wanted; });
+    if (there) return std::nullopt;
+    return withPath("there is no playlist '" + *chosen + "'" + listOf(playlists.value()));
+}
+
+bool LibrarySearch::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
+    if (m_controller->getCheckedCount() == 0) return true;
+    return m_run.runDeletion(*m_controller, deleteFiles, leaveSharedFiles);
+}
+
+SearchReport LibrarySearch::report() {
+    return {.tracks = m_trackCount,
+            .listed = m_controller->listedCount(),
+            .rows = m_controller->tableDataSource().rows};
+}
+
+std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report) {
+    Result<Output> output = Output::open(options.output);
+    if (!output) return fail(output.error().message);
+    writeReport(output.value(), report, options.format);
+    if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
+    return std::nullopt;
+}
+
+} // namespace songsweep::cli

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Program.h"
+#include "cli/InterruptWatch.h"
+#include "cli/Options.h"
+#include "cli/SearchReport.h"
+#include "cli/SearchRun.h"
+#include "platform/Log.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace songsweep::cli {
+
+/// The search that `find`, `mark` and `delete` begin with: the program's parts, its controller, and the
+/// console as its view.
+///
+/// The real workers run on the real queue, with the real events.
+class LibrarySearch {
+  public:
+    LibrarySearch(const FindOptions& options, const std::string& version);
+
+    /// Searches. The exit code of what went wrong, told on standard error; nothing on success.
+    std::optional<ExitCode> run();
+
+    /// Deletes the tracks that are marked. False when it was interrupted.
+    bool deleteMarked(bool deleteFiles, bool leaveSharedFiles);
+
+    AppController& controller() { return *m_controller; }
+    Program& program() { return *m_program; }
+    SearchReport report();
+
+  private:
+    std::optional<std::string> prepare();
+    std::optional<std::string> choosePlaylist();
+    std::string withPath(const std::string& message) const { return m_options.library + ": " + message; }
+
+    FindOptions m_options;
+    std::string m_version;
+    SearchRun m_run;
+    InterruptWatch m_interrupts;
+    std::unique_ptr<Log> m_log = std::make_unique<SilentLog>();
+    std::unique_ptr<Program> m_program;
+    std::unique_ptr<AppController> m_controller;
+    int m_trackCount = 0;
+};
+
+/// Writes a report to where the options say. The exit code of a failure, nothing on success.
+std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report);
+
+} // namespace songsweep::cli

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/SearchParameters.h"
+#include "platform/PathMap.h"
+
+#include <optional>
+#include <string>
+
+namespace songsweep::cli {
+
+/// What the process answers to the shell.
+enum class ExitCode { done = 0, failed = 1, usage = 2, interrupted = 130 };
+
+enum class OutputFormat { text, json, csv };
+
+/// Which library, and how it is looked at: the options that every command and the window know.
+struct LibraryOptions {
+    std::string library;                ///< path of the library file; empty where none was given
+    PathMap map;                        ///< where the files of another machine are here
+    std::string iTunesVersion = "12.0"; ///< what the embedded iTunes says it is
+    std::string log;                    ///< path of a log file; empty for none
+};
+
+/// The options of `find`, which `mark` and `delete` know too.
+struct FindOptions : LibraryOptions {
+    SearchParameters parameters; ///< its playlist is nothing where none was given
+    OutputFormat format = OutputFormat::text;
+    std::string output; ///< path; empty for standard output
+};
+
+/// The options of `mark`: what a rule would check.
+struct MarkOptions : FindOptions {
+    std::string rule;
+    std::string kind;
+    std::string folder;
+    bool exceptOne = false;
+};
+
+/// The options of `delete`.
+struct DeleteOptions : MarkOptions {
+    bool files = false;
+    bool dryRun = false;
+    bool yes = false;
+    bool sharedFiles = false;    ///< trash files that tracks that stay use too
+    bool allowAllCopies = false; ///< a group may lose every copy
+};
+
+/// The options of `script`.
+struct ScriptOptions : LibraryOptions {
+    std::string file; ///< "-" for standard input
+};
+
+} // namespace songsweep::cli

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "cli/RunCommand.h"
+
+#include "cli/Commands.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+
+namespace songsweep::cli {
+
+namespace {
+
+/// One call operator a command.
+struct Runner {
+    const std::string& version;
+
+    ExitCode operator()(const FindOptions& options) const { return runFind(options, version); }
+    ExitCode operator()(const MarkOptions& options) const { return runMark(options, version); }
+    ExitCode operator()(const DeleteOptions& options) const { return runDelete(options, version); }
+    ExitCode operator()(const ScriptOptions& options) const { return runScript(options, version); }
+    ExitCode operator()(const LibraryOptions&) const { return ExitCode::usage; } // the window is no command
+};
+
+} // namespace
+
+int runCommand(const Command& command, int argumentCount, char** arguments, const std::string& version) {
+    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is told by the write
+    const QCoreApplication application(argumentCount, arguments);
+    return static_cast<int>(std::visit(Runner{version}, command));
+}
+
+} // namespace songsweep::cli

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "cli/SearchReport.h"
+
+#include "library/DisplayedList.h"
+
+#include <algorithm>
+
+namespace songsweep::cli {
+
+namespace {
+
+std::string counted(int count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+} // namespace
+
+void writeReport(Output& output, const SearchReport& report, OutputFormat format) {
+    switch (format) {
+    case OutputFormat::text:
+        return writeText(output, report);
+    case OutputFormat::json:
+        return writeJson(output, report);
+    case OutputFormat::csv:
+        return writeCsv(output, report);
+    }
+}
+
+void forEachGroup(const std::vector<TrackRecord*>& rows,
+                  const std::function<void(int first, int end)>& handle) {
+    const int count = static_cast<int>(rows.size());
+    for (int first = 0; first < count;) {
+        int end = first + 1;
+        while (end < count && rows.at(end)->gid == rows.at(first)->gid)
+            ++end;
+        handle(first, end);
+        first = end;
+    }
+}
+
+std::string summaryLine(const SearchReport& report) {
+    int groups = 0;
+    forEachGroup(report.rows, [&](int, int) { ++groups; });
+    const auto missing = static_cast<int>(std::count_if(
+        report.rows.begin(), report.rows.end(), [](const TrackRecord* record) { return record->isdead; }));
+    std::string line = counted(static_cast<int>(report.rows.size()), "song", "songs") + " in " +
+                       counted(groups, "group", "groups");
+    if (missing > 0) line += ", " + counted(missing, "file", "files") + " missing";
+    if (report.reason) line += ", " + std::to_string(checkedCount(report.rows)) + " marked";
+    return line;
+}
+
+} // namespace songsweep::cli

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/Options.h"
+#include "library/TrackRecord.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace songsweep::cli {
+
+class Output;
+
+/// What a search found, for the writers. The rows outlive it.
+struct SearchReport {
+    int tracks = 0; ///< entries of the library file
+    int listed = 0; ///< records after processing
+    const std::vector<TrackRecord*>& rows;
+    /// Why the rule marks a row; not set where no rule was asked for.
+    std::function<std::string(int row)> reason = {};
+};
+
+/// Writes the report in a format.
+void writeReport(Output& output, const SearchReport& report, OutputFormat format);
+
+/// Groups as an aligned table for people, and a line that sums them up.
+void writeText(Output& output, const SearchReport& report);
+
+/// One JSON object, every key of every record.
+void writeJson(Output& output, const SearchReport& report);
+
+/// One row a track under a header (RFC 4180).
+void writeCsv(Output& output, const SearchReport& report);
+
+/// "12 songs in 5 groups, 3 files missing"; marked rows are counted where a rule was asked for.
+std::string summaryLine(const SearchReport& report);
+
+/// Calls `handle` with the first row of each group and the row behind its last.
+void forEachGroup(const std::vector<TrackRecord*>& rows,
+                  const std::function<void(int first, int end)>& handle);
+
+} // namespace songsweep::cli

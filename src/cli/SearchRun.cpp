@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "cli/SearchRun.h"
+
+#include <QEventLoop>
+
+#include <unistd.h>
+
+#include <cmath>
+#include <cstdio>
+
+namespace songsweep::cli {
+
+namespace {
+
+/// How often the reader is asked for a read error, in milliseconds.
+constexpr int lookInterval = 50;
+
+std::string readErrorText(const ReadError& error) {
+    return error.line > 0 ? "line " + std::to_string(error.line) + ": " + error.reason : error.reason;
+}
+
+} // namespace
+
+SearchRun::SearchRun()
+    : m_terminal(::isatty(STDERR_FILENO) == 1) {}
+
+std::optional<SearchFailure> SearchRun::run(AppController& controller, const SearchParameters& parameters) {
+    m_controller = &controller;
+    m_failure.reset();
+    m_ended = false;
+    if (!m_interrupted) controller.paramOkButtonClick(parameters);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] { lookForReadError(); });
+    look.start(lookInterval);
+    if (controller.isWorking()) waitUntilIdle(controller);
+    clearLine();
+    m_controller = nullptr;
+    if (m_interrupted) return SearchFailure{true, {}};
+    if (!m_failure && !m_ended) m_failure = SearchFailure{false, "the search ended without a result"};
+    return m_failure;
+}
+
+bool SearchRun::runDeletion(AppController& controller, bool deleteFiles, bool leaveSharedFiles) {
+    m_controller = &controller;
+    controller.deleteButtonClick();
+    controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+    waitUntilIdle(controller);
+    clearLine();
+    m_controller = nullptr;
+    return !m_interrupted;
+}
+
+void SearchRun::waitUntilIdle(AppController& controller) {
+    QEventLoop loop;
+    controller.setIdleHandler([&] { loop.quit(); });
+    loop.exec();
+    controller.setIdleHandler({});
+}
+
+void SearchRun::interrupt() {
+    m_interrupted = true;
+    if (!m_controller) return;
+    if (m_controller->isDeleting()) {
+        m_controller->cancelButtonClick();
+    } else {
+        m_controller->cancelformButtonClick();
+    }
+}
+
+/// The reader goes on after a read error, as nothing tells it to stop.
+void SearchRun::lookForReadError() {
+    const std::optional<ReadError> error = m_controller->readError();
+    if (!error || m_failure) return;
+    m_failure = SearchFailure{false, readErrorText(*error)};
+    m_controller->cancelformButtonClick();
+}
+
+void SearchRun::setTableVisible(bool visible) { m_ended = visible; }
+
+void SearchRun::alertCantAccess(const std::string& message, const std::string& reason) {
+    m_failure = SearchFailure{false, reason.empty() ? message : message + "\n" + reason};
+}
+
+void SearchRun::setProgressTitle(const std::string& title) { m_phase = title; }
+
+void SearchRun::setProgressInfo(const std::string& phase) {
+    m_phase = phase;
+    setProgressValue(0);
+}
+
+void SearchRun::setProgressValue(double percent) {
+    if (!m_terminal || m_phase.empty()) return;
+    std::fprintf(stderr, "\r\033[K%s %d %%", m_phase.c_str(), static_cast<int>(std::lround(percent)));
+    m_lineShown = true;
+}
+
+void SearchRun::endProgress(ProgressBar) { clearLine(); }
+
+void SearchRun::clearLine() {
+    if (m_lineShown) std::fputs("\r\033[K", stderr);
+    m_lineShown = false;
+    m_phase.clear();
+}
+
+} // namespace songsweep::cli
