@@ -9,27 +9,27 @@
 // name them are those of another framework.
 namespace {
 
-constexpr DescType fourLetters(const char (&code)[5]) {
-    return (DescType(static_cast<unsigned char>(code[0])) << 24U) |
-           (DescType(static_cast<unsigned char>(code[1])) << 16U) |
-           (DescType(static_cast<unsigned char>(code[2])) << 8U) | DescType(static_cast<unsigned char>(code[3]));
+constexpr std::uint32_t fourLetters(const char (&code)[5]) {
+    return (std::uint32_t(static_cast<unsigned char>(code[0])) << 24U) |
+           (std::uint32_t(static_cast<unsigned char>(code[1])) << 16U) |
+           (std::uint32_t(static_cast<unsigned char>(code[2])) << 8U) | std::uint32_t(static_cast<unsigned char>(code[3]));
 }
 
-constexpr DescType listType = fourLetters("list");
-constexpr DescType trueType = fourLetters("true");
-constexpr DescType falseType = fourLetters("fals");
-constexpr DescType booleanType = fourLetters("bool");
-constexpr DescType shortType = fourLetters("shor");
-constexpr DescType integerType = fourLetters("long");
-constexpr DescType largeType = fourLetters("comp");
-constexpr DescType realType = fourLetters("doub");
-constexpr DescType dateType = fourLetters("ldt ");
-constexpr DescType aliasType = fourLetters("alis");
-constexpr DescType fileUrlType = fourLetters("furl");
-constexpr DescType typeType = fourLetters("type");
-constexpr DescType objectType = fourLetters("obj ");
-constexpr DescType nullType = fourLetters("null");
-constexpr DescType missingValue = fourLetters("msng");
+constexpr std::uint32_t listType = fourLetters("list");
+constexpr std::uint32_t trueType = fourLetters("true");
+constexpr std::uint32_t falseType = fourLetters("fals");
+constexpr std::uint32_t booleanType = fourLetters("bool");
+constexpr std::uint32_t shortType = fourLetters("shor");
+constexpr std::uint32_t integerType = fourLetters("long");
+constexpr std::uint32_t largeType = fourLetters("comp");
+constexpr std::uint32_t realType = fourLetters("doub");
+constexpr std::uint32_t dateType = fourLetters("ldt ");
+constexpr std::uint32_t aliasType = fourLetters("alis");
+constexpr std::uint32_t fileUrlType = fourLetters("furl");
+constexpr std::uint32_t typeType = fourLetters("type");
+constexpr std::uint32_t objectType = fourLetters("obj ");
+constexpr std::uint32_t nullType = fourLetters("null");
+constexpr std::uint32_t missingValue = fourLetters("msng");
 
 } // namespace
 
