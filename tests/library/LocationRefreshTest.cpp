@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "library/ReaderFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+namespace songsweep {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LocationRefreshTest : public test::ReaderFixture {
+  protected:
+    /// One track in the playlist, with what the location element holds ("" leaves it out).
+    void useTrack(const std::string& location) {
+        const std::string element =
+            location.empty() ? "" : "<key>Location</key><string>" + location + "</string>";
+        useLibraryText("<plist><dict><key>Tracks</key><dict><key>1</key><dict>"
+                       "<key>Track ID</key><integer>1</integer><key>Persistent ID</key><string>AB12</string>"
+                       "<key>Track Type</key><string>File</string>" +
+                       element +
+                       "</dict></dict><key>Playlists</key><array><dict><key>Name</key><string>All</string>"
+                       "<key>Playlist Items</key><array><dict><key>Track ID</key><integer>1</integer></dict>"
+                       "</array></dict></array></dict></plist>");
+    }
+    void answer(const Descriptor& descriptor) {
+        m_scripts.answer = [descriptor](std::string_view) { return descriptor; };
+    }
+    std::string refreshed(const char* location) {
+        SWXMLParser parser(m_services);
+        TrackRecord record{.pid = "AB12", .location = location};
+        parser.refreshLocationApplescript(record);
+        return record.location.string();
+    }
+};
+
+TEST_F(LocationRefreshTest, SendsThisText) {
+    refreshed("/old");
+    EXPECT_THAT(m_scripts.sources,
+                ElementsAre("tell application \"iTunes\" \n"
+                            "set tlocation2 to location of (tracks whose persistent ID is \"AB12\") \n"
+                            "try \n"
+                            "set tlocation to POSIX path of tlocation2 \n"
+                            "on error \n"
+                            "set tlocation to tlocation2 \n"
+                            "end try \n"
+                            "{tlocation} \n"
+                            "end tell"));
+}
+
+TEST_F(LocationRefreshTest, TakesTheAnswerAsItComes) {
+    answer(Descriptor::list({Descriptor::text("/New/Place.MP3")}));
+    EXPECT_EQ(refreshed("/old"), "/New/Place.MP3");
+    answer(Descriptor::text(""));
+    EXPECT_EQ(refreshed("/old"), "");
+}
+
+TEST_F(LocationRefreshTest, TheMissingValueInAnyCaseChangesNothing) {
+    for (const char* text : {"msng", "MSNG", "mSnG"}) {
+        answer(Descriptor::text(text));
+        EXPECT_EQ(refreshed("/old"), "/old");
+    }
+    answer(Descriptor::list({Descriptor()}));
+    EXPECT_EQ(refreshed("/old"), "/old");
+}
+
+TEST_F(LocationRefreshTest, NoAnswerChangesNothing) {
+    EXPECT_EQ(refreshed("/old"), "/old");
+    answer(Descriptor::list({}));
+    EXPECT_EQ(refreshed("/old"), "/old");
+}
+
+TEST_F(LocationRefreshTest, AnExceptionIsIgnored) {
+    m_scripts.answer = [](std::string_view) -> Result<Descriptor> { throw std::runtime_error("lost"); };
+    EXPECT_EQ(refreshed("/old"), "/old");
+}
+
+TEST_F(LocationRefreshTest, AnExceptionOfAnotherKindEndsTheProcessing) {
+    useTrack("file:///gone.mp3");
+    m_scripts.answer = [](std::string_view) -> Result<Descriptor> { throw 1; };
+    run({.playlist = "All"}, 1);
+    EXPECT_THAT(events(), ElementsAre("xmlModifiedDate", "xmlDoneParsing", "xmlErrorProcessing"));
+    EXPECT_THAT(m_list->records, IsEmpty());
+}
+
+TEST_F(LocationRefreshTest, AFileThatExistsIsNotAskedFor) {
+    write("a b.mp3", "x");
+    useTrack("file://localhost" + path("a%20b.mp3"));
+    run({.playlist = "All"}, 1);
+    EXPECT_THAT(m_scripts.sources, IsEmpty());
+    EXPECT_FALSE(m_list->records.at(0)->isdead);
+}
+
+TEST_F(LocationRefreshTest, AFileThatMovedIsFoundAndLogged) {
+    write("moved.mp3", "x");
+    useTrack("file:///gone.mp3");
+    answer(Descriptor::text(path("moved.mp3")));
+    run({.playlist = "All"}, 1);
+    EXPECT_EQ(m_list->records.at(0)->location, path("moved.mp3"));
+    EXPECT_FALSE(m_list->records.at(0)->isdead);
+    EXPECT_THAT(m_trace, testing::Contains(path("moved.mp3")));
+}
+
+TEST_F(LocationRefreshTest, AFileThatMovedIsKeptWhereMissingOnesAreIgnored) {
+    write("moved.mp3", "x");
+    useTrack("file:///gone.mp3");
+    answer(Descriptor::text(path("moved.mp3")));
+    run({.isignoredead = true, .playlist = "All"}, 1);
+    ASSERT_EQ(m_list->records.size(), 1U);
+    EXPECT_FALSE(m_list->records.at(0)->isdead);
+    EXPECT_THAT(m_trace, testing::Not(testing::Contains(path("moved.mp3"))));
+}
+
+TEST_F(LocationRefreshTest, ATrackWithoutALocationIsAskedForAndDead) {
+    useTrack("");
+    run({.playlist = "All"}, 1);
+    EXPECT_EQ(m_scripts.sources.size(), 1U);
+    EXPECT_TRUE(m_list->records.at(0)->isdead);
+    EXPECT_EQ(m_list->records.at(0)->location, "");
+    EXPECT_THAT(m_trace, testing::Contains(""));
+}
+
+TEST_F(LocationRefreshTest, ATrackThatITunesNoLongerKnowsKeepsItsLocation) {
+    useTrack("file:///gone.mp3");
+    run({.playlist = "All"}, 1);
+    EXPECT_EQ(m_list->records.at(0)->location, "/gone.mp3");
+    EXPECT_TRUE(m_list->records.at(0)->isdead);
+    m_list->records.clear();
+    run({.isignoredead = true, .playlist = "All"}, 1);
+    EXPECT_THAT(m_list->records, IsEmpty());
+}
+
+} // namespace
+} // namespace songsweep
