@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+// The road from a library file to a smaller one, with the program's own iTunes and Finder.
+#include "delete/DeletePlan.h"
+#include "delete/DeleteProc.h"
+#include "dupes/BuildResultProc.h"
+#include "dupes/MarkingRules.h"
+#include "hosts/EmbeddedScripting.h"
+#include "hosts/LibraryFixture.h"
+#include "library/SWXMLParser.h"
+#include "operations/NotificationCenter.h"
+#include "platform/Desktop.h"
+#include "platform/Files.h"
+#include "platform/Preferences.h"
+#include "platform/Sleeper.h"
+#include "support/RecordingLog.h"
+
+#include <QUrl>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+
+namespace songsweep {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// A desktop whose Trash is a folder, or refuses.
+class FolderTrash final : public Desktop {
+  public:
+    explicit FolderTrash(std::string folder)
+        : m_folder(std::move(folder)) {
+        std::filesystem::create_directory(m_folder);
+    }
+
+    Result<void> openUrl(const std::string&) override { return {}; }
+    Result<void> showInFileManager(const std::string&) override { return {}; }
+    Result<void> play(const std::string&) override { return {}; }
+    Result<void> stopPlaying() override { return {}; }
+    Result<void> setOutputMuted(bool isMuted) override {
+        muted = isMuted;
+        return {};
+    }
+    Result<void> moveToTrash(const std::string& path) override {
+        if (refuses) return Error{Error::Code::noSpace, "the Trash is full"};
+        std::filesystem::rename(path, m_folder + "/" + std::to_string(++trashed));
+        return {};
+    }
+
+    bool refuses = false;
+    bool muted = false;
+    int trashed = 0;
+
+  private:
+    std::string m_folder;
+};
+
+class OneLibrary final : public Preferences {
+  public:
+    explicit OneLibrary(const std::string& path)
+        : m_domain{{QUrl::fromLocalFile(QString::fromStdString(path)).toEncoded().toStdString()}} {}
+    std::optional<IAppsDomain> iAppsDomain() const override { return m_domain; }
+    std::optional<IAppsDomain> iAppsPropertyList(const std::string&) const override { return m_domain; }
+    std::string homeFolder() const override { return "/"; }
+
+  private:
+    IAppsDomain m_domain;
+};
+
+class NoSleep final : public Sleeper {
+  public:
+    void sleep(std::chrono::milliseconds) override {}
+};
+
+/// Pairs of copies, a song a name; of each pair the second has the higher bit rate.
+class EmbeddedDeletionTest : public testing::Test {
+  protected:
+    void writeLibrary(const std::vector<std::string>& fileNames) {
+        std::vector<test::FixtureTrack> tracks;
+        std::vector<int> all;
+        for (std::size_t n = 0; n < fileNames.size(); ++n) {
+            const int id = 100 + static_cast<int>(n);
+            tracks.push_back(
+                {id, test::persistentIdOf(id), values(n, m_folder.write(fileNames[n], "sound"))});
+            all.push_back(id);
+        }
+        m_text = test::libraryXml(tracks, {{"Library", "<key>Master</key><true/>", all}, {"Party", "", all}});
+        m_folder.write("library.xml", m_text);
+        m_scripts = std::make_unique<EmbeddedScripting>(m_folder.pathOf("library.xml"), m_desktop, m_files);
+    }
+
+    /// A search by name, as its two workers make it, on this thread.
+    DisplayedList search(int trackCount) {
+        const SearchParameters parameters = {.issamename = true, .playlist = "Library"};
+        const auto list = std::make_shared<TrackList>();
+        DisplayedList found = {{}, list->storage};
+        m_center.setObserver([&](const WorkerEvent& event) {
+            EXPECT_NE(event.name, EventName::xmlErrorParsing);
+            if (event.name == EventName::step2) found.rows.push_back(std::get<TrackRecord*>(event.payload));
+        });
+        OneLibrary preferences(m_folder.pathOf("library.xml"));
+        SWXMLParser(list, parameters, trackCount, 0, false, 5, 10,
+                    {m_center, *m_scripts, m_files, preferences, m_sleeper, m_log})
+            .main();
+        BuildResultProc(list, parameters, m_center).main();
+        return found;
+    }
+
+    DeleteReport deleteMarked(DisplayedList& list) {
+        const LibraryLocations locations = [this](const LocationVisitor& visit) {
+            EXPECT_TRUE(m_scripts->forEachLocation(visit));
+        };
+        const auto report = std::make_shared<DeleteReport>();
+        DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log},
+                   makeDeletePlan(list.rows, m_files, locations), report)
+            .main();
+        EXPECT_TRUE(m_scripts->flush());
+        return *report;
+    }
+
+    std::string libraryText() const { return test::contentOf(m_folder.pathOf("library.xml")); }
+
+    test::Folder m_folder;
+    std::string m_text; ///< of the library as it was
+    FolderTrash m_desktop{m_folder.pathOf("Trash")};
+    Files m_files;
+    test::RecordingLog m_log;
+    NoSleep m_sleeper;
+    NotificationCenter m_center;
+    std::unique_ptr<EmbeddedScripting> m_scripts;
+
+  private:
+    static std::string values(std::size_t n, const std::string& path) {
+        const QByteArray url = QUrl::fromLocalFile(QString::fromStdString(path)).toEncoded();
+        return "<key>Name</key><string>Song " + std::to_string(n / 2) +
+               "</string>\n\t\t\t<key>Track Type</key><string>File</string>\n\t\t\t<key>Bit "
+               "Rate</key><integer>" +
+               std::to_string(128 + 64 * (n % 2)) + "</integer>\n\t\t\t<key>Location</key><string>" +
+               url.toStdString() + "</string>";
+    }
+};
+
+TEST_F(EmbeddedDeletionTest, theLosingCopiesLeaveTheLibraryAndAllElseStays) {
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
+    DisplayedList list = search(4);
+    ASSERT_THAT(list.rows, SizeIs(4));
+    markItems(list.rows, markType::highestBitrate, true);
+    const DeleteReport report = deleteMarked(list);
+
+    EXPECT_TRUE(report.allDealtWith());
+    EXPECT_EQ(m_desktop.trashed, 2);
+    EXPECT_FALSE(m_desktop.muted);
+    EXPECT_FALSE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("a2.mp3")));
+    EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102}));
+    EXPECT_EQ(test::contentOf(m_scripts->backup()), m_text);
+    EXPECT_THAT(search(2).rows, IsEmpty());
+}
+
+TEST_F(EmbeddedDeletionTest, awkwardNamesGoToTheTrashOrStay) {
+    const std::string longName(255, 'n');
+    writeLibrary({"colon : slash.mp3", "kept", "line\nbreak.mp3", "kept2", "été – 歌.mp3", "kept3", longName,
+                  "kept4", "say \"hi\".mp3", "kept5", "back\\nslash.mp3", "kept6"});
+    DisplayedList list = search(12);
+    ASSERT_THAT(list.rows, SizeIs(12));
+    markItems(list.rows, markType::highestBitrate, true);
+    const DeleteReport report = deleteMarked(list);
+
+    ASSERT_THAT(report.outcomes, SizeIs(6));
+    for (const DeleteOutcome& outcome : report.outcomes)
+        EXPECT_EQ(m_files.exists(outcome.location), outcome.file == DeleteOutcome::File::kept)
+            << outcomeLine(outcome);
+    EXPECT_EQ(m_desktop.trashed, 4);
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("say \"hi\".mp3")));
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("back\\nslash.mp3")));
+    EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102, 104, 106, 108, 110}));
+}
+
+TEST_F(EmbeddedDeletionTest, aTrashThatRefusesLeavesTheFileAndSaysWhy) {
+    writeLibrary({"a.mp3", "a2.mp3"});
+    m_desktop.refuses = true;
+    DisplayedList list = search(2);
+    markItems(list.rows, markType::highestBitrate, true);
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(1));
+    EXPECT_THAT(outcomeText(report.outcomes[0]), testing::HasSubstr("deleted, file kept: "));
+    EXPECT_THAT(outcomeText(report.outcomes[0]), testing::HasSubstr("the Trash is full"));
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_FALSE(m_desktop.muted);
+}
+
+} // namespace
+} // namespace songsweep
