@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstdint>
 
 namespace songsweep {
 
@@ -15,35 +17,54 @@ struct NamedKey {
     LibraryKey key;
 };
 
-/// Sample values are as libraries have them.
+/// By length. Sample values are as libraries have them.
 constexpr std::array namedKeys = {
-    NamedKey{"name", LibraryKey::name},                  // Don&#39;t Stop &#38; Go
-    NamedKey{"artist", LibraryKey::artist},              // Sigur Rós
-    NamedKey{"album", LibraryKey::album},                // ( )
-    NamedKey{"size", LibraryKey::size},                  // 7437492; 3221225472 of a film
-    NamedKey{"bit rate", LibraryKey::bitRate},           // 256
-    NamedKey{"track id", LibraryKey::trackId},           // 1873
-    NamedKey{"total time", LibraryKey::totalTime},       // 187429, in milliseconds
-    NamedKey{"persistent id", LibraryKey::persistentId}, // 6B0F3E1C22C4A9D7
+    NamedKey{"name", LibraryKey::name},        // Don&#39;t Stop &#38; Go
+    NamedKey{"size", LibraryKey::size},        // 7437492; 3221225472 of a film
+    NamedKey{"album", LibraryKey::album},      // ( )
+    NamedKey{"artist", LibraryKey::artist},    // Sigur Rós
+    NamedKey{"rating", LibraryKey::rating},    // 80, of 100
+    NamedKey{"bit rate", LibraryKey::bitRate}, // 256
+    NamedKey{"track id", LibraryKey::trackId}, // 1873
     // file://localhost/Users/ann/Music/iTunes/iTunes%20Music/Bj%C3%B6rk/Homogenic/01%20Hunter.mp3
     // file://localhost/C:/Documents%20and%20Settings/ann/My%20Music/R&#38;B/track.mp3
     // file:///Volumes/Music/a.m4a (version 11.1 and later); http://radio.example.com:8000/ of a stream
     NamedKey{"location", LibraryKey::location},
-    NamedKey{"rating", LibraryKey::rating},              // 80, of 100
+    NamedKey{"playlists", LibraryKey::playlists},        // no value, an array follows
+    NamedKey{"total time", LibraryKey::totalTime},       // 187429, in milliseconds
     NamedKey{"play count", LibraryKey::playCount},       // 12
-    NamedKey{"artwork count", LibraryKey::artworkCount}, // 1
     NamedKey{"track type", LibraryKey::trackType},       // File; URL; Remote
     NamedKey{"date added", LibraryKey::dateAdded},       // 2009-03-14T15:09:26Z
-    NamedKey{"playlists", LibraryKey::playlists},
+    NamedKey{"persistent id", LibraryKey::persistentId}, // 6B0F3E1C22C4A9D7
+    NamedKey{"artwork count", LibraryKey::artworkCount}, // 1
 };
+
+static_assert(std::is_sorted(namedKeys.begin(), namedKeys.end(), [](const NamedKey& a, const NamedKey& b) {
+    return a.name.size() < b.name.size();
+}));
+
+constexpr std::size_t longestName = namedKeys.back().name.size();
+
+/// Where the names of each length begin; those of the next length end them.
+constexpr std::array<std::uint8_t, longestName + 2> firstOfLength = [] {
+    std::array<std::uint8_t, longestName + 2> first{};
+    for (std::size_t length = 0; length < first.size(); ++length)
+        while (first[length] < namedKeys.size() && namedKeys[first[length]].name.size() < length)
+            ++first[length];
+    return first;
+}();
 
 constexpr char asciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
-LibraryKey keyOfLength(std::string_view text) {
-    for (const NamedKey& named : namedKeys)
-        if (named.name.size() == text.size() && std::equal(text.begin(), text.end(), named.name.begin(),
-                                                           [](char a, char b) { return asciiLower(a) == b; }))
-            return named.key;
+bool isName(std::string_view text, std::string_view name) {
+    return std::equal(text.begin(), text.end(), name.begin(),
+                      [](char a, char b) { return asciiLower(a) == b; });
+}
+
+LibraryKey keyNamed(std::string_view text) {
+    if (text.size() > longestName) return LibraryKey::other;
+    for (std::size_t i = firstOfLength[text.size()]; i < firstOfLength[text.size() + 1]; ++i)
+        if (isName(text, namedKeys[i].name)) return namedKeys[i].key;
     return LibraryKey::other;
 }
 
@@ -55,9 +76,10 @@ bool isAscii(std::string_view text) {
 
 LibraryKey libraryKey(std::string_view text) {
     if (text.empty()) return LibraryKey::none;
+    const LibraryKey key = keyNamed(text);
+    if (key != LibraryKey::other || isAscii(text)) return key;
     // Some letters beyond ASCII have a small one in it: the Kelvin sign's is "k".
-    if (!isAscii(text)) return keyOfLength(lowercase(text));
-    return keyOfLength(text);
+    return keyNamed(lowercase(text));
 }
 
 } // namespace songsweep

@@ -28,6 +28,17 @@ std::string asText(double seconds) {
     return {buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "%f", seconds))};
 }
 
+/// What the exception in flight says of itself.
+std::string currentReason() {
+    try {
+        throw;
+    } catch (const std::exception& exception) {
+        return exception.what();
+    } catch (...) {
+        return "unknown";
+    }
+}
+
 } // namespace
 
 SWXMLParser::SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters parameters,
@@ -72,29 +83,30 @@ void SWXMLParser::read() {
 
 bool SWXMLParser::parse(XmlReader& reader) {
     try {
-        m_list->records.reserve(
-            static_cast<std::size_t>(std::clamp(m_trueTrackCount, 0, mostRecordsReserved)));
-        LibraryWalk walk(*m_list, m_songlist, m_searchparams.playlist, m_services.log,
-                         [this](int records) { post(EventName::progressx, ProgressUnits{records}); });
-        if (!walkWhole(reader, walk)) return false;
-        walk.finish();
-        m_trackCount = walk.trackCount();
-        m_list->storage->forgetInterned();
-        log("End Parse XML");
-        if (m_trackCount != m_trueTrackCount) {
-            log("trackCount (" + std::to_string(m_trackCount) + ") != trueTrackCount (" +
-                std::to_string(m_trueTrackCount) + ")");
-            m_list->records.clear();
-            post(EventName::xmlErrorParsing);
-            return false;
-        }
+        return readTracks(reader);
+    } catch (...) {
+        fail(EventName::xmlErrorParsing, currentReason());
+        return false;
+    }
+}
+
+bool SWXMLParser::readTracks(XmlReader& reader) {
+    m_list->records.reserve(static_cast<std::size_t>(std::clamp(m_trueTrackCount, 0, mostRecordsReserved)));
+    LibraryWalk walk(*m_list, m_songlist, m_searchparams.playlist, m_services.log,
+                     [this](int records) { post(EventName::progressx, ProgressUnits{records}); });
+    if (!walkWhole(reader, walk)) return false;
+    walk.finish();
+    m_trackCount = walk.trackCount();
+    m_list->storage->forgetInterned();
+    log("End Parse XML");
+    if (m_trackCount == m_trueTrackCount) {
         post(EventName::xmlDoneParsing);
         return true;
-    } catch (const std::exception& exception) {
-        fail(EventName::xmlErrorParsing, exception.what());
-    } catch (...) {
-        fail(EventName::xmlErrorParsing, "unknown");
     }
+    log("trackCount (" + std::to_string(m_trackCount) + ") != trueTrackCount (" +
+        std::to_string(m_trueTrackCount) + ")");
+    m_list->records.clear();
+    post(EventName::xmlErrorParsing);
     return false;
 }
 
@@ -123,12 +135,9 @@ void SWXMLParser::process(Clock::time_point start) {
         log("Finish, track count: " + std::to_string(m_trackCount) + ", list count: " +
             std::to_string(m_list->records.size()) + ", time consumed: " + asText(consumed.count()));
         post(EventName::addFinish);
-    } catch (const std::exception& exception) {
-        log("Exception occured");
-        fail(EventName::xmlErrorProcessing, exception.what());
     } catch (...) {
         log("Exception occured");
-        fail(EventName::xmlErrorProcessing, "unknown");
+        fail(EventName::xmlErrorProcessing, currentReason());
     }
 }
 

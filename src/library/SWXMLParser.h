@@ -49,6 +49,7 @@ class SWXMLParser final : public Operation {
 
     void read();
     bool parse(XmlReader& reader);
+    bool readTracks(XmlReader& reader);
     bool walkWhole(XmlReader& reader, LibraryWalk& walk);
     void process(Clock::time_point start);
     void finish();
@@ -59,7 +60,7 @@ class SWXMLParser final : public Operation {
     bool fileExists(const TrackRecord& record) const;
     void makePath(TrackRecord& record);
 
-    /// Empties the list and posts, after an exception.
+    /// Logs an exception, empties the list and posts.
     void fail(EventName event, std::string_view reason);
     void post(EventName name, WorkerEventPayload payload = {}) const;
     void log(std::string_view line) const;
