@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Native.h"
+
+#include "platform/mac/MacDesktop.h"
+#include "platform/mac/MacPreferences.h"
+
+namespace songsweep {
+
+std::unique_ptr<Desktop> nativeDesktop() { return std::make_unique<MacDesktop>(); }
+
+std::unique_ptr<Preferences> nativePreferences() { return std::make_unique<MacPreferences>(); }
+
+} // namespace songsweep
