@@ -24,8 +24,70 @@ static void note(const char* call, NSString* argument) {
 
 } // namespace songsweep::test
 
+using songsweep::test::FakeDescriptor;
 using songsweep::test::fakeMac;
 using songsweep::test::note;
+
+/// The descriptor that a script's fake result is read through.
+@interface DescriptorOfFake : NSAppleEventDescriptor {
+    const FakeDescriptor* m_fake;
+}
+- (id)initWithFake:(const FakeDescriptor*)fake;
+@end
+
+static NSAppleEventDescriptor* descriptorOf(const FakeDescriptor& fake) {
+    return [[[DescriptorOfFake alloc] initWithFake:&fake] autorelease];
+}
+
+/// The number whose bytes the fake holds.
+template <class Number> static Number numberOf(const FakeDescriptor& fake) {
+    Number number{};
+    std::memcpy(&number, fake.data.data(), std::min(sizeof number, fake.data.size()));
+    return number;
+}
+
+static OSType codeOf(const std::string& letters) {
+    OSType code = 0;
+    for (const char letter : letters)
+        code = (code << 8U) | static_cast<unsigned char>(letter);
+    return code;
+}
+
+@implementation DescriptorOfFake
+- (id)initWithFake:(const FakeDescriptor*)fake {
+    self = [super init];
+    m_fake = fake;
+    return self;
+}
+- (DescType)descriptorType {
+    return codeOf(m_fake->type);
+}
+- (NSData*)data {
+    return [NSData dataWithBytes:m_fake->data.data() length:m_fake->data.size()];
+}
+- (NSString*)stringValue {
+    return m_fake->type == "utxt" ? [NSString stringWithUTF8String:m_fake->data.c_str()] : nil;
+}
+- (int)int32Value {
+    return numberOf<int>(*m_fake);
+}
+- (Boolean)booleanValue {
+    return m_fake->type == "true" || (m_fake->type == "bool" && m_fake->data != std::string(1, '\0'));
+}
+- (OSType)typeCodeValue {
+    return codeOf(m_fake->data);
+}
+- (NSInteger)numberOfItems {
+    return static_cast<NSInteger>(m_fake->items.size());
+}
+- (NSAppleEventDescriptor*)descriptorAtIndex:(NSInteger)index {
+    return descriptorOf(m_fake->items.at(static_cast<std::size_t>(index - 1)));
+}
+- (NSAppleEventDescriptor*)coerceToDescriptorType:(DescType)type {
+    (void)type;
+    return self;
+}
+@end
 
 @implementation NSFileManager (MissingFromGNUstep)
 - (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(NSURL**)result error:(NSError**)error {
@@ -46,8 +108,13 @@ using songsweep::test::note;
     return [self init];
 }
 - (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary**)errorInfo {
-    (void)errorInfo;
-    return fakeMac().succeeds ? (NSAppleEventDescriptor*)self : nil;
+    if (fakeMac().succeeds)
+        return descriptorOf(fakeMac().scriptResult);
+    if (errorInfo != nullptr && !fakeMac().scriptError.empty())
+        *errorInfo =
+            [NSDictionary dictionaryWithObject:[NSString stringWithUTF8String:fakeMac().scriptError.c_str()]
+                                        forKey:@"NSAppleScriptErrorMessage"];
+    return nil;
 }
 @end
 

@@ -5,7 +5,9 @@
 
 // What macOS declares and GNUstep does not, as far as the program calls it.
 
-@class NSAppleEventDescriptor;
+using OSType = unsigned int;
+using DescType = OSType;
+using Boolean = unsigned char;
 
 @interface NSFileManager (MissingFromGNUstep)
 - (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(NSURL**)result error:(NSError**)error;
@@ -14,4 +16,16 @@
 @interface NSAppleScript (MissingFromGNUstep)
 - (id)initWithSource:(NSString*)source;
 - (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary**)errorInfo;
+@end
+
+@interface NSAppleEventDescriptor (MissingFromGNUstep)
+- (DescType)descriptorType;
+- (NSData*)data;
+- (NSString*)stringValue;
+- (int)int32Value;
+- (Boolean)booleanValue;
+- (OSType)typeCodeValue;
+- (NSInteger)numberOfItems;
+- (NSAppleEventDescriptor*)descriptorAtIndex:(NSInteger)index;
+- (NSAppleEventDescriptor*)coerceToDescriptorType:(DescType)type;
 @end
