@@ -8,7 +8,8 @@ namespace songsweep::interpreter {
 /// Longest text of a script, in bytes.
 inline constexpr std::size_t maximumSourceBytes = std::size_t(1) << 20;
 
-/// Deepest nesting of parentheses, lists, references and blocks in a text; the parser calls itself as deep.
+/// Deepest nesting of lists, references and blocks in a text, a parenthesis counting as two; the parser and
+/// the run call themselves as deep, on whatever stack a worker's thread has.
 inline constexpr int maximumNesting = 100;
 
 /// Deepest tree: a chain of operators makes one level for each of them.
