@@ -14,14 +14,15 @@
 
 namespace songsweep {
 
-MainWindow::MainWindow(const DisplayedList& tableDataSource, Log& log, QWidget* parent)
+MainWindow::MainWindow(Log& log, QWidget* parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
-    , m_tableDataSource(tableDataSource)
     , m_model(new TrackTableModel(this)) {
     m_ui->setupUi(this);
     m_ui->contentStack->setBackgroundRole(QPalette::Base);
     setUpToolbar();
+    setUpToolTips();
+    setUpPageKeys();
     setUpTable(log);
     setUpContextMenu();
     connectFileMenu();
@@ -37,9 +38,9 @@ MainWindow::~MainWindow() = default;
 
 SWTableView& MainWindow::tableview() const { return *m_ui->tableview; }
 
-void MainWindow::reloadTable() {
+void MainWindow::reloadTable(const DisplayedList& tableDataSource) {
     const bool firstResults = m_model->rows().empty();
-    m_ui->tableview->reloadData(m_tableDataSource);
+    m_ui->tableview->reloadData(tableDataSource);
     if (firstResults && !m_model->rows().empty())
         m_ui->tableview->selectionModel()->setCurrentIndex(m_model->index(0, static_cast<int>(Column::name)),
                                                            QItemSelectionModel::NoUpdate);

@@ -16,7 +16,6 @@ class MainWindow;
 }
 
 class QAction;
-class QFileDialog;
 
 namespace songsweep {
 
@@ -32,8 +31,7 @@ class TrackTableModel;
 class MainWindow : public QMainWindow {
     Q_OBJECT
   public:
-    /// The list is shown as it is at each reloadTable(); it outlives the window.
-    MainWindow(const DisplayedList& tableDataSource, Log& log, QWidget* parent = nullptr);
+    explicit MainWindow(Log& log, QWidget* parent = nullptr);
     ~MainWindow() override;
 
     SWTableView& tableview() const;
@@ -42,7 +40,8 @@ class MainWindow : public QMainWindow {
     bool validateMenuItem(const QAction& item) const;
 
     // The results table.
-    void reloadTable();
+    /// Shows the list as it is now.
+    void reloadTable(const DisplayedList& tableDataSource);
     void setTableVisible(bool visible);
     void setPerformLabelVisible(bool visible);
     void setHorizontalScroller(bool shown);
@@ -102,6 +101,8 @@ class MainWindow : public QMainWindow {
 
   private:
     void setUpToolbar();
+    void setUpToolTips();
+    void setUpPageKeys();
     void setUpTable(Log& log);
     void setUpContextMenu();
     void connectFileMenu();
@@ -114,7 +115,6 @@ class MainWindow : public QMainWindow {
     void chooseLibrary();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
-    const DisplayedList& m_tableDataSource;
     TrackTableModel* m_model;
     QString m_searchedText;
     bool m_tableVisible = false;

@@ -11,37 +11,37 @@
 
 namespace songsweep {
 
-namespace {
-
-/// "Find duplicates (Ctrl+F)".
-QString toolTipWithKey(const QString& text, const QKeySequence& key) {
-    return QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText));
-}
-
-} // namespace
-
 void MainWindow::setUpToolbar() {
     m_ui->searchButton->setIcon(themedIcon(Icon::search));
     m_ui->autoMarkButton->setIcon(themedIcon(Icon::mark));
     m_ui->deleteButton->setIcon(themedIcon(Icon::bin));
     m_ui->formprogressCancelButton->setIcon(themedIcon(Icon::cancel));
-    m_ui->formprogressCancelButton->setShortcut(Qt::Key_Escape);
-    m_ui->searchButton->setToolTip(
-        toolTipWithKey(QStringLiteral("Find duplicates"), m_ui->searchMenuitem->shortcut()));
-    m_ui->autoMarkButton->setToolTip(
-        toolTipWithKey(QStringLiteral("Mark copies by a rule"), m_ui->autoMarkMenuitem->shortcut()));
-    m_ui->deleteButton->setToolTip(
-        toolTipWithKey(QStringLiteral("Delete the marked tracks"), m_ui->deleteMarkedMenuitem->shortcut()));
-    m_ui->formprogressCancelButton->setToolTip(
-        toolTipWithKey(QStringLiteral("Cancel search"), m_ui->formprogressCancelButton->shortcut()));
-    auto* pressDefault = new QShortcut(Qt::Key_Return, m_ui->emptyPage);
-    pressDefault->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(pressDefault, &QShortcut::activated, m_ui->emptySearchButton, &QPushButton::click);
     connect(m_ui->searchButton, &QToolButton::clicked, this, &MainWindow::startButtonClick);
     connect(m_ui->emptySearchButton, &QPushButton::clicked, this, &MainWindow::startButtonClick);
     connect(m_ui->autoMarkButton, &QToolButton::clicked, this, &MainWindow::markButtonClick);
     connect(m_ui->deleteButton, &QToolButton::clicked, this, &MainWindow::deleteButtonClick);
     connect(m_ui->formprogressCancelButton, &QToolButton::clicked, this, &MainWindow::cancelformButtonClick);
+}
+
+void MainWindow::setUpToolTips() {
+    const auto describe = [](QWidget* button, const char* text, const QKeySequence& key) {
+        button->setToolTip(
+            QStringLiteral("%1 (%2)").arg(QLatin1String(text), key.toString(QKeySequence::NativeText)));
+    };
+    describe(m_ui->searchButton, "Find duplicates", m_ui->searchMenuitem->shortcut());
+    describe(m_ui->autoMarkButton, "Mark copies by a rule", m_ui->autoMarkMenuitem->shortcut());
+    describe(m_ui->deleteButton, "Delete the marked tracks", m_ui->deleteMarkedMenuitem->shortcut());
+    describe(m_ui->formprogressCancelButton, "Cancel search", Qt::Key_Escape);
+}
+
+/// The keys of two pages; a page out of sight hears none. Escape is no shortcut of its button, which would
+/// press it a tenth of a second late.
+void MainWindow::setUpPageKeys() {
+    auto* cancel = new QShortcut(Qt::Key_Escape, m_ui->progressPage);
+    connect(cancel, &QShortcut::activated, m_ui->formprogressCancelButton, &QToolButton::click);
+    auto* search = new QShortcut(Qt::Key_Return, m_ui->emptyPage);
+    search->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(search, &QShortcut::activated, m_ui->emptySearchButton, &QPushButton::click);
 }
 
 void MainWindow::setUpTable(Log& log) {
