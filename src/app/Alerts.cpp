@@ -39,4 +39,12 @@ QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QStri
     return box;
 }
 
+QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason) {
+    auto* box = new AlertBox(QMessageBox::Warning, QStringLiteral("Can't open the library."), parent);
+    box->setInformativeText(reason);
+    addOkButton(*box);
+    box->open();
+    return box;
+}
+
 } // namespace songsweep::alerts

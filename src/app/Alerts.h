@@ -22,4 +22,7 @@ QMessageBox* openNoDuplicates(QWidget* parent);
 QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QString& reason,
                             std::function<void(int)> ended);
 
+/// "Can't open the library.", with the reason as a second paragraph.
+QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason);
+
 } // namespace songsweep::alerts

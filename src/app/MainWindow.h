@@ -11,13 +11,13 @@
 #include <string>
 #include <vector>
 
-namespace Ui {
-class MainWindow;
-}
-
 class QAction;
 
 namespace songsweep {
+
+namespace Ui {
+class MainWindow;
+}
 
 class Log;
 class SWTableView;

@@ -64,6 +64,15 @@ int countThatWouldBeMarked(const TrackRows& rows, const MarkChoice& choice) {
     return count;
 }
 
+bool marksAreThoseOf(const TrackRows& rows, const MarkChoice& choice) {
+    bool same = true;
+    withRule(choice, [&](auto rule) {
+        walkGroups(rows, choice.exceptOne, rule,
+                   [&](const TrackRecord& record, bool checked) { same = same && record.checkbox == checked; });
+    });
+    return same;
+}
+
 bool isSubfolder(std::string_view folder, std::string_view path) {
     if (path == folder) return true;
     return !folder.empty() && path.size() > folder.size() && path.starts_with(folder) &&

@@ -56,6 +56,9 @@ void applyMarkChoice(const TrackRows& rows, const MarkChoice& choice);
 /// How many rows the choice would check; changes nothing.
 int countThatWouldBeMarked(const TrackRows& rows, const MarkChoice& choice);
 
+/// Whether the rows are checked exactly as the choice would check them.
+bool marksAreThoseOf(const TrackRows& rows, const MarkChoice& choice);
+
 /// Whether the path is the folder or lies below it. Exact: a folder that ends with "/", or an empty one,
 /// holds no path but itself.
 bool isSubfolder(std::string_view folder, std::string_view path);

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "app/WindowActions.h"
+
+#include "app/AppController.h"
+#include "app/WindowedView.h"
+#include "dupes/MarkReasons.h"
+#include "ui/TrackTableModel.h"
+
+#include <QApplication>
+
+#include <algorithm>
+
+namespace songsweep {
+
+WindowActions::WindowActions(WindowedView& view, AppController& controller, OpenLibrary openLibrary)
+    : m_view(view)
+    , m_controller(controller)
+    , m_openLibrary(std::move(openLibrary)) {
+    m_view.setTableDataSource(m_controller.tableDataSource());
+    connectToolbarAndMenus();
+    connectLinks();
+    connectTable();
+    connectParametersDialog();
+    connectMarkDialog();
+    connectDeletion();
+    connectApplication();
+}
+
+void WindowActions::connectToolbarAndMenus() {
+    MainWindow* window = &m_view.mainWindow();
+    AppController* controller = &m_controller;
+    connect(window, &MainWindow::startButtonClick, this, [=] { controller->startButtonClick(); });
+    connect(window, &MainWindow::markButtonClick, this, [=] { controller->markButtonClick(); });
+    connect(window, &MainWindow::deleteButtonClick, this, [=] { controller->deleteButtonClick(); });
+    connect(window, &MainWindow::deleteMarkedMenuClick, this, [=] { controller->deleteMarkedMenuClick(); });
+    connect(window, &MainWindow::cancelformButtonClick, this, [=] { controller->cancelformButtonClick(); });
+    connect(window, &MainWindow::markMenuClick, this,
+            [=](std::int32_t tag) { controller->markMenuClick(tag); });
+    connect(window, &MainWindow::playMenuClick, this, [=] { controller->playMenuClick(); });
+    connect(window, &MainWindow::showinFinderMenuClick, this, [=] { controller->showinFinderMenuClick(); });
+    connect(window, &MainWindow::mainWindowMenuClick, this, [=] { controller->mainWindowMenuClick(); });
+    connect(window, &MainWindow::openLibrary, this, &WindowActions::chooseLibrary);
+}
+
+void WindowActions::connectLinks() {
+    MainWindow* window = &m_view.mainWindow();
+    AboutDialog* about = &m_view.aboutWindow();
+    AppController* controller = &m_controller;
+    connect(window, &MainWindow::aboutButtonClick, this, [=] { controller->aboutButtonClick(); });
+    connect(window, &MainWindow::websiteButtonClick, this, [=] { controller->websiteButtonClick(); });
+    connect(window, &MainWindow::helpButtonClick, this, [=] { controller->helpButtonClick(); });
+    connect(window, &MainWindow::contactButtonClick, this, [=] { controller->contactButtonClick(); });
+    connect(about, &AboutDialog::websiteRequested, this, [=] { controller->websiteButtonClick(); });
+    connect(about, &AboutDialog::helpRequested, this, [=] { controller->helpButtonClick(); });
+    connect(about, &AboutDialog::contactRequested, this, [=] { controller->contactButtonClick(); });
+    m_view.setCantAccessHandler([=](int returnCode) { controller->alertCantAccessDidEnd(returnCode); });
+}
+
+void WindowActions::connectTable() {
+    MainWindow* window = &m_view.mainWindow();
+    AppController* controller = &m_controller;
+    connect(window, &MainWindow::tableviewSpacebar, this, [=] { controller->tableviewSpacebar(); });
+    connect(window, &MainWindow::tableviewDoubleClick, this, [=] { controller->tableviewDoubleClick(); });
+    connect(window, &MainWindow::didClickTableColumn, this,
+            [=](Column column) { controller->didClickTableColumn(column); });
+    connect(window, &MainWindow::setObjectValue, this,
+            [=](bool value, Column column, int row) { controller->setObjectValue(value, column, row); });
+    window->tableModel().setMarkReason([this](int row) { return markReason(row); });
+}
+
+/// Why the rule that marked last marked the row; empty for a mark that somebody set by hand.
+QString WindowActions::markReason(int row) const {
+    const auto& choice = m_controller.lastMarkChoice();
+    const std::vector<TrackRecord*>& rows = m_view.mainWindow().tableModel().rows();
+    const auto index = static_cast<std::size_t>(row);
+    if (!choice || !rows.at(index)->checkbox) return {};
+    return QString::fromStdString(MarkReasons(rows, *choice).of(index));
+}
+
+void WindowActions::connectParametersDialog() {
+    ParametersDialog* dialog = &m_view.paramWindow();
+    connect(dialog, &ParametersDialog::searchRequested, this,
+            [this](const SearchParameters& parameters) { m_controller.paramOkButtonClick(parameters); });
+    connect(dialog, &QDialog::rejected, this, [this] { m_controller.paramCancelButtonClick(); });
+}
+
+void WindowActions::connectMarkDialog() {
+    MarkDialog* dialog = &m_view.markWindow();
+    connect(dialog, &MarkDialog::markRequested, this,
+            [this, dialog] { m_controller.markOkButtonClick(dialog->choice()); });
+    connect(dialog, &MarkDialog::choiceChanged, this, &WindowActions::updateMarkPreview);
+    connect(dialog, &MarkDialog::folderChooserOpening, this,
+            [this] { m_controller.markFolderButtonClick(); });
+    connect(dialog, &QDialog::rejected, this, [this] { m_controller.markCancelButtonClick(); });
+    m_view.setReloadHandler([this] { updateMarkPreview(); });
+    updateMarkPreview();
+}
+
+void WindowActions::updateMarkPreview() {
+    const MarkChoice choice = m_view.markWindow().choice();
+    const std::vector<TrackRecord*>& rows = m_controller.tableDataSource().rows;
+    m_view.markWindow().setPreview({.marked = m_controller.countThatWouldBeMarked(choice),
+                                    .total = static_cast<int>(rows.size()),
+                                    .inForce = marksAreThoseOf(rows, choice)});
+}
+
+void WindowActions::connectDeletion() {
+    DeleteConfirmation* confirmation = &m_view.deleteConfirmation();
+    connect(confirmation, &DeleteConfirmation::deleteRequested, this,
+            [this](bool deleteFiles, bool leaveSharedFiles) {
+                m_controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+            });
+    connect(confirmation, &QDialog::rejected, this, [this] { m_controller.delConfCancelButtonClick(); });
+    connect(&m_view.progressWindow(), &QDialog::rejected, this, [this] { m_controller.cancelButtonClick(); });
+}
+
+void WindowActions::connectApplication() {
+    MainWindow* window = &m_view.mainWindow();
+    connect(window, &MainWindow::quit, this, &WindowActions::quit);
+#ifndef Q_OS_MACOS
+    connect(window, &MainWindow::closed, this, &WindowActions::quit);
+#endif
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive) return;
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        const bool visible = std::any_of(windows.begin(), windows.end(),
+                                         [](const QWidget* each) { return each->isVisible(); });
+        m_controller.applicationShouldHandleReopen(visible);
+    });
+}
+
+void WindowActions::chooseLibrary(const QString& path) {
+    if (m_controller.isWorking() || m_controller.isDeleting() || !m_openLibrary) {
+        m_view.beep();
+        return;
+    }
+    const Result<void> opened = m_openLibrary(path.toStdString());
+    m_controller.resetForLibrary();
+    if (!opened) m_view.alertCantOpen(opened.error().message);
+}
+
+void WindowActions::quit() {
+    if (m_controller.applicationShouldTerminate()) QCoreApplication::quit();
+}
+
+} // namespace songsweep

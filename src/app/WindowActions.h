@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Result.h"
+
+#include <QObject>
+
+#include <functional>
+#include <string>
+
+namespace songsweep {
+
+class AppController;
+class WindowedView;
+
+/// Connects what users do in the windows with the actions of the controller, for as long as it lives.
+///
+/// Windows know no controller and the controller knows no window; this is the one place that knows both. Made
+/// after both and gone before either. Main thread.
+class WindowActions : public QObject {
+    Q_OBJECT
+  public:
+    /// Turns the embedded library to another file, or says why that one cannot be read.
+    using OpenLibrary = std::function<Result<void>(const std::string& path)>;
+
+    WindowActions(WindowedView& view, AppController& controller, OpenLibrary openLibrary);
+
+  private:
+    void connectToolbarAndMenus();
+    void connectLinks();
+    void connectTable();
+    void connectParametersDialog();
+    void connectMarkDialog();
+    void connectDeletion();
+    void connectApplication();
+    void chooseLibrary(const QString& path);
+    void updateMarkPreview();
+    QString markReason(int row) const;
+    void quit();
+
+    WindowedView& m_view;
+    AppController& m_controller;
+    OpenLibrary m_openLibrary;
+};
+
+} // namespace songsweep
