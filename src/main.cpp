@@ -1,12 +1,27 @@
 // SPDX-License-Identifier: MIT
+#include "app/RunWindow.h"
 #include "cli/RunCommand.h"
 
 #include <variant>
 
 using namespace songsweep;
 
+namespace {
+
+ProgramOptions programOptions(const cli::LibraryOptions& options) {
+    return {.library = options.library,
+            .map = options.map,
+            .iTunesVersion = options.iTunesVersion,
+            .version = SONGSWEEP_VERSION};
+}
+
+} // namespace
+
 int main(int argumentCount, char** arguments) {
     const auto parsed = cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION);
     if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);
-    return cli::runCommand(std::get<cli::Command>(parsed), argumentCount, arguments, SONGSWEEP_VERSION);
+    const auto& command = std::get<cli::Command>(parsed);
+    if (const auto* window = std::get_if<cli::LibraryOptions>(&command))
+        return runWindow(programOptions(*window), window->log, argumentCount, arguments);
+    return cli::runCommand(command, argumentCount, arguments, SONGSWEEP_VERSION);
 }
