@@ -19,9 +19,9 @@ char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + '
 } // namespace
 
 std::string_view fileExtension(std::string_view path) {
-    const std::string_view name = path.substr(path.rfind('/') + 1);
-    const std::size_t dot = name.rfind('.');
-    return dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
+    for (std::size_t i = path.size(); i > 0 && path[i - 1] != '/'; --i)
+        if (path[i - 1] == '.') return path.substr(i);
+    return {};
 }
 
 std::string fileKind(std::string_view path) { return uppercase(fileExtension(path)); }
@@ -29,7 +29,8 @@ std::string fileKind(std::string_view path) { return uppercase(fileExtension(pat
 bool isOfKind(std::string_view path, std::string_view kind) {
     const std::string_view extension = fileExtension(path);
     if (!isAscii(extension)) return uppercase(extension) == kind;
-    return std::equal(extension.begin(), extension.end(), kind.begin(), kind.end(),
+    if (extension.size() != kind.size()) return false;
+    return std::equal(extension.begin(), extension.end(), kind.begin(),
                       [](char a, char b) { return upper(a) == b; });
 }
 

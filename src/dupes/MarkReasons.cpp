@@ -85,12 +85,12 @@ void MarkReasons::lookAtGroup(std::size_t row) {
     m_verdicts.assign(m_end - m_first, {});
     const auto judge = [this](bool exceptOne, bool Verdict::*part) {
         const MarkChoice choice = {m_choice.markType, exceptOne, m_choice.text};
-        withRule(choice, [&](auto rule) {
-            m_kept = chooseKept(m_rows, m_first, m_end, exceptOne, rule);
-            for (std::size_t i = m_first; i < m_end; ++i) {
-                const bool spared = exceptOne && i == m_kept;
-                m_verdicts[i - m_first].*part = !spared && (m_rows[i]->isdead || rule.checks(*m_rows[i]));
-            }
+        withRule(choice, [&]<class Rule>(Rule rule) {
+            GroupJudge<Rule> group(m_rows, exceptOne, rule);
+            group.look(m_first, m_end);
+            m_kept = group.kept();
+            for (std::size_t i = m_first; i < m_end; ++i)
+                m_verdicts[i - m_first].*part = group.checks(i);
         });
     };
     judge(false, &Verdict::loses);

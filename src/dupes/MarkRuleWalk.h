@@ -1,168 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "dupes/FileKind.h"
-#include "dupes/MarkingRules.h"
-#include "library/ValueFormats.h"
+#include "dupes/MarkRules.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
+#include <vector>
 
 namespace songsweep {
 
-/// The walk over the groups that all rules share, and the rules as small types that it is made with.
-///
-/// A rule has three parts: begin() forgets the group before, chooses(record) looks at a live record of the
-/// group and says whether it becomes the kept copy, and checks(record) says, when the group is complete,
-/// whether the record loses. The compiler makes one tight loop of walk and rule.
-
-/// What a rule prefers.
-enum class Preference { highest, lowest };
-
-/// Keeps the highest or lowest of a number. `Value` reads it off a record.
-template <class Value, Preference preference>
-class NumberRule {
-  public:
-    explicit NumberRule(bool exceptOne)
-        : m_exceptOne(exceptOne) {}
-
-    void begin() { m_best = unset; }
-
-    bool chooses(const TrackRecord& record) {
-        const std::int64_t value = Value::of(record);
-        const bool better = preference == Preference::highest ? value > m_best : m_best < 0 || value < m_best;
-        if (better) m_best = value;
-        return better;
-    }
-
-    bool checks(const TrackRecord& record) const {
-        const std::int64_t value = Value::of(record);
-        if (preference == Preference::highest) return m_exceptOne ? !(value > m_best) : value < m_best;
-        return m_exceptOne ? !(value < m_best) : value > m_best;
-    }
-
-    std::int64_t best() const { return m_best; }
-
-  private:
-    static constexpr std::int64_t unset = -1;
-    std::int64_t m_best = unset;
-    bool m_exceptOne;
-};
-
-/// Keeps the earliest or latest date. A track without a date stands at the unset moment, which the next date
-/// replaces whatever it is; so with the earliest such a track may stay unchecked.
-template <Preference preference>
-class DateRule {
-  public:
-    explicit DateRule(bool exceptOne)
-        : m_exceptOne(exceptOne) {}
-
-    void begin() { m_best = unset; }
-
-    bool chooses(const TrackRecord& record) {
-        const std::int64_t date = record.dateaddedv;
-        const bool better =
-            preference == Preference::highest ? date > m_best : date < m_best || m_best == unset;
-        if (better) m_best = date;
-        return better;
-    }
-
-    bool checks(const TrackRecord& record) const {
-        const std::int64_t date = record.dateaddedv;
-        if (preference == Preference::highest) return m_exceptOne ? !(date > m_best) : date < m_best;
-        return m_exceptOne ? !(date < m_best) : date > m_best;
-    }
-
-  private:
-    static constexpr std::int64_t unset = 0;
-    std::int64_t m_best = unset;
-    bool m_exceptOne;
-};
-
-/// Checks the tracks of which something is true and keeps the last of which it is not.
-template <class Loses>
-class TruthRule {
-  public:
-    TruthRule(Loses loses, bool exceptOne)
-        : m_loses(loses)
-        , m_exceptOne(exceptOne) {}
-
-    void begin() {}
-    bool chooses(const TrackRecord& record) const { return !m_loses(record); }
-    bool checks(const TrackRecord& record) const { return m_exceptOne || m_loses(record); }
-
-  private:
-    Loses m_loses;
-    bool m_exceptOne;
-};
-
-/// No rule: only tracks whose files are missing are checked.
-class NoRule {
-  public:
-    void begin() {}
-    bool chooses(const TrackRecord&) const { return false; }
-    bool checks(const TrackRecord&) const { return false; }
-};
-
-struct BitrateValue {
-    static std::int64_t of(const TrackRecord& record) { return integerValue(record.bitrate); }
-};
-struct TimeValue {
-    static std::int64_t of(const TrackRecord& record) { return record.timev; }
-};
-struct SizeValue {
-    static std::int64_t of(const TrackRecord& record) { return integerValue(record.size); }
-};
-struct RatingValue {
-    static std::int64_t of(const TrackRecord& record) { return record.rating; }
-};
-struct PlayCountValue {
-    static std::int64_t of(const TrackRecord& record) { return integerValue(record.playcount); }
-};
-
-/// Calls `use` with the rule that belongs to a choice.
-template <class Use>
-auto withRule(const MarkChoice& choice, Use use) {
-    const bool exceptOne = choice.exceptOne;
-    switch (choice.markType) {
-    case markType::highestBitrate:
-        return use(NumberRule<BitrateValue, Preference::highest>(exceptOne));
-    case markType::lowestBitrate:
-        return use(NumberRule<BitrateValue, Preference::lowest>(exceptOne));
-    case markType::longest:
-        return use(NumberRule<TimeValue, Preference::highest>(exceptOne));
-    case markType::shortest:
-        return use(NumberRule<TimeValue, Preference::lowest>(exceptOne));
-    case markType::largest:
-        return use(NumberRule<SizeValue, Preference::highest>(exceptOne));
-    case markType::smallest:
-        return use(NumberRule<SizeValue, Preference::lowest>(exceptOne));
-    case markType::earliestAdded:
-        return use(DateRule<Preference::lowest>(exceptOne));
-    case markType::latestAdded:
-        return use(DateRule<Preference::highest>(exceptOne));
-    case markType::withArtwork:
-        return use(TruthRule([](const TrackRecord& record) { return !record.hasartwork; }, exceptOne));
-    case markType::withoutArtwork:
-        return use(TruthRule([](const TrackRecord& record) { return record.hasartwork; }, exceptOne));
-    case markType::highestRating:
-        return use(NumberRule<RatingValue, Preference::highest>(exceptOne));
-    case markType::lowestRating:
-        return use(NumberRule<RatingValue, Preference::lowest>(exceptOne));
-    case markType::mostPlayed:
-        return use(NumberRule<PlayCountValue, Preference::highest>(exceptOne));
-    case markType::leastPlayed:
-        return use(NumberRule<PlayCountValue, Preference::lowest>(exceptOne));
-    case markType::kind:
-        return use(TruthRule(
-            [&](const TrackRecord& record) { return isOfKind(record.location, choice.text); }, exceptOne));
-    case markType::folder:
-        return use(TruthRule(
-            [&](const TrackRecord& record) { return isSubfolder(choice.text, record.location); }, exceptOne));
-    default:
-        return use(NoRule());
-    }
-}
+/// The walk over the groups that all rules share. The compiler makes one tight loop of walk and rule.
 
 /// The position behind the group that begins at `first`.
 inline std::size_t groupEnd(const TrackRows& rows, std::size_t first) {
@@ -174,32 +21,93 @@ inline std::size_t groupEnd(const TrackRows& rows, std::size_t first) {
 
 inline constexpr std::size_t noRow = static_cast<std::size_t>(-1);
 
-/// Shows the rule the records of one group and gives the place of the kept copy, `noRow` for none.
+/// Asks for the memory of rows to come: the records of sorted rows lie all over the storage, so that waiting
+/// for one after the other would cost several times the work itself.
 template <class Rule>
-std::size_t chooseKept(const TrackRows& rows, std::size_t first, std::size_t end, bool exceptOne,
-                       Rule& rule) {
-    std::size_t kept = exceptOne ? first : noRow;
-    bool firstLive = true;
-    rule.begin();
-    for (std::size_t i = first; i < end; ++i) {
-        if (rows[i]->isdead) continue;
-        if (firstLive) kept = i;
-        firstLive = false;
-        if (rule.chooses(*rows[i])) kept = i;
+class Lookahead {
+  public:
+    explicit Lookahead(const TrackRows& rows)
+        : m_rows(rows) {}
+
+    void advanceTo(std::size_t row) {
+        for (const std::size_t end = std::min(m_rows.size(), row + records); m_nextRecord < end;
+             ++m_nextRecord)
+            fetch(m_rows[m_nextRecord]);
+        for (const std::size_t end = std::min(m_rows.size(), row + texts); m_nextText < end; ++m_nextText)
+            if (const char* const text = Rule::textOf(*m_rows[m_nextText])) __builtin_prefetch(text);
     }
-    return kept;
-}
+
+  private:
+    static constexpr std::size_t records = 32;
+    static constexpr std::size_t texts = 16;
+    static constexpr std::size_t cacheLine = 64;
+
+    static void fetch(const TrackRecord* record) {
+        const auto* const bytes = reinterpret_cast<const char*>(record);
+        for (std::size_t at = 0; at < sizeof *record; at += cacheLine)
+            __builtin_prefetch(bytes + at, 1);
+    }
+
+    const TrackRows& m_rows;
+    std::size_t m_nextRecord = 0;
+    std::size_t m_nextText = 0;
+};
+
+/// Judges one group after the other by a rule.
+template <class Rule>
+class GroupJudge {
+  public:
+    GroupJudge(const TrackRows& rows, bool exceptOne, Rule rule)
+        : m_rows(rows)
+        , m_exceptOne(exceptOne)
+        , m_rule(rule) {}
+
+    /// Shows the rule the records of the group.
+    void look(std::size_t first, std::size_t end) {
+        m_first = first;
+        m_kept = m_exceptOne ? first : noRow;
+        m_values.resize(end - first);
+        m_rule.begin();
+        bool firstLive = true;
+        for (std::size_t i = first; i < end; ++i) {
+            if (m_rows[i]->isdead) continue;
+            if (firstLive) m_kept = i;
+            firstLive = false;
+            const typename Rule::Value value = m_rule.valueOf(*m_rows[i]);
+            m_values[i - first] = value;
+            if (m_rule.chooses(value)) m_kept = i;
+        }
+    }
+
+    /// Whether the row, of the group looked at, is to be checked.
+    bool checks(std::size_t row) const {
+        if (m_exceptOne && row == m_kept) return false;
+        return m_rows[row]->isdead || m_rule.checks(m_values[row - m_first]);
+    }
+
+    /// The kept copy, `noRow` for none.
+    std::size_t kept() const { return m_kept; }
+
+  private:
+    const TrackRows& m_rows;
+    bool m_exceptOne;
+    Rule m_rule;
+    std::size_t m_first = 0;
+    std::size_t m_kept = noRow;
+    std::vector<typename Rule::Value> m_values; // of the group, so that each is read once
+};
 
 /// Calls `set` with each record and whether it is to be checked.
 template <class Rule, class Set>
 void walkGroups(const TrackRows& rows, bool exceptOne, Rule rule, Set set) {
+    GroupJudge<Rule> judge(rows, exceptOne, rule);
+    Lookahead<Rule> lookahead(rows);
     for (std::size_t first = 0; first < rows.size();) {
+        lookahead.advanceTo(first);
         const std::size_t end = groupEnd(rows, first);
-        const std::size_t kept = chooseKept(rows, first, end, exceptOne, rule);
-        for (std::size_t i = first; i < end; ++i) {
-            const bool spared = exceptOne && i == kept;
-            set(*rows[i], !spared && (rows[i]->isdead || rule.checks(*rows[i])));
-        }
+        judge.look(first, end);
+        for (std::size_t i = first; i < end; ++i)
+            set(*rows[i], judge.checks(i));
         first = end;
     }
 }
