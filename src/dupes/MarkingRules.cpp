@@ -81,6 +81,7 @@ bool isSubfolder(std::string_view folder, std::string_view path) {
 
 std::vector<std::string> markRuleNames() {
     std::vector<std::string> names;
+    names.reserve(ruleNames.size());
     for (const RuleName& rule : ruleNames)
         names.emplace_back(rule.name);
     return names;
