@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/LibraryIndex.h"
+#include "hosts/LibraryWords.h"
 #include "hosts/TagScanner.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <numeric>
 
@@ -11,75 +11,7 @@ namespace songsweep {
 
 namespace {
 
-/// The keys that the index looks at.
-enum class Key : std::uint8_t {
-    none,
-    tracks,
-    playlists,
-    trackId,
-    persistentId,
-    name,
-    playlistPersistentId,
-    master,
-    smartInfo,
-    folder,
-    visible,
-    distinguishedKind,
-    items
-};
-
-/// What an open element is to the library.
-enum class Place : std::uint8_t { plist, top, tracks, track, playlists, playlist, items, item, key, value };
-
-bool isCalled(std::string_view text, std::string_view lowerCaseName) {
-    if (text.size() != lowerCaseName.size()) return false;
-    return std::equal(text.begin(), text.end(), lowerCaseName.begin(), [](char a, char b) {
-        return (a >= 'A' && a <= 'Z' ? static_cast<char>(a | 0x20) : a) == b;
-    });
-}
-
 bool needsDecoding(char c) { return c == '&' || c == '<' || c == '\r'; }
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isXmlSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isXmlSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
-std::optional<std::int64_t> wholeNumber(std::string_view text) {
-    text = trimmed(text);
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size()) return {};
-    return number;
-}
-
-/// The key of that name inside an element at `place`.
-Key keyCalled(std::string_view name, Place place) {
-    switch (place) {
-    case Place::top:
-        if (isCalled(name, "tracks")) return Key::tracks;
-        return isCalled(name, "playlists") ? Key::playlists : Key::none;
-    case Place::track:
-        if (isCalled(name, "persistent id")) return Key::persistentId;
-        return isCalled(name, "track id") ? Key::trackId : Key::none;
-    case Place::item:
-        return isCalled(name, "track id") ? Key::trackId : Key::none;
-    case Place::playlist:
-        if (isCalled(name, "name")) return Key::name;
-        if (isCalled(name, "playlist persistent id")) return Key::playlistPersistentId;
-        if (isCalled(name, "master")) return Key::master;
-        if (isCalled(name, "smart info")) return Key::smartInfo;
-        if (isCalled(name, "folder")) return Key::folder;
-        if (isCalled(name, "visible")) return Key::visible;
-        if (isCalled(name, "distinguished kind")) return Key::distinguishedKind;
-        return isCalled(name, "playlist items") ? Key::items : Key::none;
-    default:
-        return Key::none;
-    }
-}
 
 /// Builds the index from the tags of a library, tag by tag.
 class Indexer {
@@ -116,69 +48,71 @@ class Indexer {
 
   private:
     bool open(const Tag& tag) {
-        const Place place = placeOf(tag);
+        const LibraryPlace place = placeOf(tag);
         if (m_reason) return false;
         m_places.push_back(place);
         enter(place, tag);
         return true;
     }
 
-    Place placeOf(const Tag& tag) {
+    LibraryPlace placeOf(const Tag& tag) {
         if (m_places.empty()) {
             if (tag.element != Element::plist) m_reason = "the file is not a property list";
-            return Place::plist;
+            return LibraryPlace::plist;
         }
         const bool dictionary = tag.element == Element::dict;
         switch (m_places.back()) {
-        case Place::plist:
+        case LibraryPlace::plist:
             if (!dictionary || m_topSeen) m_reason = "the file is not a library: it is no dictionary";
-            return Place::top;
-        case Place::top:
-            if (tag.element == Element::key) return Place::key;
-            if (dictionary && m_key == Key::tracks && !m_tracksSeen) return Place::tracks;
-            return tag.element == Element::array && m_key == Key::playlists ? Place::playlists : Place::value;
-        case Place::tracks:
-            return entryPlace(tag.element, Place::track);
-        case Place::playlists:
-            return dictionary ? Place::playlist : Place::value;
-        case Place::playlist:
-            if (tag.element == Element::key) return Place::key;
-            return tag.element == Element::array && m_key == Key::items ? Place::items : Place::value;
-        case Place::items:
-            return dictionary ? Place::item : Place::value;
-        case Place::track:
-        case Place::item:
-            return entryPlace(tag.element, Place::value);
+            return LibraryPlace::top;
+        case LibraryPlace::top:
+            if (tag.element == Element::key) return LibraryPlace::key;
+            if (dictionary && m_key == LibraryKey::tracks && !m_tracksSeen) return LibraryPlace::tracks;
+            return tag.element == Element::array && m_key == LibraryKey::playlists ? LibraryPlace::playlists
+                                                                                   : LibraryPlace::value;
+        case LibraryPlace::tracks:
+            return entryPlace(tag.element, LibraryPlace::track);
+        case LibraryPlace::playlists:
+            return dictionary ? LibraryPlace::playlist : LibraryPlace::value;
+        case LibraryPlace::playlist:
+            if (tag.element == Element::key) return LibraryPlace::key;
+            return tag.element == Element::array && m_key == LibraryKey::items ? LibraryPlace::items
+                                                                               : LibraryPlace::value;
+        case LibraryPlace::items:
+            return dictionary ? LibraryPlace::item : LibraryPlace::value;
+        case LibraryPlace::track:
+        case LibraryPlace::item:
+            return entryPlace(tag.element, LibraryPlace::value);
         default:
-            return Place::value;
+            return LibraryPlace::value;
         }
     }
 
-    static Place entryPlace(Element element, Place dictionaryPlace) {
-        if (element == Element::key) return Place::key;
-        return element == Element::dict ? dictionaryPlace : Place::value;
+    static LibraryPlace entryPlace(Element element, LibraryPlace dictionaryPlace) {
+        if (element == Element::key) return LibraryPlace::key;
+        return element == Element::dict ? dictionaryPlace : LibraryPlace::value;
     }
 
-    void enter(Place place, const Tag& tag) {
+    void enter(LibraryPlace place, const Tag& tag) {
         switch (place) {
-        case Place::top:
+        case LibraryPlace::top:
             m_topSeen = true;
             break;
-        case Place::tracks:
+        case LibraryPlace::tracks:
             m_tracksSeen = true;
             m_entryBegin = tag.end;
             break;
-        case Place::key:
-            if (m_places[m_places.size() - 2] == Place::tracks) m_entryBegin = withSpaceBefore(tag);
+        case LibraryPlace::key:
+            if (m_places[m_places.size() - 2] == LibraryPlace::tracks) m_entryBegin = withSpaceBefore(tag);
             break;
-        case Place::track:
+        case LibraryPlace::track:
             m_track = {m_entryBegin, m_entryId, 0, 0, {}, false};
             break;
-        case Place::playlist:
+        case LibraryPlace::playlist:
             m_index.playlists.emplace_back().begin = tag.begin;
             m_itemIds.emplace_back();
             break;
-        case Place::item:
+        case LibraryPlace::item:
             m_itemBegin = withSpaceBefore(tag);
             m_itemId = -1;
             break;
@@ -196,62 +130,62 @@ class Indexer {
     }
 
     void close(const Tag& tag, std::string_view text) {
-        const Place place = m_places.back();
+        const LibraryPlace place = m_places.back();
         m_places.pop_back();
         switch (place) {
-        case Place::key:
+        case LibraryPlace::key:
             keyEnds(text);
             break;
-        case Place::value:
+        case LibraryPlace::value:
             valueEnds(tag, text);
             break;
-        case Place::track:
+        case LibraryPlace::track:
             trackEnds(tag);
             break;
-        case Place::item:
+        case LibraryPlace::item:
             itemEnds(tag);
             break;
-        case Place::items:
+        case LibraryPlace::items:
             m_index.playlists.back().items.shrink_to_fit();
-            m_key = Key::none;
+            m_key = LibraryKey::none;
             break;
         default:
-            m_key = Key::none;
+            m_key = LibraryKey::none;
             break;
         }
     }
 
     void keyEnds(std::string_view text) {
-        const Place parent = m_places.back();
-        if (parent == Place::tracks) {
+        const LibraryPlace parent = m_places.back();
+        if (parent == LibraryPlace::tracks) {
             m_entryId = wholeNumber(decoded(text)).value_or(-1);
-        } else if (parent != Place::value) {
+        } else if (parent != LibraryPlace::value) {
             m_key = keyCalled(decoded(text), parent);
         }
     }
 
     void valueEnds(const Tag& tag, std::string_view text) {
-        if (m_key == Key::none || m_places.empty()) return;
+        if (m_key == LibraryKey::none || m_places.empty()) return;
         switch (m_places.back()) {
-        case Place::track:
+        case LibraryPlace::track:
             trackValue(text);
             break;
-        case Place::item:
+        case LibraryPlace::item:
             itemValue(text);
             break;
-        case Place::playlist:
+        case LibraryPlace::playlist:
             playlistValue(tag.element, text);
             break;
-        case Place::value:
+        case LibraryPlace::value:
             return;
         default:
             break;
         }
-        m_key = Key::none;
+        m_key = LibraryKey::none;
     }
 
     void trackValue(std::string_view text) {
-        if (m_key == Key::trackId) {
+        if (m_key == LibraryKey::trackId) {
             if (const auto id = wholeNumber(decoded(text))) m_track.trackId = *id;
         } else {
             const PersistentId id = PersistentId::of(trimmed(decoded(text)));
@@ -265,25 +199,25 @@ class Indexer {
     void playlistValue(Element element, std::string_view text) {
         PlaylistSlot& playlist = m_index.playlists.back();
         switch (m_key) {
-        case Key::name:
+        case LibraryKey::name:
             playlist.name = decoded(text);
             break;
-        case Key::playlistPersistentId:
+        case LibraryKey::playlistPersistentId:
             playlist.persistentId = decoded(text);
             break;
-        case Key::master:
+        case LibraryKey::master:
             playlist.master = element == Element::isTrue;
             break;
-        case Key::folder:
+        case LibraryKey::folder:
             playlist.folder = element == Element::isTrue;
             break;
-        case Key::visible:
+        case LibraryKey::visible:
             playlist.visible = element != Element::isFalse;
             break;
-        case Key::smartInfo:
+        case LibraryKey::smartInfo:
             playlist.smart = true;
             break;
-        case Key::distinguishedKind:
+        case LibraryKey::distinguishedKind:
             playlist.distinguishedKind = wholeNumber(decoded(text)).value_or(0);
             break;
         default:
@@ -334,7 +268,7 @@ class Indexer {
 
     LibraryIndex& m_index;
     const XmlEntities& m_entities;
-    std::vector<Place> m_places;
+    std::vector<LibraryPlace> m_places;
     std::vector<std::vector<std::int64_t>> m_itemIds; // of every playlist
     TrackSlot m_track;
     std::uint64_t m_entryBegin = 0;
@@ -343,7 +277,7 @@ class Indexer {
     std::int64_t m_itemId = -1;
     std::string m_decoded;
     const char* m_reason = nullptr;
-    Key m_key = Key::none;
+    LibraryKey m_key = LibraryKey::none;
     bool m_leaf = false;
     bool m_topSeen = false;
     bool m_tracksSeen = false;

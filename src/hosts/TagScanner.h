@@ -58,6 +58,7 @@ class TagScanner {
     bool skipMarkup();
     bool skipPast(std::string_view mark, std::size_t from);
     bool skipDocumentType();
+    bool skipDeclaration(bool isEntity);
     bool declareEntity(std::string_view declaration);
     bool findTagEnd();
     bool readTag(Tag& tag);

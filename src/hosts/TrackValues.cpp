@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/TrackValues.h"
 
+#include "hosts/LibraryWords.h"
 #include "library/LocationUrl.h"
 #include "library/ValueFormats.h"
 #include "platform/Files.h"
@@ -16,14 +17,6 @@ namespace {
 using interpreter::Value;
 
 constexpr std::int64_t secondsFrom1904To1970 = 2'082'844'800;
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isXmlSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isXmlSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 /// A number where its text is the one that the number would be written with; else the text, so that nothing
 /// of it is lost.
