@@ -3,6 +3,7 @@
 
 #include "ui/theme/Metrics.h"
 
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -13,13 +14,21 @@ namespace songsweep {
 
 namespace {
 
-constexpr int textRow = 0;
+constexpr int betweenParagraphs = 12;
+constexpr int aboveButtons = 8; // on top of that
 
-/// Takes the indent away that the box puts between its icon and its text.
-void removeIndent(QGridLayout& grid, bool hasIcon) {
-    QLayoutItem* item = grid.itemAtPosition(textRow, hasIcon ? 1 : 0);
-    if (item != nullptr && item->spacerItem() != nullptr)
+/// The box makes its layout anew whenever something is added to it, with an indent before the text and with
+/// no more room above the buttons than between its paragraphs.
+void tune(QMessageBox& box) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr) return;
+    const int column = box.icon() == QMessageBox::NoIcon ? 0 : 1;
+    if (QLayoutItem* item = grid->itemAtPosition(0, column); item != nullptr && item->spacerItem() != nullptr)
         item->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    grid->setVerticalSpacing(scaledLength(betweenParagraphs, &box));
+    if (auto* buttons = box.findChild<QDialogButtonBox*>())
+        buttons->setContentsMargins(0, scaledLength(aboveButtons, &box), 0, 0);
+    grid->invalidate();
 }
 
 } // namespace
@@ -28,7 +37,6 @@ AlertBox::AlertBox(Icon icon, const QString& text, QWidget* parent)
     : QMessageBox(icon, QStringLiteral("Songsweep"), text, NoButton, parent, Qt::Sheet) {
     setTextFormat(Qt::PlainText);
     setAttribute(Qt::WA_DeleteOnClose);
-    if (auto* grid = qobject_cast<QGridLayout*>(layout())) removeIndent(*grid, icon != NoIcon);
 }
 
 bool AlertBox::event(QEvent* event) {
@@ -46,6 +54,7 @@ void AlertBox::showEvent(QShowEvent* event) {
 void AlertBox::fit() {
     constexpr int leastWidth = 280;
     constexpr int dialogWidth = 440;
+    tune(*this);
     setWrapped(false);
     layout()->activate();
     const int natural = std::max(layout()->totalMinimumSize().width(), scaledLength(leastWidth, this));
