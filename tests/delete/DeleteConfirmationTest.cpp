@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeleteConfirmation.h"
+
+#include "support/ThemedTest.h"
+#include "support/Widgets.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+using test::child;
+
+class DeleteConfirmationTest : public test::ThemedTest {};
+
+DeleteConfirmationFacts threeTracks() {
+    DeleteConfirmationFacts facts;
+    facts.tracks = 3;
+    facts.filesToTrash = 2;
+    facts.bytesToTrash = 9'000'000;
+    facts.sharedFiles = 1;
+    facts.sharedBytes = 1'000'000;
+    facts.missingFiles = 1;
+    return facts;
+}
+
+QStringList visibleLines(const DeleteConfirmation& sheet) {
+    QStringList lines;
+    const auto& trash = child<QLabel>(sheet, "delConfTrashLabel");
+    const auto& shared = child<QCheckBox>(sheet, "delConfSharedCK");
+    const auto& missing = child<QLabel>(sheet, "delConfMissingLabel");
+    if (!trash.isHidden()) lines.append(trash.text());
+    if (!shared.isHidden()) lines.append(shared.text());
+    if (!missing.isHidden()) lines.append(missing.text());
+    return lines;
+}
+
+TEST_F(DeleteConfirmationTest, StartsWithTheFilesLeftWhereTheyAre) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    EXPECT_FALSE(sheet.deletesFiles());
+    EXPECT_EQ(visibleLines(sheet), QStringList(QStringLiteral("The files stay where they are.")));
+}
+
+TEST_F(DeleteConfirmationTest, TellsWhatHappensToTheFilesOnceTheyGoToo) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_EQ(visibleLines(sheet),
+              QStringList({QStringLiteral("2 files, 8.6 MB, go to the Trash."),
+                           QStringLiteral("1 file is shared with a track that stays, and is kept."),
+                           QStringLiteral("1 file is missing already.")}));
+}
+
+TEST_F(DeleteConfirmationTest, LeavesOutLinesThatHaveNothingToCount) {
+    DeleteConfirmationFacts facts = threeTracks();
+    facts.sharedFiles = 0;
+    facts.missingFiles = 0;
+    DeleteConfirmation sheet;
+    sheet.setFacts(facts);
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_EQ(visibleLines(sheet), QStringList(QStringLiteral("2 files, 8.6 MB, go to the Trash.")));
+}
+
+TEST_F(DeleteConfirmationTest, CountsSharedFilesWithTheOthersOnceTheyAreNotLeft) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_TRUE(sheet.leavesSharedFiles());
+    child<QCheckBox>(sheet, "delConfSharedCK").click();
+    EXPECT_FALSE(sheet.leavesSharedFiles());
+    EXPECT_EQ(visibleLines(sheet),
+              QStringList({QStringLiteral("3 files, 9.6 MB, go to the Trash."),
+                           QStringLiteral("1 file is shared with a track that stays, and goes too."),
+                           QStringLiteral("1 file is missing already.")}));
+}
+
+TEST_F(DeleteConfirmationTest, KeepsTheFileOptionButOffersToLeaveSharedFilesEachTime) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    child<QCheckBox>(sheet, "delConfSharedCK").click();
+    sheet.setFacts(threeTracks());
+    EXPECT_TRUE(sheet.deletesFiles());
+    EXPECT_TRUE(sheet.leavesSharedFiles());
+}
+
+TEST_F(DeleteConfirmationTest, DoesNotMoveWhenTheFileOptionIsSwitched) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    test::open(sheet);
+    const QSize before = sheet.size();
+    const QPoint button = child<QPushButton>(sheet, "delConfOkButton").mapTo(&sheet, QPoint());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(sheet.size(), before);
+    EXPECT_EQ(child<QPushButton>(sheet, "delConfOkButton").mapTo(&sheet, QPoint()), button);
+}
+
+TEST_F(DeleteConfirmationTest, WarnsOnlyWhereASongLosesEveryCopy) {
+    DeleteConfirmationFacts facts = threeTracks();
+    DeleteConfirmation sheet;
+    sheet.setFacts(facts);
+    EXPECT_TRUE(child<QWidget>(sheet, "delConfWarning").isHidden());
+    facts.groupsLosingEveryCopy = 2;
+    sheet.setFacts(facts);
+    EXPECT_FALSE(child<QWidget>(sheet, "delConfWarning").isHidden());
+    EXPECT_EQ(child<QLabel>(sheet, "delConfWarningLabel").text(),
+              QStringLiteral("No copy of 2 songs will be left."));
+}
+
+TEST_F(DeleteConfirmationTest, SaysThatNothingIsMarkedAndLetsTheDeletionRun) {
+    DeleteConfirmation sheet;
+    sheet.setFacts({});
+    EXPECT_EQ(child<QLabel>(sheet, "delConfHeadingLabel").text(), QStringLiteral("No tracks are marked"));
+    EXPECT_EQ(child<QLabel>(sheet, "delConfTextLabel").text(), QStringLiteral("Nothing will be deleted."));
+    EXPECT_TRUE(child<QWidget>(sheet, "delConfFileCK").isHidden());
+    EXPECT_EQ(child<QPushButton>(sheet, "delConfOkButton").text(), QStringLiteral("&Delete"));
+    EXPECT_TRUE(child<QPushButton>(sheet, "delConfOkButton").isEnabled());
+}
+
+TEST_F(DeleteConfirmationTest, CancelsOnReturnAndOnEscape) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        DeleteConfirmation sheet;
+        sheet.setFacts(threeTracks());
+        QSignalSpy cancels(&sheet, &DeleteConfirmation::rejected);
+        QSignalSpy deletions(&sheet, &DeleteConfirmation::deleteRequested);
+        test::open(sheet);
+        test::press(sheet, key);
+        EXPECT_EQ(cancels.count(), 1);
+        EXPECT_EQ(deletions.count(), 0);
+        EXPECT_FALSE(sheet.isVisible());
+    }
+}
+
+TEST_F(DeleteConfirmationTest, CancelsOnReturnAlsoWithTheFocusOnDelete) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    QSignalSpy deletions(&sheet, &DeleteConfirmation::deleteRequested);
+    test::open(sheet);
+    child<QPushButton>(sheet, "delConfOkButton").setFocus();
+    test::press(sheet, Qt::Key_Return);
+    EXPECT_EQ(deletions.count(), 0);
+    EXPECT_FALSE(sheet.isVisible());
+}
+
+TEST_F(DeleteConfirmationTest, DeletesByItsMnemonicWithTheOptionsChosen) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    QSignalSpy deletions(&sheet, &DeleteConfirmation::deleteRequested);
+    test::open(sheet);
+    test::press(sheet, Qt::Key_F, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return sheet.deletesFiles(); })); // a mnemonic shows the click first
+    test::press(sheet, Qt::Key_D, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return deletions.count() == 1; }));
+    EXPECT_TRUE(deletions[0][0].toBool());
+    EXPECT_TRUE(deletions[0][1].toBool());
+}
+
+TEST_F(DeleteConfirmationTest, HasCancelAsItsOnlyFilledButtonWithTheFocusAtEveryOpening) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    for (int opening = 0; opening < 2; ++opening) {
+        test::open(sheet);
+        EXPECT_EQ(test::filledButtons(sheet), QStringList(QStringLiteral("&Cancel")));
+        EXPECT_EQ(sheet.focusWidget(), &child<QPushButton>(sheet, "delConfCancelButton"));
+        child<QPushButton>(sheet, "delConfOkButton").setFocus();
+        EXPECT_EQ(test::filledButtons(sheet), QStringList(QStringLiteral("&Cancel")));
+        sheet.hide();
+    }
+}
+
+TEST_F(DeleteConfirmationTest, IsAWindowModalSheetThatReadsItselfOut) {
+    QWidget window;
+    DeleteConfirmation sheet(&window);
+    sheet.setFacts(threeTracks());
+    EXPECT_EQ(sheet.windowType(), Qt::Sheet);
+    EXPECT_EQ(sheet.windowModality(), Qt::WindowModal);
+    EXPECT_EQ(test::accessibleDescription(sheet),
+              QStringLiteral(
+                  "Delete 3 tracks from iTunes? They also leave every playlist. iTunes cannot undo this."));
+}
+
+TEST_F(DeleteConfirmationTest, VisitsTheOptionsAndThenTheButtons) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").setChecked(true);
+    test::open(sheet);
+    const QStringList expected{QStringLiteral("delConfCancelButton"), QStringLiteral("delConfOkButton"),
+                               QStringLiteral("delConfFileCK"), QStringLiteral("delConfSharedCK")};
+    EXPECT_EQ(test::tabOrder(sheet), expected);
+}
+
+} // namespace
+} // namespace songsweep
