@@ -3,7 +3,6 @@
 
 #include "ui/theme/Metrics.h"
 
-#include <QDialogButtonBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -15,19 +14,18 @@ namespace songsweep {
 namespace {
 
 constexpr int betweenParagraphs = 12;
-constexpr int aboveButtons = 8; // on top of that
 
-/// The box makes its layout anew whenever something is added to it, with an indent before the text and with
-/// no more room above the buttons than between its paragraphs.
+/// The box makes its layout anew whenever something is added to it, with an indent before the text and
+/// with a spacing of its own.
 void tune(QMessageBox& box) {
     auto* grid = qobject_cast<QGridLayout*>(box.layout());
     if (grid == nullptr) return;
     const int column = box.icon() == QMessageBox::NoIcon ? 0 : 1;
     if (QLayoutItem* item = grid->itemAtPosition(0, column); item != nullptr && item->spacerItem() != nullptr)
         item->spacerItem()->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    grid->setColumnStretch(column + 1, 1); // the text's
     grid->setVerticalSpacing(scaledLength(betweenParagraphs, &box));
-    if (auto* buttons = box.findChild<QDialogButtonBox*>())
-        buttons->setContentsMargins(0, scaledLength(aboveButtons, &box), 0, 0);
+    if (box.icon() == QMessageBox::NoIcon) grid->setHorizontalSpacing(0);
     grid->invalidate();
 }
 
