@@ -3,7 +3,11 @@
 
 #include "ui/TrackTableModel.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QTextDocument>
+#include <QToolTip>
 
 namespace songsweep {
 
@@ -20,6 +24,12 @@ QColor backgroundOf(RowState state, bool tinted) {
     if (state == RowState::selected) return selectedBand;
     if (state == RowState::selectedInactive) return selectedInactiveBand;
     return tinted ? tintedBand : whiteBand;
+}
+
+/// A tool tip takes whatever looks like markup for it; names of tracks are none.
+QString plainToolTip(const QString& text) {
+    if (!Qt::mightBeRichText(text)) return text;
+    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
 }
 
 } // namespace
@@ -44,6 +54,19 @@ void PaperCell::drawWithFrame(QPainter& painter, const QStyleOptionViewItem& opt
     drawInterior(painter, option, look.colors, index);
     painter.restore();
 }
+
+bool PaperCell::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) {
+    if (event->type() != QEvent::ToolTip) return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QString text = index.data(Qt::ToolTipRole).toString();
+    if (text.isEmpty() || !wantsToolTip(option, text))
+        QToolTip::hideText();
+    else
+        QToolTip::showText(event->globalPos(), plainToolTip(text), view->viewport(), option.rect);
+    return true;
+}
+
+bool PaperCell::wantsToolTip(const QStyleOptionViewItem&, const QString&) const { return true; }
 
 QSize PaperCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
     return {option.rect.width(), m_metrics.rowHeight};

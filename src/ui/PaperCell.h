@@ -33,6 +33,9 @@ class PaperCell : public QStyledItemDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const final;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
+
   protected:
     /// Draws the content; the frame is filled already.
     virtual void drawInterior(QPainter& painter, const QStyleOptionViewItem& option, const RowColors& colors,
@@ -41,6 +44,9 @@ class PaperCell : public QStyledItemDelegate {
     /// Fills the frame with the background, then draws the content.
     void drawWithFrame(QPainter& painter, const QStyleOptionViewItem& option, const RowLook& look,
                        const QModelIndex& index) const;
+
+    /// Whether the cell has a use for its tool tip, which is not empty.
+    virtual bool wantsToolTip(const QStyleOptionViewItem& option, const QString& text) const;
 
   private:
     TableMetrics m_metrics;

@@ -3,6 +3,7 @@
 
 #include "ui/CheckBoxCell.h"
 #include "ui/ColumnLook.h"
+#include "ui/HeaderCornerView.h"
 #include "ui/MakeCell.h"
 #include "ui/SWImageCell.h"
 #include "ui/SWLevelIndicatorCell.h"
@@ -43,6 +44,7 @@ SWTableView::SWTableView(QWidget* parent)
     , m_header(new TrackHeaderView(this))
     , m_typeSelect(std::make_unique<TypeSelect>()) {
     setHorizontalHeader(m_header);
+    addScrollBarWidget(new HeaderCornerView(*m_header, this), Qt::AlignTop);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setSelectionBehavior(SelectRows);
@@ -133,9 +135,14 @@ void SWTableView::drawCurrentRow() {
     option.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(current));
     const int width = std::min(viewport()->width(), m_header->length());
     const QRect row(0, rowViewportPosition(current.row()), width, rowHeight(current.row()));
+    const QColor color = willDisplayCell(option, current).colors.currentOutline;
     QPainter painter(viewport());
-    painter.setPen(willDisplayCell(option, current).colors.currentOutline);
-    painter.drawRect(row.adjusted(0, 0, -1, -1));
+    // Filled edges and no drawn line, which would reach out of the row by half a pixel where pixels are
+    // scaled.
+    painter.fillRect(QRect(row.left(), row.top(), row.width(), 1), color);
+    painter.fillRect(QRect(row.left(), row.bottom(), row.width(), 1), color);
+    painter.fillRect(QRect(row.left(), row.top(), 1, row.height()), color);
+    painter.fillRect(QRect(row.right(), row.top(), 1, row.height()), color);
 }
 
 void SWTableView::updateRow(int row) {

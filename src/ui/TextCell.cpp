@@ -4,9 +4,7 @@
 #include "ui/ColumnLook.h"
 #include "ui/TrackTableModel.h"
 
-#include <QHelpEvent>
 #include <QPainter>
-#include <QToolTip>
 
 namespace songsweep {
 
@@ -16,6 +14,15 @@ int leftEdge(const QRect& rect, int width, Qt::Alignment alignment) {
     if (alignment.testFlag(Qt::AlignRight)) return rect.right() + 1 - width;
     if (alignment.testFlag(Qt::AlignHCenter)) return rect.left() + (rect.width() - width) / 2;
     return rect.left();
+}
+
+/// Line breaks would be drawn as boxes.
+QString onOneLine(QString text) {
+    for (QChar& character : text)
+        if (character == QLatin1Char('\n') || character == QLatin1Char('\r') ||
+            character == QLatin1Char('\t'))
+            character = QLatin1Char(' ');
+    return text;
 }
 
 bool isSecondary(Column column, const QString& text, const QModelIndex& index) {
@@ -35,7 +42,7 @@ void TextCell::drawInterior(QPainter& painter, const QStyleOptionViewItem& optio
     const ColumnLook& look = columnLook(column);
     const QRect rect = textRect(option.rect);
     const QFontMetrics& font = option.fontMetrics;
-    const QString whole = index.data(Qt::DisplayRole).toString().simplified();
+    const QString whole = onOneLine(index.data(Qt::DisplayRole).toString());
     const QString text = font.elidedText(whole, look.elision, rect.width());
 
     painter.setFont(option.font);
@@ -45,17 +52,8 @@ void TextCell::drawInterior(QPainter& painter, const QStyleOptionViewItem& optio
     painter.drawText(leftEdge(rect, font.horizontalAdvance(text), look.alignment), baseline, text);
 }
 
-bool TextCell::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                         const QModelIndex& index) {
-    if (event->type() != QEvent::ToolTip) return PaperCell::helpEvent(event, view, option, index);
-    QStyleOptionViewItem cell = option;
-    initStyleOption(&cell, index);
-    const QString text = index.data(Qt::ToolTipRole).toString();
-    if (cell.fontMetrics.horizontalAdvance(text) <= textRect(option.rect).width())
-        QToolTip::hideText();
-    else
-        return PaperCell::helpEvent(event, view, option, index);
-    return true;
+bool TextCell::wantsToolTip(const QStyleOptionViewItem& option, const QString& text) const {
+    return QFontMetrics(option.font).horizontalAdvance(text) > textRect(option.rect).width();
 }
 
 } // namespace songsweep

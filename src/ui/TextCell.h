@@ -14,12 +14,10 @@ class TextCell : public PaperCell {
   public:
     using PaperCell::PaperCell;
 
-    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
-                   const QModelIndex& index) override;
-
   protected:
     void drawInterior(QPainter& painter, const QStyleOptionViewItem& option, const RowColors& colors,
                       const QModelIndex& index) const override;
+    bool wantsToolTip(const QStyleOptionViewItem& option, const QString& text) const override;
 
   private:
     QRect textRect(const QRect& frame) const;

@@ -7,10 +7,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include <algorithm>
 #include <numeric>
@@ -224,6 +227,31 @@ TEST_F(SWTableViewTest, TheTableStaysWhereItWasScrolledTo) {
     reload();
     EXPECT_EQ(model.rows()[static_cast<std::size_t>(view.rowAt(0))], top);
     EXPECT_EQ(bar->value(), 4807 - 10 * view.rowHeight(0));
+}
+
+TEST_F(SWTableViewTest, OnlyAnElidedTextHasAToolTip) {
+    const auto toolTipAt = [this](int row, Column column) {
+        QToolTip::hideText();
+        const QPoint place = middleOf(row, column);
+        QHelpEvent help(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view.viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    list.rows[0]->name = "A very long name <i>that</i> nobody could ever read in a column of this width";
+    reload();
+    EXPECT_EQ(toolTipAt(1, Column::name), QString());
+    const QString shown = toolTipAt(0, Column::name);
+    EXPECT_TRUE(shown.contains(QStringLiteral("&lt;i&gt;that")) || shown.contains(QStringLiteral("<i>that")));
+    EXPECT_TRUE(shown.contains(QStringLiteral("&lt;")) || !Qt::mightBeRichText(shown))
+        << "a name is no markup";
+}
+
+TEST_F(SWTableViewTest, TheScrollBarBeginsUnderTheHeader) {
+    list = manyRows(500, 2);
+    reload();
+    QApplication::processEvents();
+    const QPoint top = view.verticalScrollBar()->mapTo(&view, QPoint(0, 0));
+    EXPECT_EQ(top.y(), view.header().height());
 }
 
 TEST_F(SWTableViewTest, RowsAreTwentyFourPixelsHighAndMoreWhereTheFontNeedsIt) {
