@@ -1,0 +1,276 @@
+// SPDX-License-Identifier: MIT
+#include "WindowsFixture.h"
+#include "support/EventLoop.h"
+#include "ui/SWTableView.h"
+#include "ui/TrackHeaderView.h"
+#include "ui/TrackTableModel.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <map>
+
+namespace songsweep::test {
+
+namespace {
+
+using WindowActionsTest = WindowsFixture;
+
+std::vector<int> groupNumbers(const std::vector<TrackRecord*>& rows) {
+    std::vector<int> numbers;
+    for (const TrackRecord* record : rows)
+        numbers.push_back(record->gid);
+    return numbers;
+}
+
+} // namespace
+
+TEST_F(WindowActionsTest, ASearchFromTheDialogShowsTheGroups) {
+    press("searchButton");
+    EXPECT_TRUE(view.paramWindow().isVisible());
+    press("paramSearchButton");
+    EXPECT_FALSE(view.paramWindow().isVisible());
+    EXPECT_EQ(page(), QStringLiteral("progressPage"));
+    EXPECT_FALSE(button("searchButton").isEnabled());
+    ASSERT_TRUE(runEventLoopUntil([this] { return page() == QStringLiteral("tableviewContainer"); }));
+    ASSERT_FALSE(rows().empty());
+    EXPECT_EQ(window().tableModel().rows(), rows());
+    EXPECT_EQ(label("statusBottomLabel"), QStringLiteral("%1 songs").arg(rows().size()));
+    EXPECT_EQ(label("searchedLabel"), QStringLiteral("Library: same name, artist, time"));
+    EXPECT_TRUE(button("searchButton").isEnabled());
+    EXPECT_TRUE(button("autoMarkButton").isEnabled());
+    EXPECT_FALSE(button("deleteButton").isEnabled());
+}
+
+TEST_F(WindowActionsTest, CancelInTheDialogOnlyClosesIt) {
+    press("searchButton");
+    press("paramCancelButton");
+    EXPECT_FALSE(view.paramWindow().isVisible());
+    EXPECT_EQ(page(), QStringLiteral("emptyPage"));
+    EXPECT_FALSE(controller->isSearching());
+}
+
+TEST_F(WindowActionsTest, EscapeDuringASearchEndsInTheEmptyState) {
+    startSearch();
+    press("formprogressCancelButton");
+    EXPECT_EQ(page(), QStringLiteral("blankPage"));
+    ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }));
+    handleWaitingEvents();
+    EXPECT_EQ(page(), QStringLiteral("emptyPage"));
+    EXPECT_TRUE(button("searchButton").isEnabled());
+    EXPECT_EQ(alert(), nullptr);
+}
+
+TEST_F(WindowActionsTest, SpaceChecksAMixedSelectionAndThenUnchecksIt) {
+    search();
+    click(1, Column::checkbox);
+    ASSERT_TRUE(isChecked(1));
+    select(0, 2);
+    QTest::keyClick(&window().tableview(), Qt::Key_Space);
+    EXPECT_TRUE(isChecked(0) && isChecked(1) && isChecked(2));
+    EXPECT_EQ(window().selectedRows(), (std::vector<int>{0, 1, 2}));
+    QTest::keyClick(&window().tableview(), Qt::Key_Space);
+    EXPECT_EQ(checkedRows(), 0);
+}
+
+TEST_F(WindowActionsTest, SpaceWithoutASelectionChangesNothing) {
+    search();
+    QSignalSpy reloads(&window().tableModel(), &QAbstractItemModel::dataChanged);
+    QTest::keyClick(&window().tableview(), Qt::Key_Space);
+    EXPECT_EQ(checkedRows(), 0);
+    EXPECT_EQ(reloads.size(), 1);
+}
+
+TEST_F(WindowActionsTest, TheSpaceBarLeavesTheStatusAndAClickRefreshesIt) {
+    search();
+    const QString before = label("statusBottomLabel");
+    select(0, 1);
+    QTest::keyClick(&window().tableview(), Qt::Key_Space);
+    EXPECT_EQ(label("statusBottomLabel"), before);
+    EXPECT_FALSE(button("deleteButton").isEnabled());
+    click(2, Column::checkbox);
+    EXPECT_EQ(label("statusBottomLabel"), QStringLiteral("3 of %1 marked").arg(rows().size()));
+    EXPECT_TRUE(button("deleteButton").isEnabled());
+}
+
+TEST_F(WindowActionsTest, AnEditOfAnotherColumnChangesNothingButReloads) {
+    search();
+    QSignalSpy reloads(&window().tableModel(), &QAbstractItemModel::dataChanged);
+    const std::string name = rows()[0]->name.string();
+    window().tableModel().setData(window().tableModel().index(0, 2), QStringLiteral("Other"), Qt::EditRole);
+    EXPECT_EQ(rows()[0]->name.string(), name);
+    EXPECT_EQ(checkedRows(), 0);
+    EXPECT_EQ(reloads.size(), 1);
+}
+
+TEST_F(WindowActionsTest, ClicksOnTitlesSortAscendingThenDescending) {
+    search();
+    const TrackHeaderView& header = window().tableview().header();
+    const std::vector<int> groups = groupNumbers(rows());
+    clickTitle(Column::playcount);
+    EXPECT_EQ(header.sortedColumn(), Column::playcount);
+    EXPECT_TRUE(header.isAscending());
+    clickTitle(Column::playcount);
+    EXPECT_FALSE(header.isAscending());
+    clickTitle(Column::name);
+    EXPECT_EQ(header.sortedColumn(), Column::name);
+    EXPECT_TRUE(header.isAscending());
+    EXPECT_EQ(groupNumbers(rows()), groups) << "groups stay together and in their order";
+    EXPECT_EQ(window().tableModel().rows(), rows());
+}
+
+TEST_F(WindowActionsTest, AfterANewSearchTheIndicatorIsGoneAndAClickGoesOnFromTheLast) {
+    search();
+    clickTitle(Column::playcount);
+    search();
+    EXPECT_FALSE(window().tableview().header().sortedColumn());
+    clickTitle(Column::playcount);
+    EXPECT_EQ(window().tableview().header().sortedColumn(), Column::playcount);
+    EXPECT_FALSE(window().tableview().header().isAscending());
+}
+
+TEST_F(WindowActionsTest, TheMarkDialogMarksAndStaysOpen) {
+    search();
+    press("autoMarkButton");
+    ASSERT_TRUE(view.markWindow().isVisible());
+    const int expected = controller->countThatWouldBeMarked(view.markWindow().choice());
+    const QString counts = QStringLiteral("%1 of %2").arg(expected).arg(rows().size());
+    EXPECT_EQ(label("markLiveLabel"), QStringLiteral("Would mark ") + counts);
+    press("markMarkButton");
+    EXPECT_TRUE(view.markWindow().isVisible());
+    EXPECT_EQ(checkedRows(), expected);
+    EXPECT_EQ(label("markLiveLabel"), QStringLiteral("Marked ") + counts);
+    EXPECT_EQ(label("statusBottomLabel"), counts + QStringLiteral(" marked"));
+}
+
+TEST_F(WindowActionsTest, AMarkByARuleSaysWhy) {
+    search();
+    press("autoMarkButton");
+    press("markMarkButton");
+    const auto reason = [this](int row) {
+        return window().tableModel().index(row, 0).data(Qt::ToolTipRole).toString();
+    };
+    int reasons = 0;
+    for (int row = 0; row < static_cast<int>(rows().size()); ++row) {
+        EXPECT_EQ(reason(row).isEmpty(), !isChecked(row)) << row;
+        reasons += reason(row).isEmpty() ? 0 : 1;
+    }
+    EXPECT_GT(reasons, 0);
+}
+
+TEST_F(WindowActionsTest, TheConfirmationCanBeCancelled) {
+    search();
+    click(0, Column::checkbox);
+    press("deleteButton");
+    ASSERT_TRUE(view.deleteConfirmation().isVisible());
+    press("delConfCancelButton");
+    EXPECT_FALSE(view.deleteConfirmation().isVisible());
+    EXPECT_FALSE(controller->isDeleting());
+    EXPECT_EQ(checkedRows(), 1);
+}
+
+TEST_F(WindowActionsTest, ADeletionTakesTracksOutOfLibraryAndTable) {
+    search();
+    const std::size_t before = rows().size();
+    const std::size_t sizeBefore = folder.read("library.xml").size();
+    press("autoMarkButton");
+    press("markMarkButton");
+    press("deleteButton");
+    press("delConfOkButton");
+    ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isDeleting() && !controller->isWorking(); }));
+    EXPECT_LT(rows().size(), before);
+    EXPECT_EQ(window().tableModel().rows(), rows());
+    EXPECT_FALSE(view.progressWindow().isVisible());
+    ASSERT_TRUE(program->scripting().flush());
+    EXPECT_LT(folder.read("library.xml").size(), sizeBefore);
+    std::map<int, int> members;
+    for (const TrackRecord* record : rows())
+        ++members[record->gid];
+    EXPECT_TRUE(
+        std::all_of(members.begin(), members.end(), [](const auto& each) { return each.second > 1; }));
+}
+
+TEST_F(WindowActionsTest, ASearchWithoutAResultShowsTheEmptyTableAndTheAlert) {
+    QApplication::setActiveWindow(&window());
+    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    search();
+    EXPECT_TRUE(rows().empty());
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->text(), QStringLiteral("No duplicates found."));
+    EXPECT_EQ(label("statusBottomLabel"), QString());
+    EXPECT_EQ(label("searchedLabel"), QString());
+    EXPECT_FALSE(button("autoMarkButton").isEnabled());
+}
+
+TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
+    search();
+    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    EXPECT_TRUE(rows().empty());
+    EXPECT_EQ(page(), QStringLiteral("emptyPage"));
+    EXPECT_EQ(alert(), nullptr);
+}
+
+TEST_F(WindowActionsTest, ALibraryThatCannotBeReadSaysSo) {
+    Q_EMIT window().openLibrary(QString::fromStdString(folder.write("broken.xml", "no library")));
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->text(), QStringLiteral("Can't open the library."));
+    EXPECT_FALSE(alert()->informativeText().isEmpty());
+}
+
+TEST_F(WindowActionsTest, ALibraryIsNotOpenedWhileAWorkerRuns) {
+    startSearch();
+    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    EXPECT_EQ(program->scripting().libraryPath(), library);
+    ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }));
+}
+
+TEST_F(WindowActionsTest, AnUnreachableLibraryIsToldInASheet) {
+    Q_EMIT window().openLibrary(QString::fromStdString(folder.path() + "/nowhere.xml"));
+    ASSERT_NE(alert(), nullptr);
+    alert()->done(0);
+    handleWaitingEvents();
+    startSearch();
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_TRUE(alert()->text().startsWith(QStringLiteral("Can't access iTunes.")));
+    EXPECT_EQ(page(), QStringLiteral("emptyPage"));
+    EXPECT_TRUE(button("searchButton").isEnabled());
+}
+
+TEST_F(WindowActionsTest, ClosingTheMainWindowQuits) {
+    QTimer::singleShot(0, &window(), [this] { window().close(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+}
+
+TEST_F(WindowActionsTest, QuittingDuringASearchEndsAtOnce) {
+    startSearch();
+    QTimer::singleShot(0, &window(), [this] { Q_EMIT window().quit(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    actions.reset();
+    controller.reset();
+}
+
+TEST_F(WindowActionsTest, TheAboutBoxShowsNameAndVersion) {
+    Q_EMIT window().aboutButtonClick();
+    EXPECT_TRUE(view.aboutWindow().isVisible());
+    const auto labels = view.aboutWindow().findChildren<QLabel*>();
+    EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* each) {
+        return each->text() == QStringLiteral("Songsweep 1.0");
+    }));
+}
+
+TEST_F(WindowActionsTest, DeleteMarkedFromTheMenuNeedsAMark) {
+    search();
+    Q_EMIT window().deleteMarkedMenuClick();
+    EXPECT_FALSE(view.deleteConfirmation().isVisible());
+    select(0, 0);
+    QTest::keyClick(&window().tableview(), Qt::Key_Space);
+    Q_EMIT window().deleteMarkedMenuClick();
+    EXPECT_TRUE(view.deleteConfirmation().isVisible()) << "the command refreshes the status first";
+}
+
+} // namespace songsweep::test
