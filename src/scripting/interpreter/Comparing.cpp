@@ -61,13 +61,13 @@ std::partial_ordering numberOrder(const Number& left, const Number& right) {
 bool isOrdered(Comparison comparison, std::partial_ordering order) {
     switch (comparison) {
     case Comparison::less:
-        return order < 0;
+        return std::is_lt(order);
     case Comparison::lessOrEqual:
-        return order <= 0;
+        return std::is_lteq(order);
     case Comparison::greater:
-        return order > 0;
+        return std::is_gt(order);
     default:
-        return order >= 0;
+        return std::is_gteq(order);
     }
 }
 
@@ -88,7 +88,7 @@ Error Comparer::cannotCompare(const Value& left, const Value& right) {
 
 Result<bool> Comparer::areEqual(const Value& left, const Value& right, int depth) {
     if (!spendOn(left, right)) return m_context.exhausted(m_position);
-    if (isNumber(left) && isNumber(right)) return numberOrder(*numberOf(left), *numberOf(right)) == 0;
+    if (isNumber(left) && isNumber(right)) return std::is_eq(numberOrder(*numberOf(left), *numberOf(right)));
     if (left.index() != right.index()) return false;
     if (const auto* const text = std::get_if<std::string>(&left)) {
         return isSameText(*text, std::get<std::string>(right));
@@ -106,7 +106,7 @@ Result<bool> Comparer::areListsEqual(const Items& left, const Items& right, int 
         return m_context.fail(m_position, ErrorNumber::general, "the list lies too deep");
     }
     for (std::size_t i = 0; i < left.size(); ++i) {
-        const Result<bool> same = areEqual(left[i], right[i], depth + 1);
+        Result<bool> same = areEqual(left[i], right[i], depth + 1);
         if (!same || !same.value()) return same;
     }
     return true;
@@ -141,7 +141,7 @@ Result<bool> Comparer::holdsInText(Comparison comparison, const Value& whole, co
 
 Result<bool> Comparer::standsAt(const Items& whole, std::size_t offset, const Items& part) {
     for (std::size_t i = 0; i < part.size(); ++i) {
-        const Result<bool> same = areEqual(whole[offset + i], part[i]);
+        Result<bool> same = areEqual(whole[offset + i], part[i]);
         if (!same || !same.value()) return same;
     }
     return true;
@@ -156,7 +156,7 @@ Result<bool> Comparer::holdsInList(Comparison comparison, const Items& whole, co
     const std::size_t first = comparison == Comparison::endsWith ? lastOffset : 0;
     const std::size_t last = comparison == Comparison::beginsWith ? 0 : lastOffset;
     for (std::size_t offset = first; offset <= last; ++offset) {
-        const Result<bool> stands = standsAt(whole, offset, items);
+        Result<bool> stands = standsAt(whole, offset, items);
         if (!stands || stands.value()) return stands;
     }
     return false;
@@ -171,7 +171,7 @@ Result<bool> compared(Context& context, Position position, Comparison comparison
     case Comparison::equal:
         return comparer.areEqual(left, right);
     case Comparison::notEqual: {
-        const Result<bool> same = comparer.areEqual(left, right);
+        Result<bool> same = comparer.areEqual(left, right);
         if (!same) return same;
         return !same.value();
     }

@@ -11,7 +11,7 @@ namespace {
 std::string notationOf(const Context& context, const HostObject& object) {
     const Applications::Entry* const owner = context.applications().owning(object);
     if (!owner) return object.specifier();
-    const std::string application = "application " + quotedNotation(owner->name);
+    std::string application = "application " + quotedNotation(owner->name);
     if (&object == owner->application.get()) return application;
     return object.specifier() + " of " + application;
 }
@@ -48,7 +48,8 @@ struct Maker {
 constexpr std::size_t stepsOfOneList = 8;
 
 std::size_t costOf(const Value& value) {
-    if (const auto* const text = std::get_if<std::string>(&value)) return 1 + text->size() / textBytesOfOneStep;
+    if (const auto* const text = std::get_if<std::string>(&value))
+        return 1 + text->size() / textBytesOfOneStep;
     return listItems(value) ? stepsOfOneList : 1;
 }
 

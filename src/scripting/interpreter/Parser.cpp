@@ -24,6 +24,17 @@ const Token& Parser::peek(std::size_t ahead) const {
     return m_tokens[std::min(m_next + ahead, m_tokens.size() - 1)];
 }
 
+/// The longest term of the application told that begins here, null where there is none.
+const Vocabulary::Entry* Parser::termAhead() const {
+    if (!m_vocabulary) return nullptr;
+    if (m_termVocabulary != m_vocabulary || m_termPlace != m_next) {
+        m_term = m_vocabulary->longestAt(upcoming());
+        m_termVocabulary = m_vocabulary;
+        m_termPlace = m_next;
+    }
+    return m_term;
+}
+
 bool Parser::at(Keyword keyword, std::size_t ahead) const { return peek(ahead).keyword == keyword; }
 
 bool Parser::atSymbol(char32_t symbol) const {

@@ -40,6 +40,7 @@ class Parser {
     const Token& peek(std::size_t ahead = 0) const;
     std::span<const Token> upcoming() const { return std::span(m_tokens).subspan(m_next); }
     Position position() const { return peek().position; }
+    const Vocabulary::Entry* termAhead() const;
     bool at(Keyword keyword, std::size_t ahead = 0) const;
     bool atSymbol(char32_t symbol) const;
     bool atLineEnd() const;
@@ -146,6 +147,10 @@ class Parser {
     const Vocabulary* m_vocabulary = nullptr; ///< of the application being told
     const CommandTerm* m_command = nullptr;   ///< whose direct parameter is being read
     std::map<std::string, std::size_t, std::less<>> m_slots;
+    // The term found last and where: several rules ask about the same place.
+    mutable const Vocabulary::Entry* m_term = nullptr;
+    mutable const Vocabulary* m_termVocabulary = nullptr;
+    mutable std::size_t m_termPlace = 0;
     int m_nesting = 0;
     int m_repeats = 0; ///< how many surround the place
 };

@@ -8,7 +8,7 @@ namespace songsweep::interpreter {
 
 /// The command of the application that begins here. `set volume to …` is the language's own `set`.
 const CommandTerm* Parser::commandAhead() const {
-    const Vocabulary::Entry* const term = m_vocabulary ? m_vocabulary->longestAt(upcoming()) : nullptr;
+    const Vocabulary::Entry* const term = termAhead();
     if (!term || !term->command) return nullptr;
     const bool isGoal = at(Keyword::set) && at(Keyword::to, term->words.size());
     return isGoal ? nullptr : term->command;
@@ -16,7 +16,7 @@ const CommandTerm* Parser::commandAhead() const {
 
 Result<CommandCall> Parser::parseCommand() {
     const Position place = position();
-    const Vocabulary::Entry& entry = *m_vocabulary->longestAt(upcoming());
+    const Vocabulary::Entry& entry = *termAhead();
     const CommandTerm& term = *entry.command;
     skip(entry.words.size());
     ExpressionResult direct = parseDirectParameter(term);

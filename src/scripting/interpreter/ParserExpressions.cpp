@@ -78,6 +78,27 @@ struct Found {
     std::size_t tokens = 0;
 };
 
+bool beginsPhrase(Keyword keyword) {
+    switch (keyword) {
+    case Keyword::begins:
+    case Keyword::comes:
+    case Keyword::contains:
+    case Keyword::does:
+    case Keyword::doesnt:
+    case Keyword::ends:
+    case Keyword::equal:
+    case Keyword::equals:
+    case Keyword::greater:
+    case Keyword::is:
+    case Keyword::isnt:
+    case Keyword::less:
+    case Keyword::starts:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// The comparison that stands at the beginning of the tokens.
 Found comparisonAt(std::span<const Token> tokens) {
     const Token& first = tokens.front();
@@ -86,7 +107,7 @@ Found comparisonAt(std::span<const Token> tokens) {
             if (candidate.symbol == first.symbol) return {&candidate.meaning, 1};
         }
     }
-    if (first.keyword == Keyword::none) return {};
+    if (!beginsPhrase(first.keyword)) return {};
     for (const Phrase& phrase : phrases) {
         if (const std::size_t words = wordsAt(tokens, phrase.words)) return {&phrase, words};
     }

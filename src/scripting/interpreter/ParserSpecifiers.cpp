@@ -24,7 +24,7 @@ bool isWord(const Token& token) {
 
 /// Whether a property, an element or a place begins here, and not a plain value.
 bool Parser::atSpecifier() const {
-    const Vocabulary::Entry* const term = m_vocabulary ? m_vocabulary->longestAt(upcoming()) : nullptr;
+    const Vocabulary::Entry* const term = termAhead();
     if (term && (term->property || term->elementClass)) return true;
     if (term) return false;
     switch (peek().keyword) {
@@ -54,8 +54,7 @@ bool Parser::atSpecifier() const {
 Result<Parser::Specifier> Parser::parseSpecifier() {
     Specifier specifier;
     specifier.position = position();
-    const bool isTerm = m_vocabulary && m_vocabulary->longestAt(upcoming());
-    if (isTerm) return parseTerm();
+    if (termAhead()) return parseTerm();
     if (take(Keyword::every)) return parseElements(true);
     if (takeWords("POSIX path")) {
         specifier.kind = Specifier::Kind::posixPath;
@@ -78,7 +77,7 @@ Result<Parser::Specifier> Parser::parseSpecifier() {
 Result<Parser::Specifier> Parser::parseElements(bool isEvery) {
     Specifier specifier;
     specifier.position = position();
-    const Vocabulary::Entry* const term = m_vocabulary ? m_vocabulary->longestAt(upcoming()) : nullptr;
+    const Vocabulary::Entry* const term = termAhead();
     if (term && term->elementClass) {
         specifier.kind = Specifier::Kind::element;
         specifier.elementClass = {&m_vocabulary->terminology(), term->elementClass};
@@ -112,7 +111,7 @@ Result<Parser::Specifier> Parser::parseOrdinal() {
 
 /// A word of the application. What is a property and a class is a class where an index or a filter follows.
 Result<Parser::Specifier> Parser::parseTerm() {
-    const Vocabulary::Entry& term = *m_vocabulary->longestAt(upcoming());
+    const Vocabulary::Entry& term = *termAhead();
     if (!term.property && !term.elementClass) return expected("a property or an element");
     if (!term.property) return parseElements(false);
     Specifier specifier;
@@ -172,7 +171,7 @@ bool Parser::atIndex() const {
         return atSymbol(U'(') || atSymbol(U'{') || atSymbol(U'[') || atSymbol(U'-');
     case Token::Kind::word:
         if (m_command && atLabel(*m_command)) return false;
-        return token.keyword == Keyword::none && !(m_vocabulary && m_vocabulary->longestAt(upcoming()));
+        return token.keyword == Keyword::none && !termAhead();
     default:
         return false;
     }

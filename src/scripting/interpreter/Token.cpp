@@ -103,6 +103,13 @@ constexpr std::array entries{
 };
 static_assert(std::ranges::is_sorted(entries, {}, &Entry::word));
 
+constexpr auto reservedKeywords = [] {
+    std::array<bool, static_cast<std::size_t>(Keyword::without) + 1> reserved{};
+    for (const Entry& entry : entries)
+        reserved[static_cast<std::size_t>(entry.keyword)] = entry.isReserved;
+    return reserved;
+}();
+
 } // namespace
 
 Keyword keywordOf(std::string_view word) {
@@ -113,9 +120,6 @@ Keyword keywordOf(std::string_view word) {
     return entry != entries.end() && isSameWord(entry->word, word) ? entry->keyword : Keyword::none;
 }
 
-bool isReserved(Keyword keyword) {
-    const auto entry = std::ranges::find(entries, keyword, &Entry::keyword);
-    return entry != entries.end() && entry->isReserved;
-}
+bool isReserved(Keyword keyword) { return reservedKeywords[static_cast<std::size_t>(keyword)]; }
 
 } // namespace songsweep::interpreter

@@ -172,7 +172,7 @@ Result<void> forEachInRange(Context& context, Position position, const ElementSe
     return forEachElement(context, position, wholeOf(set), [&](const ObjectPointer& element) -> Result<bool> {
         ++index;
         if (index < first) return true;
-        const Result<bool> goesOn = visit(element);
+        Result<bool> goesOn = visit(element);
         if (!goesOn) return goesOn;
         return goesOn.value() && index < last;
     });
@@ -242,7 +242,7 @@ Result<ObjectPointer> elementBy(Context& context, Position position, const Eleme
         walk.visitAll(candidates.value(), [&](const ObjectPointer& element) -> Result<bool> {
             const Result<Value> property = element->property(term->code);
             if (!property) return context.fail(position, property.error());
-            const Result<bool> same = compared(context, position, Comparison::equal, property.value(), value);
+            Result<bool> same = compared(context, position, Comparison::equal, property.value(), value);
             if (!same) return same;
             if (same.value()) found = element;
             return !same.value();

@@ -13,7 +13,7 @@ std::int64_t middleOf(std::int64_t count) { return (count + 1) / 2; }
 } // namespace
 
 Result<Referent> ElementReference::computeReferent(Context& context) const {
-    const Result<Referent> containers = resolveContainer(context);
+    Result<Referent> containers = resolveContainer(context);
     if (!containers) return containers;
     return insideEach(context, containers.value(), [&](const Value& value) -> Result<Referent> {
         const Result<ObjectPointer> object = objectOf(context, value);
@@ -77,7 +77,7 @@ Result<ObjectPointer> ElementReference::indexedOf(Context& context, const Elemen
 }
 
 Result<Referent> ItemReference::computeReferent(Context& context) const {
-    const Result<Referent> container = resolveContainer(context);
+    Result<Referent> container = resolveContainer(context);
     if (!container) return container;
     const auto* const set = std::get_if<ElementSet>(&container.value().what);
     const Result<Value> value =
@@ -141,7 +141,7 @@ Result<Value> ItemReference::selectedCharacters(Context& context, const std::str
     return selectedItems(context, characters);
 }
 
-Result<void> ItemReference::assign(Context& context, Value value) const {
+Result<void> ItemReference::assign(Context& context, const Value& value) const {
     const Result<Referent> container = resolveContainer(context);
     if (!container) return container.error();
     const auto* const whole = std::get_if<Value>(&container.value().what);
@@ -150,7 +150,7 @@ Result<void> ItemReference::assign(Context& context, Value value) const {
         return context.fail(position(), ErrorNumber::noSuchObject, "only an item of a list can be set");
     const Result<Range> range = rangeIn(context, static_cast<std::int64_t>((*list)->items.size()));
     if (!range) return range.error();
-    context.replaceInList(*list, range.value().begin, std::move(value));
+    context.replaceInList(*list, range.value().begin, value);
     return {};
 }
 
@@ -158,14 +158,14 @@ Result<Referent> InsertionReference::computeReferent(Context& context) const {
     return context.fail(position(), ErrorNumber::noSuchObject, "a place in a list has no value");
 }
 
-Result<void> InsertionReference::assign(Context& context, Value value) const {
+Result<void> InsertionReference::assign(Context& context, const Value& value) const {
     const Result<Referent> container = resolveContainer(context);
     if (!container) return container.error();
     const auto* const whole = std::get_if<Value>(&container.value().what);
     const auto* const list = whole ? std::get_if<ListPointer>(whole) : nullptr;
     if (!list) return context.fail(position(), ErrorNumber::noSuchObject, "only a list can be added to");
     const std::size_t index = m_place == Place::end ? (*list)->items.size() : 0;
-    return context.insertInList(position(), *list, index, std::move(value));
+    return context.insertInList(position(), *list, index, value);
 }
 
 } // namespace songsweep::interpreter

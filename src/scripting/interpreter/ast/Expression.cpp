@@ -15,7 +15,7 @@ Result<Referent> Expression::resolve(Context& context) const {
     return computeReferent(context);
 }
 
-Result<void> Expression::assign(Context& context, Value) const {
+Result<void> Expression::assign(Context& context, const Value&) const {
     return context.fail(m_position, ErrorNumber::general, "this cannot be set");
 }
 

@@ -45,7 +45,7 @@ class Expression {
 
     virtual bool isAssignable() const { return false; }
     /// `set … to value`. Only for what is assignable.
-    virtual Result<void> assign(Context& context, Value value) const;
+    virtual Result<void> assign(Context& context, const Value& value) const;
 
     /// Whether the value may be another one while another object is being told. Unless overridden, it may.
     virtual bool dependsOnTarget() const { return true; }

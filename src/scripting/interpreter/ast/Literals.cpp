@@ -42,7 +42,7 @@ bool ListExpression::dependsOnTarget() const {
                                [](const ExpressionPointer& item) { return item->dependsOnTarget(); });
 }
 
-Result<void> ListExpression::assign(Context& context, Value value) const {
+Result<void> ListExpression::assign(Context& context, const Value& value) const {
     const auto* const values = listItems(value);
     if (!values || values->size() < m_items.size()) {
         return context.fail(position(), ErrorNumber::noSuchObject,
@@ -66,8 +66,8 @@ Result<Value> VariableExpression::compute(Context& context) const {
     return *value;
 }
 
-Result<void> VariableExpression::assign(Context& context, Value value) const {
-    context.variable(m_slot) = std::move(value);
+Result<void> VariableExpression::assign(Context& context, const Value& value) const {
+    context.variable(m_slot) = value;
     return {};
 }
 

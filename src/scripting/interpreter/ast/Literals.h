@@ -31,7 +31,7 @@ class ListExpression final : public Expression {
         , m_items(std::move(items)) {}
 
     bool isAssignable() const override;
-    Result<void> assign(Context& context, Value value) const override;
+    Result<void> assign(Context& context, const Value& value) const override;
     bool dependsOnTarget() const override;
 
   protected:
@@ -50,7 +50,7 @@ class VariableExpression final : public Expression {
         , m_name(std::move(name)) {}
 
     bool isAssignable() const override { return true; }
-    Result<void> assign(Context& context, Value value) const override;
+    Result<void> assign(Context& context, const Value& value) const override;
     bool dependsOnTarget() const override { return false; }
 
   protected:

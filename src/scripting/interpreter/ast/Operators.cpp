@@ -38,9 +38,9 @@ void LogicExpression::collectTests(std::vector<const CompareExpression*>& tests)
 }
 
 Result<Value> CompareExpression::compute(Context& context) const {
-    const Result<Value> first = left().evaluate(context);
+    Result<Value> first = left().evaluate(context);
     if (!first) return first;
-    const Result<Value> second = right().evaluate(context);
+    Result<Value> second = right().evaluate(context);
     if (!second) return second;
     // Only `is missing value` can be said of what an element does not have; other tests stay undecided.
     const bool isUndecided = context.isFiltering() && isMissing(first.value()) && !isMissing(second.value());
@@ -61,17 +61,17 @@ Result<std::optional<PropertyTest>> CompareExpression::propertyTest(Context& con
 }
 
 Result<Value> ArithmeticExpression::compute(Context& context) const {
-    const Result<Value> first = left().evaluate(context);
+    Result<Value> first = left().evaluate(context);
     if (!first) return first;
-    const Result<Value> second = right().evaluate(context);
+    Result<Value> second = right().evaluate(context);
     if (!second) return second;
     return reckoned(context, position(), m_operation, first.value(), second.value());
 }
 
 Result<Value> ConcatenateExpression::compute(Context& context) const {
-    const Result<Value> first = left().evaluate(context);
+    Result<Value> first = left().evaluate(context);
     if (!first) return first;
-    const Result<Value> second = right().evaluate(context);
+    Result<Value> second = right().evaluate(context);
     if (!second) return second;
     if (const auto* const text = std::get_if<std::string>(&first.value())) {
         return joinedTexts(context, *text, second.value());
@@ -110,13 +110,13 @@ Result<Value> NotExpression::compute(Context& context) const {
 }
 
 Result<Value> NegateExpression::compute(Context& context) const {
-    const Result<Value> value = operand().evaluate(context);
+    Result<Value> value = operand().evaluate(context);
     if (!value) return value;
     return negated(context, position(), value.value());
 }
 
 Result<Value> CoerceExpression::compute(Context& context) const {
-    const Result<Value> value = operand().evaluate(context);
+    Result<Value> value = operand().evaluate(context);
     if (!value) return value;
     return coerced(context, position(), value.value(), m_kind);
 }
@@ -156,13 +156,13 @@ Result<Value> ExistsExpression::compute(Context& context) const {
 }
 
 Result<Value> AliasExpression::compute(Context& context) const {
-    const Result<Value> value = operand().evaluate(context);
+    Result<Value> value = operand().evaluate(context);
     if (!value) return value;
     return coerced(context, position(), value.value(), Kind::alias);
 }
 
 Result<Value> PosixFileExpression::compute(Context& context) const {
-    const Result<Value> value = operand().evaluate(context);
+    Result<Value> value = operand().evaluate(context);
     if (!value) return value;
     Result<std::string> path = textOf(context, position(), value.value());
     if (!path) return path.error();

@@ -127,7 +127,7 @@ Result<Value> PropertyReference::propertyOf(Context& context, const Value& value
 }
 
 Result<Referent> PropertyReference::computeReferent(Context& context) const {
-    const Result<Referent> containers = resolveContainer(context);
+    Result<Referent> containers = resolveContainer(context);
     if (!containers) return containers;
     return insideEach(context, containers.value(), [&](const Value& value) -> Result<Referent> {
         Result<Value> property = propertyOf(context, value);
@@ -136,7 +136,7 @@ Result<Referent> PropertyReference::computeReferent(Context& context) const {
     });
 }
 
-Result<void> PropertyReference::assign(Context& context, Value value) const {
+Result<void> PropertyReference::assign(Context& context, const Value& value) const {
     const Result<Referent> containers = resolveContainer(context);
     if (!containers) return containers.error();
     const Result<Referent> done =
@@ -153,7 +153,7 @@ Result<void> PropertyReference::assign(Context& context, Value value) const {
 }
 
 Result<Referent> PosixPathReference::computeReferent(Context& context) const {
-    const Result<Referent> containers = resolveContainer(context);
+    Result<Referent> containers = resolveContainer(context);
     if (!containers) return containers;
     const auto* const set = std::get_if<ElementSet>(&containers.value().what);
     const Result<Value> value =

@@ -91,7 +91,7 @@ class PropertyReference final : public ContainedReference {
         , m_term(term) {}
 
     bool isAssignable() const override { return true; }
-    Result<void> assign(Context& context, Value value) const override;
+    Result<void> assign(Context& context, const Value& value) const override;
     std::optional<TermCode> ownProperty(const Terminology& words) const override;
 
   protected:
@@ -158,7 +158,7 @@ class ItemReference final : public ContainedReference {
         , m_selector(std::move(selector)) {}
 
     bool isAssignable() const override { return m_selector.kind == Selector::Kind::index; }
-    Result<void> assign(Context& context, Value value) const override;
+    Result<void> assign(Context& context, const Value& value) const override;
 
   protected:
     Result<Referent> computeReferent(Context& context) const override;
@@ -184,7 +184,7 @@ class InsertionReference final : public ContainedReference {
         , m_place(place) {}
 
     bool isAssignable() const override { return true; }
-    Result<void> assign(Context& context, Value value) const override;
+    Result<void> assign(Context& context, const Value& value) const override;
 
   protected:
     Result<Referent> computeReferent(Context& context) const override;
