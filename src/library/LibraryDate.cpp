@@ -60,11 +60,11 @@ class DateScanner {
 std::optional<std::int64_t> parseLibraryDate(std::string_view text) {
     using namespace std::chrono;
     DateScanner scanner(text);
-    const year years(scanner.number(4));
+    const year yearOfDate(scanner.number(4));
     scanner.literal('-');
-    const month months(static_cast<unsigned>(scanner.number(2)));
+    const month monthOfYear(static_cast<unsigned>(scanner.number(2)));
     scanner.literal('-');
-    const day days(static_cast<unsigned>(scanner.number(2)));
+    const day dayOfMonth(static_cast<unsigned>(scanner.number(2)));
     scanner.literal('T');
     const int hour = scanner.number(2);
     scanner.literal(':');
@@ -73,10 +73,10 @@ std::optional<std::int64_t> parseLibraryDate(std::string_view text) {
     const int second = scanner.number(2);
     const int zone = scanner.zone();
 
-    const year_month_day date(years, months, days);
+    const year_month_day date(yearOfDate, monthOfYear, dayOfMonth);
     if (!scanner.isCompleteAndValid() || !date.ok() || hour > 23 || minute > 59 || second > 59) return {};
-    const std::int64_t midnight = std::int64_t{sys_days(date).time_since_epoch().count()} * 86400;
-    return midnight + hour * 3600 + minute * 60 + second - zone;
+    const sys_seconds instant = sys_days(date) + hours(hour) + minutes(minute) + seconds(second - zone);
+    return std::int64_t{instant.time_since_epoch().count()};
 }
 
 } // namespace songsweep

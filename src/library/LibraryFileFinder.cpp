@@ -29,7 +29,7 @@ std::optional<std::string> LibraryFileFinder::locate() const {
         m_services.log.line("RecentDatabases !> 0");
         return {};
     }
-    const std::optional<std::string> path = pathOfUrl(domain->iTunesRecentDatabases.front());
+    std::optional<std::string> path = pathOfUrl(domain->iTunesRecentDatabases.front());
     m_services.log.line("iTunes library file : " + path.value_or("(null)"));
     if (path && m_services.files.exists(*path)) return path;
     m_services.log.line("Cannot locate iTunes XML");

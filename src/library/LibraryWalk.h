@@ -5,7 +5,9 @@
 #include "library/RecordFiller.h"
 #include "library/TrackStorage.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <functional>
 #include <optional>
 #include <string>
@@ -62,12 +64,17 @@ class LibraryWalk {
     enum class Section { tracks, playlists, done };
     enum class ElementName { none, key, other };
 
+    /// A comparison of known length, which becomes one of numbers: it is made a hundred times a track.
+    template <std::size_t size>
+    static bool is(std::string_view name, const char (&expected)[size]) {
+        return name.size() == size - 1 && std::memcmp(name.data(), expected, size - 1) == 0;
+    }
     void openElement(std::string_view name) {
-        if (name == "dict") openDict();
-        m_elementName = name == "key" ? ElementName::key : ElementName::other;
+        if (is(name, "dict")) openDict();
+        m_elementName = is(name, "key") ? ElementName::key : ElementName::other;
     }
     void closeElement(std::string_view name) {
-        if (name == "dict") closeDict();
+        if (is(name, "dict")) closeDict();
     }
     void openDict();
     void closeDict();

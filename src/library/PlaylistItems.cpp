@@ -81,6 +81,7 @@ std::vector<std::string> PlaylistItems::left() const {
     if (m_hashed) std::sort(numbers.begin(), numbers.end());
 
     std::vector<std::string> texts;
+    texts.reserve(m_count);
     for (const std::uint32_t number : numbers)
         texts.push_back(std::to_string(number));
     for (const auto& [text, count] : m_texts)
