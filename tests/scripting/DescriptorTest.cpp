@@ -105,7 +105,7 @@ TEST(DateTextTest, writesNoonMidnightAndLeapDays) {
     // 2024-02-29 begins 3792009600 seconds after 1904-01-01.
     constexpr std::int64_t leapDay = 3'792'009'600;
     EXPECT_EQ(dateText(leapDay), "Thursday, February 29, 2024 at 12:00:00 AM");
-    EXPECT_EQ(dateText(leapDay + 12 * 3600), "Thursday, February 29, 2024 at 12:00:00 PM");
+    EXPECT_EQ(dateText(leapDay + 43200), "Thursday, February 29, 2024 at 12:00:00 PM");
     EXPECT_EQ(dateText(leapDay + 86399), "Thursday, February 29, 2024 at 11:59:59 PM");
     EXPECT_EQ(dateText(-1), "Thursday, December 31, 1903 at 11:59:59 PM");
 }
