@@ -38,7 +38,9 @@ AlertBox::AlertBox(Icon icon, const QString& text, QWidget* parent)
 }
 
 bool AlertBox::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest) return QDialog::event(event); // or it would set its own width
+    // QMessageBox would set its own width again, so its part is passed over.
+    if (event->type() == QEvent::LayoutRequest)
+        return QDialog::event(event); // NOLINT(bugprone-parent-virtual-call)
     const bool handled = QMessageBox::event(event);
     if (event->type() == QEvent::FontChange && isVisible()) fit();
     return handled;

@@ -32,9 +32,9 @@ int buttonLayout(int ofPlatform) {
 
 } // namespace
 
-void applyTheme(QApplication& application) {
+void applyTheme(QApplication& /*application*/) {
     QApplication::setStyle(new SongsweepStyle);
-    application.setWindowIcon(applicationIcon());
+    QApplication::setWindowIcon(applicationIcon());
 }
 
 SongsweepStyle::SongsweepStyle()

@@ -10,7 +10,7 @@ class QApplication;
 
 namespace songsweep {
 
-/// Gives the application its style and its icon. Call once, before the first window is made.
+/// Gives the application its style and its icon. Call it once there is one, before the first window.
 void applyTheme(QApplication& application);
 
 /// The look of every window, over Fusion: flat controls, one accent colour, lengths that grow with the font.
