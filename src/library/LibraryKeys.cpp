@@ -69,7 +69,10 @@ LibraryKey keyNamed(std::string_view text) {
 }
 
 bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    char highBits = 0;
+    for (const char c : text)
+        highBits = static_cast<char>(highBits | c);
+    return (highBits & 0x80) == 0;
 }
 
 } // namespace
