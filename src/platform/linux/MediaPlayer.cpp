@@ -65,6 +65,7 @@ std::vector<std::string> playersByPreference(const SessionBus& bus) {
             ranked.emplace_back(*distance, std::move(name));
     std::sort(ranked.begin(), ranked.end());
     std::vector<std::string> players;
+    players.reserve(ranked.size());
     for (auto& [distance, name] : ranked)
         players.push_back(std::move(name));
     return players;
