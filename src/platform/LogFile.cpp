@@ -60,7 +60,8 @@ bool redirectStandardError(const std::optional<std::string>& folder, Log& log, i
 
 Result<std::unique_ptr<Log>> openLogFile(const std::string& path) {
     const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0666);
-    if (file < 0) return Error{Error::Code::inputOutput, std::strerror(errno)};
+    if (file < 0)
+        return Error{Error::Code::inputOutput, "cannot write " + path + ": " + std::strerror(errno)};
     return std::unique_ptr<Log>(std::make_unique<FileLog>(file));
 }
 

@@ -117,7 +117,7 @@ TEST(LogFile, ofTheCommandLineSaysWhyItCannotBeOpened) {
     const TemporaryFolder folder;
     const Result<std::unique_ptr<Log>> log = openLogFile(folder.path());
     ASSERT_FALSE(log);
-    EXPECT_EQ(log.error().message, "Is a directory");
+    EXPECT_EQ(log.error().message, "cannot write " + folder.path() + ": Is a directory");
 }
 
 TEST(Log, writesNoTornLineFromAnyThread) {
