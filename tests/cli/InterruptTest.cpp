@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "ProgramRun.h"
+#include "SampleLibrary.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <thread>
+
+namespace songsweep {
+namespace {
+
+using test::libraryText;
+using test::RunResult;
+using test::SampleTrack;
+using ::testing::HasSubstr;
+
+/// A search that stands still while nobody reads its log: the log is a pipe, and every missing file fills it.
+class Interrupted : public test::ProgramTest {
+  protected:
+    void SetUp() override {
+        std::vector<SampleTrack> tracks;
+        for (int id = 1; id <= 3000; ++id)
+            tracks.push_back({.id = id,
+                              .name = "Song",
+                              .artist = "Artist",
+                              .path = "/nonexistent/" + std::string(100, 'a') + std::to_string(id)});
+        const std::string library = m_folder.write("Library.xml", libraryText(tracks));
+        ASSERT_EQ(::mkfifo(path("log").c_str(), 0600), 0);
+        m_log = ::open(path("log").c_str(), O_RDWR | O_CLOEXEC);
+        prepare(m_process, {"find", "--library", library, "--log", path("log")});
+        m_process.start();
+        ASSERT_TRUE(m_process.waitForStarted());
+        waitUntilProcessing();
+    }
+    void TearDown() override { ::close(m_log); }
+
+    /// Reads until the records are looked at one by one, each with its line.
+    void waitUntilProcessing() {
+        while (m_read.find("/nonexistent/") == std::string::npos && readSome(10'000)) {
+        }
+        ASSERT_THAT(m_read, HasSubstr("Begin Processing List"));
+    }
+    bool readSome(int milliseconds) {
+        pollfd pipe{m_log, POLLIN, 0};
+        if (::poll(&pipe, 1, milliseconds) != 1) return false;
+        std::array<char, 512> buffer{};
+        const ssize_t count = ::read(m_log, buffer.data(), buffer.size());
+        if (count > 0) m_read.append(buffer.data(), static_cast<std::size_t>(count));
+        return count > 0;
+    }
+    /// Sends Ctrl-C and waits until the program has taken it.
+    void interrupt() {
+        const auto process = static_cast<pid_t>(m_process.processId());
+        ASSERT_EQ(::kill(process, SIGINT), 0);
+        while (isPending(process))
+            std::this_thread::yield();
+    }
+    static bool isPending(pid_t process) {
+        std::ifstream status("/proc/" + std::to_string(process) + "/status");
+        for (std::string line; std::getline(status, line);)
+            if (line.starts_with("ShdPnd:"))
+                return line.find_first_of("123456789abcdef", 7) != std::string::npos;
+        return false;
+    }
+    void readToTheEnd() {
+        while (m_process.state() != QProcess::NotRunning) {
+            readSome(10);
+            m_process.waitForFinished(0);
+        }
+    }
+
+    QProcess m_process;
+    std::string m_read;
+
+  private:
+    int m_log = -1;
+};
+
+TEST_F(Interrupted, searchEndsCleanly) {
+    interrupt();
+    readToTheEnd();
+    const RunResult result = test::resultOf(m_process);
+    EXPECT_EQ(result.exitCode, 130);
+    EXPECT_EQ(result.output, "");
+    EXPECT_THAT(m_read, HasSubstr("End XML Finally")) << "the worker came to its end";
+}
+
+TEST_F(Interrupted, searchEndsAtOnceWhenItIsInterruptedTwice) {
+    interrupt();
+    interrupt();
+    const RunResult result = test::resultOf(m_process);
+    EXPECT_EQ(result.exitCode, 130);
+    EXPECT_EQ(result.output, "");
+}
+
+class Console : public test::ProgramTest {
+  protected:
+    std::string manyDuplicates() const {
+        std::vector<SampleTrack> tracks;
+        for (int id = 1; id <= 3000; ++id)
+            tracks.push_back({.id = id, .name = "Song", .artist = "Artist"});
+        return m_folder.write("Library.xml", libraryText(tracks));
+    }
+};
+
+TEST_F(Console, thatClosesThePipeEndsTheProgramQuietly) {
+    const RunResult result = runInShell("{ \"$0\" \"$@\"; echo \"exit $?\" >&2; } | head -n 1",
+                                        {"find", "--library", manyDuplicates(), "--format", "csv"});
+    EXPECT_THAT(result.output, ::testing::StartsWith("checkbox,"));
+    EXPECT_EQ(result.errors, "exit 0\n");
+}
+
+TEST_F(Console, showsPhaseAndPercentageOnATerminal) {
+    const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    ASSERT_GE(terminal, 0);
+    ASSERT_EQ(::grantpt(terminal), 0);
+    ASSERT_EQ(::unlockpt(terminal), 0);
+    std::array<char, 128> name{};
+    ASSERT_EQ(::ptsname_r(terminal, name.data(), name.size()), 0);
+
+    QProcess process;
+    prepare(process, {"find", "--library", manyDuplicates()});
+    process.setStandardErrorFile(QString::fromUtf8(name.data()));
+    process.start();
+    const RunResult result = test::resultOf(process);
+
+    std::array<char, 65536> shown{};
+    const ssize_t count = ::read(terminal, shown.data(), shown.size());
+    ::close(terminal);
+    EXPECT_EQ(result.exitCode, 0);
+    ASSERT_GT(count, 0);
+    EXPECT_THAT(std::string(shown.data(), static_cast<std::size_t>(count)), HasSubstr(" %"));
+    EXPECT_THAT(result.output, HasSubstr("3000 songs in 1 group"));
+}
+
+} // namespace
+} // namespace songsweep

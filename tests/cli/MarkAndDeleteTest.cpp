@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: MIT
+#include "ProgramRun.h"
+#include "SampleLibrary.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <map>
+
+namespace songsweep {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using test::libraryText;
+using test::RunResult;
+using test::SampleTrack;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+/// Two groups: "A" with bit rates 128, 320 and 192, "B" with 128 twice.
+class MarkAndDelete : public test::ProgramTest {
+  protected:
+    MarkAndDelete() {
+        for (int id = 1; id <= 5; ++id)
+            m_folder.write("music/" + std::to_string(id) + ".mp3", "music");
+        m_library = m_folder.write("Library.xml", libraryText(tracks({1, 2, 3, 4, 5})));
+    }
+
+    std::vector<SampleTrack> tracks(const std::vector<int>& ids) const {
+        const std::map<int, std::pair<const char*, int>> all = {
+            {1, {"A", 128}}, {2, {"A", 320}}, {3, {"A", 192}}, {4, {"B", 128}}, {5, {"B", 128}}};
+        std::vector<SampleTrack> chosen;
+        for (const int id : ids)
+            chosen.push_back({.id = id,
+                              .name = all.at(id).first,
+                              .artist = "X",
+                              .bitRate = all.at(id).second,
+                              .path = path("music/" + std::to_string(id) + ".mp3")});
+        return chosen;
+    }
+    RunResult command(const std::string& name, std::vector<std::string> options) {
+        options.insert(options.begin(), {name, "--library", m_library});
+        return run(options);
+    }
+    /// Every file below the test's folder with its contents.
+    std::map<std::string, std::string> tree() const {
+        std::map<std::string, std::string> files;
+        for (const auto& entry : fs::recursive_directory_iterator(m_folder.path()))
+            files[entry.path().string()] =
+                entry.is_regular_file() ? m_folder.read(fs::relative(entry.path(), m_folder.path()).string())
+                                        : "";
+        return files;
+    }
+    bool hasFile(int id) const { return fs::exists(path("music/" + std::to_string(id) + ".mp3")); }
+
+    std::string m_library;
+};
+
+TEST_F(MarkAndDelete, marksWhatARuleLosesAndSaysWhy) {
+    const auto before = tree();
+    const RunResult result = command("mark", {"--rule", "highest-bitrate", "--format", "json"});
+    ASSERT_EQ(result.exitCode, 0) << result.errors;
+    std::vector<std::string> marked;
+    const json parsed = json::parse(result.output);
+    for (const json& group : parsed.at("groups"))
+        for (const json& track : group.at("tracks")) {
+            EXPECT_EQ(track.at("checkbox").get<bool>(), !track.at("reason").get<std::string>().empty());
+            if (track.at("checkbox")) marked.push_back(track.at("trackid"));
+        }
+    EXPECT_THAT(marked, ElementsAre("1", "3"));
+    EXPECT_EQ(tree(), before) << "nothing is changed";
+}
+
+TEST_F(MarkAndDelete, marksEveryCopyButOne) {
+    const RunResult result =
+        command("mark", {"--rule", "highest-bitrate", "--except-one", "--format", "json"});
+    int marked = 0;
+    const json parsed = json::parse(result.output);
+    for (const json& group : parsed.at("groups"))
+        for (const json& track : group.at("tracks"))
+            marked += track.at("checkbox").get<bool>() ? 1 : 0;
+    EXPECT_EQ(marked, 3);
+}
+
+TEST_F(MarkAndDelete, countsTheMarksInTheSummary) {
+    EXPECT_THAT(command("mark", {"--rule", "highest-bitrate"}).output,
+                HasSubstr("5 songs in 2 groups, 2 marked\n"));
+}
+
+TEST_F(MarkAndDelete, knowsEveryRule) {
+    for (const char* rule : {"highest-bitrate", "lowest-bitrate", "longest", "shortest", "largest",
+                             "smallest", "earliest-added", "latest-added", "with-artwork", "without-artwork",
+                             "highest-rating", "lowest-rating", "most-played", "least-played"})
+        EXPECT_EQ(command("mark", {"--rule", rule}).exitCode, 0) << rule;
+    EXPECT_THAT(command("mark", {"--rule", "kind", "--kind", "MP3"}).output, HasSubstr("5 marked"));
+    EXPECT_THAT(command("mark", {"--rule", "folder", "--folder", path("music")}).output,
+                HasSubstr("5 marked"));
+}
+
+TEST_F(MarkAndDelete, foretellsADeletionAndTouchesNothing) {
+    const auto before = tree();
+    const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--dry-run"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("Would delete 2 of 2 tracks"));
+    EXPECT_THAT(result.output, HasSubstr(path("music/1.mp3")));
+    EXPECT_EQ(tree(), before);
+}
+
+TEST_F(MarkAndDelete, deletesTheMarkedTracksFromTheLibrary) {
+    const RunResult result = command("delete", {"--rule", "highest-bitrate", "--yes"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("Deleted 2 of 2 tracks"));
+    EXPECT_EQ(m_folder.read("Library.xml"), libraryText(tracks({2, 4, 5})));
+    for (int id = 1; id <= 5; ++id)
+        EXPECT_TRUE(hasFile(id)) << id;
+}
+
+TEST_F(MarkAndDelete, movesTheFilesToTheTrashWhenAsked) {
+    const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors << result.output;
+    EXPECT_FALSE(hasFile(1));
+    EXPECT_TRUE(hasFile(2));
+    EXPECT_FALSE(hasFile(3));
+    EXPECT_EQ(m_folder.read("home/data/Trash/files/1.mp3"), "music");
+    EXPECT_EQ(m_folder.read("home/data/Trash/files/3.mp3"), "music");
+}
+
+TEST_F(MarkAndDelete, keepsABackupOfTheLibrary) {
+    const std::string before = m_folder.read("Library.xml");
+    ASSERT_EQ(command("delete", {"--rule", "highest-bitrate", "--yes"}).exitCode, 0);
+    int backups = 0;
+    for (const auto& entry : fs::directory_iterator(m_folder.path()))
+        if (entry.path() != m_library && entry.is_regular_file())
+            backups += m_folder.read(entry.path().filename().string()) == before ? 1 : 0;
+    EXPECT_EQ(backups, 1);
+}
+
+TEST_F(MarkAndDelete, refusesToDeleteEveryCopyOfASong) {
+    const auto before = tree();
+    const std::vector<std::string> everything = {"--rule", "kind", "--kind", "MP3", "--yes"};
+    const RunResult refused = command("delete", everything);
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_THAT(refused.errors, HasSubstr("--allow-all-copies"));
+    EXPECT_EQ(tree(), before);
+
+    std::vector<std::string> allowed = everything;
+    allowed.emplace_back("--allow-all-copies");
+    EXPECT_EQ(command("delete", allowed).exitCode, 0);
+    EXPECT_EQ(m_folder.read("Library.xml"),
+              libraryText({}, {{.name = "Library", .items = {}, .master = true}}));
+}
+
+TEST_F(MarkAndDelete, failsWhereAFileWasKept) {
+    fs::create_directories(path("home/data"));
+    m_folder.write("home/data/Trash", "in the way of the Trash");
+    const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, HasSubstr("file kept: "));
+    EXPECT_TRUE(hasFile(1));
+    EXPECT_TRUE(hasFile(3));
+}
+
+TEST_F(MarkAndDelete, leavesAFileThatAStayingTrackUses) {
+    std::vector<SampleTrack> shared = tracks({1, 2});
+    shared[0].path = shared[1].path;
+    m_library = m_folder.write("Library.xml", libraryText(shared));
+    const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("file kept: a track that stays uses it too"));
+    EXPECT_TRUE(hasFile(2));
+}
+
+TEST_F(MarkAndDelete, trashesASharedFileWhenTold) {
+    std::vector<SampleTrack> shared = tracks({1, 2});
+    shared[0].path = shared[1].path;
+    m_library = m_folder.write("Library.xml", libraryText(shared));
+    EXPECT_EQ(command("delete", {"--rule", "highest-bitrate", "--files", "--shared-files", "--yes"}).exitCode,
+              0);
+    EXPECT_FALSE(hasFile(2));
+}
+
+TEST_F(MarkAndDelete, findsTheGroupsGoneAfterwards) {
+    ASSERT_EQ(command("delete", {"--rule", "highest-bitrate", "--except-one", "--yes"}).exitCode, 0);
+    EXPECT_EQ(command("find", {}).output, "0 songs in 0 groups\n");
+}
+
+TEST_F(MarkAndDelete, tellsOutcomesInJsonAndCsv) {
+    const json outcomes =
+        json::parse(command("delete", {"--rule", "highest-bitrate", "--dry-run", "--format", "json"}).output);
+    EXPECT_EQ(outcomes.at("outcomes").size(), 2U);
+    EXPECT_EQ(outcomes.at("outcomes").at(0).at("pid"), "0000000000000001");
+    EXPECT_THAT(command("delete", {"--rule", "highest-bitrate", "--dry-run", "--format", "csv"}).output,
+                ::testing::StartsWith("pid,name,artist,location,track,file,reason,dealtwith\r\n"));
+}
+
+} // namespace
+} // namespace songsweep

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "ProgramRun.h"
+
+#include <QStringList>
+
+namespace songsweep::test {
+
+namespace {
+
+constexpr int longestRun = 60'000; // milliseconds; a run that takes so long hangs
+
+QStringList listOf(const std::vector<std::string>& arguments) {
+    QStringList list;
+    for (const std::string& argument : arguments)
+        list.append(QString::fromStdString(argument));
+    return list;
+}
+
+} // namespace
+
+ProgramTest::ProgramTest()
+    : m_environment(QProcessEnvironment::systemEnvironment()) {
+    const QString home = QString::fromStdString(path("home"));
+    std::filesystem::create_directories(path("home/data"));
+    m_environment.insert(QStringLiteral("HOME"), home);
+    m_environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
+    m_environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    m_environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
+    m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                         QStringLiteral("unix:path=/nonexistent"));
+}
+
+std::string ProgramTest::program() { return SONGSWEEP_PROGRAM; }
+
+void ProgramTest::prepare(QProcess& process, const std::vector<std::string>& arguments) const {
+    process.setProcessEnvironment(m_environment);
+    process.setWorkingDirectory(QString::fromStdString(m_folder.path()));
+    process.setProgram(QString::fromStdString(program()));
+    process.setArguments(listOf(arguments));
+    if (m_beforeStart) process.setChildProcessModifier(m_beforeStart);
+}
+
+RunResult ProgramTest::run(const std::vector<std::string>& arguments, const std::string& input) {
+    QProcess process;
+    prepare(process, arguments);
+    process.start();
+    process.write(QByteArray::fromStdString(input));
+    process.closeWriteChannel();
+    return resultOf(process);
+}
+
+RunResult ProgramTest::runInShell(const std::string& line, const std::vector<std::string>& arguments) {
+    QProcess process;
+    prepare(process, {});
+    process.setProgram(QStringLiteral("/bin/sh"));
+    process.setArguments(
+        QStringList{QStringLiteral("-c"), QString::fromStdString(line), QString::fromStdString(program())} +
+        listOf(arguments));
+    process.start();
+    return resultOf(process);
+}
+
+RunResult resultOf(QProcess& process) {
+    RunResult result;
+    if (process.state() != QProcess::NotRunning) process.waitForFinished(longestRun);
+    if (process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit)
+        result.exitCode = process.exitCode();
+    process.kill();
+    process.waitForFinished();
+    result.output = process.readAllStandardOutput().toStdString();
+    result.errors = process.readAllStandardError().toStdString();
+    return result;
+}
+
+} // namespace songsweep::test

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "ProgramRun.h"
+#include "SampleLibrary.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+using test::libraryText;
+using test::RunResult;
+using ::testing::HasSubstr;
+
+class ScriptCommand : public test::ProgramTest {
+  protected:
+    std::string library() const {
+        m_folder.write("a.mp3", "x");
+        return m_folder.write(
+            "Library.xml", libraryText({{.id = 1, .name = "A \"b\" \\", .artist = "C", .path = path("a.mp3")},
+                                        {.id = 2, .name = "D", .artist = "E", .path = path("gone.mp3")}}));
+    }
+    RunResult script(const std::string& text) { return run({"script", "--library", library(), "-"}, text); }
+};
+
+TEST_F(ScriptCommand, printsResultsInSourceNotation) {
+    EXPECT_EQ(script("1 + 2").output, "3\n");
+    EXPECT_EQ(script("{1, \"a\", {}, true, missing value}").output, "{1, \"a\", {}, true, missing value}\n");
+    EXPECT_EQ(script("tell application \"iTunes\" to get name of track 1 of playlist 1").output,
+              "\"A \\\"b\\\" \\\\\"\n");
+}
+
+TEST_F(ScriptCommand, runsAFile) {
+    const std::string file = m_folder.write("count", "tell application \"iTunes\" \nget count of tracks of "
+                                                     "playlist 1 \nend tell");
+    const RunResult result = run({"script", "--library", library(), file});
+    EXPECT_EQ(result.output, "2\n");
+    EXPECT_EQ(result.exitCode, 0);
+}
+
+TEST_F(ScriptCommand, tellsTheVersionOfTheEmbeddedITunes) {
+    const std::string text = "tell application \"iTunes\" to get version";
+    EXPECT_EQ(script(text).output, "\"12.0\"\n");
+    EXPECT_EQ(run({"script", "--library", library(), "--itunes-version", "9.2.1", "-"}, text).output,
+              "\"9.2.1\"\n");
+}
+
+TEST_F(ScriptCommand, printsNothingWithoutAResult) {
+    const RunResult result = script("");
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.exitCode, 0);
+}
+
+TEST_F(ScriptCommand, tellsPositionAndReasonOfAnError) {
+    const RunResult result = script("set a to 1\nset b to (2 +");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_THAT(result.errors, HasSubstr("line 2"));
+}
+
+TEST_F(ScriptCommand, endsAnEndlessLoop) {
+    const RunResult result = script("repeat while true\nend repeat");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_NE(result.errors, "");
+}
+
+TEST_F(ScriptCommand, writesTheLibraryBeforeItEnds) {
+    const RunResult result = script("tell application \"iTunes\" to delete (tracks whose persistent ID is "
+                                    "\"0000000000000002\")");
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_EQ(m_folder.read("Library.xml"),
+              libraryText({{.id = 1, .name = "A \"b\" \\", .artist = "C", .path = path("a.mp3")}}));
+}
+
+TEST_F(ScriptCommand, refusesALibraryThatIsCutOff) {
+    const std::string cut =
+        m_folder.write("cut.xml", libraryText({{.id = 1, .name = "A", .artist = "B"}}).substr(0, 250));
+    const RunResult result = run({"script", "--library", cut, "-"},
+                                 "tell application \"iTunes\" to get count of tracks of playlist 1");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_THAT(result.errors, HasSubstr("line"));
+}
+
+TEST_F(ScriptCommand, saysThatItsFileIsMissing) {
+    const RunResult result = run({"script", path("missing")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr(path("missing")));
+    EXPECT_THAT(result.errors, HasSubstr("No such file"));
+}
+
+} // namespace
+} // namespace songsweep
