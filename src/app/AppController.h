@@ -122,7 +122,8 @@ class AppController {
     const Progress& progress() const { return m_progress; }
     /// What became of the tracks of the last deletion; null before the first. Complete once it has ended.
     const DeleteReport* lastDeleteReport() const { return m_deleteReport.get(); }
-    /// The rule that marked last, for the reasons of its marks; nothing before a rule marked these results.
+    /// The rule that set the present marks, for their reasons; nothing once a mark or the order has changed,
+    /// since the rule might keep another copy now.
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_lastMark; }
     bool isSearching() const { return m_searching; }
     bool isDeleting() const { return m_deletion != Deletion::none; }

@@ -7,7 +7,7 @@
 namespace songsweep {
 
 void AppController::deleteButtonClick() {
-    if (isDeleting() || m_searching) return;
+    if (isDeleting() || isWorking()) return;
     m_deletion = Deletion::confirming;
     m_deletePlan = makeDeletePlan(m_tableDataSource.rows, m_services.files, m_services.libraryLocations);
     DeleteConfirmationFacts facts = confirmationFacts(m_tableDataSource.rows, m_services.files, m_deletePlan);
@@ -17,7 +17,7 @@ void AppController::deleteButtonClick() {
 
 void AppController::deleteMarkedMenuClick() {
     if (!isDeleting()) setStatusLabel();
-    if (m_deleteEnabled && !isDeleting() && !m_searching) {
+    if (m_deleteEnabled && !isDeleting() && !isWorking()) {
         deleteButtonClick();
     } else {
         m_view.beep();
@@ -59,6 +59,7 @@ int AppController::getCheckedCount() const { return checkedCount(m_tableDataSour
 
 void AppController::validity() {
     if (m_tableDataSource.rows.empty()) return;
+    m_lastMark.reset();
     removeBrokenGroups(m_tableDataSource.rows);
     realignShowID();
     m_view.reloadTable();

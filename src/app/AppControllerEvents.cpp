@@ -145,6 +145,7 @@ void AppController::onSpacebar(const WorkerEvent&) {
     const std::vector<int> selected = m_view.selectedRows();
     const bool allChecked =
         std::all_of(selected.begin(), selected.end(), [&](int row) { return rows.at(row)->checkbox; });
+    if (!selected.empty()) m_lastMark.reset();
     for (const int row : selected)
         rows.at(row)->checkbox = !allChecked;
     m_view.reloadTable();

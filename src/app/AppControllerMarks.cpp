@@ -36,6 +36,7 @@ void AppController::markNone() {
 }
 
 void AppController::setAllMarks(bool value) {
+    m_lastMark.reset();
     for (TrackRecord* const record : m_tableDataSource.rows)
         record->checkbox = value;
     m_view.reloadTable();
@@ -49,6 +50,7 @@ void AppController::markMenuClick(std::int32_t tag) {
         setAllMarks(value);
         return;
     }
+    m_lastMark.reset();
     for (const int row : m_view.selectedRows())
         m_tableDataSource.rows.at(row)->checkbox = value;
     m_view.reloadTable();

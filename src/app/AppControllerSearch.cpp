@@ -5,6 +5,8 @@
 #include "app/Links.h"
 #include "platform/Log.h"
 
+#include <exception>
+
 namespace songsweep {
 
 namespace {
@@ -36,8 +38,13 @@ void AppController::populatePlaylist() {
     if (m_playlistCount > 0) return;
     std::vector<std::string> names;
     if (const auto music = m_queries.getMusicPlaylistName()) names.push_back(*music);
-    for (std::string& name : m_queries.userPlaylistNames())
-        names.push_back(std::move(name));
+    try {
+        for (std::string& name : m_queries.userPlaylistNames())
+            names.push_back(std::move(name));
+    } catch (const std::exception& exception) {
+        // The list then holds the library's playlist alone.
+        m_services.log.line(std::string("Playlists could not be read: ") + exception.what());
+    }
     for (const std::string& name : names)
         m_view.addPlaylist(name);
     m_playlistCount = static_cast<int>(names.size());

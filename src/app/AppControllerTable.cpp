@@ -12,6 +12,7 @@ void AppController::setObjectValue(bool value, Column column, int row) {
     if (!mayChangeMarks()) return;
     if (column == Column::checkbox) {
         m_tableDataSource.rows.at(row)->checkbox = value;
+        m_lastMark.reset();
         setStatusLabel();
     }
     m_view.reloadTable();
@@ -28,6 +29,7 @@ void AppController::didClickTableColumn(Column column) {
     m_sortColumn = column;
     m_sortIndicatorShown = true;
     m_view.setSortIndicator(column, m_sortAscending);
+    m_lastMark.reset();
     sortInsideGroups(m_tableDataSource.rows, column, m_sortAscending);
     m_view.reloadTable();
 }

@@ -27,7 +27,9 @@ EmbeddedScripting::Options scriptingOptions(const ProgramOptions& options, Log& 
 
 } // namespace
 
-void ChosenLibraryPreferences::choose(const std::string& path) { m_chosen = std::make_unique<GivenLibrary>(path); }
+void ChosenLibraryPreferences::choose(const std::string& path) {
+    m_chosen = std::make_unique<GivenLibrary>(path);
+}
 
 const Preferences& ChosenLibraryPreferences::present() const { return m_chosen ? *m_chosen : *m_others; }
 
@@ -68,7 +70,7 @@ ControllerServices Program::controllerServices() {
         .desktop = *m_desktop,
         .version = m_options.version,
         .unreachableReason = [this] { return unreachableReason(); },
-        .libraryLocations = [this](const LocationVisitor& visit) { visitLocations(visit); },
+        .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
         .beginDeletionRun = [this] { m_scripting.beginDeletionRun(); },
         .embeddedLibrary = true,
     };
@@ -88,9 +90,10 @@ std::string Program::unreachableReason() const {
     return path.empty() ? error->message : path + ": " + error->message;
 }
 
-void Program::visitLocations(const LocationVisitor& visit) {
+bool Program::visitLocations(const LocationVisitor& visit) {
     const Result<void> visited = m_scripting.forEachLocation(visit);
     if (!visited) m_log.line("The files of the library could not be looked at: " + visited.error().message);
+    return visited.hasValue();
 }
 
 } // namespace songsweep

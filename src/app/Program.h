@@ -68,7 +68,7 @@ class Program {
     std::string unreachableReason() const;
 
   private:
-    void visitLocations(const LocationVisitor& visit);
+    bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;
     Log& m_log;

@@ -5,7 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include <map>
+#include <algorithm>
 #include <vector>
 
 namespace songsweep::cli {
@@ -40,9 +40,17 @@ std::string checkField(const std::string& text) {
     return "'" + text + "' is none of name, artist, album, time, none";
 }
 
+OutputFormat formatNamed(const std::string& name) {
+    if (name == "json") return OutputFormat::json;
+    return name == "csv" ? OutputFormat::csv : OutputFormat::text;
+}
+
+std::string checkFormat(const std::string& text) {
+    if (text == "text" || text == "json" || text == "csv") return {};
+    return "'" + text + "' is none of text, json, csv";
+}
+
 void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
-    static const std::map<std::string, OutputFormat> formats = {
-        {"text", OutputFormat::text}, {"json", OutputFormat::json}, {"csv", OutputFormat::csv}};
     addLibraryOptions(command, options, raw, true);
     command.add_option("--same", raw.same, "What duplicates have in common: name,artist,album,time, or none")
         ->delimiter(',')
@@ -57,8 +65,11 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
         ->type_name("NAME");
     command.add_flag("--ignore-missing", options.parameters.isignoredead,
                      "Leave out tracks whose files are missing");
-    command.add_option("--format", options.format, "text, json or csv")
-        ->transform(CLI::CheckedTransformer(formats))
+    command
+        .add_option_function<std::string>(
+            "--format", [&options](const std::string& name) { options.format = formatNamed(name); },
+            "text, json or csv")
+        ->check(checkFormat)
         ->type_name("FORMAT")
         ->default_str("text");
     command.add_option("--output", options.output, "Write the result to a file")->type_name("FILE");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/DeletePlan.h"
 
+#include "delete/DeleteReport.h"
 #include "delete/DeleteTexts.h"
 #include "platform/Files.h"
 
@@ -92,8 +93,18 @@ DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& fi
             if (!record->checkbox) finder.look({}, record->location.string());
         return plan;
     }
-    locations([&](std::string_view pid, const std::string& path) { finder.look(pid, path); });
+    const bool visitedAll =
+        locations([&](std::string_view pid, const std::string& path) { finder.look(pid, path); });
+    if (!visitedAll) {
+        plan.libraryUnknown = true;
+        for (const auto& [record, path] : plan.files)
+            plan.shared.insert(record);
+    }
     return plan;
+}
+
+const char* reasonToLeave(const DeletePlan& plan) {
+    return plan.libraryUnknown ? libraryIsUnknown : fileIsShared;
 }
 
 DeleteConfirmationFacts confirmationFacts(const std::vector<TrackRecord*>& rows, const Files& files,

@@ -12,7 +12,7 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
     if (!plan.files.contains(&record)) {
         outcome.file = DeleteOutcome::File::missing;
     } else if (plan.shared.contains(&record)) {
-        outcome.reason = fileIsShared;
+        outcome.reason = reasonToLeave(plan);
     } else if (!canNameFile(record.location)) {
         outcome.reason = fileCannotBeNamed;
         outcome.dealtWith = false;

@@ -130,7 +130,7 @@ void DeleteProc::deleteFile(const TrackRecord& record, DeleteOutcome& outcome) {
             outcome.file = trashedBefore ? DeleteOutcome::File::trashed : DeleteOutcome::File::missing;
         } else if (m_plan.shared.contains(&record)) {
             outcome.file = DeleteOutcome::File::kept;
-            addReason(outcome, fileIsShared);
+            addReason(outcome, reasonToLeave(m_plan));
         } else {
             trash(record, outcome);
         }

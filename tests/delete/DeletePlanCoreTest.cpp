@@ -23,6 +23,7 @@ class DeletePlanTest : public test::DeleteFixture {
                 visit(record->pid, record->location.string());
             for (const auto& [pid, location] : others)
                 visit(pid, location);
+            return true;
         });
     }
     DeletePlan plan(const std::vector<std::pair<std::string, std::string>>& others = {}) const {
@@ -84,10 +85,21 @@ TEST_F(DeletePlanTest, anEqualFileNumberAloneIsNoSharing) {
 
 TEST_F(DeletePlanTest, aMarkedTrackWithoutAnIdKeepsItsFileSinceNothingCanDeleteIt) {
     const TrackRecord& a = addFile("0", true, "a.mp3");
-    EXPECT_THAT(
-        makeDeletePlan(m_list.rows, m_files, [&](const LocationVisitor& visit) { visit("", path("a.mp3")); })
-            .shared,
-        UnorderedElementsAre(&a));
+    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files,
+                               [&](const LocationVisitor& visit) {
+                                   visit("", path("a.mp3"));
+                                   return true;
+                               })
+                    .shared,
+                UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aLibraryThatCannotBeLookedAtKeepsEveryFile) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    const DeletePlan made =
+        makeDeletePlan(m_list.rows, m_files, [](const LocationVisitor&) { return false; });
+    EXPECT_THAT(made.shared, UnorderedElementsAre(&a));
+    EXPECT_STREQ(reasonToLeave(made), "other tracks that use it could not be looked for");
 }
 
 TEST_F(DeletePlanTest, withoutALibraryTheUnmarkedRowsStandForIt) {

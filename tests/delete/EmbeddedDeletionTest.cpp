@@ -112,7 +112,7 @@ class EmbeddedDeletionTest : public testing::Test {
 
     DeleteReport deleteMarked(DisplayedList& list) {
         const LibraryLocations locations = [this](const LocationVisitor& visit) {
-            EXPECT_TRUE(m_scripts->forEachLocation(visit));
+            return m_scripts->forEachLocation(visit).hasValue();
         };
         const auto report = std::make_shared<DeleteReport>();
         DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log},
