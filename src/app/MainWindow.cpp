@@ -19,6 +19,7 @@ MainWindow::MainWindow(Log& log, QWidget* parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
     , m_model(new TrackTableModel(this)) {
     m_ui->setupUi(this);
+    m_lengths.emplace(*this);
     m_ui->contentStack->setBackgroundRole(QPalette::Base);
     setUpToolbar();
     setUpToolTips();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/LayoutLengths.h"
 #include "library/DisplayedList.h"
 
 #include <QMainWindow>
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -115,6 +117,7 @@ class MainWindow : public QMainWindow {
     void chooseLibrary();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
+    std::optional<LayoutLengths> m_lengths;
     TrackTableModel* m_model;
     QString m_searchedText;
     bool m_tableVisible = false;

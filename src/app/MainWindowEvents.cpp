@@ -39,7 +39,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::FontChange) applyMetrics();
+    if (event->type() == QEvent::FontChange && m_lengths) applyMetrics();
 }
 
 void MainWindow::chooseLibrary() {

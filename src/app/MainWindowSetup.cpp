@@ -11,6 +11,21 @@
 
 namespace songsweep {
 
+namespace {
+
+/// The picture of every size as one of its own, since it grows with the font and not only with the screen.
+QIcon dtrackImage() {
+    QIcon icon;
+    for (const char* file : {":/dtrack.png", ":/dtrack@2x.png", ":/dtrack@3x.png"}) {
+        QPixmap pixmap(QString::fromLatin1(file));
+        pixmap.setDevicePixelRatio(1);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+} // namespace
+
 void MainWindow::setUpToolbar() {
     m_ui->searchButton->setIcon(themedIcon(Icon::search));
     m_ui->autoMarkButton->setIcon(themedIcon(Icon::mark));
@@ -45,7 +60,7 @@ void MainWindow::setUpPageKeys() {
 }
 
 void MainWindow::setUpTable(Log& log) {
-    m_model->setDtrackImage(QIcon(QStringLiteral(":/dtrack.png")));
+    m_model->setDtrackImage(dtrackImage());
     m_model->setObjectValueHandler(
         [this](Column column, int row, bool value) { Q_EMIT setObjectValue(value, column, row); });
     SWTableView* table = m_ui->tableview;
@@ -103,6 +118,7 @@ void MainWindow::connectWindowAndHelpMenu() {
 void MainWindow::applyMetrics() {
     const auto grown = [this](int length) { return scaledLength(length, this); };
     constexpr int line = 1;
+    m_lengths->grow(*this);
     setMinimumSize(grown(760), grown(420));
     m_ui->toolbar->setFixedHeight(grown(48) - line);
     m_ui->strip->setFixedHeight(grown(24) - line);
@@ -111,6 +127,7 @@ void MainWindow::applyMetrics() {
     for (QToolButton* button :
          {m_ui->searchButton, m_ui->autoMarkButton, m_ui->deleteButton, m_ui->formprogressCancelButton})
         button->setIconSize(icon);
+    m_ui->formprogress->setFixedWidth(grown(364));
     m_ui->formprogressCancelButton->setFixedSize(grown(28), grown(28));
 }
 

@@ -13,16 +13,15 @@ namespace {
 bool isChecked(const QModelIndex& index) { return index.data(Qt::CheckStateRole).toInt() == Qt::Checked; }
 
 /// A square of the given side in the middle of the frame, on whole pixels.
-QRectF centred(const QRect& frame, int side) {
-    return QRectF(frame.left() + (frame.width() - side) / 2, frame.top() + (frame.height() - side) / 2, side,
-                  side);
+QRect centred(const QRect& frame, int side) {
+    return {frame.left() + (frame.width() - side) / 2, frame.top() + (frame.height() - side) / 2, side, side};
 }
 
 } // namespace
 
 void CheckBoxCell::drawInterior(QPainter& painter, const QStyleOptionViewItem& option,
                                 const RowColors& colors, const QModelIndex& index) const {
-    const QRectF box = centred(option.rect, metrics().box);
+    const QRect box = centred(option.rect, metrics().box);
     const Qt::CheckState state = isChecked(index) ? Qt::Checked : Qt::Unchecked;
     painting::checkBox(painter, box, metrics().factor, state,
                        {.fill = colors.boxFill,

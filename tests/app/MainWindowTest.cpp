@@ -359,4 +359,24 @@ TEST_F(MainWindowTest, ToolbarHeaderRowsAndStripHaveTheirHeights) {
     EXPECT_EQ(window.tableview().header().height(), 26);
 }
 
+TEST_F(MainWindowTest, LengthsGrowWithTheFont) {
+    QFont font = window.font();
+    font.setPixelSize(26);
+    window.setFont(font);
+    window.resize(1600, 900);
+    showSearching();
+    QApplication::processEvents();
+    EXPECT_EQ(control<QWidget>("toolbar").height() + 1, 96);
+    EXPECT_EQ(control<QProgressBar>("formprogress").width(), 2 * 364);
+    const int barEnd = control<QWidget>("formprogress").geometry().right();
+    EXPECT_EQ(control<QWidget>("formprogressCancelButton").geometry().left() - barEnd - 1, 2 * 4);
+}
+
+TEST_F(MainWindowTest, TheBarIsInTheMiddleOfThePage) {
+    showSearching();
+    QApplication::processEvents();
+    const QWidget& bar = control<QProgressBar>("formprogress");
+    EXPECT_NEAR(bar.geometry().center().x(), bar.parentWidget()->rect().center().x(), 1);
+}
+
 } // namespace songsweep::test
