@@ -36,16 +36,20 @@ bool isEscape(std::string_view text) {
     return text.size() >= 3 && hexDigit(text[1]) >= 0 && hexDigit(text[2]) >= 0;
 }
 
-/// Nothing but allowed characters and whole escapes, and one "#" at most.
-bool isUrl(std::string_view text) {
+/// The length of the URL without its query and fragment; nothing where the text holds anything but allowed
+/// characters, whole escapes and one "#" at most.
+std::optional<std::size_t> lengthUpToQuery(std::string_view text) {
+    std::size_t length = text.size();
     bool inFragment = false;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (plainCharacters[static_cast<unsigned char>(text[i])]) continue;
-        if (text[i] == '%' && isEscape(text.substr(i))) continue;
-        if (text[i] != '#' || inFragment) return false;
+        const char c = text[i];
+        if (c == '?' || c == '#') length = std::min(length, i);
+        if (plainCharacters[static_cast<unsigned char>(c)]) continue;
+        if (c == '%' && isEscape(text.substr(i))) continue;
+        if (c != '#' || inFragment) return {};
         inFragment = true;
     }
-    return true;
+    return length;
 }
 
 /// The length of a leading "scheme:", 0 where there is none.
@@ -58,9 +62,8 @@ std::size_t schemeLength(std::string_view url) {
     return 0;
 }
 
-/// The path as it is written, a part of the URL; empty where it has none.
+/// The path as it is written, a part of the URL without query and fragment; empty where it has none.
 std::string_view writtenPath(std::string_view url) {
-    url = url.substr(0, url.find_first_of("?#"));
     const std::size_t scheme = schemeLength(url);
     url.remove_prefix(scheme);
     if (scheme > 0 && !url.starts_with('/')) return {}; // opaque, as "mailto:" is
@@ -83,7 +86,10 @@ std::size_t decode(std::string_view path, char* target) {
     return length;
 }
 
+bool isPlain(char c) { return c > 0 && static_cast<unsigned char>(c) < 0x80; }
+
 bool isUtf8WithoutZero(std::string_view text) {
+    if (std::all_of(text.begin(), text.end(), isPlain)) return true;
     const auto length = static_cast<std::int32_t>(text.size());
     for (std::int32_t i = 0; i < length;) {
         UChar32 c = 0;
@@ -97,8 +103,10 @@ bool isUtf8WithoutZero(std::string_view text) {
 
 std::optional<std::size_t> makePathOfUrl(std::span<char> url) {
     const std::string_view text(url.data(), url.size());
-    const std::string_view path = writtenPath(text);
-    if (!isUrl(text) || path.empty()) return {};
+    const std::optional<std::size_t> end = lengthUpToQuery(text);
+    if (!end) return {};
+    const std::string_view path = writtenPath(text.substr(0, *end));
+    if (path.empty()) return {};
     std::size_t length = decode(path, url.data());
     if (!isUtf8WithoutZero(text.substr(0, length))) return {};
     if (length > 1 && url[length - 1] == '/') --length;

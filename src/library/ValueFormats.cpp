@@ -32,11 +32,10 @@ std::int32_t heldTo32Bits(std::int64_t value) {
     return static_cast<std::int32_t>(value);
 }
 
-template <class... Numbers>
-std::string formatted(const char* format, Numbers... numbers) {
-    std::array<char, 64> buffer; // NOLINT: snprintf fills it
-    const int length = std::snprintf(buffer.data(), buffer.size(), format, numbers...);
-    return {buffer.data(), static_cast<std::size_t>(length)};
+/// At least two digits, behind the sign.
+std::string twoDigits(int number) {
+    if (number < 0) return '-' + twoDigits(-number);
+    return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
 } // namespace
@@ -47,8 +46,8 @@ std::string SecToTime(std::int32_t milliseconds) {
     const int hours = seconds / 3600;
     const int minutes = seconds / 60 - 60 * hours;
     const int rest = seconds - 3600 * hours - 60 * minutes;
-    if (seconds < 3600) return formatted("%.1d:%.2d", minutes, rest);
-    return formatted("%.1d:%.2d:%.2d", hours, minutes, rest);
+    if (seconds < 3600) return std::to_string(minutes) + ':' + twoDigits(rest);
+    return std::to_string(hours) + ':' + twoDigits(minutes) + ':' + twoDigits(rest);
 }
 
 std::int32_t TimestringToSec(std::string_view time) {
@@ -76,7 +75,9 @@ std::int32_t integerValue(std::string_view text) {
 
 std::string sizestring(std::int32_t bytes) {
     // 1.0 and not 0.5: the figure is rounded up by one tenth.
-    return formatted("%.1f MB", std::floor(bytes / 1048576.0 * 10 + 1.0) / 10);
+    char text[32];
+    const double megabytes = std::floor(bytes / 1048576.0 * 10 + 1.0) / 10;
+    return {text, static_cast<std::size_t>(std::snprintf(text, sizeof text, "%.1f MB", megabytes))};
 }
 
 std::string sizestring(const TrackRecord& record) {
