@@ -5,6 +5,8 @@
 
 #include <libxml/xmlreader.h>
 
+#include <array>
+#include <cstdint>
 #include <utility>
 
 namespace songsweep {
@@ -17,6 +19,21 @@ static_assert(options == 0x4160);
 std::string_view view(const xmlChar* text) {
     return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
 }
+
+/// The lengths of the few names that a document has, by their addresses.
+///
+/// A text reader's names are those of its dictionary: one address a name, for as long as the reader lives.
+class NameLengths {
+  public:
+    std::string_view named(const xmlChar* name) {
+        std::string_view& known = m_names[reinterpret_cast<std::uintptr_t>(name) / 8 % m_names.size()];
+        if (known.data() != reinterpret_cast<const char*>(name)) known = view(name);
+        return known;
+    }
+
+  private:
+    std::array<std::string_view, 32> m_names;
+};
 
 /// Collects the first error of the parser and of the file below it, and keeps libxml2 from printing them.
 ///
@@ -69,6 +86,7 @@ class XmlReader::Parser {
 
     ErrorCollector errors;
     xmlTextReaderPtr reader;
+    NameLengths names;
 };
 
 std::unique_ptr<XmlReader> XmlReader::open(const std::string& path) {
@@ -96,7 +114,7 @@ bool XmlReader::read(XmlNode& node) {
     if (node.type == NodeType::text)
         node.value = view(xmlTextReaderConstValue(reader));
     else if (node.type == NodeType::element || node.type == NodeType::endElement)
-        node.name = view(xmlTextReaderConstName(reader));
+        node.name = m_parser->names.named(xmlTextReaderConstName(reader));
     return true;
 }
 
