@@ -5,6 +5,8 @@
 
 int main(int argumentCount, char** arguments) {
     ::testing::InitGoogleTest(&argumentCount, arguments);
+    // CTest asks for the list of tests without their environment, and no display is needed in any case.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argumentCount, arguments);
     return RUN_ALL_TESTS();
 }
