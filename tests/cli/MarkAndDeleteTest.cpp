@@ -32,6 +32,7 @@ class MarkAndDelete : public test::ProgramTest {
         const std::map<int, std::pair<const char*, int>> all = {
             {1, {"A", 128}}, {2, {"A", 320}}, {3, {"A", 192}}, {4, {"B", 128}}, {5, {"B", 128}}};
         std::vector<SampleTrack> chosen;
+        chosen.reserve(ids.size());
         for (const int id : ids)
             chosen.push_back({.id = id,
                               .name = all.at(id).first,
