@@ -45,7 +45,7 @@ std::optional<std::string> LibrarySearch::prepare() {
         ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion, m_version}, *m_log);
     if (const Result<void> read = m_program->scripting().readLibrary(); !read)
         return withPath(read.error().message);
-    if (const auto problem = choosePlaylist()) return problem;
+    if (auto problem = choosePlaylist()) return problem;
     m_controller = std::make_unique<AppController>(m_program->controllerServices(), m_run);
     m_controller->awakeFromNib();
     return std::nullopt;

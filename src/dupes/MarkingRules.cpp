@@ -67,8 +67,9 @@ int countThatWouldBeMarked(const TrackRows& rows, const MarkChoice& choice) {
 bool marksAreThoseOf(const TrackRows& rows, const MarkChoice& choice) {
     bool same = true;
     withRule(choice, [&](auto rule) {
-        walkGroups(rows, choice.exceptOne, rule,
-                   [&](const TrackRecord& record, bool checked) { same = same && record.checkbox == checked; });
+        walkGroups(rows, choice.exceptOne, rule, [&](const TrackRecord& record, bool checked) {
+            same = same && record.checkbox == checked;
+        });
     });
     return same;
 }

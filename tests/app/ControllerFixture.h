@@ -72,7 +72,8 @@ class ControllerFixture : public ::testing::Test {
 
     /// Handles events until no worker is left; a test that waits in vain fails.
     void runUntilIdle() {
-        ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); })) << "a worker does not end";
+        ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }))
+            << "a worker does not end";
     }
 
     void post(EventName name, WorkerEventPayload payload = {}) {

@@ -12,7 +12,8 @@ namespace {
 constexpr std::uint32_t fourLetters(const char (&code)[5]) {
     return (std::uint32_t(static_cast<unsigned char>(code[0])) << 24U) |
            (std::uint32_t(static_cast<unsigned char>(code[1])) << 16U) |
-           (std::uint32_t(static_cast<unsigned char>(code[2])) << 8U) | std::uint32_t(static_cast<unsigned char>(code[3]));
+           (std::uint32_t(static_cast<unsigned char>(code[2])) << 8U) |
+           std::uint32_t(static_cast<unsigned char>(code[3]));
 }
 
 constexpr std::uint32_t listType = fourLetters("list");
@@ -42,11 +43,11 @@ std::string utf8(NSString* text) {
 }
 
 /// A number of eight bytes in the host's byte order; zero where the descriptor holds another size.
-template <class Number>
-Number eightBytes(NSAppleEventDescriptor* descriptor) {
+template <class Number> Number eightBytes(NSAppleEventDescriptor* descriptor) {
     Number number{};
     NSData* const data = [descriptor data];
-    if ([data length] == sizeof number) std::memcpy(&number, [data bytes], sizeof number);
+    if ([data length] == sizeof number)
+        std::memcpy(&number, [data bytes], sizeof number);
     return number;
 }
 
@@ -64,7 +65,8 @@ Descriptor convertedList(NSAppleEventDescriptor* descriptor) {
 /// The file of an alias or of a file URL.
 Descriptor convertedFile(NSAppleEventDescriptor* descriptor) {
     NSAppleEventDescriptor* const url = [descriptor coerceToDescriptorType:fileUrlType];
-    NSString* const text = [[[NSString alloc] initWithData:[url data] encoding:NSUTF8StringEncoding] autorelease];
+    NSString* const text = [[[NSString alloc] initWithData:[url data]
+                                                  encoding:NSUTF8StringEncoding] autorelease];
     NSString* const path = text ? [[NSURL URLWithString:text] path] : nil;
     return path ? Descriptor(Descriptor::Value(Descriptor::Alias{utf8(path)})) : Descriptor();
 }
@@ -97,7 +99,8 @@ Descriptor converted(NSAppleEventDescriptor* descriptor) {
     case objectType:
         return Descriptor(Descriptor::Value(Descriptor::Object{"an object"}));
     case typeType:
-        if ([descriptor typeCodeValue] == missingValue) return Descriptor();
+        if ([descriptor typeCodeValue] == missingValue)
+            return Descriptor();
         return convertedText(descriptor);
     case nullType:
         return Descriptor();
@@ -115,7 +118,8 @@ Result<Descriptor> executed(NSString* text) {
     NSAppleScript* const script = [[NSAppleScript alloc] initWithSource:text];
     NSDictionary* information = nil;
     NSAppleEventDescriptor* const descriptor = [script executeAndReturnError:&information];
-    Result<Descriptor> result = descriptor ? Result<Descriptor>(converted(descriptor)) : failureOf(information);
+    Result<Descriptor> result =
+        descriptor ? Result<Descriptor>(converted(descriptor)) : failureOf(information);
     [script release];
     return result;
 }
@@ -128,7 +132,8 @@ Result<Descriptor> NSAppleScriptRunner::executeAndReturnError(std::string_view s
     NSString* const text = [[[NSString alloc] initWithBytes:source.data()
                                                      length:source.size()
                                                    encoding:NSUTF8StringEncoding] autorelease];
-    Result<Descriptor> result = text ? executed(text) : Error{Error::Code::invalid, "the script is not UTF-8"};
+    Result<Descriptor> result =
+        text ? executed(text) : Error{Error::Code::invalid, "the script is not UTF-8"};
     [pool drain];
     return result;
 }
