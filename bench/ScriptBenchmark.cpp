@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/FakeApplications.h"
-#include "scripting/SystemTexts.h"
 #include "scripting/interpreter/Interpreter.h"
 #include "scripting/interpreter/Lexer.h"
 #include "scripting/interpreter/Parser.h"
+#include "support/SystemTexts.h"
 
 #include <benchmark/benchmark.h>
 

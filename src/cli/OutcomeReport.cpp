@@ -12,32 +12,6 @@ namespace songsweep::cli {
 
 namespace {
 
-std::string trackWord(DeleteOutcome::Track track) {
-    switch (track) {
-    case DeleteOutcome::Track::deleted:
-        return "deleted";
-    case DeleteOutcome::Track::failed:
-        return "failed";
-    case DeleteOutcome::Track::notAttempted:
-        return "not attempted";
-    }
-    return {};
-}
-
-std::string fileWord(DeleteOutcome::File file) {
-    switch (file) {
-    case DeleteOutcome::File::notAsked:
-        return "not asked";
-    case DeleteOutcome::File::trashed:
-        return "trashed";
-    case DeleteOutcome::File::missing:
-        return "missing";
-    case DeleteOutcome::File::kept:
-        return "kept";
-    }
-    return {};
-}
-
 template <class Test>
 int countIf(const DeleteReport& report, Test test) {
     return static_cast<int>(std::count_if(report.outcomes.begin(), report.outcomes.end(), test));

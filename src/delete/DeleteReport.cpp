@@ -5,9 +5,7 @@
 
 namespace songsweep {
 
-namespace {
-
-std::string trackText(DeleteOutcome::Track track) {
+std::string trackWord(DeleteOutcome::Track track) {
     switch (track) {
     case DeleteOutcome::Track::deleted:
         return "deleted";
@@ -19,21 +17,19 @@ std::string trackText(DeleteOutcome::Track track) {
     return {};
 }
 
-std::string fileText(DeleteOutcome::File file) {
+std::string fileWord(DeleteOutcome::File file) {
     switch (file) {
     case DeleteOutcome::File::notAsked:
-        return "";
+        return "not asked";
     case DeleteOutcome::File::trashed:
-        return ", file trashed";
+        return "trashed";
     case DeleteOutcome::File::missing:
-        return ", file missing";
+        return "missing";
     case DeleteOutcome::File::kept:
-        return ", file kept";
+        return "kept";
     }
     return {};
 }
-
-} // namespace
 
 bool DeleteReport::allDealtWith() const {
     return std::all_of(outcomes.begin(), outcomes.end(),
@@ -50,7 +46,8 @@ DeleteOutcome outcomeOf(const TrackRecord& record) {
 }
 
 std::string outcomeText(const DeleteOutcome& outcome) {
-    std::string text = trackText(outcome.track) + fileText(outcome.file);
+    std::string text = trackWord(outcome.track);
+    if (outcome.file != DeleteOutcome::File::notAsked) text += ", file " + fileWord(outcome.file);
     if (!outcome.reason.empty()) text += ": " + outcome.reason;
     return text;
 }

@@ -41,6 +41,11 @@ struct DeleteReport {
 /// The outcome of a track that nobody has dealt with yet.
 DeleteOutcome outcomeOf(const TrackRecord& record);
 
+/// "deleted", "failed", "not attempted".
+std::string trackWord(DeleteOutcome::Track track);
+/// "trashed", "missing", "kept", "not asked".
+std::string fileWord(DeleteOutcome::File file);
+
 /// The outcome in words: "deleted, file trashed", "deleted, file kept: the Trash refuses it".
 std::string outcomeText(const DeleteOutcome& outcome);
 

@@ -3,11 +3,11 @@
 
 #include "hosts/LibraryFixture.h"
 #include "hosts/RecordingDesktop.h"
-#include "hosts/ScriptTexts.h"
 #include "library/ValueFormats.h"
 #include "platform/Files.h"
 #include "platform/HfsPath.h"
 #include "support/RecordingLog.h"
+#include "support/SystemTexts.h"
 
 #include <QUrl>
 
@@ -85,13 +85,13 @@ TEST_F(EmbeddedScriptingTest, AnswersTheQuestionsOfASearch) {
                      {"Mine", "", {3, 1}},
                      {"Folder", "<key>Folder</key><true/>", {}},
                      {"Mine", "", {2}}}));
-    EXPECT_THAT(texts(run(test::playlistNamesText)),
+    EXPECT_THAT(texts(run(test::userPlaylistNamesText)),
                 ElementsAre("Library", "Smart", "Mine", "Folder", "Mine"));
     EXPECT_THAT(texts(run(test::plainPlaylistNamesText)), ElementsAre("Mine", "Folder", "Mine"));
     EXPECT_EQ(text(test::playlistIndexText("Mine")), "3");
     EXPECT_EQ(text(test::playlistIndexText("Nobody's")), "-1");
-    EXPECT_EQ(text(test::libraryCountText), "3");
-    EXPECT_EQ(text(test::playlistCountText(3)), "2");
+    EXPECT_EQ(text(test::trackCountText), "3");
+    EXPECT_EQ(text(test::playlistTrackCountText(3)), "2");
     EXPECT_EQ(text(test::versionText), "12.0");
 }
 
@@ -111,8 +111,8 @@ TEST_F(EmbeddedScriptingTest, APlaylistNameThatBreaksTheTextFailsIt) {
 TEST_F(EmbeddedScriptingTest, AFileWithoutPlaylistsListsNoneAndStillCountsItsTracks) {
     open("<plist><dict><key>Tracks</key><dict><key>1</key><dict/><key>2</key><dict></dict></dict></dict></"
          "plist>");
-    EXPECT_THAT(texts(run(test::playlistNamesText)), ElementsAre());
-    EXPECT_EQ(text(test::libraryCountText), "2");
+    EXPECT_THAT(texts(run(test::userPlaylistNamesText)), ElementsAre());
+    EXPECT_EQ(text(test::trackCountText), "2");
     EXPECT_EQ(text(test::playlistIndexText("Music")), "-1");
     EXPECT_TRUE(m_scripts->playlists().value().empty());
 }
@@ -193,7 +193,7 @@ TEST_F(EmbeddedScriptingTest, DeletesTracksAtOnceAndWritesThemTogether) {
     open(manyTracks(10));
     for (const int n : {1, 4, 7})
         run(test::deleteTrackText(persistentIdOf(n)));
-    EXPECT_EQ(text(test::libraryCountText), "7");
+    EXPECT_EQ(text(test::trackCountText), "7");
     EXPECT_EQ(contentOf(m_path), manyTracks(10));
     EXPECT_EQ(m_scripts->pendingDeletions(), 3U);
     ASSERT_TRUE(m_scripts->flush());
@@ -268,20 +268,20 @@ TEST_F(EmbeddedScriptingTest, EveryDeletionRunKeepsABackup) {
 TEST_F(EmbeddedScriptingTest, ALibraryThatIsRefusedFailsItsScriptsAndSaysWhy) {
     open("<plist>\n<dict>\n<key>Tracks</key>\n<dict>\n</array>");
     EXPECT_FALSE(m_scripts->libraryError()); // Nobody has asked for it yet.
-    EXPECT_THAT(failure(test::libraryCountText), HasSubstr("line 5: </array> stands where </dict> is due"));
+    EXPECT_THAT(failure(test::trackCountText), HasSubstr("line 5: </array> stands where </dict> is due"));
     EXPECT_NE(failure(test::versionText), "(no failure)");
     EXPECT_EQ(m_scripts->libraryError()->message, "line 5: </array> stands where </dict> is due");
     run(test::unmuteText);
 
     m_folder.write("library.xml", manyTracks(2));
-    EXPECT_EQ(text(test::libraryCountText), "2");
+    EXPECT_EQ(text(test::trackCountText), "2");
     EXPECT_FALSE(m_scripts->libraryError());
 }
 
 TEST_F(EmbeddedScriptingTest, ALibraryThatIsMissingFailsItsScripts) {
     open(manyTracks(1));
     ASSERT_EQ(::unlink(m_path.c_str()), 0);
-    EXPECT_NE(failure(test::libraryCountText), "(no failure)");
+    EXPECT_NE(failure(test::trackCountText), "(no failure)");
     EXPECT_EQ(m_scripts->libraryError()->code, Error::Code::notFound);
 }
 
@@ -290,7 +290,7 @@ TEST_F(EmbeddedScriptingTest, TurnsToAnotherLibraryAfterWritingTheFirst) {
     run(test::deleteTrackText(persistentIdOf(0)));
     const std::string other = m_folder.write("other.xml", manyTracks(7));
     ASSERT_TRUE(m_scripts->openLibrary(other));
-    EXPECT_EQ(text(test::libraryCountText), "7");
+    EXPECT_EQ(text(test::trackCountText), "7");
     EXPECT_EQ(m_scripts->libraryPath(), other);
     EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 2);
 }
@@ -355,7 +355,7 @@ TEST_F(EmbeddedScriptingTest, TwoThreadsMaySendScripts) {
     std::thread other(deleteFrom, 0);
     deleteFrom(1);
     other.join();
-    EXPECT_EQ(text(test::libraryCountText), "0");
+    EXPECT_EQ(text(test::trackCountText), "0");
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/EmbeddedScripting.h"
 #include "hosts/LibraryFixture.h"
-#include "hosts/ScriptTexts.h"
 #include "platform/Files.h"
 #include "platform/HfsPath.h"
 #include "platform/linux/LinuxDesktop.h"
+#include "support/SystemTexts.h"
 
 #include <QDir>
 #include <QTemporaryDir>

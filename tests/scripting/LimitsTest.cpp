@@ -3,7 +3,7 @@
 
 #include "scripting/FakeApplications.h"
 #include "scripting/InterpretedAppleScript.h"
-#include "scripting/SystemTexts.h"
+#include "support/SystemTexts.h"
 
 #include <gtest/gtest.h>
 

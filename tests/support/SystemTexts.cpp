@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "scripting/SystemTexts.h"
+#include "support/SystemTexts.h"
 
 namespace songsweep::test {
 
