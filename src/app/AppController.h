@@ -39,7 +39,8 @@ struct ControllerServices {
     LibraryLocations libraryLocations = {};
     /// Told that a deletion is about to begin, so that it gets a backup of its own.
     std::function<void()> beginDeletionRun = [] {};
-    bool embeddedLibrary = true; ///< for the words of the delete confirmation
+    /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
+    std::function<bool()> embeddedLibrary = [] { return true; };
 };
 
 /// The logic of the main window: starts workers, reacts to their events, and tells its view what to show.

@@ -11,7 +11,7 @@ void AppController::deleteButtonClick() {
     m_deletion = Deletion::confirming;
     m_deletePlan = makeDeletePlan(m_tableDataSource.rows, m_services.files, m_services.libraryLocations);
     DeleteConfirmationFacts facts = confirmationFacts(m_tableDataSource.rows, m_services.files, m_deletePlan);
-    facts.embeddedLibrary = m_services.embeddedLibrary;
+    facts.embeddedLibrary = m_services.embeddedLibrary();
     m_view.beginDeleteConfirmation(facts);
 }
 

@@ -48,21 +48,26 @@ std::string ChosenLibraryPreferences::libraryPath() const {
     return pathOfUrl(domain->iTunesRecentDatabases.front()).value_or(std::string());
 }
 
-Program::Program(ProgramOptions options, Log& log)
+Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> systemScripts)
     : m_options(std::move(options))
     , m_log(log)
     , m_files(m_options.map)
     , m_desktop(nativeDesktop())
     , m_preferences(nativePreferences())
-    , m_scripting({}, *m_desktop, m_files, scriptingOptions(m_options, log)) {
-    if (!m_options.library.empty()) m_preferences.choose(absolutePath(m_options.library));
-    // Nothing is pending in a program that has just begun.
+    , m_scripting({}, *m_desktop, m_files, scriptingOptions(m_options, log))
+    , m_scripts(std::move(systemScripts), m_scripting) {
+    if (!m_options.library.empty()) {
+        m_preferences.choose(absolutePath(m_options.library));
+        m_scripts.chooseEmbedded();
+    }
+    // Nothing is pending in a program that has just begun. The system's iTunes, too, has its files looked at
+    // here.
     (void)m_scripting.openLibrary(m_preferences.libraryPath());
 }
 
 ControllerServices Program::controllerServices() {
     return {
-        .scripts = m_scripting,
+        .scripts = m_scripts,
         .files = m_files,
         .preferences = m_preferences,
         .sleeper = m_sleeper,
@@ -72,7 +77,7 @@ ControllerServices Program::controllerServices() {
         .unreachableReason = [this] { return unreachableReason(); },
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
         .beginDeletionRun = [this] { m_scripting.beginDeletionRun(); },
-        .embeddedLibrary = true,
+        .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
     };
 }
 
@@ -80,10 +85,12 @@ Result<void> Program::openLibrary(const std::string& path) {
     const std::string absolute = absolutePath(path);
     if (Result<void> opened = m_scripting.openLibrary(absolute); !opened) return opened;
     m_preferences.choose(absolute);
+    m_scripts.chooseEmbedded();
     return m_scripting.readLibrary();
 }
 
 std::string Program::unreachableReason() const {
+    if (!m_scripts.usesEmbedded()) return {};
     const std::optional<Error> error = m_scripting.libraryError();
     if (!error) return {};
     const std::string path = m_scripting.libraryPath();

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "app/AppController.h"
+#include "app/ChosenScripts.h"
 #include "hosts/EmbeddedScripting.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/PathMap.h"
 #include "platform/Preferences.h"
 #include "platform/Sleeper.h"
+#include "scripting/NativeAppleScript.h"
 
 #include <memory>
 #include <string>
@@ -47,12 +49,16 @@ class ChosenLibraryPreferences final : public Preferences {
     std::unique_ptr<Preferences> m_chosen;
 };
 
-/// The parts that a controller works with, put together around the embedded iTunes.
+/// The parts that a controller works with.
 ///
-/// Owns them; outlives the controller. Pending changes of the library are written when it goes.
+/// Without a library of its own choice the user works with the system's iTunes, where there is one; a named
+/// or opened library file is the embedded iTunes'. Owns the parts; outlives the controller. Pending changes
+/// of the library are written when it goes.
 class Program {
   public:
-    Program(ProgramOptions options, Log& log);
+    /// `systemScripts` reaches the system's iTunes; null where there is none.
+    Program(ProgramOptions options, Log& log,
+            std::unique_ptr<AppleScript> systemScripts = nativeAppleScript());
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
@@ -61,7 +67,8 @@ class Program {
     Files& files() { return m_files; }
     Desktop& desktop() { return *m_desktop; }
 
-    /// Turns to another library file. An error where what is left to write of the present one cannot be.
+    /// Turns to another library file, and to the embedded iTunes. An error where what is left to write of the
+    /// present one cannot be.
     Result<void> openLibrary(const std::string& path);
 
     /// Why the library cannot be read, with its path: for alerts and the console. Empty where it can.
@@ -77,6 +84,7 @@ class Program {
     ChosenLibraryPreferences m_preferences;
     Sleeper m_sleeper;
     EmbeddedScripting m_scripting;
+    ChosenScripts m_scripts;
 };
 
 } // namespace songsweep

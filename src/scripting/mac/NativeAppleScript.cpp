@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/NativeAppleScript.h"
+
+#include "scripting/mac/NSAppleScriptRunner.h"
+
+namespace songsweep {
+
+std::unique_ptr<AppleScript> nativeAppleScript() { return std::make_unique<NSAppleScriptRunner>(); }
+
+} // namespace songsweep

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// Which iTunes the program talks to: the system's, where there is one, or its own over a chosen library file.
+#include "app/Program.h"
+
+#include "scripting/AppleScript.h"
+#include "support/RecordingAppleScript.h"
+#include "support/RecordingLog.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace songsweep::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr const char* versionText = "tell application \"iTunes\" \nget version \nend tell \n";
+
+class ProgramTest : public ::testing::Test {
+  protected:
+    ProgramTest() {
+        auto scripts = std::make_unique<RecordingAppleScript>();
+        scripts->setAnswer([](std::string_view) { return Descriptor::text("12.9.5"); });
+        system = scripts.get();
+        m_systemScripts = std::move(scripts);
+    }
+
+    Program& start(const std::string& libraryFile, std::unique_ptr<AppleScript> systemScripts) {
+        ProgramOptions options;
+        options.library = libraryFile;
+        m_program.emplace(options, log, std::move(systemScripts));
+        return *m_program;
+    }
+    Program& startOnMac(const std::string& libraryFile = {}) {
+        return start(libraryFile, std::move(m_systemScripts));
+    }
+
+    static std::string version(Program& program) {
+        const auto answer = program.controllerServices().scripts.executeAndReturnError(versionText);
+        return answer ? answer.value().stringValue().value_or("none") : answer.error().message;
+    }
+    static bool usesEmbedded(Program& program) { return program.controllerServices().embeddedLibrary(); }
+
+    const std::string library = std::string(SONGSWEEP_TEST_DATA) + "/library/five-tracks.xml";
+    RecordingLog log;
+    RecordingAppleScript* system = nullptr;
+
+  private:
+    std::unique_ptr<AppleScript> m_systemScripts;
+    std::optional<Program> m_program;
+};
+
+TEST_F(ProgramTest, WithoutALibraryTheSystemsITunesAnswers) {
+    Program& program = startOnMac();
+    EXPECT_EQ(version(program), "12.9.5");
+    EXPECT_THAT(system->texts(), ElementsAre(versionText));
+    EXPECT_FALSE(usesEmbedded(program));
+}
+
+TEST_F(ProgramTest, ANamedLibraryIsTheEmbeddedITunes) {
+    Program& program = startOnMac(library);
+    EXPECT_EQ(version(program), "12.0");
+    EXPECT_THAT(system->texts(), IsEmpty());
+    EXPECT_TRUE(usesEmbedded(program));
+}
+
+TEST_F(ProgramTest, AnOpenedLibraryIsTheEmbeddedITunesFromThenOn) {
+    Program& program = startOnMac();
+    ASSERT_EQ(version(program), "12.9.5");
+    ASSERT_TRUE(program.openLibrary(library));
+    EXPECT_EQ(version(program), "12.0");
+    EXPECT_THAT(system->texts(), ElementsAre(versionText));
+    EXPECT_TRUE(usesEmbedded(program));
+}
+
+TEST_F(ProgramTest, WhereTheSystemHasNoITunesTheEmbeddedOneAnswers) {
+    Program& program = start(library, nullptr);
+    EXPECT_TRUE(usesEmbedded(program));
+    EXPECT_EQ(version(program), "12.0");
+}
+
+TEST_F(ProgramTest, AnUnreadableFileIsNoReasonWhyTheSystemsITunesIsUnreachable) {
+    Program& program = startOnMac();
+    (void)program.scripting().readLibrary();
+    EXPECT_EQ(program.unreachableReason(), "");
+    ASSERT_FALSE(program.openLibrary("/nowhere/Library.xml"));
+    EXPECT_THAT(program.unreachableReason(), ::testing::StartsWith("/nowhere/Library.xml: "));
+}
+
+} // namespace
+} // namespace songsweep::test
