@@ -225,7 +225,7 @@ void measure(int tracks) {
     options.tracks = tracks;
     options.file = (folder / "library.xml").string();
     options.musicFolder = (folder / "music").string();
-    options.makesFiles = false;
+    options.files = sample::BulkFiles::none;
     if (const auto made = sample::makeBulkLibrary(options); !made) stop(made.error().message);
     std::printf("%d tracks, %.1f MB\n", tracks,
                 static_cast<double>(std::filesystem::file_size(options.file)) / (1 << 20));

@@ -19,7 +19,7 @@ class BulkLibraryTest : public ::testing::Test {
   protected:
     BulkOptions options(int tracks, const char* name = "library.xml") const {
         const auto folder = m_folder.path().toStdString();
-        return {tracks, folder + '/' + name, folder + "/Music", 7, true};
+        return {tracks, folder + '/' + name, folder + "/Music", 7, BulkFiles::nineOfTen};
     }
     static QByteArray bytes(const std::string& path) {
         QFile file(QString::fromStdString(path));
@@ -60,6 +60,15 @@ TEST_F(BulkLibraryTest, nineFilesOfTenExistBehindAHandfulOfRealOnes) {
     EXPECT_EQ(realFiles, 90U);
 }
 
+TEST_F(BulkLibraryTest, allFilesExistWhereAllAreAskedFor) {
+    BulkOptions whole = options(2000);
+    whole.files = BulkFiles::all;
+    ASSERT_TRUE(makeBulkLibrary(whole));
+    const auto library = test::ParsedLibrary::read(whole.file);
+    const auto exists = [](const auto& track) { return std::filesystem::exists(track.path); };
+    EXPECT_TRUE(std::all_of(library.tracks().begin(), library.tracks().end(), exists));
+}
+
 TEST_F(BulkLibraryTest, everyTrackHasAnIdAndAPathOfItsOwn) {
     ASSERT_TRUE(makeBulkLibrary(options(2000)));
     const auto library = test::ParsedLibrary::read(options(0).file);
@@ -87,7 +96,7 @@ TEST_F(BulkLibraryTest, oneSeedMakesOneLibrary) {
 
 TEST_F(BulkLibraryTest, withoutFilesNothingButTheLibraryIsMade) {
     auto bare = options(100);
-    bare.makesFiles = false;
+    bare.files = BulkFiles::none;
     ASSERT_TRUE(makeBulkLibrary(bare));
     EXPECT_FALSE(std::filesystem::exists(bare.musicFolder));
 }

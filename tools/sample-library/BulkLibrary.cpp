@@ -14,12 +14,12 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The one folder of real files; every artist's folder is a link to it.
-Result<void> makeRealFolder(const fs::path& folder) {
+Result<void> makeRealFolder(const fs::path& folder, BulkFiles files) {
     for (int album = 0; album < BulkTracks::albumsOfArtist; ++album) {
         const auto albumFolder = folder / BulkTracks::albumFolder(album);
         fs::create_directories(albumFolder);
         for (int number = 0; number < BulkTracks::tracksOfAlbum; ++number) {
-            if (!BulkTracks::fileExists(album, number)) continue;
+            if (files != BulkFiles::all && !BulkTracks::fileExists(album, number)) continue;
             const auto file = albumFolder / BulkTracks::fileName(number);
             if (!writeTone(file, 220.0 + 10 * number, {})) {
                 return Error{Error::Code::inputOutput, "cannot write " + file.string()};
@@ -31,7 +31,7 @@ Result<void> makeRealFolder(const fs::path& folder) {
 
 Result<void> makeFolders(const BulkOptions& options, const BulkTracks& tracks) {
     const fs::path real = fs::path(options.musicFolder) / "shared";
-    if (const auto made = makeRealFolder(real); !made) return made.error();
+    if (const auto made = makeRealFolder(real, options.files); !made) return made.error();
     const int artists = (options.tracks + BulkTracks::tracksOfArtist - 1) / BulkTracks::tracksOfArtist;
     for (int artist = 0; artist < artists; ++artist) {
         const fs::path link = tracks.artistFolder(artist);
@@ -67,7 +67,7 @@ Result<void> writeLibrary(const BulkOptions& options, const BulkTracks& tracks) 
 Result<void> makeBulkLibrary(const BulkOptions& options) {
     const BulkTracks tracks(options.seed, options.musicFolder);
     try {
-        if (options.makesFiles) {
+        if (options.files != BulkFiles::none) {
             if (const auto made = makeFolders(options, tracks); !made) return made.error();
         }
     } catch (const fs::filesystem_error& error) {

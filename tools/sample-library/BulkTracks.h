@@ -23,6 +23,7 @@ class BulkTracks {
     /// Where a file lies below its artist's folder.
     static std::string albumFolder(int album);
     static std::string fileName(int number);
+    /// Whether the file is among the nine of ten.
     static bool fileExists(int album, int number) { return (album + number) % 10 != 9; }
 
   private:

@@ -22,13 +22,16 @@ int main(int argumentCount, char** arguments) {
     std::string folder;
     songsweep::sample::BulkOptions bulk;
     bool makesNoFiles = false;
+    bool makesAllFiles = false;
     auto* files =
         program.add_option("--files", folder, "Make FOLDER/library.xml with tracks that players can open");
     auto* tracks = program.add_option("--tracks", bulk.tracks, "Make a library of this many tracks");
     auto* output = program.add_option("--output", bulk.file, "The library file of --tracks");
     program.add_option("--music", bulk.musicFolder, "Where its music lies (default: beside it, \"Music\")");
     program.add_option("--seed", bulk.seed, "The same number makes the same library");
-    program.add_flag("--no-files", makesNoFiles, "Make none of its files; otherwise nine of ten are there");
+    auto* none = program.add_flag("--no-files", makesNoFiles,
+                                  "Make none of its files; otherwise nine of ten are there");
+    program.add_flag("--all-files", makesAllFiles, "Make every one of its files")->excludes(none);
     tracks->check(CLI::Range(1, 5000000))->needs(output)->excludes(files);
     output->needs(tracks);
     program.require_option(1, 0);
@@ -38,6 +41,7 @@ int main(int argumentCount, char** arguments) {
     const auto library = std::filesystem::absolute(bulk.file).lexically_normal();
     bulk.file = library;
     if (bulk.musicFolder.empty()) bulk.musicFolder = library.parent_path() / "Music";
-    bulk.makesFiles = !makesNoFiles;
+    if (makesNoFiles) bulk.files = songsweep::sample::BulkFiles::none;
+    if (makesAllFiles) bulk.files = songsweep::sample::BulkFiles::all;
     return report(songsweep::sample::makeBulkLibrary(bulk));
 }
