@@ -45,8 +45,10 @@ double residentBytes(const std::string& name) {
 class Meter {
   public:
     Measurement read(int rows) const {
-        return {cpuSeconds() - m_cpuSeconds, residentBytes("VmHWM:") - m_residentBytes, rows};
+        return {cpuSeconds() - m_cpuSeconds, residentBytes("VmHWM:") - m_residentBytes, 0, rows};
     }
+
+    double leftBytes() const { return residentBytes("VmRSS:") - m_residentBytes; }
 
   private:
     double m_residentBytes = residentBytes("VmRSS:");
@@ -157,10 +159,13 @@ Measurement measureBareLoop(const std::string& file) {
 }
 
 Measurement measureSearch(const std::string& file, int tracks) {
-    Search search(file, tracks);
     const Meter meter;
-    const std::size_t rows = search.run();
-    return meter.read(static_cast<int>(rows));
+    auto search = std::make_unique<Search>(file, tracks);
+    const std::size_t rows = search->run();
+    Measurement measurement = meter.read(static_cast<int>(rows));
+    search.reset();
+    measurement.leftBytes = meter.leftBytes();
+    return measurement;
 }
 
 } // namespace songsweep::bench

@@ -9,6 +9,7 @@ namespace songsweep::bench {
 struct Measurement {
     double cpuSeconds = 0; ///< of all threads
     double peakBytes = 0;  ///< resident at most, less what was resident before
+    double leftBytes = 0;  ///< resident after everything was given back, less what was resident before
     int rows = 0;          ///< rows in groups, or texts seen by the bare loop
 };
 
