@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandLine.h"
 
+#include "app/Program.h"
 #include "dupes/MarkingRules.h"
+#include "platform/Native.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <filesystem>
 #include <vector>
 
 namespace songsweep::cli {
@@ -115,6 +118,32 @@ void finishFindOptions(FindOptions& options, const Raw& raw) {
     }
 }
 
+/// The library file that the options lead to, named or not; empty where there is none.
+std::string libraryOf(const LibraryOptions& options) {
+    if (!options.library.empty()) return options.library;
+    return ChosenLibraryPreferences(nativePreferences()).libraryPath();
+}
+
+/// Two names of one file: one path, or two that links lead to one file.
+bool nameOneFile(const std::string& one, const std::string& other) {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    if (fs::equivalent(one, other, error)) return true;
+    const fs::path path = fs::weakly_canonical(one, error);
+    return !error && path == fs::weakly_canonical(other, error) && !error;
+}
+
+/// What is written beside the library must not take its place.
+void checkTarget(const std::string& option, const std::string& path, const LibraryOptions& options) {
+    if (!path.empty() && nameOneFile(path, libraryOf(options)))
+        throw CLI::ValidationError(option + " names the library itself, " + path);
+}
+
+void checkTargets(const FindOptions& options) {
+    checkTarget("--log", options.log, options);
+    checkTarget("--output", options.output, options);
+}
+
 /// Rules that need a word more.
 void checkMarkOptions(const MarkOptions& options) {
     if (options.rule == "kind" && options.kind.empty())
@@ -170,24 +199,29 @@ Command Parser::command() {
     checkFields(raw);
     if (*findCommand) {
         finishFindOptions(find, raw);
+        checkTargets(find);
         return find;
     }
     if (*markCommand) {
         finishFindOptions(mark, raw);
+        checkTargets(mark);
         checkMarkOptions(mark);
         return mark;
     }
     if (*deleteCommand) {
         finishFindOptions(remove, raw);
+        checkTargets(remove);
         checkMarkOptions(remove);
         checkDeleteOptions(remove);
         return remove;
     }
     if (*scriptCommand) {
         finishLibraryOptions(script, raw);
+        checkTarget("--log", script.log, script);
         return script;
     }
     finishLibraryOptions(window, raw);
+    checkTarget("--log", window.log, window);
     return window;
 }
 

@@ -64,6 +64,37 @@ TEST_F(Usage, refusesAMapWithoutTwoSides) {
     expectRefusal({"find", "--library", library(), "--map", "=/music"});
 }
 
+TEST_F(Usage, refusesToWriteOverTheLibrary) {
+    const std::string file = library();
+    const std::string text = m_folder.read("Library.xml");
+    std::filesystem::create_hard_link(file, path("hard.xml"));
+    std::filesystem::create_symlink("Library.xml", path("soft.xml"));
+    for (const std::string& target :
+         {file, std::string("./Library.xml"), path("hard.xml"), path("soft.xml")}) {
+        for (const char* option : {"--output", "--log"}) {
+            expectRefusal({"find", "--library", file, option, target});
+            expectRefusal({"mark", "--library", file, "--rule", "longest", option, target});
+            expectRefusal({"delete", "--library", file, "--rule", "longest", "--dry-run", option, target});
+        }
+        expectRefusal({"script", "--library", file, "--log", target, "-"});
+        expectRefusal({"--library", file, "--log", target});
+    }
+    EXPECT_EQ(m_folder.read("Library.xml"), text);
+}
+
+TEST_F(Usage, refusesToWriteOverALibraryThatIsNotNamed) {
+    std::filesystem::create_directories(path("home/Music"));
+    const std::string file = m_folder.write("home/Music/Library.xml", "a library");
+    expectRefusal({"script", "--log", file, "-"});
+    expectRefusal({"--log", file});
+    EXPECT_EQ(m_folder.read("home/Music/Library.xml"), "a library");
+}
+
+TEST_F(Usage, makesNoLogInThePlaceOfAMissingLibrary) {
+    expectRefusal({"find", "--library", path("missing.xml"), "--log", "./missing.xml"});
+    EXPECT_FALSE(std::filesystem::exists(path("missing.xml")));
+}
+
 TEST_F(Usage, refusesADeletionThatIsNeitherTriedNorConfirmed) {
     expectRefusal({"delete", "--library", library(), "--rule", "longest"});
     expectRefusal({"delete", "--library", library(), "--rule", "longest", "--dry-run", "--yes"});
