@@ -14,29 +14,29 @@ std::string refusal(int groups) {
     return "no copy of " + songs + " would be left; nothing was deleted (--allow-all-copies allows it)";
 }
 
-std::optional<ExitCode> writeReportTo(const DeleteOptions& options, const DeleteReport& report) {
-    Result<Output> output = Output::open(options.output);
-    if (!output) return fail(output.error().message);
-    writeOutcomes(output.value(), report, options.dryRun, options.format);
-    if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
+std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& options,
+                                      const DeleteReport& report) {
+    writeOutcomes(output, report, options.dryRun, options.format);
+    if (const Result<void> written = output.finish(); !written) return fail(written.error().message);
     return std::nullopt;
 }
 
-ExitCode predict(LibrarySearch& search, const DeleteOptions& options) {
+ExitCode predict(LibrarySearch& search, const DeleteOptions& options, Output& output) {
     const auto& rows = search.controller().tableDataSource().rows;
     DeletePlan plan = makeDeletePlan(rows, search.program().files(),
                                      search.program().controllerServices().libraryLocations);
     if (options.sharedFiles) plan.shared.clear();
     const DeleteReport report = predictedReport(rows, options.files, plan);
-    return writeReportTo(options, report).value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);
+    return writeReportTo(output, options, report)
+        .value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);
 }
 
-ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options) {
+ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options, Output& output) {
     const bool completed = search.deleteMarked(options.files, !options.sharedFiles);
     const Result<void> written = search.program().scripting().flush();
     const DeleteReport nothing;
     const DeleteReport* const report = search.controller().lastDeleteReport();
-    const auto problem = writeReportTo(options, report ? *report : nothing);
+    const auto problem = writeReportTo(output, options, report ? *report : nothing);
     if (!written) return fail(options.library + ": " + written.error().message);
     if (problem) return *problem;
     if (!completed) return ExitCode::interrupted;
@@ -51,7 +51,11 @@ ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
     search.controller().markOkButtonClick(choiceOf(options));
     const int lost = groupsLosingEveryCopy(search.controller().tableDataSource().rows);
     if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
-    return options.dryRun ? predict(search, options) : carryOut(search, options);
+    // Opened first, so that nothing is deleted whose outcome cannot be told.
+    Result<Output> output = Output::open(options.output);
+    if (!output) return fail(output.error().message);
+    return options.dryRun ? predict(search, options, output.value())
+                          : carryOut(search, options, output.value());
 }
 
 } // namespace songsweep::cli

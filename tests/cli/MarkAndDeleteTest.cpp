@@ -118,6 +118,15 @@ TEST_F(MarkAndDelete, deletesTheMarkedTracksFromTheLibrary) {
         EXPECT_TRUE(hasFile(id)) << id;
 }
 
+TEST_F(MarkAndDelete, deletesNothingWhoseOutcomeCannotBeTold) {
+    const auto before = tree();
+    const RunResult result = command(
+        "delete", {"--rule", "highest-bitrate", "--files", "--yes", "--output", path("missing/result")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr(path("missing/result")));
+    EXPECT_EQ(tree(), before);
+}
+
 TEST_F(MarkAndDelete, movesTheFilesToTheTrashWhenAsked) {
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
     EXPECT_EQ(result.exitCode, 0) << result.errors << result.output;
