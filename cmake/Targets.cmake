@@ -14,11 +14,14 @@ function(songsweep_library name)
     endif()
 endfunction()
 
-# songsweep_test(NAME [WIDGETS] [MOC] SOURCES ... [LINK ...])
+# songsweep_test(NAME [WIDGETS] [MOC] [TIMEOUT SECONDS] SOURCES ... [LINK ...])
 # One GoogleTest program of a folder of tests/. Its tests run on the offscreen platform;
-# WIDGETS gives it a QApplication, all others a QCoreApplication.
+# WIDGETS gives it a QApplication, all others a QCoreApplication. TIMEOUT is each test's, otherwise 120.
 function(songsweep_test name)
-    cmake_parse_arguments(ARG "WIDGETS;MOC" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "WIDGETS;MOC" "TIMEOUT" "SOURCES;LINK" ${ARGN})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
     add_executable(${name} ${ARG_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     if(ARG_WIDGETS)
@@ -32,7 +35,7 @@ function(songsweep_test name)
     target_compile_definitions(${name} PRIVATE
         SONGSWEEP_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
-        PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+        PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()
 
 # songsweep_benchmark(NAME SOURCES ... [LINK ...])

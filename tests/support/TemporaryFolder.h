@@ -16,6 +16,9 @@ namespace songsweep::test {
 class TemporaryFolder {
   public:
     TemporaryFolder() = default;
+    /// In a folder other than that for temporary files, which need not be on a disk.
+    explicit TemporaryFolder(const std::string& parent)
+        : m_folder(QString::fromStdString(parent + "/XXXXXX")) {}
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     /// Qt would leave names that are no valid text.
