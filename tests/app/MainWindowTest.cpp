@@ -131,6 +131,19 @@ TEST_F(MainWindowTest, TheProgressStaysInPlaceWhenThePhaseChanges) {
     EXPECT_EQ(control<QLabel>("progressInfoLabel").pos(), phase);
 }
 
+TEST_F(MainWindowTest, TheProgressValueEndsWhereItsBarEnds) {
+    for (const QSize size : {QSize(760, 420), QSize(1100, 680), QSize(1280, 760)}) {
+        window.resize(size);
+        showSearching();
+        window.setProgressValue(58);
+        QApplication::processEvents();
+        const QRect bar = control<QProgressBar>("formprogress").geometry();
+        EXPECT_EQ(control<QLabel>("progressValueLabel").geometry().right(), bar.right());
+        EXPECT_EQ(control<QLabel>("progressInfoLabel").geometry().left(), bar.left());
+        EXPECT_EQ(control<QToolButton>("formprogressCancelButton").geometry().left(), bar.right() + 1 + 4);
+    }
+}
+
 TEST_F(MainWindowTest, TheBarShowsItsOwnValue) {
     window.setProgressValue(58.3);
     EXPECT_EQ(control<QProgressBar>("formprogress").value(), 58);
