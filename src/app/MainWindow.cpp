@@ -39,6 +39,8 @@ MainWindow::~MainWindow() = default;
 
 SWTableView& MainWindow::tableview() const { return *m_ui->tableview; }
 
+QAction& MainWindow::quitMenuitem() const { return *m_ui->quitMenuitem; }
+
 void MainWindow::reloadTable(const DisplayedList& tableDataSource) {
     const bool firstResults = m_model->rows().empty();
     m_ui->tableview->reloadData(tableDataSource);

@@ -38,6 +38,8 @@ class MainWindow : public QMainWindow {
 
     SWTableView& tableview() const;
     TrackTableModel& tableModel() const { return *m_model; }
+    /// The menu item whose keys are to work in sheets, too, which cover this window.
+    QAction& quitMenuitem() const;
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
 

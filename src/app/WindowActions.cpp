@@ -117,6 +117,8 @@ void WindowActions::connectDeletion() {
 void WindowActions::connectApplication() {
     MainWindow* window = &m_view.mainWindow();
     connect(window, &MainWindow::quit, this, &WindowActions::quit);
+    m_view.deleteConfirmation().addAction(&window->quitMenuitem());
+    m_view.progressWindow().addAction(&window->quitMenuitem());
 #ifndef Q_OS_MACOS
     connect(window, &MainWindow::closed, this, &WindowActions::quit);
 #endif
