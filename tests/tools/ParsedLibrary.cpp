@@ -20,6 +20,13 @@ std::string textAt(plist_t dictionary, const char* key) {
     return text;
 }
 
+int numberAt(plist_t dictionary, const char* key) {
+    std::uint64_t value = 0;
+    const plist_t node = plist_dict_get_item(dictionary, key);
+    if (node != nullptr && plist_get_node_type(node) == PLIST_UINT) plist_get_uint_val(node, &value);
+    return static_cast<int>(value);
+}
+
 std::string pathOf(const std::string& location) {
     return QUrl(QString::fromStdString(location), QUrl::StrictMode).toLocalFile().toStdString();
 }
@@ -46,8 +53,9 @@ void ParsedLibrary::readTracks(plist_t tracks) {
     plist_t track = nullptr;
     for (plist_dict_next_item(tracks, place, nullptr, &track); track != nullptr;
          plist_dict_next_item(tracks, place, nullptr, &track)) {
-        m_tracks.push_back({textAt(track, "Name"), textAt(track, "Artist"), textAt(track, "Persistent ID"),
-                            textAt(track, "Track Type"), pathOf(textAt(track, "Location"))});
+        m_tracks.push_back({numberAt(track, "Track ID"), textAt(track, "Name"), textAt(track, "Artist"),
+                            textAt(track, "Persistent ID"), textAt(track, "Track Type"),
+                            pathOf(textAt(track, "Location"))});
     }
     std::free(place);
 }

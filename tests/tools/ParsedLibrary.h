@@ -14,6 +14,7 @@ namespace songsweep::test {
 class ParsedLibrary {
   public:
     struct Track {
+        int id = 0;
         std::string name;
         std::string artist;
         std::string persistentId;
