@@ -17,7 +17,6 @@
 
 #include <sys/resource.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -105,40 +104,17 @@ void print(const Library& library, const Comparison& comparison) {
                 comparison.search.rows);
 }
 
-/// CPU seconds of the child processes that have ended.
-double cpuSecondsOfChildren() {
-    rusage usage{};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    const auto seconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
-
-/// CPU seconds of "songsweep find" over the library, from its start to its end.
-double measureProgram(const Library& library) {
-    const double before = cpuSecondsOfChildren();
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(QStringLiteral(SONGSWEEP_PROGRAM), {QStringLiteral("find"), QStringLiteral("--library"),
-                                                      QString::fromStdString(library.file)});
-    if (!process.waitForFinished(-1) || process.exitCode() != 0) fail("the program did not search");
-    return cpuSecondsOfChildren() - before;
-}
-
 void compareProgram(const Library& library, int turns) {
-    double bare = 0;
-    double program = 0;
+    Measurement bare;
+    Measurement program;
     for (int turn = 0; turn < turns; ++turn) {
-        const double one = measureInProcess("bare", library).cpuSeconds;
-        const double other = measureProgram(library);
-        bare = turn == 0 ? one : std::min(bare, one);
-        program = turn == 0 ? other : std::min(program, other);
+        takeLess(bare, measureInProcess("bare", library));
+        takeLess(program, measureInProcess("program", library));
     }
-    std::printf("%9d  %8.3f s  %8.3f s  %6.3f %s (%.1f)  the whole program, all files exist\n",
-                library.tracks, bare, program, program / bare,
-                program / bare <= aimedProgramRatio ? "reached" : "missed", aimedProgramRatio);
+    const double ratio = program.cpuSeconds / bare.cpuSeconds;
+    std::printf("%9d  %8.3f s  %8.3f s  %6.3f %-7s  (%.1f) the whole program, all files exist\n",
+                library.tracks, bare.cpuSeconds, program.cpuSeconds, ratio,
+                ratio <= aimedProgramRatio ? "reached" : "missed", aimedProgramRatio);
 }
 
 int run(const QDir& folder) {
@@ -160,11 +136,40 @@ int run(const QDir& folder) {
     return 0;
 }
 
+/// CPU seconds of the child processes that have ended.
+double cpuSecondsOfChildren() {
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+/// "songsweep find" over the library, from its start to its end.
+Measurement measureProgram(const std::string& file) {
+    Measurement measurement;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.start(QStringLiteral(SONGSWEEP_PROGRAM),
+                  {QStringLiteral("find"), QStringLiteral("--library"), QString::fromStdString(file)});
+    if (!process.waitForFinished(-1) || process.exitCode() != 0)
+        fail("the program did not search: " + process.errorString().toStdString());
+    measurement.cpuSeconds = cpuSecondsOfChildren();
+    return measurement;
+}
+
+Measurement measureHere(const QString& what, const std::string& file, int tracks) {
+    if (what == QStringLiteral("bare")) return measureBareLoop(file);
+    if (what == QStringLiteral("program")) return measureProgram(file);
+    return measureSearch(file, tracks);
+}
+
 /// What measureInProcess() runs: one measurement, as a line of numbers.
 int measure(const QString& what, const std::string& file, int tracks) {
     try {
-        const Measurement measurement =
-            what == QStringLiteral("bare") ? measureBareLoop(file) : measureSearch(file, tracks);
+        const Measurement measurement = measureHere(what, file, tracks);
         std::printf("%.6f %.0f %.0f %d\n", measurement.cpuSeconds, measurement.peakBytes,
                     measurement.leftBytes, measurement.rows);
         return 0;
