@@ -128,6 +128,8 @@ class AppController {
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_lastMark; }
     bool isSearching() const { return m_searching; }
     bool isDeleting() const { return m_deletion != Deletion::none; }
+    /// Whether the rows are a worker's now, so that nobody else may look at them.
+    bool isDeletingRows() const { return m_deletion == Deletion::running; }
     bool isWorking() const { return m_queue.operationCount() > 0; }
     /// The first read error of the present search's library file.
     std::optional<ReadError> readError() const { return m_readError.get(); }
@@ -174,6 +176,10 @@ class AppController {
     void showSearching();
     bool mayChangeMarks() const { return m_deletion == Deletion::none; }
     void setAllMarks(bool value);
+    /// Null for a row that is not, or no longer, there.
+    TrackRecord* recordAt(int row) const;
+    std::vector<TrackRecord*> selectedRecords() const;
+    void showRowsLeft();
     void reportIdle();
     ReaderServices readerServices();
 

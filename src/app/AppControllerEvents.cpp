@@ -127,27 +127,32 @@ void AppController::onCount(const WorkerEvent&) { m_progress.prc += 1; }
 void AppController::onDeleteValidity(const WorkerEvent&) { validity(); }
 
 void AppController::onDeleteFinish(const WorkerEvent&) {
+    m_deletion = Deletion::none;
     validity();
     closeProgressWindow(ProgressBar::progress);
-    m_deletion = Deletion::none;
-    setStatusLabel();
+    showRowsLeft();
 }
 
 void AppController::onDeleteCancel(const WorkerEvent&) {
-    validity();
     m_deletion = Deletion::none;
+    validity();
+    showRowsLeft();
+}
+
+void AppController::showRowsLeft() {
+    // Pruning leaves an empty list alone, but the view still shows the rows that were there.
+    if (m_tableDataSource.rows.empty()) m_view.reloadTable();
     setStatusLabel();
 }
 
 void AppController::onSpacebar(const WorkerEvent&) {
     if (!mayChangeMarks()) return;
-    std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
-    const std::vector<int> selected = m_view.selectedRows();
+    const std::vector<TrackRecord*> selected = selectedRecords();
     const bool allChecked =
-        std::all_of(selected.begin(), selected.end(), [&](int row) { return rows.at(row)->checkbox; });
+        std::all_of(selected.begin(), selected.end(), [](const TrackRecord* each) { return each->checkbox; });
     if (!selected.empty()) m_lastMark.reset();
-    for (const int row : selected)
-        rows.at(row)->checkbox = !allChecked;
+    for (TrackRecord* const record : selected)
+        record->checkbox = !allChecked;
     m_view.reloadTable();
 }
 

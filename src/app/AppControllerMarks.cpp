@@ -8,6 +8,7 @@
 namespace songsweep {
 
 void AppController::markButtonClick() {
+    if (!mayChangeMarks()) return;
     if (m_kindListFlag) {
         m_view.fillKinds(kindsOf(m_tableDataSource.rows));
         m_kindListFlag = false;
@@ -51,8 +52,8 @@ void AppController::markMenuClick(std::int32_t tag) {
         return;
     }
     m_lastMark.reset();
-    for (const int row : m_view.selectedRows())
-        m_tableDataSource.rows.at(row)->checkbox = value;
+    for (TrackRecord* const record : selectedRecords())
+        record->checkbox = value;
     m_view.reloadTable();
     setStatusLabel();
 }

@@ -10,8 +10,9 @@ namespace songsweep {
 
 void AppController::setObjectValue(bool value, Column column, int row) {
     if (!mayChangeMarks()) return;
-    if (column == Column::checkbox) {
-        m_tableDataSource.rows.at(row)->checkbox = value;
+    TrackRecord* const record = recordAt(row);
+    if (column == Column::checkbox && record) {
+        record->checkbox = value;
         m_lastMark.reset();
         setStatusLabel();
     }
@@ -39,19 +40,33 @@ void AppController::realignShowID() { songsweep::realignShowID(m_tableDataSource
 void AppController::tableviewSpacebar() { m_center.post({EventName::tableviewSpacebar, {}, nullptr}); }
 
 void AppController::tableviewDoubleClick() {
-    const int row = m_view.selectedRow();
-    if (row < 0) return;
+    const TrackRecord* const record = recordAt(m_view.selectedRow());
+    if (!record) return;
     // A track without a file has no path to play.
-    const auto path = hfsPath(m_tableDataSource.rows.at(row)->location);
+    const auto path = hfsPath(record->location);
     if (path) m_queries.play(*path);
+}
+
+TrackRecord* AppController::recordAt(int row) const {
+    // The view shows the rows of its last reload, and a deletion that was cancelled may still cut the list.
+    if (isDeletingRows()) return nullptr;
+    const std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
+    return row >= 0 && static_cast<std::size_t>(row) < rows.size() ? rows[row] : nullptr;
+}
+
+std::vector<TrackRecord*> AppController::selectedRecords() const {
+    std::vector<TrackRecord*> records;
+    for (const int row : m_view.selectedRows())
+        if (TrackRecord* const record = recordAt(row)) records.push_back(record);
+    return records;
 }
 
 void AppController::playMenuClick() { tableviewDoubleClick(); }
 
 void AppController::showinFinderMenuClick() {
-    const int row = m_view.selectedRow();
-    if (row < 0) return;
-    const std::string path = m_services.files.localPath(m_tableDataSource.rows.at(row)->location.string());
+    const TrackRecord* const record = recordAt(m_view.selectedRow());
+    if (!record) return;
+    const std::string path = m_services.files.localPath(record->location.string());
     const Result<void> shown = m_services.desktop.showInFileManager(path);
     if (!shown) m_services.log.line("Cannot show " + path + ": " + shown.error().message);
 }

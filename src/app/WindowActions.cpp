@@ -97,6 +97,7 @@ void WindowActions::connectMarkDialog() {
 }
 
 void WindowActions::updateMarkPreview() {
+    if (m_controller.isDeletingRows()) return; // the table's reload at its end brings it up to date
     const MarkChoice choice = m_view.markWindow().choice();
     const std::vector<TrackRecord*>& rows = m_controller.tableDataSource().rows;
     m_view.markWindow().setPreview({.marked = m_controller.countThatWouldBeMarked(choice),
