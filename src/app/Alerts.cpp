@@ -16,6 +16,14 @@ QPushButton* addOkButton(QMessageBox& box) {
     return ok;
 }
 
+QMessageBox* openWarning(QWidget* parent, const QString& message, const QString& reason) {
+    auto* box = new AlertBox(QMessageBox::Warning, message, parent);
+    box->setInformativeText(reason);
+    addOkButton(*box);
+    box->open();
+    return box;
+}
+
 } // namespace
 
 QMessageBox* openNoDuplicates(QWidget* parent) {
@@ -40,11 +48,11 @@ QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QStri
 }
 
 QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason) {
-    auto* box = new AlertBox(QMessageBox::Warning, QStringLiteral("Can't open the library."), parent);
-    box->setInformativeText(reason);
-    addOkButton(*box);
-    box->open();
-    return box;
+    return openWarning(parent, QStringLiteral("Can't open the library."), reason);
+}
+
+QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason) {
+    return openWarning(parent, QStringLiteral("Can't write the library."), reason);
 }
 
 } // namespace songsweep::alerts

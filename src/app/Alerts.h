@@ -22,6 +22,9 @@ QMessageBox* openNoDuplicates(QWidget* parent);
 QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QString& reason,
                             std::function<void(int)> ended);
 
+/// "Can't write the library.", with the reason as a second paragraph.
+QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason);
+
 /// "Can't open the library.", with the reason as a second paragraph.
 QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason);
 

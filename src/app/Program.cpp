@@ -18,13 +18,6 @@ std::string absolutePath(const std::string& path) {
     return error ? path : absolute.lexically_normal().string();
 }
 
-EmbeddedScripting::Options scriptingOptions(const ProgramOptions& options, Log& log) {
-    EmbeddedScripting::Options made;
-    made.iTunesVersion = options.iTunesVersion;
-    made.log = &log;
-    return made;
-}
-
 } // namespace
 
 void ChosenLibraryPreferences::choose(const std::string& path) {
@@ -54,7 +47,7 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
     , m_files(m_options.map)
     , m_desktop(nativeDesktop())
     , m_preferences(nativePreferences())
-    , m_scripting({}, *m_desktop, m_files, scriptingOptions(m_options, log))
+    , m_scripting({}, *m_desktop, m_files, scriptingOptions())
     , m_scripts(std::move(systemScripts), m_scripting) {
     if (!m_options.library.empty()) {
         m_preferences.choose(absolutePath(m_options.library));
@@ -63,6 +56,21 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
     // Nothing is pending in a program that has just begun. The system's iTunes, too, has its files looked at
     // here.
     (void)m_scripting.openLibrary(m_preferences.libraryPath());
+}
+
+EmbeddedScripting::Options Program::scriptingOptions() {
+    EmbeddedScripting::Options options;
+    options.iTunesVersion = m_options.iTunesVersion;
+    options.log = &m_log;
+    options.writeFailed = [this](const Error& error) {
+        QMetaObject::invokeMethod(
+            &m_mainThread,
+            [this, reason = error.message] {
+                if (m_writeFailed) m_writeFailed(withLibraryPath(reason));
+            },
+            Qt::QueuedConnection);
+    };
+    return options;
 }
 
 ControllerServices Program::controllerServices() {
@@ -93,8 +101,22 @@ std::string Program::unreachableReason() const {
     if (!m_scripts.usesEmbedded()) return {};
     const std::optional<Error> error = m_scripting.libraryError();
     if (!error) return {};
+    return withLibraryPath(error->message);
+}
+
+std::string Program::withLibraryPath(const std::string& reason) const {
     const std::string path = m_scripting.libraryPath();
-    return path.empty() ? error->message : path + ": " + error->message;
+    return path.empty() ? reason : path + ": " + reason;
+}
+
+void Program::setWriteFailedHandler(std::function<void(const std::string&)> handler) {
+    m_writeFailed = std::move(handler);
+}
+
+Result<void> Program::writeLibrary() {
+    const Result<void> written = m_scripting.flush();
+    if (!written) return Error{written.error().code, withLibraryPath(written.error().message)};
+    return {};
 }
 
 bool Program::visitLocations(const LocationVisitor& visit) {

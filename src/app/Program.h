@@ -11,6 +11,9 @@
 #include "platform/Sleeper.h"
 #include "scripting/NativeAppleScript.h"
 
+#include <QObject>
+
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -71,10 +74,18 @@ class Program {
     /// present one cannot be.
     Result<void> openLibrary(const std::string& path);
 
+    /// `handler` is called on the main thread when the library file cannot be written, once until a write
+    /// succeeds again; with the path and the reason. The deletions are kept, and tried again.
+    void setWriteFailedHandler(std::function<void(const std::string& reason)> handler);
+    /// Writes what is left; the path and the reason where that fails. Once no worker runs.
+    Result<void> writeLibrary();
+
     /// Why the library cannot be read, with its path: for alerts and the console. Empty where it can.
     std::string unreachableReason() const;
 
   private:
+    EmbeddedScripting::Options scriptingOptions();
+    std::string withLibraryPath(const std::string& reason) const;
     bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;
@@ -83,6 +94,8 @@ class Program {
     std::unique_ptr<Desktop> m_desktop;
     ChosenLibraryPreferences m_preferences;
     Sleeper m_sleeper;
+    std::function<void(const std::string& reason)> m_writeFailed;
+    QObject m_mainThread; ///< calls for it are handled on the main thread
     EmbeddedScripting m_scripting;
     ChosenScripts m_scripts;
 };

@@ -7,6 +7,7 @@
 #include "ui/theme/SongsweepStyle.h"
 
 #include <QApplication>
+#include <QMessageBox>
 
 #include <cstdlib>
 
@@ -14,15 +15,17 @@ namespace songsweep {
 
 namespace {
 
+constexpr const char* libraryIsAsBefore = "The library is as it was before.";
+constexpr const char* willTryAgain = "Songsweep tries again every 30 seconds.";
+
 void nameApplication(const std::string& version) {
     QApplication::setApplicationName(QStringLiteral("Songsweep"));
     QApplication::setApplicationVersion(QString::fromStdString(version));
     QApplication::setDesktopFileName(QStringLiteral("songsweep"));
 }
 
-int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& redirectLog) {
-    Program program(std::move(options), log);
-    WindowedView view(log);
+/// Until somebody quits; the workers have returned then.
+int runController(Program& program, WindowedView& view, const std::function<bool()>& redirectLog) {
     AppController controller(program.controllerServices(), view);
     const WindowActions actions(view, controller,
                                 [&program](const std::string& path) { return program.openLibrary(path); });
@@ -31,6 +34,27 @@ int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& re
     view.showMainWindow();
     const int exitCode = QApplication::exec();
     controller.applicationShouldTerminate();
+    return exitCode;
+}
+
+/// Writes what is left, and says so where that fails: the files of those tracks may be in the Trash already.
+void writeLibrary(Program& program, WindowedView& view) {
+    program.setWriteFailedHandler({});
+    const Result<void> written = program.writeLibrary();
+    if (written) return;
+    const QMessageBox* const alert = view.alertCantWrite(written.error().message + "\n" + libraryIsAsBefore);
+    QObject::connect(alert, &QMessageBox::finished, qApp, &QCoreApplication::quit);
+    QApplication::exec();
+}
+
+int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& redirectLog) {
+    Program program(std::move(options), log);
+    WindowedView view(log);
+    program.setWriteFailedHandler([&view](const std::string& reason) {
+        view.alertCantWrite(reason + "\n" + libraryIsAsBefore + " " + willTryAgain);
+    });
+    const int exitCode = runController(program, view, redirectLog);
+    writeLibrary(program, view);
     return exitCode;
 }
 

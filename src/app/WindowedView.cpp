@@ -107,6 +107,11 @@ void WindowedView::alertCantOpen(const std::string& reason) {
     alerts::openCantOpenLibrary(&m_mainWindow, QString::fromStdString(reason));
 }
 
+QMessageBox* WindowedView::alertCantWrite(const std::string& reason) {
+    return alerts::openCantWriteLibrary(m_mainWindow.isVisible() ? &m_mainWindow : nullptr,
+                                        QString::fromStdString(reason));
+}
+
 // The mark dialog.
 
 void WindowedView::fillKinds(const std::vector<std::string>& kinds) { m_markWindow.fillKinds(kinds); }

@@ -11,6 +11,8 @@
 
 #include <functional>
 
+class QMessageBox;
+
 namespace songsweep {
 
 /// The controller's view made of windows: it owns them all and hands every call to the one that it is for.
@@ -38,6 +40,8 @@ class WindowedView final : public ControllerView {
 
     /// Tells that a library cannot be read, and why.
     void alertCantOpen(const std::string& reason);
+    /// That the library file was not written. Gives the alert, which goes away when answered.
+    QMessageBox* alertCantWrite(const std::string& reason);
 
     // ControllerView
     void showMainWindow() override;

@@ -25,6 +25,7 @@ EmbeddedScripting::EmbeddedScripting(std::string libraryPath, Desktop& desktop, 
     , m_schedule(options.writes)
     , m_libraryOptions(options.library)
     , m_log(options.log)
+    , m_writeFailed(std::move(options.writeFailed))
     , m_writer([this](const std::stop_token& stop) { writeWhenDue(stop); }) {}
 
 EmbeddedScripting::~EmbeddedScripting() {
@@ -123,10 +124,16 @@ Result<void> EmbeddedScripting::flushLocked() {
     } else {
         m_schedule.failed(WriteSchedule::Clock::now());
     }
+    tellOfWrite(written, deletions);
+    return written;
+}
+
+void EmbeddedScripting::tellOfWrite(const Result<void>& written, std::size_t deletions) {
     if (m_log != nullptr)
         m_log->line(written ? "Library written : " + std::to_string(deletions) + " tracks deleted"
                             : "Library not written : " + written.error().message);
-    return written;
+    if (!written && !m_toldOfFailure) m_writeFailed(written.error());
+    m_toldOfFailure = !written;
 }
 
 std::size_t EmbeddedScripting::pendingDeletions() const {

@@ -8,6 +8,7 @@
 #include "scripting/InterpretedAppleScript.h"
 
 #include <condition_variable>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -41,6 +42,9 @@ class EmbeddedScripting final : public AppleScript {
         WriteSchedule::Times writes;
         LibraryDocument::Options library;
         Log* log = nullptr; ///< told of every write and of every failed one
+        /// Told of the first failed write after one that succeeded. Comes on any thread, and must not call
+        /// back.
+        std::function<void(const Error&)> writeFailed = [](const Error&) {};
     };
 
     EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files)
@@ -83,6 +87,7 @@ class EmbeddedScripting final : public AppleScript {
   private:
     Result<LibraryDocument*> currentDocument();
     Result<void> flushLocked();
+    void tellOfWrite(const Result<void>& written, std::size_t deletions);
     void noteDeletions(std::size_t before);
     void writeWhenDue(const std::stop_token& stop);
 
@@ -93,6 +98,8 @@ class EmbeddedScripting final : public AppleScript {
     WriteSchedule m_schedule;
     LibraryDocument::Options m_libraryOptions;
     Log* m_log;
+    std::function<void(const Error&)> m_writeFailed;
+    bool m_toldOfFailure = false;
     std::condition_variable_any m_scheduleChanged;
     std::jthread m_writer; // last, so that it ends first
 };

@@ -80,6 +80,16 @@ TEST_F(Alerts, AnswerWith1001ForHelp) {
     EXPECT_EQ(m_returnCode, 1001);
 }
 
+TEST_F(Alerts, TellThatTheLibraryCannotBeWritten) {
+    QMessageBox& box =
+        *alerts::openCantWriteLibrary(nullptr, QStringLiteral("/music/Library.xml: no space left"));
+    EXPECT_EQ(box.text(), QStringLiteral("Can't write the library."));
+    EXPECT_EQ(box.informativeText(), QStringLiteral("/music/Library.xml: no space left"));
+    EXPECT_EQ(test::filledButtons(box), QStringList(QStringLiteral("OK")));
+    EXPECT_TRUE(test::clippedControls(box).isEmpty()) << test::clippedControls(box).join(u' ').toStdString();
+    box.close();
+}
+
 TEST_F(Alerts, GiveTheReasonWhereThereIsOne) {
     QMessageBox& box = openCantAccess(QStringLiteral("The library file cannot be read"));
     EXPECT_EQ(box.informativeText(), QStringLiteral("The library file cannot be read"));

@@ -3,12 +3,16 @@
 #include "app/Program.h"
 
 #include "scripting/AppleScript.h"
+#include "support/EventLoop.h"
 #include "support/RecordingAppleScript.h"
 #include "support/RecordingLog.h"
+#include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace songsweep::test {
@@ -16,6 +20,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::StartsWith;
 
 constexpr const char* versionText = "tell application \"iTunes\" \nget version \nend tell \n";
 
@@ -43,6 +48,11 @@ class ProgramTest : public ::testing::Test {
         return answer ? answer.value().stringValue().value_or("none") : answer.error().message;
     }
     static bool usesEmbedded(Program& program) { return program.controllerServices().embeddedLibrary(); }
+
+    std::string fiveTracks() const {
+        std::ifstream file(library, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
 
     const std::string library = std::string(SONGSWEEP_TEST_DATA) + "/library/five-tracks.xml";
     RecordingLog log;
@@ -87,7 +97,27 @@ TEST_F(ProgramTest, AnUnreadableFileIsNoReasonWhyTheSystemsITunesIsUnreachable) 
     (void)program.scripting().readLibrary();
     EXPECT_EQ(program.unreachableReason(), "");
     ASSERT_FALSE(program.openLibrary("/nowhere/Library.xml"));
-    EXPECT_THAT(program.unreachableReason(), ::testing::StartsWith("/nowhere/Library.xml: "));
+    EXPECT_THAT(program.unreachableReason(), StartsWith("/nowhere/Library.xml: "));
+}
+
+TEST_F(ProgramTest, TellsOnceOnTheMainThreadThatTheLibraryCannotBeWritten) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("Library.xml", fiveTracks());
+    Program& program = start(file, nullptr);
+    std::vector<std::string> reasons;
+    program.setWriteFailedHandler([&](const std::string& reason) { reasons.push_back(reason); });
+    ASSERT_TRUE(program.scripting().run("tell application \"iTunes\" to delete track 1 of playlist 1"));
+    ASSERT_TRUE(std::filesystem::remove(file));
+    EXPECT_FALSE(program.writeLibrary());
+    EXPECT_FALSE(program.writeLibrary());
+    EXPECT_THAT(reasons, IsEmpty());
+    handleWaitingEvents();
+    EXPECT_THAT(reasons, ElementsAre(StartsWith(file + ": ")));
+
+    folder.write("Library.xml", fiveTracks());
+    EXPECT_TRUE(program.writeLibrary());
+    handleWaitingEvents();
+    EXPECT_EQ(reasons.size(), 1U);
 }
 
 } // namespace
