@@ -215,6 +215,14 @@ TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
     EXPECT_EQ(alert(), nullptr);
 }
 
+TEST_F(WindowActionsTest, AnotherLibraryClosesTheParametersDialogOfTheOld) {
+    press("searchButton");
+    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    EXPECT_FALSE(view.paramWindow().isVisible());
+    press("searchButton");
+    EXPECT_EQ(view.paramWindow().parameters().playlist, "Library");
+}
+
 TEST_F(WindowActionsTest, ALibraryThatCannotBeReadSaysSo) {
     Q_EMIT window().openLibrary(QString::fromStdString(folder.write("broken.xml", "no library")));
     ASSERT_NE(alert(), nullptr);
