@@ -174,7 +174,8 @@ class AppController {
     void startAddProc();
     void emptyResults();
     void showSearching();
-    bool mayChangeMarks() const { return m_deletion == Deletion::none; }
+    /// Marks and order stand still while a worker runs: the groups of a search are whole only at its end.
+    bool mayChangeMarks() const { return !isDeleting() && !isWorking(); }
     void setAllMarks(bool value);
     /// Null for a row that is not, or no longer, there.
     TrackRecord* recordAt(int row) const;

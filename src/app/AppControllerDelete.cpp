@@ -16,8 +16,8 @@ void AppController::deleteButtonClick() {
 }
 
 void AppController::deleteMarkedMenuClick() {
-    if (!isDeleting()) setStatusLabel();
-    if (m_deleteEnabled && !isDeleting() && !isWorking()) {
+    if (mayChangeMarks()) setStatusLabel();
+    if (m_deleteEnabled && mayChangeMarks()) {
         deleteButtonClick();
     } else {
         m_view.beep();

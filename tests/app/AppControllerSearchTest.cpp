@@ -174,6 +174,33 @@ TEST_F(AppControllerSearchTest, AfterAFailedLibraryFileTheBarGoesOnFrom50AndGrou
     EXPECT_THAT(log.lines(), Contains("Handler : xmlErrorParsing"));
 }
 
+TEST_F(AppControllerSearchTest, MarksAndStatusStandStillUntilTheWorkersHaveReturned) {
+    iTunes.version = "9.0";
+    addTracks(4);
+    const auto tryToMark = [this] {
+        view.selection = {0};
+        view.calls.clear();
+        controller->markMenuClick(0);
+        controller->markMenuClick(2);
+        controller->markOkButtonClick({.markType = 0, .exceptOne = true, .text = {}});
+        controller->setObjectValue(true, Column::checkbox, 0);
+        controller->tableviewSpacebar();
+        controller->didClickTableColumn(Column::name);
+    };
+    controller->paramOkButtonClick(sameNameAndArtist());
+    addRows({1, 1});
+    tryToMark();
+    EXPECT_THAT(view.calls, ElementsAre());
+    EXPECT_EQ(controller->getCheckedCount(), 0);
+    controller->deleteMarkedMenuClick();
+    EXPECT_THAT(view.calls, ElementsAre("beep"));
+    controller->cancelformButtonClick();
+    tryToMark();
+    EXPECT_THAT(view.calls, ElementsAre());
+    EXPECT_EQ(controller->getCheckedCount(), 0);
+    runUntilIdle();
+}
+
 TEST_F(AppControllerSearchTest, ACancelledSearchEndsInTheEmptyState) {
     iTunes.version = "9.0";
     addTracks(200);
