@@ -8,6 +8,7 @@
 //
 //   find-benchmark [FOLDER]       libraries are made in FOLDER (about 1.5 GB), or in a temporary one
 #include "FindMeasurement.h"
+#include "platform/Memory.h"
 #include "sample-library/BulkLibrary.h"
 
 #include <QCoreApplication>
@@ -183,6 +184,7 @@ int measure(const QString& what, const std::string& file, int tracks) {
 
 int main(int argumentCount, char** arguments) {
     using namespace songsweep::bench;
+    songsweep::returnLargeBlocksAtOnce();
     const QCoreApplication application(argumentCount, arguments);
     const QStringList given = QCoreApplication::arguments();
     if (given.size() == 4) return measure(given[1], given[2].toStdString(), given[3].toInt());

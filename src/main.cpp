@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/RunWindow.h"
 #include "cli/RunCommand.h"
+#include "platform/Memory.h"
 
 #include <variant>
 
@@ -18,6 +19,7 @@ ProgramOptions programOptions(const cli::LibraryOptions& options) {
 } // namespace
 
 int main(int argumentCount, char** arguments) {
+    returnLargeBlocksAtOnce();
     const auto parsed = cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION);
     if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);
     const auto& command = std::get<cli::Command>(parsed);
