@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/DeletePrediction.h"
 
-#include "delete/DeleteTexts.h"
+#include "delete/Obstacles.h"
 
 namespace songsweep {
 
@@ -11,14 +11,26 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
     outcome.file = DeleteOutcome::File::kept;
     if (!plan.files.contains(&record)) {
         outcome.file = DeleteOutcome::File::missing;
+    } else if (outcome.track == DeleteOutcome::Track::failed) {
+        return; // It stays with its track, for the track's reason.
     } else if (plan.shared.contains(&record)) {
         outcome.reason = reasonToLeave(plan);
-    } else if (!canNameFile(record.location)) {
-        outcome.reason = fileCannotBeNamed;
+    } else if (const char* const obstacle = fileObstacle(record.location)) {
+        outcome.reason = obstacle;
         outcome.dealtWith = false;
     } else {
         outcome.file = DeleteOutcome::File::trashed;
     }
+}
+
+DeleteOutcome predictedOutcome(const TrackRecord& record, bool isDelFile, const DeletePlan& plan) {
+    DeleteOutcome outcome = outcomeOf(record);
+    const char* const obstacle = trackObstacle(record.pid);
+    outcome.track = obstacle ? DeleteOutcome::Track::failed : DeleteOutcome::Track::deleted;
+    outcome.dealtWith = !obstacle;
+    if (obstacle) outcome.reason = obstacle;
+    if (isDelFile) predictFile(record, plan, outcome);
+    return outcome;
 }
 
 } // namespace
@@ -26,12 +38,7 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
 DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFile, const DeletePlan& plan) {
     DeleteReport report;
     for (const TrackRecord* const record : rows) {
-        if (!record->checkbox) continue;
-        DeleteOutcome outcome = outcomeOf(*record);
-        outcome.track = DeleteOutcome::Track::deleted;
-        outcome.dealtWith = true;
-        if (isDelFile) predictFile(*record, plan, outcome);
-        report.outcomes.push_back(std::move(outcome));
+        if (record->checkbox) report.outcomes.push_back(predictedOutcome(*record, isDelFile, plan));
     }
     return report;
 }

@@ -2,6 +2,7 @@
 #include "delete/DeleteProc.h"
 
 #include "delete/DeleteTexts.h"
+#include "delete/Obstacles.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
@@ -107,19 +108,18 @@ void DeleteProc::deleteMarked(TrackRecord& record) {
     m_report->outcomes.push_back(std::move(outcome));
 }
 
+/// iTunes calls it no error when nothing has the ID, so that a track without one would count as deleted.
 void DeleteProc::deleteTrack(const TrackRecord& record, DeleteOutcome& outcome) {
+    const Result<void> deleted =
+        canStandInText(record.pid) ? run(deleteTexts::deleteTrack(record.pid)) : Result<void>();
+    const char* const obstacle = trackObstacle(record.pid);
+    if (deleted && !obstacle) {
+        outcome.track = DeleteOutcome::Track::deleted;
+        outcome.dealtWith = true;
+        return;
+    }
     outcome.track = DeleteOutcome::Track::failed;
-    if (!canStandInText(record.pid)) {
-        addReason(outcome, "its persistent ID cannot be told to iTunes");
-        return;
-    }
-    const Result<void> deleted = run(deleteTexts::deleteTrack(record.pid));
-    if (!deleted) {
-        addReason(outcome, deleted.error().message);
-        return;
-    }
-    outcome.track = DeleteOutcome::Track::deleted;
-    outcome.dealtWith = true;
+    addReason(outcome, obstacle ? obstacle : deleted.error().message);
 }
 
 /// Whatever goes wrong with one file does not end the deletion of the others.
@@ -128,6 +128,8 @@ void DeleteProc::deleteFile(const TrackRecord& record, DeleteOutcome& outcome) {
         if (!hasFile(record)) {
             const bool trashedBefore = m_trashed.contains(fileOf(record));
             outcome.file = trashedBefore ? DeleteOutcome::File::trashed : DeleteOutcome::File::missing;
+        } else if (trackObstacle(record.pid)) {
+            outcome.file = DeleteOutcome::File::kept; // It stays with its track, for the track's reason.
         } else if (m_plan.shared.contains(&record)) {
             outcome.file = DeleteOutcome::File::kept;
             addReason(outcome, reasonToLeave(m_plan));
@@ -140,12 +142,12 @@ void DeleteProc::deleteFile(const TrackRecord& record, DeleteOutcome& outcome) {
 }
 
 void DeleteProc::trash(const TrackRecord& record, DeleteOutcome& outcome) {
-    const auto hfs = nameableHfsPath(record.location);
-    if (!hfs) {
-        keepFile(outcome, fileCannotBeNamed);
+    if (const char* const obstacle = fileObstacle(record.location)) {
+        keepFile(outcome, obstacle);
         return;
     }
-    const Result<void> trashed = runCatching(deleteTexts::deleteFile(*hfs));
+    const std::string hfs = nameableHfsPath(record.location).value();
+    const Result<void> trashed = runCatching(deleteTexts::deleteFile(hfs));
     if (hasFile(record)) {
         keepFile(outcome, trashed ? "it is still there" : trashed.error().message);
         return;

@@ -11,7 +11,6 @@ namespace songsweep {
 /// Why a file is left though it was to be trashed.
 inline constexpr const char* fileIsShared = "a track that stays uses it too";
 inline constexpr const char* libraryIsUnknown = "other tracks that use it could not be looked for";
-inline constexpr const char* fileCannotBeNamed = "its name cannot be told to Finder";
 
 /// What became of one marked track.
 struct DeleteOutcome {

@@ -158,6 +158,28 @@ TEST_F(DeleteProcTest, anIdThatCouldEndItsLiteralIsNotSent) {
     EXPECT_FALSE(m_report.allDealtWith());
 }
 
+TEST_F(DeleteProcTest, aTrackWhoseIdIsNotSentKeepsItsFile) {
+    addFile("AA\"1", true, "a.mp3");
+    run(withFiles);
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_THAT(outcomes(),
+                ElementsAre("AA\"1: failed, file kept: its persistent ID cannot be told to iTunes"));
+}
+
+TEST_F(DeleteProcTest, aTrackWithoutAnIdStaysAndSoDoesItsFile) {
+    addFile("0", true, "a.mp3");
+    add(1, "", true);
+    run(withFiles);
+    EXPECT_THAT(journal("track"), ElementsAre("track 0", "track "));
+    EXPECT_THAT(journal("event deleteAddCount"), testing::SizeIs(2));
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("0: failed, file kept: it has no persistent ID",
+                                        ": failed, file missing: it has no persistent ID"));
+    EXPECT_FALSE(m_report.allDealtWith());
+    EXPECT_THAT(pidsLeft(), IsEmpty());
+}
+
 TEST_F(DeleteProcTest, aCancelInTheMiddleStopsBeforeTheNextRow) {
     add(1, "A", true);
     add(1, "B", true);

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeleteFixture.h"
+#include "delete/DeletePrediction.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+using testing::IsEmpty;
+
+class DeletePredictionTest : public test::DeleteFixture {
+  protected:
+    /// Predicts a deletion with files, then runs it: both are to come to the same.
+    void expectTheSameInEarnest(const DeletePlan& plan) {
+        const DeleteReport predicted = predictedReport(m_list.rows, true, plan);
+        EXPECT_THAT(wholeJournal(), IsEmpty());
+        run(true, plan);
+        ASSERT_EQ(predicted.outcomes.size(), m_report.outcomes.size());
+        for (std::size_t n = 0; n < predicted.outcomes.size(); ++n) {
+            EXPECT_EQ(outcomeLine(predicted.outcomes[n]), outcomeLine(m_report.outcomes[n]));
+            EXPECT_EQ(predicted.outcomes[n].dealtWith, m_report.outcomes[n].dealtWith) << n;
+        }
+    }
+};
+
+TEST_F(DeletePredictionTest, tellsWhatBecomesOfTheFilesInEarnest) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true, path("a.mp3"));
+    addFile("C", true, "c.mp3");
+    add(1, "D", false, path("c.mp3"));
+    addFile("E", true, "say \"hi\".mp3");
+    add(1, "F", true, path("gone.mp3"));
+    expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
+}
+
+TEST_F(DeletePredictionTest, tellsWhichTracksStayInEarnest) {
+    addFile("AA\"1", true, "a.mp3");
+    addFile("0", true, "b.mp3");
+    add(1, "", true, path("gone.mp3"));
+    expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
+}
+
+} // namespace
+} // namespace songsweep
