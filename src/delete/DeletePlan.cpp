@@ -4,8 +4,8 @@
 #include "delete/DeleteReport.h"
 #include "delete/DeleteTexts.h"
 #include "platform/Files.h"
+#include "platform/LocalName.h"
 
-#include <filesystem>
 #include <map>
 #include <set>
 #include <unordered_map>
@@ -19,12 +19,6 @@ namespace {
 using FileKey = std::pair<std::uint64_t, std::uint64_t>;
 
 FileKey keyOf(const FileAttributes& attributes) { return {attributes.device, attributes.inode}; }
-
-std::string canonicalPath(const std::string& localPath) {
-    std::error_code error;
-    const std::filesystem::path canonical = std::filesystem::canonical(localPath, error);
-    return error ? localPath : canonical.string();
-}
 
 using Tracks = std::vector<const TrackRecord*>;
 

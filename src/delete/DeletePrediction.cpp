@@ -8,18 +8,18 @@ namespace songsweep {
 namespace {
 
 void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome) {
-    outcome.file = DeleteOutcome::File::kept;
+    using File = DeleteOutcome::File;
     if (!plan.files.contains(&record)) {
-        outcome.file = DeleteOutcome::File::missing;
-    } else if (outcome.track == DeleteOutcome::Track::failed) {
-        return; // It stays with its track, for the track's reason.
+        outcome.file = File::missing;
+    } else if (trackObstacle(record.pid)) {
+        outcome.file = File::kept; // It stays with its track, for the track's reason.
     } else if (plan.shared.contains(&record)) {
-        outcome.reason = reasonToLeave(plan);
+        outcome.file = File::kept;
+        outcome.addReason(reasonToLeave(plan));
     } else if (const char* const obstacle = fileObstacle(record.location)) {
-        outcome.reason = obstacle;
-        outcome.dealtWith = false;
+        outcome.keepFile(obstacle);
     } else {
-        outcome.file = DeleteOutcome::File::trashed;
+        outcome.file = File::trashed;
     }
 }
 
@@ -28,7 +28,7 @@ DeleteOutcome predictedOutcome(const TrackRecord& record, bool isDelFile, const 
     const char* const obstacle = trackObstacle(record.pid);
     outcome.track = obstacle ? DeleteOutcome::Track::failed : DeleteOutcome::Track::deleted;
     outcome.dealtWith = !obstacle;
-    if (obstacle) outcome.reason = obstacle;
+    if (obstacle) outcome.addReason(obstacle);
     if (isDelFile) predictFile(record, plan, outcome);
     return outcome;
 }

@@ -4,28 +4,12 @@
 #include "delete/DeleteTexts.h"
 #include "delete/Obstacles.h"
 #include "operations/NotificationCenter.h"
-#include "platform/Files.h"
 #include "platform/Log.h"
 #include "scripting/AppleScript.h"
 
 #include <exception>
 
 namespace songsweep {
-
-namespace {
-
-void addReason(DeleteOutcome& outcome, const std::string& reason) {
-    if (!outcome.reason.empty()) outcome.reason += "; ";
-    outcome.reason += reason;
-}
-
-void keepFile(DeleteOutcome& outcome, const std::string& reason) {
-    outcome.file = DeleteOutcome::File::kept;
-    outcome.dealtWith = false;
-    addReason(outcome, reason);
-}
-
-} // namespace
 
 /// Takes rows out of a list front to back: rows that stay move down over those that went, and the list is cut
 /// to its new length when the gap is closed, however the loop ends.
@@ -55,7 +39,7 @@ DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices servi
     : m_list(list)
     , m_isDelFile(isDelFile)
     , m_services(services)
-    , m_plan(std::move(plan))
+    , m_fileDeletion(services.scripts, services.files, std::move(plan))
     , m_report(std::move(report)) {}
 
 void DeleteProc::main() {
@@ -104,7 +88,7 @@ bool DeleteProc::deleteRows() {
 void DeleteProc::deleteMarked(TrackRecord& record) {
     DeleteOutcome outcome = outcomeOf(record);
     deleteTrack(record, outcome);
-    if (m_isDelFile) deleteFile(record, outcome);
+    if (m_isDelFile) m_fileDeletion.deleteFileOf(record, outcome);
     m_report->outcomes.push_back(std::move(outcome));
 }
 
@@ -119,60 +103,7 @@ void DeleteProc::deleteTrack(const TrackRecord& record, DeleteOutcome& outcome) 
         return;
     }
     outcome.track = DeleteOutcome::Track::failed;
-    addReason(outcome, obstacle ? obstacle : deleted.error().message);
-}
-
-/// Whatever goes wrong with one file does not end the deletion of the others.
-void DeleteProc::deleteFile(const TrackRecord& record, DeleteOutcome& outcome) {
-    try {
-        if (!hasFile(record)) {
-            const bool trashedBefore = m_trashed.contains(fileOf(record));
-            outcome.file = trashedBefore ? DeleteOutcome::File::trashed : DeleteOutcome::File::missing;
-        } else if (trackObstacle(record.pid)) {
-            outcome.file = DeleteOutcome::File::kept; // It stays with its track, for the track's reason.
-        } else if (m_plan.shared.contains(&record)) {
-            outcome.file = DeleteOutcome::File::kept;
-            addReason(outcome, reasonToLeave(m_plan));
-        } else {
-            trash(record, outcome);
-        }
-    } catch (const std::exception& exception) {
-        keepFile(outcome, exception.what());
-    }
-}
-
-void DeleteProc::trash(const TrackRecord& record, DeleteOutcome& outcome) {
-    if (const char* const obstacle = fileObstacle(record.location)) {
-        keepFile(outcome, obstacle);
-        return;
-    }
-    const std::string hfs = nameableHfsPath(record.location).value();
-    const Result<void> trashed = runCatching(deleteTexts::deleteFile(hfs));
-    if (hasFile(record)) {
-        keepFile(outcome, trashed ? "it is still there" : trashed.error().message);
-        return;
-    }
-    outcome.file = DeleteOutcome::File::trashed;
-    m_trashed.insert(fileOf(record));
-}
-
-/// A location that is no path, as that of a track without a file, names nothing.
-bool DeleteProc::hasFile(const TrackRecord& record) const {
-    return isPath(record.location) && m_services.files.exists(record.location.c_str());
-}
-
-/// What tracks that share a file have in common.
-std::string DeleteProc::fileOf(const TrackRecord& record) const {
-    const auto known = m_plan.files.find(&record);
-    return known != m_plan.files.end() ? known->second : record.location.string();
-}
-
-Result<void> DeleteProc::runCatching(const std::string& text) {
-    try {
-        return run(text);
-    } catch (const std::exception& exception) {
-        return Error{Error::Code::failed, exception.what()};
-    }
+    outcome.addReason(obstacle ? obstacle : deleted.error().message);
 }
 
 Result<void> DeleteProc::run(const std::string& text) {

@@ -3,6 +3,7 @@
 
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
+#include "delete/FileDeletion.h"
 #include "library/DisplayedList.h"
 #include "operations/Operation.h"
 #include "platform/Result.h"
@@ -11,7 +12,6 @@
 #include <exception>
 #include <memory>
 #include <string>
-#include <unordered_set>
 
 namespace songsweep {
 
@@ -36,8 +36,8 @@ struct DeleteServices {
 /// stands in the report, and in the log after the final event.
 class DeleteProc final : public Operation {
   public:
-    /// `list` is the controller's own and outlives the worker. Files of tracks that the plan calls shared are
-    /// left. The report is filled before the final event.
+    /// `list` is the controller's own and outlives the worker. Files that the plan does not know, and those
+    /// that it calls shared, are left. The report is filled before the final event.
     DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices services, DeletePlan plan = {},
                std::shared_ptr<DeleteReport> report = std::make_shared<DeleteReport>());
 
@@ -50,21 +50,15 @@ class DeleteProc final : public Operation {
     void unmute(std::exception_ptr& failure);
     void deleteMarked(TrackRecord& record);
     void deleteTrack(const TrackRecord& record, DeleteOutcome& outcome);
-    void deleteFile(const TrackRecord& record, DeleteOutcome& outcome);
-    void trash(const TrackRecord& record, DeleteOutcome& outcome);
-    bool hasFile(const TrackRecord& record) const;
-    std::string fileOf(const TrackRecord& record) const;
     Result<void> run(const std::string& text);
-    Result<void> runCatching(const std::string& text);
     void noteNotAttempted();
     void postEnd();
 
     DisplayedList& m_list;
     bool m_isDelFile;
     DeleteServices m_services;
-    DeletePlan m_plan;
+    FileDeletion m_fileDeletion;
     std::shared_ptr<DeleteReport> m_report;
-    std::unordered_set<std::string> m_trashed; ///< canonical paths
 };
 
 } // namespace songsweep

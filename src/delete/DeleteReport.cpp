@@ -31,6 +31,17 @@ std::string fileWord(DeleteOutcome::File file) {
     return {};
 }
 
+void DeleteOutcome::addReason(const std::string& why) {
+    if (!reason.empty()) reason += "; ";
+    reason += why;
+}
+
+void DeleteOutcome::keepFile(const std::string& why) {
+    file = File::kept;
+    dealtWith = false;
+    addReason(why);
+}
+
 bool DeleteReport::allDealtWith() const {
     return std::all_of(outcomes.begin(), outcomes.end(),
                        [](const DeleteOutcome& outcome) { return outcome.dealtWith; });

@@ -28,6 +28,10 @@ struct DeleteOutcome {
     /// Whether what was asked for was done. A file that was left because a track that stays uses it counts as
     /// dealt with: that is what was asked for.
     bool dealtWith = false;
+
+    void addReason(const std::string& why);
+    /// The file stays though it was to go.
+    void keepFile(const std::string& why);
 };
 
 /// One outcome for each track that was marked when a deletion began, in the order of the rows. A value.

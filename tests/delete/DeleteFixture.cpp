@@ -129,7 +129,7 @@ Result<Descriptor> DeleteFixture::answer(std::string_view text) {
 }
 
 void DeleteFixture::moveToTrash(const std::string& file) const {
-    std::filesystem::rename(file, path("Trash/" + std::to_string(trashedCount())));
+    std::filesystem::rename(m_files.localPath(file), path("Trash/" + std::to_string(trashedCount())));
 }
 
 } // namespace songsweep::test

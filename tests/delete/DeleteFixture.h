@@ -44,8 +44,10 @@ class DeleteFixture : public testing::Test {
     /// A row of group 1 whose file is made, with the name in the folder.
     TrackRecord& addFile(const char* pid, bool marked, const std::string& name);
 
-    /// Runs a deletion and leaves its report; what it throws comes out.
-    void run(bool deleteFiles, DeletePlan plan = {});
+    /// Runs a deletion by a plan of the rows, or another one, and leaves its report; what it throws comes
+    /// out.
+    void run(bool deleteFiles) { run(deleteFiles, makeDeletePlan(m_list.rows, m_files, {})); }
+    void run(bool deleteFiles, DeletePlan plan);
 
     /// Called with each entry of the journal but log lines; may throw, or cancel the operation.
     void setHook(Hook hook) { m_hook = std::move(hook); }

@@ -270,7 +270,7 @@ TEST_F(DeleteProcTest, anExceptionWhileUnmutingStillEnds) {
 TEST_F(DeleteProcTest, copiesThatShareAFileAreTrashedOnceAndBothDealtWith) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("a.mp3"));
-    run(withFiles, makeDeletePlan(m_list.rows, m_files, {}));
+    run(withFiles);
     EXPECT_THAT(journal("file"), ElementsAre(fileEntry("a.mp3")));
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
     EXPECT_TRUE(m_report.allDealtWith());
@@ -280,15 +280,53 @@ TEST_F(DeleteProcTest, copiesThatShareAFileByALinkedFolderAreTrashedOnce) {
     addFile("A", true, "real/a.mp3");
     std::filesystem::create_directory_symlink(path("real"), path("linked"));
     add(1, "B", true, path("linked/a.mp3"));
-    run(withFiles, makeDeletePlan(m_list.rows, m_files, {}));
+    run(withFiles);
     EXPECT_THAT(journal("file"), ElementsAre(fileEntry("real/a.mp3")));
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+}
+
+TEST_F(DeleteProcTest, theOtherFormOfANameIsAnotherFile) {
+    const std::string composed = "\u00e9.mp3";
+    const std::string decomposed = "e\u0301.mp3";
+    addFile("A", true, decomposed);
+    add(1, "B", true, path(decomposed));
+    addFile("C", false, composed);
+    run(withFiles);
+    EXPECT_THAT(journal("file"), ElementsAre(fileEntry(decomposed)));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_TRUE(exists(composed));
+}
+
+TEST_F(DeleteProcTest, aFileThatIsNotTheOneOfThePlanStays) {
+    addFile("A", true, "linked/a.mp3");
+    add(1, "B", true, path("new.mp3"));
+    const DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
+    std::filesystem::rename(path("linked"), path("old"));
+    m_folder.write("other/a.mp3", "other");
+    std::filesystem::create_directory_symlink(path("other"), path("linked"));
+    m_folder.write("new.mp3", "new");
+    run(withFiles, plan);
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: it is not the file that was looked at",
+                                        "B: deleted, file kept: it is not the file that was looked at"));
+    EXPECT_FALSE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aLinkAndTheFileThatItLeadsToBothGo) {
+    addFile("A", true, "a.mp3");
+    std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
+    TrackRecord& link = add(1, "B", true, path("link.mp3"));
+    std::swap(m_list.rows[0], m_list.rows[1]);
+    ASSERT_EQ(m_list.rows[0], &link);
+    run(withFiles);
+    EXPECT_FALSE(exists("a.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("B: deleted, file trashed", "A: deleted, file trashed"));
 }
 
 TEST_F(DeleteProcTest, aFileThatATrackUsesThatStaysIsLeft) {
     addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
-    run(withFiles, makeDeletePlan(m_list.rows, m_files, {}));
+    run(withFiles);
     EXPECT_TRUE(exists("a.mp3"));
     EXPECT_THAT(journal("file"), IsEmpty());
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: a track that stays uses it too"));

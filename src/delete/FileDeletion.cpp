@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "delete/FileDeletion.h"
+
+#include "delete/DeleteTexts.h"
+#include "delete/Obstacles.h"
+#include "platform/Files.h"
+#include "platform/LocalName.h"
+#include "scripting/AppleScript.h"
+
+#include <exception>
+
+namespace songsweep {
+
+void FileDeletion::deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome) {
+    try {
+        decide(record, outcome);
+    } catch (const std::exception& exception) {
+        outcome.keepFile(exception.what());
+    }
+}
+
+void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome) {
+    const std::string file = fileOf(record);
+    const std::string planned = plannedFileOf(record);
+    if (file != planned && m_trashed.contains(planned)) {
+        outcome.file = DeleteOutcome::File::trashed;
+    } else if (file.empty()) {
+        outcome.file = DeleteOutcome::File::missing;
+    } else if (trackObstacle(record.pid)) {
+        outcome.file = DeleteOutcome::File::kept; // It stays with its track, for the track's reason.
+    } else if (m_plan.shared.contains(&record)) {
+        outcome.file = DeleteOutcome::File::kept;
+        outcome.addReason(reasonToLeave(m_plan));
+    } else if (file != planned) {
+        outcome.keepFile("it is not the file that was looked at");
+    } else {
+        trash(record, file, outcome);
+    }
+}
+
+void FileDeletion::trash(const TrackRecord& record, const std::string& file, DeleteOutcome& outcome) {
+    if (const char* const obstacle = fileObstacle(record.location)) {
+        outcome.keepFile(obstacle);
+        return;
+    }
+    const std::string name = m_files.localPath(record.location.string());
+    const std::string hfs = nameableHfsPath(record.location).value();
+    const Result<void> trashed = tellFinder(deleteTexts::deleteFile(hfs));
+    // The location itself may lead to another file now.
+    if (isNameTaken(name)) {
+        outcome.keepFile(trashed ? "it is still there" : trashed.error().message);
+        return;
+    }
+    outcome.file = DeleteOutcome::File::trashed;
+    if (!isNameTaken(file)) m_trashed.insert(file); // Of a link, the file is still there.
+}
+
+/// The file that the location leads to at this moment, "" where it leads to none. A location that is no path,
+/// as that of a track without a file, names nothing.
+std::string FileDeletion::fileOf(const TrackRecord& record) const {
+    const std::string path = record.location.string();
+    return isPath(path) && m_files.exists(path) ? canonicalPath(m_files.localPath(path)) : std::string();
+}
+
+/// What tracks that share a file have in common; "" where there was no file.
+std::string FileDeletion::plannedFileOf(const TrackRecord& record) const {
+    const auto planned = m_plan.files.find(&record);
+    return planned == m_plan.files.end() ? std::string() : planned->second;
+}
+
+/// What is thrown meanwhile is the reason, if the file stays.
+Result<void> FileDeletion::tellFinder(const std::string& text) {
+    try {
+        const Result<Descriptor> result = m_scripts.executeAndReturnError(text);
+        return result ? Result<void>() : Result<void>(result.error());
+    } catch (const std::exception& exception) {
+        return Error{Error::Code::failed, exception.what()};
+    }
+}
+
+} // namespace songsweep
