@@ -116,6 +116,7 @@ void AppController::cancelformButtonClick() {
 void AppController::cancelButtonClick() {
     m_userCancelled = true;
     m_queue.cancelAllOperations();
+    if (m_deletion == Deletion::starting) abandonDeletion();
     closeProgressWindow(ProgressBar::progress);
 }
 

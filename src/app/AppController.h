@@ -137,7 +137,8 @@ class AppController {
     int listedCount() const { return m_listedCount; }
     /// Tracks that iTunes reports for the library.
     std::int32_t totalCount() const { return m_libraryCount; }
-    /// Called from the event loop each time the last worker has returned.
+    /// Called from the event loop each time the last worker has returned, and when a deletion was cancelled
+    /// before it had one.
     void setIdleHandler(std::function<void()> handler);
 
   private:
@@ -174,6 +175,7 @@ class AppController {
     void startAddProc();
     void emptyResults();
     void showSearching();
+    void abandonDeletion();
     /// Marks and order stand still while a worker runs: the groups of a search are whole only at its end.
     bool mayChangeMarks() const { return !isDeleting() && !isWorking(); }
     void setAllMarks(bool value);

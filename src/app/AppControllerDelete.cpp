@@ -40,6 +40,14 @@ void AppController::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles
     m_myTimer.start();
 }
 
+/// The delay is over without a worker, whose end would tell that all is done.
+void AppController::abandonDeletion() {
+    m_myTimer.stop();
+    m_deletion = Deletion::none;
+    m_deletePlan = {};
+    QTimer::singleShot(0, &m_myTimer, [this] { reportIdle(); });
+}
+
 void AppController::beginDelete() {
     m_myTimer.stop();
     m_deletion = Deletion::running;

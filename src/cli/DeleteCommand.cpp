@@ -5,6 +5,8 @@
 #include "cli/Output.h"
 #include "delete/DeletePrediction.h"
 
+#include <algorithm>
+
 namespace songsweep::cli {
 
 namespace {
@@ -31,16 +33,31 @@ ExitCode predict(LibrarySearch& search, const DeleteOptions& options, Output& ou
         .value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);
 }
 
+/// Tracks of a deletion that was cancelled before it began are not attempted.
+DeleteReport reportOf(const AppController& controller) {
+    if (const DeleteReport* const report = controller.lastDeleteReport()) return *report;
+    DeleteReport report;
+    for (const TrackRecord* const record : controller.tableDataSource().rows)
+        if (record->checkbox) report.outcomes.push_back(outcomeOf(*record));
+    return report;
+}
+
+/// Ctrl-C that comes after the last track cancels nothing.
+bool allAttempted(const DeleteReport& report) {
+    return std::none_of(report.outcomes.begin(), report.outcomes.end(), [](const DeleteOutcome& outcome) {
+        return outcome.track == DeleteOutcome::Track::notAttempted;
+    });
+}
+
 ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options, Output& output) {
     const bool completed = search.deleteMarked(options.files, !options.sharedFiles);
     const Result<void> written = search.program().scripting().flush();
-    const DeleteReport nothing;
-    const DeleteReport* const report = search.controller().lastDeleteReport();
-    const auto problem = writeReportTo(output, options, report ? *report : nothing);
+    const DeleteReport report = reportOf(search.controller());
+    const auto problem = writeReportTo(output, options, report);
     if (!written) return fail(options.library + ": " + written.error().message);
     if (problem) return *problem;
-    if (!completed) return ExitCode::interrupted;
-    return !report || report->allDealtWith() ? ExitCode::done : ExitCode::failed;
+    if (!completed && !allAttempted(report)) return ExitCode::interrupted;
+    return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/SearchRun.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 
 #include <unistd.h>
@@ -43,8 +44,13 @@ std::optional<SearchFailure> SearchRun::run(AppController& controller, const Sea
 bool SearchRun::runDeletion(AppController& controller, bool deleteFiles, bool leaveSharedFiles) {
     m_controller = &controller;
     controller.deleteButtonClick();
-    controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
-    waitUntilIdle(controller);
+    QCoreApplication::processEvents(); // Ctrl-C may have come while tracks were marked and files looked at
+    if (m_interrupted) {
+        controller.delConfCancelButtonClick();
+    } else {
+        controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+        waitUntilIdle(controller);
+    }
     clearLine();
     m_controller = nullptr;
     return !m_interrupted;
@@ -62,6 +68,8 @@ void SearchRun::interrupt() {
     if (!m_controller) return;
     if (m_controller->isDeleting()) {
         m_controller->cancelButtonClick();
+        clearLine();
+        std::fputs("songsweep: stopping after the track in hand\n", stderr);
     } else {
         m_controller->cancelformButtonClick();
     }

@@ -12,7 +12,6 @@
 
 #include <array>
 #include <csignal>
-#include <thread>
 
 namespace songsweep {
 namespace {
@@ -56,20 +55,6 @@ class Interrupted : public test::ProgramTest {
         if (count > 0) m_read.append(buffer.data(), static_cast<std::size_t>(count));
         return count > 0;
     }
-    /// Sends Ctrl-C and waits until the program has taken it.
-    void interrupt() {
-        const auto process = static_cast<pid_t>(m_process.processId());
-        ASSERT_EQ(::kill(process, SIGINT), 0);
-        while (isPending(process))
-            std::this_thread::yield();
-    }
-    static bool isPending(pid_t process) {
-        std::ifstream status("/proc/" + std::to_string(process) + "/status");
-        for (std::string line; std::getline(status, line);)
-            if (line.starts_with("ShdPnd:"))
-                return line.find_first_of("123456789abcdef", 7) != std::string::npos;
-        return false;
-    }
     void readToTheEnd() {
         while (m_process.state() != QProcess::NotRunning) {
             readSome(10);
@@ -85,7 +70,7 @@ class Interrupted : public test::ProgramTest {
 };
 
 TEST_F(Interrupted, searchEndsCleanly) {
-    interrupt();
+    sendSignal(m_process, SIGINT);
     readToTheEnd();
     const RunResult result = test::resultOf(m_process);
     EXPECT_EQ(result.exitCode, 130);
@@ -94,8 +79,8 @@ TEST_F(Interrupted, searchEndsCleanly) {
 }
 
 TEST_F(Interrupted, searchEndsAtOnceWhenItIsInterruptedTwice) {
-    interrupt();
-    interrupt();
+    sendSignal(m_process, SIGINT);
+    sendSignal(m_process, SIGINT);
     const RunResult result = test::resultOf(m_process);
     EXPECT_EQ(result.exitCode, 130);
     EXPECT_EQ(result.output, "");

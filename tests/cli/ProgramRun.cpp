@@ -3,6 +3,11 @@
 
 #include <QStringList>
 
+#include <sys/types.h>
+
+#include <csignal>
+#include <thread>
+
 namespace songsweep::test {
 
 namespace {
@@ -14,6 +19,14 @@ QStringList listOf(const std::vector<std::string>& arguments) {
     for (const std::string& argument : arguments)
         list.append(QString::fromStdString(argument));
     return list;
+}
+
+/// Whether a signal that was sent waits to be taken.
+bool hasPendingSignal(pid_t process) {
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("ShdPnd:")) return line.find_first_of("123456789abcdef", 7) != std::string::npos;
+    return false;
 }
 
 } // namespace
@@ -58,6 +71,13 @@ RunResult ProgramTest::runInShell(const std::string& line, const std::vector<std
         listOf(arguments));
     process.start();
     return resultOf(process);
+}
+
+void ProgramTest::sendSignal(const QProcess& process, int signal) {
+    const auto id = static_cast<pid_t>(process.processId());
+    ASSERT_EQ(::kill(id, signal), 0);
+    while (hasPendingSignal(id))
+        std::this_thread::yield();
 }
 
 RunResult resultOf(QProcess& process) {

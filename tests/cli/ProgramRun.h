@@ -35,6 +35,9 @@ class ProgramTest : public ::testing::Test {
     /// Prepares a process of the program; the test starts it and waits for it.
     void prepare(QProcess& process, const std::vector<std::string>& arguments) const;
 
+    /// Sends a signal and waits until the process has taken it.
+    static void sendSignal(const QProcess& process, int signal);
+
     static std::string program();
     std::string path(const std::string& name) const { return m_folder.path() + "/" + name; }
 
