@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace songsweep::test {
 namespace {
 
@@ -32,6 +34,11 @@ TEST_F(DeletionInAWindow, TakesTheMarkedTracksAndTheirFilesAndNothingElse) {
     ASSERT_TRUE(appears("Delete " + std::to_string(marked.size()) + " tracks from the library?"));
 
     m_input.press("alt+f");
+    ASSERT_TRUE(comes("what goes to the Trash", [this] {
+        const auto texts = m_screen.texts();
+        return std::any_of(texts.begin(), texts.end(),
+                           [](const std::string& text) { return text.ends_with("go to the Trash."); });
+    }));
     m_input.press("alt+d");
     ASSERT_NO_FATAL_FAILURE(waitForOutcomes(marked.size()));
     const auto deleted = deletedTracks();
