@@ -21,6 +21,20 @@ std::string valueOf(const std::string& cell) { return cell.substr(cell.find(": "
 /// "Group 3 of 5" of "Group 3 of 5, copy 2 of 3".
 std::string groupOf(const ScreenReader::Row& row) { return row.place.substr(0, row.place.find(',')); }
 
+/// The keys that press a check box are the desktop's choice.
+class OnEveryDesktop : public WindowTest, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(OnEveryDesktop, ReturnIsTheFilledButtonOfADialog) {
+    m_desktop = QString::fromLatin1(GetParam());
+    ASSERT_NO_FATAL_FAILURE(start());
+    ASSERT_NO_FATAL_FAILURE(search());
+    EXPECT_TRUE(m_screen.shows("Library: same name, artist, time"));
+    ASSERT_NO_FATAL_FAILURE(markByRule());
+}
+
+INSTANTIATE_TEST_SUITE_P(Desktops, OnEveryDesktop, ::testing::Values("generic", "gnome", "kde"),
+                         [](const auto& desktop) { return std::string(desktop.param); });
+
 class TableUse : public WindowTest {
   protected:
     void SetUp() override {

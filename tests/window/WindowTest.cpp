@@ -70,6 +70,7 @@ QProcessEnvironment WindowTest::environment() const {
     const QString home = QString::fromStdString(path("home"));
     insert("DISPLAY", m_display.name());
     insert("DBUS_SESSION_BUS_ADDRESS", m_bus.address());
+    insert("QT_QPA_PLATFORMTHEME", m_desktop);
     insert("HOME", home);
     insert("XDG_DATA_HOME", home + QStringLiteral("/data"));
     insert("XDG_CONFIG_HOME", home + QStringLiteral("/config"));

@@ -51,6 +51,8 @@ class WindowTest : public ::testing::Test {
     std::string path(const std::string& name) const { return m_folder.path() + "/" + name; }
     int countMarked() const;
 
+    /// Whose customs the program follows: the name of one of Qt's platform themes, set before the start.
+    QString m_desktop = QStringLiteral("generic");
     TemporaryFolder m_folder;
     VirtualDisplay m_display;
     InputDevices m_input;

@@ -43,6 +43,7 @@ SongsweepStyle::SongsweepStyle()
 void SongsweepStyle::polish(QApplication* application) {
     QProxyStyle::polish(application);
     m_focusRing.follow(application);
+    m_returnKey.follow(application);
     application->installEventFilter(this);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/theme/FocusRing.h"
+#include "ui/theme/ReturnKey.h"
 #include "ui/theme/WidgetRoles.h"
 
 #include <QProxyStyle>
@@ -59,6 +60,7 @@ class SongsweepStyle : public QProxyStyle {
     void drawFocusFrame(const QStyleOption* option, QPainter* painter, const QWidget* frame) const;
 
     FocusRing m_focusRing;
+    ReturnKey m_returnKey;
     WidgetRoles m_roles;
     bool m_mnemonicsRevealed = false;
 };
