@@ -131,6 +131,8 @@ class AppController {
     /// Whether the rows are a worker's now, so that nobody else may look at them.
     bool isDeletingRows() const { return m_deletion == Deletion::running; }
     bool isWorking() const { return m_queue.operationCount() > 0; }
+    /// Nothing runs and no deletion is being confirmed.
+    bool isIdle() const { return !isDeleting() && !isWorking(); }
     /// The first read error of the present search's library file.
     std::optional<ReadError> readError() const { return m_readError.get(); }
     /// Records left for the grouping when the last reading ended.
@@ -177,7 +179,7 @@ class AppController {
     void showSearching();
     void abandonDeletion();
     /// Marks and order stand still while a worker runs: the groups of a search are whole only at its end.
-    bool mayChangeMarks() const { return !isDeleting() && !isWorking(); }
+    bool mayChangeMarks() const { return isIdle(); }
     void setAllMarks(bool value);
     /// Null for a row that is not, or no longer, there.
     TrackRecord* recordAt(int row) const;

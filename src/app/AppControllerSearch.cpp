@@ -127,7 +127,7 @@ void AppController::alertCantAccessDidEnd(int returnCode) {
 }
 
 bool AppController::resetForLibrary() {
-    if (isWorking() || isDeleting()) return false;
+    if (!isIdle()) return false;
     closeParamWindow(); // its list of playlists is filled when it opens
     m_tableDataSource = {};
     m_list1 = std::make_shared<TrackList>();

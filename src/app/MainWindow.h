@@ -40,6 +40,9 @@ class MainWindow : public QMainWindow {
     TrackTableModel& tableModel() const { return *m_model; }
     /// The menu item whose keys are to work in sheets, too, which cover this window.
     QAction& quitMenuitem() const;
+    /// Asked before the file chooser opens and before a dragged library is taken; while it says no, the menu
+    /// item beeps.
+    void setOpenLibraryGuard(std::function<bool()> guard) { m_mayOpenLibrary = std::move(guard); }
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
 
@@ -121,6 +124,7 @@ class MainWindow : public QMainWindow {
     std::unique_ptr<Ui::MainWindow> m_ui;
     std::optional<LayoutLengths> m_lengths;
     TrackTableModel* m_model;
+    std::function<bool()> m_mayOpenLibrary = [] { return true; };
     QString m_searchedText;
     bool m_tableVisible = false;
     bool m_performLabelVisible = true;

@@ -2,6 +2,7 @@
 #include "app/MainWindow.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QFileDialog>
@@ -27,7 +28,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!libraryPath(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+    if (!libraryPath(*event->mimeData()).isEmpty() && m_mayOpenLibrary()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
@@ -43,6 +44,10 @@ void MainWindow::changeEvent(QEvent* event) {
 }
 
 void MainWindow::chooseLibrary() {
+    if (!m_mayOpenLibrary()) {
+        QApplication::beep();
+        return;
+    }
     auto* dialog = new QFileDialog(this, QStringLiteral("Open library"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);

@@ -89,12 +89,14 @@ ControllerServices Program::controllerServices() {
     };
 }
 
-Result<void> Program::openLibrary(const std::string& path) {
+OpenedLibrary Program::openLibrary(const std::string& path) {
     const std::string absolute = absolutePath(path);
-    if (Result<void> opened = m_scripting.openLibrary(absolute); !opened) return opened;
+    const Result<void> turned = m_scripting.openLibrary(absolute);
+    if (!turned) return {.turned = false, .problem = turned.error().message};
     m_preferences.choose(absolute);
     m_scripts.chooseEmbedded();
-    return m_scripting.readLibrary();
+    const Result<void> read = m_scripting.readLibrary();
+    return {.turned = true, .problem = read ? std::string() : read.error().message};
 }
 
 std::string Program::unreachableReason() const {

@@ -3,6 +3,7 @@
 
 #include "app/AppController.h"
 #include "app/ChosenScripts.h"
+#include "app/OpenedLibrary.h"
 #include "hosts/EmbeddedScripting.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
@@ -70,9 +71,9 @@ class Program {
     Files& files() { return m_files; }
     Desktop& desktop() { return *m_desktop; }
 
-    /// Turns to another library file, and to the embedded iTunes. An error where what is left to write of the
-    /// present one cannot be.
-    Result<void> openLibrary(const std::string& path);
+    /// Turns to another library file, and to the embedded iTunes. The present one stays where what is left to
+    /// write of it cannot be written.
+    OpenedLibrary openLibrary(const std::string& path);
 
     /// `handler` is called on the main thread when the library file cannot be written, once until a write
     /// succeeds again; with the path and the reason. The deletions are kept, and tried again.

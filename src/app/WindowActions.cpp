@@ -40,6 +40,7 @@ void WindowActions::connectToolbarAndMenus() {
     connect(window, &MainWindow::showinFinderMenuClick, this, [=] { controller->showinFinderMenuClick(); });
     connect(window, &MainWindow::mainWindowMenuClick, this, [=] { controller->mainWindowMenuClick(); });
     connect(window, &MainWindow::openLibrary, this, &WindowActions::chooseLibrary);
+    window->setOpenLibraryGuard([=] { return controller->isIdle(); });
 }
 
 void WindowActions::connectLinks() {
@@ -133,13 +134,13 @@ void WindowActions::connectApplication() {
 }
 
 void WindowActions::chooseLibrary(const QString& path) {
-    if (m_controller.isWorking() || m_controller.isDeleting() || !m_openLibrary) {
+    if (!m_controller.isIdle()) {
         m_view.beep();
         return;
     }
-    const Result<void> opened = m_openLibrary(path.toStdString());
-    m_controller.resetForLibrary();
-    if (!opened) m_view.alertCantOpen(opened.error().message);
+    const OpenedLibrary opened = m_openLibrary(path.toStdString());
+    if (opened.turned) m_controller.resetForLibrary();
+    if (!opened.problem.empty()) m_view.alertCantOpen(opened.problem);
 }
 
 void WindowActions::quit() {

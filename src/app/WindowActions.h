@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Result.h"
+#include "app/OpenedLibrary.h"
 
 #include <QObject>
 
@@ -20,8 +20,8 @@ class WindowedView;
 class WindowActions : public QObject {
     Q_OBJECT
   public:
-    /// Turns the embedded library to another file, or says why that one cannot be read.
-    using OpenLibrary = std::function<Result<void>(const std::string& path)>;
+    /// Turns the embedded library to another file.
+    using OpenLibrary = std::function<OpenedLibrary(const std::string& path)>;
 
     WindowActions(WindowedView& view, AppController& controller, OpenLibrary openLibrary);
 

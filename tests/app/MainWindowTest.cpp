@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -299,6 +300,23 @@ TEST_F(MainWindowTest, ALibraryFileCanBeDropped) {
     QApplication::sendEvent(&window, &drop);
     ASSERT_EQ(opened.size(), 1);
     EXPECT_EQ(opened[0][0].toString(), QStringLiteral("/music/iTunes Library.XML"));
+}
+
+TEST_F(MainWindowTest, NoLibraryIsTakenOrChosenWhileTheGuardSaysNo) {
+    bool mayOpen = false;
+    window.setOpenLibraryGuard([&] { return mayOpen; });
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/music/Library.xml"))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    item("openLibraryMenuitem").trigger();
+    EXPECT_EQ(window.findChild<QFileDialog*>(), nullptr);
+    EXPECT_TRUE(item("openLibraryMenuitem").isEnabled());
+    mayOpen = true;
+    item("openLibraryMenuitem").trigger();
+    EXPECT_NE(window.findChild<QFileDialog*>(), nullptr);
 }
 
 TEST_F(MainWindowTest, OtherFilesAndSeveralAreNotTaken) {

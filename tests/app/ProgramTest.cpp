@@ -80,7 +80,7 @@ TEST_F(ProgramTest, ANamedLibraryIsTheEmbeddedITunes) {
 TEST_F(ProgramTest, AnOpenedLibraryIsTheEmbeddedITunesFromThenOn) {
     Program& program = startOnMac();
     ASSERT_EQ(version(program), "12.9.5");
-    ASSERT_TRUE(program.openLibrary(library));
+    ASSERT_EQ(program.openLibrary(library).problem, "");
     EXPECT_EQ(version(program), "12.0");
     EXPECT_THAT(system->texts(), ElementsAre(versionText));
     EXPECT_TRUE(usesEmbedded(program));
@@ -96,7 +96,9 @@ TEST_F(ProgramTest, AnUnreadableFileIsNoReasonWhyTheSystemsITunesIsUnreachable) 
     Program& program = startOnMac();
     (void)program.scripting().readLibrary();
     EXPECT_EQ(program.unreachableReason(), "");
-    ASSERT_FALSE(program.openLibrary("/nowhere/Library.xml"));
+    const OpenedLibrary opened = program.openLibrary("/nowhere/Library.xml");
+    EXPECT_TRUE(opened.turned);
+    EXPECT_FALSE(opened.problem.empty());
     EXPECT_THAT(program.unreachableReason(), StartsWith("/nowhere/Library.xml: "));
 }
 

@@ -5,7 +5,9 @@
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QSignalSpy>
@@ -13,6 +15,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 
 namespace songsweep::test {
@@ -230,8 +233,23 @@ TEST_F(WindowActionsTest, ALibraryThatCannotBeReadSaysSo) {
     EXPECT_FALSE(alert()->informativeText().isEmpty());
 }
 
+TEST_F(WindowActionsTest, ALibraryThatHasToStayKeepsItsResults) {
+    search();
+    ASSERT_TRUE(program->scripting().run("tell application \"iTunes\" to delete track 1 of playlist 1"));
+    std::filesystem::remove(library);
+    const std::vector<TrackRecord*> before = rows();
+    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->text(), QStringLiteral("Can't open the library."));
+    EXPECT_EQ(program->scripting().libraryPath(), library);
+    EXPECT_EQ(rows(), before);
+    EXPECT_EQ(page(), QStringLiteral("tableviewContainer"));
+}
+
 TEST_F(WindowActionsTest, ALibraryIsNotOpenedWhileAWorkerRuns) {
     startSearch();
+    window().findChild<QAction*>(QStringLiteral("openLibraryMenuitem"))->trigger();
+    EXPECT_EQ(window().findChild<QFileDialog*>(), nullptr);
     Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
     EXPECT_EQ(program->scripting().libraryPath(), library);
     ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }));
