@@ -30,7 +30,8 @@ TablePlace::TablePlace(const SWTableView& view)
     , m_current(view.currentIndex().row())
     , m_currentColumn(view.currentIndex().column())
     , m_topRow(view.rowAt(0))
-    , m_topOffset(m_topRow < 0 ? 0 : view.rowViewportPosition(m_topRow)) {}
+    , m_topOffset(m_topRow < 0 ? 0 : view.rowViewportPosition(m_topRow))
+    , m_left(view.horizontalScrollBar()->value()) {}
 
 void TablePlace::restore(SWTableView& view) const {
     restoreSelection(view);
@@ -74,6 +75,7 @@ void TablePlace::restoreCurrent(SWTableView& view) const {
 /// After a mere reordering the table stays where it is; where rows are gone, the first in sight stays there.
 void TablePlace::restoreScrollPlace(SWTableView& view) const {
     view.executeDelayedItemsLayout();
+    view.horizontalScrollBar()->setValue(m_left);
     const std::vector<TrackRecord*>& rows = view.m_model->rows();
     const bool reordered = rows.size() == m_before.rows.size();
     const int row = reordered ? m_topRow : newRow(m_topRow, rows);

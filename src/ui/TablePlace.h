@@ -33,6 +33,7 @@ class TablePlace {
     int m_currentColumn;
     int m_topRow;    ///< first row in sight, -1 for none
     int m_topOffset; ///< where it begins in the viewport, at most 0
+    int m_left;      ///< how far the columns were scrolled
 };
 
 } // namespace songsweep

@@ -229,6 +229,23 @@ TEST_F(SWTableViewTest, TheTableStaysWhereItWasScrolledTo) {
     EXPECT_EQ(bar->value(), 4807 - 10 * view.rowHeight(0));
 }
 
+TEST_F(SWTableViewTest, TheColumnsStayWhereTheyWereScrolledTo) {
+    list = manyRows(500, 2);
+    reload();
+    view.resize(500, 400);
+    view.selectionModel()->setCurrentIndex(cell(4, Column::name), QItemSelectionModel::NoUpdate);
+    QScrollBar* bar = view.horizontalScrollBar();
+    bar->setValue(bar->maximum());
+    const int before = bar->value();
+    ASSERT_GT(before, 0);
+    list.rows.erase(list.rows.begin() + 10, list.rows.begin() + 20);
+    reload();
+    EXPECT_EQ(bar->value(), before);
+    sortInsideGroups(list.rows, Column::bitrate, true);
+    reload();
+    EXPECT_EQ(bar->value(), before);
+}
+
 TEST_F(SWTableViewTest, OnlyAnElidedTextHasAToolTip) {
     const auto toolTipAt = [this](int row, Column column) {
         QToolTip::hideText();
