@@ -93,7 +93,7 @@ void TrackHeaderView::drawTitle(QPainter& painter, const QRect& rect, Column col
     const QRect place = titlePlace(rect, fontMetrics().horizontalAdvance(title), look.alignment);
     const int baseline = place.top() + (place.height() - fontMetrics().height()) / 2 + fontMetrics().ascent();
     painter.drawText(place.left(), baseline, title);
-    if (sorted && !title.isEmpty()) drawTriangle(painter, rect, place, look.alignment);
+    if (sorted) drawTriangle(painter, rect, title.isEmpty() ? rect : place, look.alignment);
 }
 
 void TrackHeaderView::drawBin(QPainter& painter, const QRect& rect) const {
@@ -117,7 +117,8 @@ QRect TrackHeaderView::titlePlace(const QRect& rect, int width, Qt::Alignment al
     return {left, rect.top(), width, rect.height()};
 }
 
-/// Left of a title that ends over its values, else right of it; in a narrow column close to the title.
+/// Left of a title that ends over its values, else right of it; in a narrow column close to the title, and
+/// in one without a title at its end.
 void TrackHeaderView::drawTriangle(QPainter& painter, const QRect& section, const QRect& title,
                                    Qt::Alignment alignment) const {
     const qreal unit = fontScale(this);

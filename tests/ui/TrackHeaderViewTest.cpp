@@ -72,6 +72,19 @@ TEST_F(TrackHeaderViewTest, TheTrianglePointsUpForAscendingAndDownForDescending)
     EXPECT_GT(down.front(), down.back());
 }
 
+TEST_F(TrackHeaderViewTest, EveryColumnShowsItsDirection) {
+    for (const Column column : allColumns) {
+        view.header().setSortIndicator(column, true);
+        const std::vector<int> up = arrow(column);
+        view.header().setSortIndicator(column, false);
+        const std::vector<int> down = arrow(column);
+        ASSERT_GE(up.size(), 2u) << identifier(column);
+        ASSERT_GE(down.size(), 2u) << identifier(column);
+        EXPECT_LT(up.front(), up.back()) << identifier(column);
+        EXPECT_GT(down.front(), down.back()) << identifier(column);
+    }
+}
+
 TEST_F(TrackHeaderViewTest, AClickDoesNotTurnTheIndicatorByItself) {
     view.header().setSortIndicator(Column::bitrate, true);
     Q_EMIT view.header().sectionClicked(static_cast<int>(Column::bitrate));
