@@ -33,7 +33,7 @@ void CheckBoxCell::drawInterior(QPainter& painter, const QStyleOptionViewItem& o
 
 bool CheckBoxCell::editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
                                const QModelIndex& index) {
-    if (event->type() != QEvent::MouseButtonRelease) return event->type() == QEvent::MouseButtonDblClick;
+    if (event->type() != QEvent::MouseButtonRelease) return false;
     const auto* release = static_cast<QMouseEvent*>(event);
     if (release->button() != Qt::LeftButton || !option.rect.contains(release->position().toPoint()))
         return false;

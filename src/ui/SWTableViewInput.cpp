@@ -98,9 +98,13 @@ void SWTableView::mouseMoveEvent(QMouseEvent* event) {
 
 void SWTableView::mouseDoubleClickEvent(QMouseEvent* event) {
     const QModelIndex index = indexAt(event->position().toPoint());
-    m_pressedOnBox = index.isValid() && columnOf(index.column()) == Column::checkbox;
+    if (index.isValid() && columnOf(index.column()) == Column::checkbox) {
+        mousePressEvent(event); // a second click, which the base class would not let toggle the box again
+        return;
+    }
+    m_pressedOnBox = false;
     QTableView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton && !m_pressedOnBox) Q_EMIT tableviewDoubleClick();
+    if (event->button() == Qt::LeftButton) Q_EMIT tableviewDoubleClick();
 }
 
 QMenu* SWTableView::menuForEvent(const QPoint& position) {

@@ -113,6 +113,7 @@ TEST_F(SWTableViewTest, TwoQuickClicksToggleACheckBoxTwiceAndPlayNothing) {
     EXPECT_TRUE(list.rows[0]->checkbox);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, box);
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, Qt::NoModifier, box);
+    EXPECT_FALSE(list.rows[0]->checkbox);
     EXPECT_EQ(plays.size(), 0);
 }
 
