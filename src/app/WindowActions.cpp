@@ -121,6 +121,8 @@ void WindowActions::connectApplication() {
     connect(window, &MainWindow::quit, this, &WindowActions::quit);
     m_view.deleteConfirmation().addAction(&window->quitMenuitem());
     m_view.progressWindow().addAction(&window->quitMenuitem());
+    // Qt's own rule would quit with the last window on macOS, too, from where it can be reopened.
+    QApplication::setQuitOnLastWindowClosed(false);
 #ifndef Q_OS_MACOS
     connect(window, &MainWindow::closed, this, &WindowActions::quit);
 #endif

@@ -267,9 +267,19 @@ TEST_F(WindowActionsTest, AnUnreachableLibraryIsToldInASheet) {
     EXPECT_TRUE(button("searchButton").isEnabled());
 }
 
-TEST_F(WindowActionsTest, ClosingTheMainWindowQuits) {
+TEST_F(WindowActionsTest, ClosingTheMainWindowQuitsByItsOwnWord) {
+    constexpr int stillRunning = 3;
     QTimer::singleShot(0, &window(), [this] { window().close(); });
+    QTimer::singleShot(5000, &window(), [] { QApplication::exit(stillRunning); });
     EXPECT_EQ(QApplication::exec(), 0);
+}
+
+TEST_F(WindowActionsTest, TheLastWindowClosedDoesNotQuitByItself) {
+    constexpr int stillRunning = 3;
+    QObject::disconnect(&window(), &MainWindow::closed, nullptr, nullptr);
+    QTimer::singleShot(0, &window(), [this] { window().close(); });
+    QTimer::singleShot(200, &window(), [] { QApplication::exit(stillRunning); });
+    EXPECT_EQ(QApplication::exec(), stillRunning);
 }
 
 TEST_F(WindowActionsTest, QuittingDuringASearchEndsAtOnce) {
