@@ -2,6 +2,7 @@
 #include "app/WindowedView.h"
 
 #include "app/Alerts.h"
+#include "ui/SWTableView.h"
 
 #include <QApplication>
 
@@ -73,7 +74,13 @@ void WindowedView::endProgress(ProgressBar bar) {
     if (bar == ProgressBar::formprogress)
         m_mainWindow.endProgress();
     else
-        m_progressWindow.hide();
+        endDeletion();
+}
+
+/// Whoever deleted from the toolbar goes on in the table, at the nearest row that is left.
+void WindowedView::endDeletion() {
+    m_progressWindow.hide();
+    m_mainWindow.tableview().setFocus(Qt::OtherFocusReason);
 }
 
 void WindowedView::setProgressValue(double percent) {

@@ -81,6 +81,8 @@ class WindowedView final : public ControllerView {
     void endDeleteConfirmation() override;
 
   private:
+    void endDeletion();
+
     MainWindow m_mainWindow;
     ParametersDialog m_paramWindow;
     MarkDialog m_markWindow;

@@ -177,6 +177,29 @@ TEST_F(WindowActionsTest, TheConfirmationCanBeCancelled) {
     EXPECT_EQ(checkedRows(), 1);
 }
 
+TEST_F(WindowActionsTest, AfterADeletionTheFocusIsInTheTable) {
+    search();
+    click(0, Column::checkbox);
+    button("deleteButton").setFocus();
+    press("deleteButton");
+    press("delConfOkButton");
+    ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isDeleting() && !controller->isWorking(); }));
+    EXPECT_EQ(window().focusWidget(), &window().tableview());
+}
+
+TEST_F(WindowActionsTest, AfterACancelledDeletionTheFocusIsInTheTable) {
+    search();
+    click(0, Column::checkbox);
+    button("deleteButton").setFocus();
+    press("deleteButton");
+    press("delConfOkButton");
+    ASSERT_TRUE(runEventLoopUntil([this] { return view.progressWindow().isVisible(); }));
+    press("progressCancelButton");
+    EXPECT_EQ(window().focusWidget(), &window().tableview());
+    ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isDeleting() && !controller->isWorking(); }));
+    EXPECT_EQ(window().focusWidget(), &window().tableview());
+}
+
 TEST_F(WindowActionsTest, ADeletionTakesTracksOutOfLibraryAndTable) {
     search();
     const std::size_t before = rows().size();
