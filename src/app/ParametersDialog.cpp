@@ -19,6 +19,9 @@ ParametersDialog::ParametersDialog(QWidget* parent)
     for (QCheckBox* field :
          {m_ui->paramSameNameCK, m_ui->paramSameArtistCK, m_ui->paramSameAlbumCK, m_ui->paramSameTimeCK})
         connect(field, &QCheckBox::toggled, this, &ParametersDialog::updateWarning);
+    // A name too long for the box is cut there, so that the dialog does not grow with it.
+    connect(m_ui->paramLocationCB, &QComboBox::currentTextChanged, m_ui->paramLocationCB,
+            &QWidget::setToolTip);
     updateWarning();
 }
 
@@ -40,7 +43,9 @@ void ParametersDialog::clearPlaylists() { m_ui->paramLocationCB->clear(); }
 
 void ParametersDialog::addPlaylist(const std::string& name) {
     const int selected = m_ui->paramLocationCB->currentIndex();
-    m_ui->paramLocationCB->addItem(QString::fromStdString(name));
+    const QString text = QString::fromStdString(name);
+    m_ui->paramLocationCB->addItem(text);
+    m_ui->paramLocationCB->setItemData(m_ui->paramLocationCB->count() - 1, text, Qt::ToolTipRole);
     m_ui->paramLocationCB->setCurrentIndex(selected); // a first item selects itself
 }
 

@@ -144,6 +144,7 @@ void MarkDialog::connectKind() {
     connect(m_ui->markKindCMB->lineEdit(), &QLineEdit::textEdited, this,
             [this] { m_ui->markKindRB->setChecked(true); });
     connect(m_ui->markKindCMB, &QComboBox::editTextChanged, this, &MarkDialog::choiceChanged);
+    connect(m_ui->markKindCMB, &QComboBox::editTextChanged, m_ui->markKindCMB, &QWidget::setToolTip);
 }
 
 void MarkDialog::connectFolder() {

@@ -41,12 +41,15 @@ std::unique_ptr<QDialog> deleteConfirmation() {
 std::unique_ptr<QDialog> markDialog() {
     auto dialog = std::make_unique<MarkDialog>();
     dialog->selectMissingItems();
+    dialog->fillKinds({std::string(300, 'W')});
     dialog->setPreview({.marked = 123456, .total = 1000000, .inForce = false});
     return dialog;
 }
 
 std::unique_ptr<QDialog> parametersDialog() {
     auto dialog = std::make_unique<ParametersDialog>();
+    dialog->addPlaylist(std::string(300, 'W'));
+    dialog->selectPlaylist(0);
     for (const char* name : {"paramSameNameCK", "paramSameArtistCK", "paramSameTimeCK"})
         test::child<QAbstractButton>(*dialog, name).click();
     return dialog;

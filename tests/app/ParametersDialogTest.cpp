@@ -139,5 +139,17 @@ TEST_F(ParametersDialogTest, NamesItsControlsForAssistiveTechnology) {
               &child<QWidget>(dialog, "paramLocationCB"));
 }
 
+TEST_F(ParametersDialogTest, TellsALongPlaylistWholeInAToolTip) {
+    ParametersDialog dialog;
+    dialog.addPlaylist("Library");
+    dialog.addPlaylist("Everything for the long night drive home");
+    dialog.selectPlaylist(1);
+    const auto& list = child<QComboBox>(dialog, "paramLocationCB");
+    EXPECT_EQ(list.toolTip(), QStringLiteral("Everything for the long night drive home"));
+    EXPECT_EQ(list.itemData(1, Qt::ToolTipRole).toString(), list.toolTip());
+    dialog.selectPlaylist(0);
+    EXPECT_EQ(list.toolTip(), QStringLiteral("Library"));
+}
+
 } // namespace
 } // namespace songsweep

@@ -101,7 +101,8 @@ bool SongsweepStyle::drawButton(ControlElement element, const QStyleOption* opti
         const QRect text = proxy()->subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget);
         const auto flags =
             static_cast<int>(visualAlignment(combo->direction, Qt::AlignLeft) | Qt::AlignVCenter);
-        proxy()->drawItemText(painter, text, flags, combo->palette, isEnabled(combo), combo->currentText,
+        const QString shown = combo->fontMetrics.elidedText(combo->currentText, Qt::ElideRight, text.width());
+        proxy()->drawItemText(painter, text, flags, combo->palette, isEnabled(combo), shown,
                               QPalette::ButtonText);
         return true;
     }
