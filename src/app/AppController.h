@@ -100,7 +100,6 @@ class AppController {
     void markNone();
     /// 0 and 1 check and uncheck the selected rows, 2 and 3 all rows.
     void markMenuClick(std::int32_t tag);
-    int countThatWouldBeMarked(const MarkChoice& choice) const;
 
     // Deleting.
     void deleteButtonClick();

@@ -58,8 +58,4 @@ void AppController::markMenuClick(std::int32_t tag) {
     setStatusLabel();
 }
 
-int AppController::countThatWouldBeMarked(const MarkChoice& choice) const {
-    return songsweep::countThatWouldBeMarked(m_tableDataSource.rows, choice);
-}
-
 } // namespace songsweep

@@ -93,17 +93,19 @@ void WindowActions::connectMarkDialog() {
     connect(dialog, &MarkDialog::folderChooserOpening, this,
             [this] { m_controller.markFolderButtonClick(); });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.markCancelButtonClick(); });
+    connect(dialog, &MarkDialog::opening, this, &WindowActions::updateMarkPreview);
     m_view.setReloadHandler([this] { updateMarkPreview(); });
-    updateMarkPreview();
 }
 
+/// A walk over all rows, which nobody waits for while the dialog is hidden.
 void WindowActions::updateMarkPreview() {
+    MarkDialog& dialog = m_view.markWindow();
+    if (!dialog.isVisible()) return;
     if (m_controller.isDeletingRows()) return; // the table's reload at its end brings it up to date
-    const MarkChoice choice = m_view.markWindow().choice();
     const std::vector<TrackRecord*>& rows = m_controller.tableDataSource().rows;
-    m_view.markWindow().setPreview({.marked = m_controller.countThatWouldBeMarked(choice),
-                                    .total = static_cast<int>(rows.size()),
-                                    .inForce = marksAreThoseOf(rows, choice)});
+    const MarkEffect effect = markEffect(rows, dialog.choice());
+    dialog.setPreview(
+        {.marked = effect.marked, .total = static_cast<int>(rows.size()), .inForce = effect.inForce});
 }
 
 void WindowActions::connectDeletion() {

@@ -7,6 +7,7 @@
 
 #include <QFileDialog>
 #include <QPushButton>
+#include <QShowEvent>
 
 #include <array>
 
@@ -78,7 +79,6 @@ MarkDialog::MarkDialog(QWidget* parent)
     });
     connect(m_ui->markExceptOneCK, &QCheckBox::toggled, this, &MarkDialog::choiceChanged);
     connect(this, &MarkDialog::choiceChanged, this, &MarkDialog::updateHelper);
-    m_ui->markBitrateRB->setFocus();
 }
 
 MarkDialog::~MarkDialog() = default;
@@ -129,6 +129,14 @@ void MarkDialog::setFolder(const QString& folder) {
 
 void MarkDialog::setPreview(const MarkPreview& preview) {
     m_ui->markLiveLabel->setText(previewText(preview));
+}
+
+void MarkDialog::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        if (QAbstractButton* chosen = m_ui->markRadioGroup->checkedButton()) chosen->setFocus();
+        Q_EMIT opening();
+    }
+    QDialog::showEvent(event);
 }
 
 void MarkDialog::connectRule(QRadioButton* radio, QComboBox* combo) {

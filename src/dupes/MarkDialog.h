@@ -51,12 +51,17 @@ class MarkDialog : public QDialog {
     void setPreview(const MarkPreview& preview);
 
   Q_SIGNALS:
+    /// It comes to the screen now, and wants a preview.
+    void opening();
     /// The rule, its value or the except-one switch is another one now.
     void choiceChanged();
     /// "Mark" was pressed; the dialog stays open.
     void markRequested();
     /// The folder chooser is about to open.
     void folderChooserOpening();
+
+  protected:
+    void showEvent(QShowEvent* event) override;
 
   private:
     void connectRule(QRadioButton* radio, QComboBox* combo);

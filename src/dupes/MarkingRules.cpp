@@ -55,23 +55,15 @@ void markItemsByFolder(const TrackRows& rows, std::string_view folder, bool exce
     applyMarkChoice(rows, {markType::folder, exceptOne, std::string(folder)});
 }
 
-int countThatWouldBeMarked(const TrackRows& rows, const MarkChoice& choice) {
-    int count = 0;
-    withRule(choice, [&](auto rule) {
-        walkGroups(rows, choice.exceptOne, rule,
-                   [&](const TrackRecord&, bool checked) { count += checked ? 1 : 0; });
-    });
-    return count;
-}
-
-bool marksAreThoseOf(const TrackRows& rows, const MarkChoice& choice) {
-    bool same = true;
+MarkEffect markEffect(const TrackRows& rows, const MarkChoice& choice) {
+    MarkEffect effect;
     withRule(choice, [&](auto rule) {
         walkGroups(rows, choice.exceptOne, rule, [&](const TrackRecord& record, bool checked) {
-            same = same && record.checkbox == checked;
+            effect.marked += checked ? 1 : 0;
+            effect.inForce = effect.inForce && record.checkbox == checked;
         });
     });
-    return same;
+    return effect;
 }
 
 bool isSubfolder(std::string_view folder, std::string_view path) {

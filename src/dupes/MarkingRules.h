@@ -53,11 +53,14 @@ void markItemsByFolder(const TrackRows& rows, std::string_view folder, bool exce
 /// Whichever of the three belongs to the choice.
 void applyMarkChoice(const TrackRows& rows, const MarkChoice& choice);
 
-/// How many rows the choice would check; changes nothing.
-int countThatWouldBeMarked(const TrackRows& rows, const MarkChoice& choice);
+/// What a choice would do to rows.
+struct MarkEffect {
+    int marked = 0;      ///< how many rows it would check
+    bool inForce = true; ///< the rows are checked exactly so already
+};
 
-/// Whether the rows are checked exactly as the choice would check them.
-bool marksAreThoseOf(const TrackRows& rows, const MarkChoice& choice);
+/// Looks at the rows once and changes nothing.
+MarkEffect markEffect(const TrackRows& rows, const MarkChoice& choice);
 
 /// Whether the path is the folder or lies below it. Exact: a folder that ends with "/", or an empty one,
 /// holds no path but itself.

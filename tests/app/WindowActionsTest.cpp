@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "WindowsFixture.h"
+#include "dupes/MarkingRules.h"
 #include "support/EventLoop.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
@@ -141,7 +142,7 @@ TEST_F(WindowActionsTest, TheMarkDialogMarksAndStaysOpen) {
     search();
     press("autoMarkButton");
     ASSERT_TRUE(view.markWindow().isVisible());
-    const int expected = controller->countThatWouldBeMarked(view.markWindow().choice());
+    const int expected = markEffect(rows(), view.markWindow().choice()).marked;
     const QString counts = QStringLiteral("%1 of %2").arg(expected).arg(rows().size());
     EXPECT_EQ(label("markLiveLabel"), QStringLiteral("Would mark ") + counts);
     press("markMarkButton");
@@ -149,6 +150,19 @@ TEST_F(WindowActionsTest, TheMarkDialogMarksAndStaysOpen) {
     EXPECT_EQ(checkedRows(), expected);
     EXPECT_EQ(label("markLiveLabel"), QStringLiteral("Marked ") + counts);
     EXPECT_EQ(label("statusBottomLabel"), counts + QStringLiteral(" marked"));
+}
+
+TEST_F(WindowActionsTest, TheMarkDialogKnowsTheMarksSetWhileItWasClosed) {
+    search();
+    press("autoMarkButton");
+    press("markMarkButton");
+    press("markCancelButton");
+    const auto& line = *window().findChild<QLabel*>(QStringLiteral("markLiveLabel"));
+    const QString before = line.text();
+    Q_EMIT window().markMenuClick(3);
+    EXPECT_EQ(line.text(), before) << "nobody looks at it";
+    press("autoMarkButton");
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("Would mark "))) << line.text().toStdString();
 }
 
 TEST_F(WindowActionsTest, AMarkByARuleSaysWhy) {

@@ -227,6 +227,20 @@ TEST_F(MarkDialogTest, MarksAndStaysOpenOnReturnAndClosesOnEscape) {
     EXPECT_EQ(closings.count(), 1);
 }
 
+TEST_F(MarkDialogTest, OpensWithTheFocusOnTheChosenRule) {
+    MarkDialog dialog;
+    QSignalSpy openings(&dialog, &MarkDialog::opening);
+    test::open(dialog);
+    EXPECT_EQ(openings.count(), 1);
+    EXPECT_EQ(dialog.focusWidget(), &child<QRadioButton>(dialog, "markBitrateRB"));
+    child<QRadioButton>(dialog, "markSizeRB").click();
+    child<QPushButton>(dialog, "markCancelButton").setFocus();
+    test::press(dialog, Qt::Key_Escape);
+    test::open(dialog);
+    EXPECT_EQ(openings.count(), 2);
+    EXPECT_EQ(dialog.focusWidget(), &child<QRadioButton>(dialog, "markSizeRB"));
+}
+
 TEST_F(MarkDialogTest, HasTheRulesInOneTabStopBeforeTheirComboBox) {
     MarkDialog dialog;
     test::open(dialog);

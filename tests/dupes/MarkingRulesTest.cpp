@@ -169,10 +169,15 @@ TEST(MarkingRulesTest, anEmptyListStaysEmpty) {
     EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "");
 }
 
-TEST(MarkingRulesTest, theCountAndTheMarksAgreeAndCountingMarksNothing) {
+TEST(MarkingRulesTest, lookingAtTheEffectMarksNothing) {
     const MarkRows rows = bitRates();
-    EXPECT_EQ(countThatWouldBeMarked(rows.rows(), {markType::highestBitrate, exceptOne, ""}), 2);
+    const MarkChoice choice = {markType::highestBitrate, exceptOne, ""};
+    EXPECT_EQ(markEffect(rows.rows(), choice).marked, 2);
+    EXPECT_FALSE(markEffect(rows.rows(), choice).inForce);
     EXPECT_EQ(rows.checks(), "---");
+    applyMarkChoice(rows.rows(), choice);
+    EXPECT_EQ(markEffect(rows.rows(), choice).marked, 2);
+    EXPECT_TRUE(markEffect(rows.rows(), choice).inForce);
 }
 
 TEST(MarkingRulesTest, everyRuleHasANameForTheCommandLine) {
