@@ -3,6 +3,7 @@
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace songsweep {
 namespace {
@@ -52,6 +53,13 @@ TEST_F(SoundServer, triesPactlWhereWpctlFails) {
     addTool("pactl");
     ASSERT_TRUE(m_desktop.setOutputMuted(false));
     EXPECT_EQ(calls(), "wpctl set-mute @DEFAULT_AUDIO_SINK@ 0\npactl set-sink-mute @DEFAULT_SINK@ 0\n");
+}
+
+TEST_F(SoundServer, runsItsToolOutOfTheReachOfCtrlC) {
+    addTool("wpctl", "read -r stat < /proc/$$/stat; set -- $stat; echo $5 > '" + m_folder.path() + "/group'");
+    ASSERT_TRUE(m_desktop.setOutputMuted(false));
+    ASSERT_NE(m_folder.read("group"), "");
+    EXPECT_NE(std::stoi(m_folder.read("group")), ::getpgrp());
 }
 
 TEST_F(SoundServer, saysWhyItsToolFailed) {

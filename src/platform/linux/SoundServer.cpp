@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include <unistd.h>
+
 namespace songsweep {
 
 namespace {
@@ -22,6 +24,7 @@ Error failure(const Tool& tool, const QString& reason) {
 
 Result<void> run(const Tool& tool, const QString& program) {
     QProcess process;
+    process.setChildProcessModifier([] { ::setpgid(0, 0); }); // Ctrl-C is for this program, not for the tool
     process.start(program, tool.arguments, QIODevice::ReadOnly);
     process.closeWriteChannel();
     if (!process.waitForFinished(toolLimitMilliseconds)) {
