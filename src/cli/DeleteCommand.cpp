@@ -51,7 +51,7 @@ bool allAttempted(const DeleteReport& report) {
 
 ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options, Output& output) {
     const bool completed = search.deleteMarked(options.files, !options.sharedFiles);
-    const Result<void> written = search.program().scripting().flush();
+    const Result<void> written = search.writeLibrary();
     const DeleteReport report = reportOf(search.controller());
     const auto problem = writeReportTo(output, options, report);
     if (!written) return fail(options.library + ": " + written.error().message);

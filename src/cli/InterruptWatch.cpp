@@ -5,48 +5,41 @@
 
 #include <QCoreApplication>
 
-#include <pthread.h>
 #include <unistd.h>
 
-#include <csignal>
+#include <utility>
 
 namespace songsweep::cli {
 
 namespace {
 
-/// Ends the watching thread; nobody else sends it.
-constexpr int endSignal = SIGUSR2;
-
-sigset_t watchedSignals() {
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : {SIGINT, SIGTERM, endSignal})
-        sigaddset(&signals, signal);
-    return signals;
-}
+[[noreturn]] void endProcess() { ::_exit(static_cast<int>(ExitCode::interrupted)); }
 
 } // namespace
 
 InterruptWatch::InterruptWatch(std::function<void()> handler)
-    : m_handler(std::move(handler)) {
-    const sigset_t signals = watchedSignals();
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-    m_thread = std::thread([this] { watch(); });
+    : m_handler(std::move(handler))
+    , m_watch([this](int count) { hear(count); }) {}
+
+void InterruptWatch::setLastAct(std::function<void()> act) {
+    const std::lock_guard lock(m_lock);
+    m_lastAct = std::move(act);
 }
 
-InterruptWatch::~InterruptWatch() {
-    pthread_kill(m_thread.native_handle(), endSignal);
-    m_thread.join();
-}
-
-void InterruptWatch::watch() {
-    const sigset_t signals = watchedSignals();
-    for (bool first = true;; first = false) {
-        int signal = 0;
-        if (sigwait(&signals, &signal) != 0 || signal == endSignal) return;
-        if (!first) ::_exit(static_cast<int>(ExitCode::interrupted));
+void InterruptWatch::hear(int count) {
+    if (count == 1) {
         QMetaObject::invokeMethod(QCoreApplication::instance(), m_handler, Qt::QueuedConnection);
+    } else if (count == 2) {
+        m_end = std::jthread([this] { actAndEnd(); }); // so that a third one is heard
+    } else {
+        endProcess();
     }
+}
+
+void InterruptWatch::actAndEnd() {
+    const std::lock_guard lock(m_lock);
+    if (m_lastAct) m_lastAct();
+    endProcess();
 }
 
 } // namespace songsweep::cli

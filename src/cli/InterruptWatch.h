@@ -1,28 +1,36 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/SignalWatch.h"
+
 #include <functional>
+#include <mutex>
 #include <thread>
 
 namespace songsweep::cli {
 
-/// Tells the main thread of Ctrl-C and of a request to terminate; a second one ends the process at once.
+/// What Ctrl-C, a closed terminal and a request to terminate do to a command.
 ///
-/// The signals are blocked in every thread and waited for in one of their own, so that no code runs in a
-/// signal handler. Make it before any other thread is started.
+/// The first tells the main thread. The second no longer waits for that: it does the last act, where there is
+/// one, and ends the process. The third ends the process at once.
 class InterruptWatch {
   public:
     /// The handler is called on the thread of the application object, from its event loop.
     explicit InterruptWatch(std::function<void()> handler);
-    InterruptWatch(const InterruptWatch&) = delete;
-    InterruptWatch& operator=(const InterruptWatch&) = delete;
-    ~InterruptWatch();
+
+    /// What must still happen before a second signal ends the process, on a thread of its own; nothing takes
+    /// it back. Never returns where such an end is under way.
+    void setLastAct(std::function<void()> act);
 
   private:
-    void watch();
+    void hear(int count);
+    [[noreturn]] void actAndEnd();
 
     std::function<void()> m_handler;
-    std::thread m_thread;
+    std::mutex m_lock; // of the last act, held while it runs
+    std::function<void()> m_lastAct;
+    std::jthread m_end;
+    SignalWatch m_watch; // last, as it calls from its thread
 };
 
 } // namespace songsweep::cli

@@ -3,10 +3,12 @@
 
 #include "cli/Commands.h"
 #include "cli/Output.h"
+#include "delete/DeleteTexts.h"
 #include "library/CaseFolding.h"
 #include "platform/LogFile.h"
 
 #include <algorithm>
+#include <cstdio>
 
 namespace songsweep::cli {
 
@@ -73,7 +75,21 @@ std::optional<std::string> LibrarySearch::choosePlaylist() {
 
 bool LibrarySearch::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
     if (m_controller->getCheckedCount() == 0) return true;
+    m_interrupts.setLastAct([this] { endDeletionAtOnce(); });
     return m_run.runDeletion(*m_controller, deleteFiles, leaveSharedFiles);
+}
+
+Result<void> LibrarySearch::writeLibrary() {
+    Result<void> written = m_program->scripting().flush();
+    m_interrupts.setLastAct({});
+    return written;
+}
+
+/// The sound comes back, and no file is in the Trash whose track is still in the library. Any thread.
+void LibrarySearch::endDeletionAtOnce() {
+    std::fputs("songsweep: ending without a report\n", stderr);
+    const Result<void> written = m_program->scripting().runLast(deleteTexts::unmute);
+    if (!written) fail(withPath(written.error().message));
 }
 
 SearchReport LibrarySearch::report() {

@@ -25,14 +25,18 @@ class LibrarySearch {
     /// Searches. The exit code of what went wrong, told on standard error; nothing on success.
     std::optional<ExitCode> run();
 
-    /// Deletes the tracks that are marked. False when it was interrupted.
+    /// Deletes the tracks that are marked. False when it was interrupted. Write the library afterwards.
     bool deleteMarked(bool deleteFiles, bool leaveSharedFiles);
+
+    /// Writes the library without the deleted tracks.
+    Result<void> writeLibrary();
 
     AppController& controller() { return *m_controller; }
     Program& program() { return *m_program; }
     SearchReport report();
 
   private:
+    void endDeletionAtOnce();
     std::optional<std::string> prepare();
     std::optional<std::string> choosePlaylist();
     std::string withPath(const std::string& message) const { return m_options.library + ": " + message; }

@@ -43,6 +43,18 @@ Result<Descriptor> EmbeddedScripting::executeAndReturnError(std::string_view sou
 
 Result<std::optional<Descriptor>> EmbeddedScripting::run(std::string_view source) {
     const std::lock_guard lock(m_lock);
+    if (m_ended) return Error{Error::Code::failed, "the program ends"};
+    return runLocked(source);
+}
+
+Result<void> EmbeddedScripting::runLast(std::string_view source) {
+    const std::lock_guard lock(m_lock);
+    m_ended = true;
+    static_cast<void>(runLocked(source)); // What matters is written also where it fails.
+    return flushLocked();
+}
+
+Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view source) {
     m_library.beginScript();
     const std::size_t before = m_library.opened() ? m_library.opened()->pendingDeletions() : 0;
     auto result = m_interpreter.run(source);

@@ -73,6 +73,10 @@ class EmbeddedScripting final : public AppleScript {
     /// As LibraryDocument::forEachLocation. The callback must not run scripts.
     Result<void> forEachLocation(const LibraryDocument::LocationCallback& callback);
 
+    /// Runs a last text and writes pending deletions; every later text fails. For a process that is about to
+    /// end while others still send texts, so that none of them does what is not written.
+    Result<void> runLast(std::string_view source);
+
     /// Writes pending deletions now.
     Result<void> flush();
     std::size_t pendingDeletions() const;
@@ -86,6 +90,7 @@ class EmbeddedScripting final : public AppleScript {
 
   private:
     Result<LibraryDocument*> currentDocument();
+    Result<std::optional<Descriptor>> runLocked(std::string_view source);
     Result<void> flushLocked();
     void tellOfWrite(const Result<void>& written, std::size_t deletions);
     void noteDeletions(std::size_t before);
@@ -95,6 +100,7 @@ class EmbeddedScripting final : public AppleScript {
     EmbeddedLibrary m_library;
     ITunesServices m_iTunes;
     InterpretedAppleScript m_interpreter;
+    bool m_ended = false; ///< the last text was run
     WriteSchedule m_schedule;
     LibraryDocument::Options m_libraryOptions;
     Log* m_log;

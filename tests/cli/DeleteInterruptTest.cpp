@@ -53,11 +53,11 @@ class InterruptedDeletion : public test::ProgramTest {
     void waitForSound(const std::string& states) const {
         ASSERT_TRUE(runEventLoopUntil([&] { return m_folder.read("sound") == states; }));
     }
-    /// Waits until the main thread has heard of Ctrl-C.
-    void waitForTheCancel() {
+    /// Waits until the program has heard of Ctrl-C and said so.
+    void waitFor(const std::string& word) {
         ASSERT_TRUE(runEventLoopUntil([&] {
             m_said += m_process.readAllStandardError().toStdString();
-            return m_said.find("stopping") != std::string::npos;
+            return m_said.find(word) != std::string::npos;
         }));
     }
     bool isDeleted() const {
@@ -94,7 +94,7 @@ TEST_F(InterruptedDeletion, stopsBeforeTheNextTrack) {
     start();
     waitForSound("1\n");
     sendSignal(m_process, SIGINT);
-    waitForTheCancel();
+    waitFor("stopping");
     letGo("1");
     const RunResult result = test::resultOf(m_process);
     EXPECT_EQ(result.exitCode, 130);
@@ -104,12 +104,48 @@ TEST_F(InterruptedDeletion, stopsBeforeTheNextTrack) {
     EXPECT_EQ(m_folder.read("sound"), "1\n0\n");
 }
 
+TEST_F(InterruptedDeletion, stopsWhenItsTerminalCloses) {
+    hold("1");
+    start();
+    waitForSound("1\n");
+    sendSignal(m_process, SIGHUP);
+    waitFor("stopping");
+    letGo("1");
+    EXPECT_EQ(test::resultOf(m_process).exitCode, 130);
+    EXPECT_EQ(m_folder.read("Library.xml"), text());
+    EXPECT_EQ(m_folder.read("sound"), "1\n0\n");
+}
+
+TEST_F(InterruptedDeletion, writesAndUnmutesWhenInterruptedTwice) {
+    hold("0");
+    start();
+    waitForSound("1\n0\n"); // the file is in the Trash, and its track still in the library
+    EXPECT_EQ(m_folder.read("Library.xml"), text());
+    sendSignal(m_process, SIGINT);
+    sendSignal(m_process, SIGINT);
+    waitFor("without a report");
+    letGo("0");
+    EXPECT_EQ(test::resultOf(m_process).exitCode, 130);
+    EXPECT_TRUE(isDeleted());
+    EXPECT_THAT(m_folder.read("sound"), ::testing::EndsWith("0\n"));
+}
+
+TEST_F(InterruptedDeletion, endsAtOnceWhenInterruptedThreeTimes) {
+    hold("0");
+    start();
+    waitForSound("1\n0\n");
+    for (int press = 0; press < 3; ++press)
+        sendSignal(m_process, SIGINT);
+    EXPECT_EQ(test::resultOf(m_process).exitCode, 130);
+    EXPECT_EQ(m_folder.read("sound"), "1\n0\n");
+}
+
 TEST_F(InterruptedDeletion, isDoneWhenTheLastTrackWasDealtWith) {
     hold("0");
     start();
     waitForSound("1\n0\n");
     sendSignal(m_process, SIGINT);
-    waitForTheCancel();
+    waitFor("stopping");
     letGo("0");
     const RunResult result = test::resultOf(m_process);
     EXPECT_EQ(result.exitCode, 0);

@@ -250,6 +250,16 @@ TEST_F(EmbeddedScriptingTest, AFailedWriteKeepsItsReasonAndItsDeletions) {
     EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 3);
 }
 
+TEST_F(EmbeddedScriptingTest, AfterTheLastTextAllIsWrittenAndNoneIsRun) {
+    open(manyTracks(3));
+    run(test::deleteTrackText(persistentIdOf(0)));
+    EXPECT_TRUE(m_scripts->runLast("tell application \"Finder\" to set volume with output muted"));
+    EXPECT_THAT(m_desktop.calls, ElementsAre("mute"));
+    EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 2);
+    EXPECT_EQ(failure(test::deleteTrackText(persistentIdOf(1))), "the program ends");
+    EXPECT_EQ(m_scripts->pendingDeletions(), 0U);
+}
+
 TEST_F(EmbeddedScriptingTest, EveryDeletionRunKeepsABackup) {
     open(manyTracks(4));
     m_scripts->beginDeletionRun();
