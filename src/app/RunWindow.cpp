@@ -4,6 +4,7 @@
 #include "app/WindowActions.h"
 #include "app/WindowedView.h"
 #include "platform/LogFile.h"
+#include "platform/SignalWatch.h"
 #include "ui/theme/SongsweepStyle.h"
 
 #include <QApplication>
@@ -64,6 +65,9 @@ int runWindow(ProgramOptions options, const std::string& logFile, int argumentCo
     QApplication application(argumentCount, arguments);
     nameApplication(options.version);
     applyTheme(application);
+    // Quitting lets a deletion turn the sound on again and the library be written.
+    const SignalWatch signals(
+        [](int) { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); });
     DescriptorLog console;
     if (logFile.empty())
         return runWithLog(std::move(options), console,

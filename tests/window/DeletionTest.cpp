@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <csignal>
 
 namespace songsweep::test {
 namespace {
@@ -132,6 +133,15 @@ class LongDeletionInAWindow : public DeletionFixture {
         m_input.press("alt+d");
         ASSERT_TRUE(appears("Deleting..."));
     }
+    /// What was deleted by the time the program ended was written, and nothing else is gone.
+    void expectTheDeletedWritten() const {
+        const auto deleted = deletedTracks();
+        EXPECT_GT(deleted.size(), 0U);
+        EXPECT_GT(countNotAttempted(), 0);
+        EXPECT_EQ(static_cast<int>(deleted.size()) + countNotAttempted(), pairs);
+        EXPECT_EQ(library(), libraryWithout(deleted));
+        EXPECT_EQ(countBackups(), 1);
+    }
     int countNotAttempted() const {
         int count = 0;
         for (const std::string& line : log())
@@ -144,12 +154,13 @@ class LongDeletionInAWindow : public DeletionFixture {
 
 TEST_F(LongDeletionInAWindow, EndsWithTheProgramAndWhatIsDeletedByThenIsWritten) {
     ASSERT_NO_FATAL_FAILURE(quit());
-    const auto deleted = deletedTracks();
-    EXPECT_GT(deleted.size(), 0U);
-    EXPECT_GT(countNotAttempted(), 0);
-    EXPECT_EQ(static_cast<int>(deleted.size()) + countNotAttempted(), pairs);
-    EXPECT_EQ(library(), libraryWithout(deleted));
-    EXPECT_EQ(countBackups(), 1);
+    expectTheDeletedWritten();
+}
+
+TEST_F(LongDeletionInAWindow, EndsWithARequestToTerminateAsWithQuit) {
+    ASSERT_EQ(::kill(static_cast<pid_t>(m_program.processId()), SIGTERM), 0);
+    ASSERT_NO_FATAL_FAILURE(waitForTheEnd());
+    expectTheDeletedWritten();
 }
 
 TEST_F(LongDeletionInAWindow, StopsOnEscapeAndTheRestStays) {

@@ -91,6 +91,10 @@ void WindowTest::start() {
 
 void WindowTest::quit() {
     m_input.press("ctrl+q");
+    waitForTheEnd();
+}
+
+void WindowTest::waitForTheEnd() {
     ASSERT_TRUE(comes("the end", [this] { return m_program.state() == QProcess::NotRunning; }));
     EXPECT_EQ(m_program.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(m_program.exitCode(), 0);

@@ -33,6 +33,7 @@ class WindowTest : public ::testing::Test {
     void start();
     /// Quits by the keyboard and waits for the end of the process.
     void quit();
+    void waitForTheEnd();
     /// Ctrl+F, Return, and the groups are there.
     void search();
     /// Marks every copy but one in each group, by the rule that the dialog offers first.
