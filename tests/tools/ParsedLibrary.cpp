@@ -64,7 +64,11 @@ void ParsedLibrary::readPlaylists(plist_t playlists) {
     for (std::uint32_t index = 0; index < plist_array_get_size(playlists); ++index) {
         const plist_t playlist = plist_array_get_item(playlists, index);
         const plist_t items = plist_dict_get_item(playlist, "Playlist Items");
-        m_playlists.push_back({textAt(playlist, "Name"), items != nullptr ? plist_array_get_size(items) : 0});
+        m_playlists.push_back({textAt(playlist, "Name"), 0, {}});
+        if (items == nullptr) continue;
+        m_playlists.back().items = plist_array_get_size(items);
+        for (std::uint32_t item = 0; item < plist_array_get_size(items); ++item)
+            m_playlists.back().trackIds.insert(numberAt(plist_array_get_item(items, item), "Track ID"));
     }
 }
 

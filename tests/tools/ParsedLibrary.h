@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ class ParsedLibrary {
     struct Playlist {
         std::string name;
         std::size_t items = 0;
+        std::set<int> trackIds; ///< of the items
     };
 
     /// Empty where the file cannot be parsed.
