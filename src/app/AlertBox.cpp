@@ -3,9 +3,9 @@
 
 #include "ui/theme/Metrics.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QShowEvent>
 
 #include <algorithm>
 
@@ -48,7 +48,9 @@ bool AlertBox::event(QEvent* event) {
 
 void AlertBox::showEvent(QShowEvent* event) {
     QMessageBox::showEvent(event);
+    if (event->spontaneous()) return;
     fit();
+    adjustPosition(parentWidget()); // QMessageBox put a box of another size in the middle of the window
 }
 
 void AlertBox::fit() {

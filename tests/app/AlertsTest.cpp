@@ -90,6 +90,18 @@ TEST_F(Alerts, TellThatTheLibraryCannotBeWritten) {
     box.close();
 }
 
+TEST_F(Alerts, StandWhereAnyDialogOfTheirSizeStands) {
+    m_window.setGeometry(100, 100, 600, 500);
+    for (QMessageBox* box : {alerts::openNoDuplicates(&m_window),
+                             &openCantAccess(QStringLiteral("The library file cannot be read"))}) {
+        QDialog other(&m_window);
+        other.setFixedSize(box->size());
+        other.open();
+        EXPECT_EQ(box->pos(), other.pos());
+        box->close();
+    }
+}
+
 TEST_F(Alerts, GiveTheReasonWhereThereIsOne) {
     QMessageBox& box = openCantAccess(QStringLiteral("The library file cannot be read"));
     EXPECT_EQ(box.informativeText(), QStringLiteral("The library file cannot be read"));
