@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 
+#include "app/Progress.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
@@ -8,9 +9,6 @@
 
 #include <QGuiApplication>
 #include <QScreen>
-
-#include <algorithm>
-#include <cmath>
 
 namespace songsweep {
 
@@ -104,7 +102,7 @@ void MainWindow::endProgress() {
 }
 
 void MainWindow::setProgressValue(double percent) {
-    const int value = std::isfinite(percent) ? static_cast<int>(std::clamp(percent, 0.0, 100.0)) : 0;
+    const int value = wholePercent(percent);
     m_ui->formprogress->setValue(value);
     m_ui->progressValueLabel->setText(QStringLiteral("%1 %").arg(value));
 }

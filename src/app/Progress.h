@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 
 namespace songsweep {
@@ -22,5 +24,11 @@ struct Progress {
     /// The bar's value, a percentage; the phase's beginning while there is nothing to count.
     double percent() const { return total == 0 ? progressBase : progressBase + progressSpan * (prc / total); }
 };
+
+/// A percentage as bars and texts show it: whole, so that 100 means done; within 0 and 100; 0 where it is
+/// none.
+inline int wholePercent(double percent) {
+    return std::isnan(percent) ? 0 : static_cast<int>(std::clamp(percent, 0.0, 100.0));
+}
 
 } // namespace songsweep

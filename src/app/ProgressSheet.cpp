@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/ProgressSheet.h"
 
+#include "app/Progress.h"
 #include "ui_ProgressSheet.h"
 
 #include <QPushButton>
-
-#include <algorithm>
-#include <cmath>
 
 namespace songsweep {
 
@@ -28,10 +26,7 @@ void ProgressSheet::setTitle(const std::string& title) {
     m_ui->progressLabel->setText(QString::fromStdString(title));
 }
 
-void ProgressSheet::setValue(double percent) {
-    const double shown = std::isnan(percent) ? 0.0 : std::clamp(percent, 0.0, 100.0);
-    m_ui->progress->setValue(static_cast<int>(std::lround(shown)));
-}
+void ProgressSheet::setValue(double percent) { m_ui->progress->setValue(wholePercent(percent)); }
 
 void ProgressSheet::showEvent(QShowEvent* event) {
     setFocus(); // so that no key but Escape cancels by accident
