@@ -2,6 +2,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Progress.h"
+#include "platform/Announcement.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
@@ -108,11 +109,11 @@ void MainWindow::setProgressValue(double percent) {
 }
 
 void MainWindow::setProgressInfo(const std::string& phase) {
-    m_ui->progressInfoLabel->setText(QString::fromStdString(phase));
+    showLive(*m_ui->progressInfoLabel, QString::fromStdString(phase));
 }
 
 void MainWindow::setStatusText(const std::string& text) {
-    m_ui->statusBottomLabel->setText(QString::fromStdString(text));
+    showLive(*m_ui->statusBottomLabel, QString::fromStdString(text));
 }
 
 void MainWindow::setStatusVisible(bool visible) { m_ui->statusBottomLabel->setVisible(visible); }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/ParametersDialog.h"
 
+#include "platform/Announcement.h"
 #include "ui_ParametersDialog.h"
 
-#include <QAccessible>
 #include <QPushButton>
 
 namespace songsweep {
@@ -72,8 +72,7 @@ void ParametersDialog::updateWarning() {
     const bool anyField = chosen.issamename || chosen.issameartist || chosen.issamealbum || chosen.issametime;
     m_ui->paramWarningLabel->setVisible(!anyField);
     if (anyField) return;
-    QAccessibleEvent announcement(m_ui->paramWarningLabel, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+    announce(*m_ui->paramWarningLabel, m_ui->paramWarningLabel->text());
 }
 
 } // namespace songsweep

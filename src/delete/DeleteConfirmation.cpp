@@ -2,6 +2,7 @@
 #include "delete/DeleteConfirmation.h"
 
 #include "delete/ConfirmationTexts.h"
+#include "platform/Announcement.h"
 #include "ui_DeleteConfirmation.h"
 
 #include <QPushButton>
@@ -12,8 +13,8 @@ namespace {
 
 template <class Control>
 void showText(Control* control, const QString& text) {
-    control->setText(text);
     control->setVisible(!text.isEmpty());
+    showLive(*control, text);
 }
 
 } // namespace

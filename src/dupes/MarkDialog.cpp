@@ -3,6 +3,7 @@
 
 #include "dupes/MarkingRules.h"
 #include "dupes/UpperCaseValidator.h"
+#include "platform/Announcement.h"
 #include "ui_MarkDialog.h"
 
 #include <QFileDialog>
@@ -128,7 +129,7 @@ void MarkDialog::setFolder(const QString& folder) {
 }
 
 void MarkDialog::setPreview(const MarkPreview& preview) {
-    m_ui->markLiveLabel->setText(previewText(preview));
+    showLive(*m_ui->markLiveLabel, previewText(preview));
 }
 
 void MarkDialog::showEvent(QShowEvent* event) {
@@ -190,7 +191,7 @@ void MarkDialog::openFolderChooser() {
 
 void MarkDialog::updateHelper() {
     const MarkChoice now = choice();
-    m_ui->markExceptOneLabel->setText(helperText(now.markType, now.exceptOne));
+    showLive(*m_ui->markExceptOneLabel, helperText(now.markType, now.exceptOne));
 }
 
 } // namespace songsweep
