@@ -68,6 +68,9 @@ void DeleteConfirmation::updateHeading() {
     m_ui->delConfFileCK->setVisible(some);
     m_ui->delConfLines->setVisible(some);
     m_deleteButton->setText(confirmationTexts::deleteButton(m_facts));
+#ifdef Q_OS_MACOS
+    m_deleteButton->setShortcut(Qt::CTRL | Qt::Key_D); // there are no mnemonics; a new text takes it away
+#endif
     const QString warning = confirmationTexts::warning(m_facts);
     m_ui->delConfWarningLabel->setText(warning);
     m_ui->delConfWarning->setVisible(!warning.isEmpty());
