@@ -90,8 +90,7 @@ void WindowActions::connectMarkDialog() {
     connect(dialog, &MarkDialog::markRequested, this,
             [this, dialog] { m_controller.markOkButtonClick(dialog->choice()); });
     connect(dialog, &MarkDialog::choiceChanged, this, &WindowActions::updateMarkPreview);
-    connect(dialog, &MarkDialog::folderChooserOpening, this,
-            [this] { m_controller.markFolderButtonClick(); });
+    connect(dialog, &MarkDialog::folderRequested, this, [this] { m_controller.markFolderButtonClick(); });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.markCancelButtonClick(); });
     connect(dialog, &MarkDialog::opening, this, &WindowActions::updateMarkPreview);
     m_view.setReloadHandler([this] { updateMarkPreview(); });

@@ -129,6 +129,7 @@ void WindowedView::showMarkWindow() {
 }
 
 void WindowedView::closeMarkWindow() { m_markWindow.hide(); }
+void WindowedView::chooseMarkFolder() { m_markWindow.openFolderChooser(); }
 
 // The delete confirmation.
 

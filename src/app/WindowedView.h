@@ -77,6 +77,7 @@ class WindowedView final : public ControllerView {
     void fillKinds(const std::vector<std::string>& kinds) override;
     void showMarkWindow() override;
     void closeMarkWindow() override;
+    void chooseMarkFolder() override;
     void beginDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
     void endDeleteConfirmation() override;
 

@@ -163,7 +163,7 @@ void MarkDialog::connectFolder() {
         m_ui->markFolderRB->setChecked(true);
         Q_EMIT choiceChanged();
     });
-    connect(m_ui->markFolderButton, &QPushButton::clicked, this, &MarkDialog::openFolderChooser);
+    connect(m_ui->markFolderButton, &QPushButton::clicked, this, &MarkDialog::folderRequested);
 }
 
 void MarkDialog::setUpButtons() {
@@ -179,7 +179,6 @@ void MarkDialog::setUpButtons() {
 }
 
 void MarkDialog::openFolderChooser() {
-    Q_EMIT folderChooserOpening();
     auto* chooser = new QFileDialog(this, QStringLiteral("Select a folder"));
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     chooser->setFileMode(QFileDialog::Directory);

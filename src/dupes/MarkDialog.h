@@ -49,6 +49,8 @@ class MarkDialog : public QDialog {
     /// Makes `folder` the folder to mark, as text and tool tip, and its rule the chosen one.
     void setFolder(const QString& folder);
     void setPreview(const MarkPreview& preview);
+    /// Opens the chooser of a folder; one that is chosen becomes the folder to mark.
+    void openFolderChooser();
 
   Q_SIGNALS:
     /// It comes to the screen now, and wants a preview.
@@ -57,8 +59,8 @@ class MarkDialog : public QDialog {
     void choiceChanged();
     /// "Mark" was pressed; the dialog stays open.
     void markRequested();
-    /// The folder chooser is about to open.
-    void folderChooserOpening();
+    /// "Choose..." was pressed.
+    void folderRequested();
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -68,7 +70,6 @@ class MarkDialog : public QDialog {
     void connectKind();
     void connectFolder();
     void setUpButtons();
-    void openFolderChooser();
     void updateHelper();
 
     std::unique_ptr<Ui::MarkDialog> m_ui;

@@ -165,6 +165,17 @@ TEST_F(WindowActionsTest, TheMarkDialogKnowsTheMarksSetWhileItWasClosed) {
     EXPECT_TRUE(line.text().startsWith(QStringLiteral("Would mark "))) << line.text().toStdString();
 }
 
+TEST_F(WindowActionsTest, AFolderToMarkIsChosenInAChooser) {
+    press("autoMarkButton");
+    view.markWindow().findChild<QAbstractButton*>(QStringLiteral("markFolderButton"))->click();
+    EXPECT_EQ(log.lines().back(), "Select mark folder");
+    auto* chooser = view.markWindow().findChild<QFileDialog*>();
+    ASSERT_NE(chooser, nullptr);
+    Q_EMIT chooser->fileSelected(QStringLiteral("/music/Old"));
+    chooser->close();
+    EXPECT_EQ(view.markWindow().choice(), (MarkChoice{markType::folder, true, "/music/Old"}));
+}
+
 TEST_F(WindowActionsTest, AMarkByARuleSaysWhy) {
     search();
     press("autoMarkButton");

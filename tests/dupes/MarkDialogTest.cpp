@@ -290,10 +290,11 @@ TEST_F(MarkDialogTest, NamesEveryControlForAssistiveTechnology) {
 
 TEST_F(MarkDialogTest, OpensAChooserForOneFolderAndTakesItsAnswer) {
     MarkDialog dialog;
-    QSignalSpy openings(&dialog, &MarkDialog::folderChooserOpening);
+    QSignalSpy requests(&dialog, &MarkDialog::folderRequested);
     test::open(dialog);
     child<QPushButton>(dialog, "markFolderButton").click();
-    EXPECT_EQ(openings.count(), 1);
+    EXPECT_EQ(requests.count(), 1);
+    dialog.openFolderChooser();
     auto* chooser = dialog.findChild<QFileDialog*>();
     ASSERT_NE(chooser, nullptr);
     EXPECT_EQ(chooser->windowTitle(), QStringLiteral("Select a folder"));
@@ -308,7 +309,7 @@ TEST_F(MarkDialogTest, ChangesNothingWhenTheChooserIsCancelled) {
     MarkDialog dialog;
     dialog.selectMissingItems();
     test::open(dialog);
-    child<QPushButton>(dialog, "markFolderButton").click();
+    dialog.openFolderChooser();
     auto* chooser = dialog.findChild<QFileDialog*>();
     ASSERT_NE(chooser, nullptr);
     chooser->reject();
