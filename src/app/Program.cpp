@@ -108,7 +108,7 @@ std::string Program::unreachableReason() const {
 
 std::string Program::withLibraryPath(const std::string& reason) const {
     const std::string path = m_scripting.libraryPath();
-    return path.empty() ? reason : path + ": " + reason;
+    return reason.find(path) != std::string::npos ? reason : path + ": " + reason;
 }
 
 void Program::setWriteFailedHandler(std::function<void(const std::string&)> handler) {
