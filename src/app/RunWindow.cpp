@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QSettings>
 
 #include <cstdlib>
 
@@ -23,6 +24,11 @@ void nameApplication(const std::string& version) {
     QApplication::setApplicationName(QStringLiteral("Songsweep"));
     QApplication::setApplicationVersion(QString::fromStdString(version));
     QApplication::setDesktopFileName(QStringLiteral("songsweep"));
+}
+
+/// Qt's file chooser would remember folders and widths in a settings file; this program keeps none.
+void keepNoSettingsFile() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
 
 /// Until somebody quits; the workers have returned then.
@@ -64,6 +70,7 @@ int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& re
 int runWindow(ProgramOptions options, const std::string& logFile, int argumentCount, char** arguments) {
     QApplication application(argumentCount, arguments);
     nameApplication(options.version);
+    keepNoSettingsFile();
     applyTheme(application);
     // Quitting lets a deletion turn the sound on again and the library be written.
     const SignalWatch signals(
