@@ -123,6 +123,15 @@ void SWTableView::reloadData(const DisplayedList& list) {
     place.restore(*this);
 }
 
+/// Digits are to have one width, which some fonts give only when asked.
+void SWTableView::initViewItemOption(QStyleOptionViewItem* option) const {
+    QTableView::initViewItemOption(option);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    option->font.setFeature("tnum", 1);
+    option->fontMetrics = QFontMetrics(option->font);
+#endif
+}
+
 void SWTableView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     if (hasFocus() && currentIndex().isValid()) drawCurrentRow();
