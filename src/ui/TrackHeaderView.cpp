@@ -22,6 +22,7 @@ constexpr int separatorAir = 6;
 constexpr int hairline = 1;
 constexpr QSize triangle(8, 5);
 constexpr int triangleAir = 5; ///< between triangle and title
+constexpr int closeAir = 1;    ///< the least there, beside a title in the middle of its section
 constexpr int edgeAir = 1;     ///< between a narrow section's edge and what stands in it
 
 } // namespace
@@ -105,7 +106,8 @@ void TrackHeaderView::drawBin(QPainter& painter, const QRect& rect) const {
 int TrackHeaderView::titleRoom(Column column) const {
     const int width = sectionSize(sectionOf(column));
     const int edge = scaledLength(edgeAir, this);
-    if (columnLook(column).alignment.testFlag(Qt::AlignHCenter)) return width - 2 * edge;
+    if (columnLook(column).alignment.testFlag(Qt::AlignHCenter))
+        return width - 2 * (edge + scaledLength(triangle.width() + closeAir, this));
     return width - scaledLength(titlePadding + triangle.width() + triangleAir, this) - edge;
 }
 
