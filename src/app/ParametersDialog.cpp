@@ -2,6 +2,7 @@
 #include "app/ParametersDialog.h"
 
 #include "platform/Announcement.h"
+#include "ui/theme/ToolTips.h"
 #include "ui_ParametersDialog.h"
 
 #include <QPushButton>
@@ -21,7 +22,7 @@ ParametersDialog::ParametersDialog(QWidget* parent)
         connect(field, &QCheckBox::toggled, this, &ParametersDialog::updateWarning);
     // A name too long for the box is cut there, so that the dialog does not grow with it.
     connect(m_ui->paramLocationCB, &QComboBox::currentTextChanged, m_ui->paramLocationCB,
-            &QWidget::setToolTip);
+            [list = m_ui->paramLocationCB](const QString& name) { list->setToolTip(plainToolTip(name)); });
     updateWarning();
 }
 
@@ -45,7 +46,8 @@ void ParametersDialog::addPlaylist(const std::string& name) {
     const int selected = m_ui->paramLocationCB->currentIndex();
     const QString text = QString::fromStdString(name);
     m_ui->paramLocationCB->addItem(text);
-    m_ui->paramLocationCB->setItemData(m_ui->paramLocationCB->count() - 1, text, Qt::ToolTipRole);
+    m_ui->paramLocationCB->setItemData(m_ui->paramLocationCB->count() - 1, plainToolTip(text),
+                                       Qt::ToolTipRole);
     m_ui->paramLocationCB->setCurrentIndex(selected); // a first item selects itself
 }
 

@@ -2,11 +2,11 @@
 #include "ui/PaperCell.h"
 
 #include "ui/TrackTableModel.h"
+#include "ui/theme/ToolTips.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QTextDocument>
 #include <QToolTip>
 
 namespace songsweep {
@@ -24,12 +24,6 @@ QColor backgroundOf(RowState state, bool tinted) {
     if (state == RowState::selected) return selectedBand;
     if (state == RowState::selectedInactive) return selectedInactiveBand;
     return tinted ? tintedBand : whiteBand;
-}
-
-/// A tool tip takes whatever looks like markup for it; names of tracks are none.
-QString plainToolTip(const QString& text) {
-    if (!Qt::mightBeRichText(text)) return text;
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
 }
 
 } // namespace

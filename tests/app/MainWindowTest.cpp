@@ -3,7 +3,9 @@
 
 #include "support/RecordingLog.h"
 #include "support/SampleRows.h"
+#include "support/Widgets.h"
 #include "ui/SWTableView.h"
+#include "ui/SummaryLabel.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
 
@@ -241,6 +243,25 @@ TEST_F(MainWindowTest, TheStripTellsWhatIsShownAndWhatWasSearched) {
     showResults(list);
     EXPECT_EQ(control<QLabel>("statusBottomLabel").text(), QStringLiteral("12 songs"));
     EXPECT_EQ(control<QLabel>("searchedLabel").text(), QStringLiteral("Music: same name"));
+}
+
+TEST_F(MainWindowTest, ALongPlaylistIsCutWithDotsBeforeWhatWasCompared) {
+    showResults(list);
+    const auto& searched = control<SummaryLabel>("searchedLabel");
+    QApplication::processEvents();
+    EXPECT_EQ(searched.shownText(), searched.text());
+    const QString whole =
+        QStringLiteral("Party: ") + QString(300, QLatin1Char('W')) + QStringLiteral(": same name, artist");
+    window.setSearchedText(whole.toStdString());
+    QApplication::processEvents();
+    const QString shown = searched.shownText();
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("Party: WWW"))) << shown.toStdString();
+    EXPECT_TRUE(shown.endsWith(QStringLiteral("\u2026: same name, artist"))) << shown.toStdString();
+    EXPECT_LE(searched.fontMetrics().horizontalAdvance(shown), searched.width());
+    EXPECT_EQ(accessibleName(control<QWidget>("searchedLabel")), whole);
+    const QLabel& status = control<QLabel>("statusBottomLabel");
+    EXPECT_GE(status.width(), status.sizeHint().width());
+    EXPECT_LE(status.geometry().right(), searched.geometry().left());
 }
 
 TEST_F(MainWindowTest, WithoutResultsTheStripIsEmpty) {
