@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// What a user does with results and menus: marking, playing, showing, reopening, links.
+#include "app/ControllerFixture.h"
+#include "dupes/MarkingRules.h"
+
+namespace songsweep::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class AppControllerActionsTest : public ControllerFixture {
+  protected:
+    void SetUp() override { view.calls.clear(); }
+
+    void addFiles(const std::vector<const char*>& paths) {
+        for (const char* path : paths) {
+            addRows({1});
+            records.back()->location = path;
+        }
+        view.calls.clear();
+    }
+};
+
+TEST_F(AppControllerActionsTest, TheMarkDialogListsTheKindsOfItsFirstOpeningAlone) {
+    addFiles({"/music/song.mp3", "/music/a.m4a", "/music/b.MP3"});
+    controller->markButtonClick();
+    EXPECT_THAT(view.calls, ElementsAre("fillKinds MP3 M4A", "showMarkWindow"));
+    addFiles({"/music/c.wav"});
+    controller->markButtonClick();
+    EXPECT_THAT(view.calls, ElementsAre("showMarkWindow"));
+}
+
+TEST_F(AppControllerActionsTest, MarkingWithoutResultsLogsAndChangesNothing) {
+    const std::size_t lines = log.lines().size();
+    controller->markOkButtonClick({markType::latestAdded, true, ""});
+    EXPECT_THAT(view.calls, IsEmpty());
+    EXPECT_EQ(log.lines().size(), lines);
+}
+
+TEST_F(AppControllerActionsTest, ARuleIsLoggedByItsNumberAndItsDialogStaysOpen) {
+    addRows({1, 1});
+    records[0]->dateaddedv = 100;
+    records[1]->dateaddedv = 200;
+    view.calls.clear();
+    controller->markOkButtonClick({markType::latestAdded, true, ""});
+    EXPECT_EQ(log.lines().back(), "markTyp = 7");
+    EXPECT_TRUE(records[0]->checkbox);
+    EXPECT_FALSE(records[1]->checkbox);
+    EXPECT_THAT(view.calls, ElementsAre("reloadTable", "setDeleteEnabled on", "setStatusText 1 of 2 marked"));
+}
+
+TEST_F(AppControllerActionsTest, UnmarkingNothingSelectedStillReloadsAndRefreshes) {
+    addRows({1, 1});
+    records[0]->checkbox = true;
+    view.calls.clear();
+    controller->markMenuClick(1);
+    EXPECT_TRUE(records[0]->checkbox);
+    EXPECT_THAT(view.calls, ElementsAre("reloadTable", "setDeleteEnabled on", "setStatusText 1 of 2 marked"));
+}
+
+TEST_F(AppControllerActionsTest, TheMarkCommandsSetTheSelectedRowsOrAll) {
+    addRows({1, 1, 1});
+    const auto marks = [this] {
+        std::string text;
+        for (const auto& record : records)
+            text += record->checkbox ? 'x' : '-';
+        return text;
+    };
+    view.selection = {0, 2};
+    controller->markMenuClick(0);
+    EXPECT_EQ(marks(), "x-x");
+    view.selection = {2};
+    controller->markMenuClick(1);
+    EXPECT_EQ(marks(), "x--");
+    controller->markMenuClick(2);
+    EXPECT_EQ(marks(), "xxx");
+    controller->markMenuClick(3);
+    EXPECT_EQ(marks(), "---");
+}
+
+TEST_F(AppControllerActionsTest, MarkNoneUnmarksEveryTrack) {
+    addRows({1, 1});
+    records[0]->checkbox = records[1]->checkbox = true;
+    view.calls.clear();
+    controller->markNone();
+    EXPECT_EQ(controller->getCheckedCount(), 0);
+    EXPECT_THAT(view.calls, ElementsAre("reloadTable", "setDeleteEnabled off", "setStatusVisible on",
+                                        "setMarkEnabled on", "setStatusText 2 songs"));
+}
+
+TEST_F(AppControllerActionsTest, ChoosingAFolderIsLogged) {
+    controller->markFolderButtonClick();
+    EXPECT_EQ(log.lines().back(), "Select mark folder");
+    EXPECT_THAT(view.calls, ElementsAre("chooseMarkFolder"));
+}
+
+TEST_F(AppControllerActionsTest, CancelOfTheMarkDialogOnlyHidesIt) {
+    controller->markCancelButtonClick();
+    EXPECT_THAT(view.calls, ElementsAre("closeMarkWindow"));
+}
+
+TEST_F(AppControllerActionsTest, ADoubleClickWithoutASelectedRowDoesNothing) {
+    addFiles({"/music/a.mp3"});
+    controller->tableviewDoubleClick();
+    controller->playMenuClick();
+    controller->showinFinderMenuClick();
+    EXPECT_THAT(iTunes.texts(), IsEmpty());
+    EXPECT_THAT(desktop.calls, IsEmpty());
+}
+
+TEST_F(AppControllerActionsTest, ADoubleClickAndThePlayCommandPlayTheSelectedRow) {
+    addFiles({"/music/a.mp3", "/music/b.mp3"});
+    view.selection = {1};
+    controller->tableviewDoubleClick();
+    const std::string script = "tell application \"iTunes\" \nplay \"Macintosh HD:music:b.mp3\" \nend tell";
+    EXPECT_THAT(iTunes.texts(), ElementsAre(script));
+    controller->playMenuClick();
+    EXPECT_THAT(iTunes.texts(), ElementsAre(script, script));
+}
+
+TEST_F(AppControllerActionsTest, AnErrorOfThePlayScriptIsNotLookedAt) {
+    addFiles({"/music/a.mp3"});
+    view.selection = {0};
+    iTunes.fails = [](const std::string&) { return true; };
+    controller->tableviewDoubleClick();
+    EXPECT_THAT(view.calls, IsEmpty());
+}
+
+TEST_F(AppControllerActionsTest, TheSelectedRowIsShownInTheFileManager) {
+    addFiles({"/music/a.mp3", "/music/b.mp3"});
+    view.selection = {0};
+    controller->showinFinderMenuClick();
+    EXPECT_THAT(desktop.calls, ElementsAre("show /music/a.mp3"));
+}
+
+TEST_F(AppControllerActionsTest, ReopeningBringsTheMainWindowOnlyWhereNoneIsToBeSeen) {
+    EXPECT_TRUE(controller->applicationShouldHandleReopen(true));
+    EXPECT_THAT(view.calls, IsEmpty());
+    EXPECT_FALSE(controller->applicationShouldHandleReopen(false));
+    EXPECT_THAT(view.calls, ElementsAre("showMainWindow"));
+}
+
+TEST_F(AppControllerActionsTest, TheLinksOpenTheirAddresses) {
+    controller->websiteButtonClick();
+    controller->helpButtonClick();
+    controller->contactButtonClick();
+    ASSERT_EQ(desktop.calls.size(), 3U);
+    EXPECT_THAT(desktop.calls[0], ::testing::MatchesRegex("openUrl https://[a-z.]+/"));
+    EXPECT_EQ(desktop.calls[1], desktop.calls[0] + "help.php");
+    EXPECT_THAT(desktop.calls[2], ::testing::EndsWith("/contact.php?id=songsweep"));
+}
+
+} // namespace
+} // namespace songsweep::test
