@@ -100,14 +100,19 @@ QImage drawn(Icon icon, int size, ThemeKind kind) {
 class EveryIcon : public testing::TestWithParam<Icon> {};
 
 TEST_P(EveryIcon, IsDrawnAtEverySizeAndInsideItsBounds) {
+    constexpr int margin = 12;
     for (const int size : {14, 20, 30, 40}) {
-        const QImage image = drawn(GetParam(), size, ThemeKind::light);
-        int inked = 0;
-        for (int y = 0; y < size; ++y) {
-            for (int x = 0; x < size; ++x)
-                inked += qAlpha(image.pixel(x, y)) > 0 ? 1 : 0;
-        }
-        EXPECT_GT(inked, 0);
+        const QRect bounds(margin, margin, size, size);
+        QImage image(size + 2 * margin, size + 2 * margin, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        paintIcon(painter, GetParam(), bounds, themeColors(ThemeKind::light));
+        QRect inked;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (qAlpha(image.pixel(x, y)) > 0) inked |= QRect(x, y, 1, 1);
+        EXPECT_FALSE(inked.isEmpty()) << size;
+        EXPECT_TRUE(bounds.contains(inked)) << size;
     }
 }
 
