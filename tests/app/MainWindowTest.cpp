@@ -3,6 +3,7 @@
 
 #include "support/RecordingLog.h"
 #include "support/SampleRows.h"
+#include "support/ThemedTest.h"
 #include "support/Widgets.h"
 #include "ui/SWTableView.h"
 #include "ui/SummaryLabel.h"
@@ -27,6 +28,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace songsweep::test {
@@ -191,16 +193,68 @@ TEST_F(MainWindowTest, EveryOtherMenuItemStaysEnabled) {
     }
 }
 
-TEST_F(MainWindowTest, MenuItemsAskForTheirActions) {
-    QSignalSpy deletes(&window, &MainWindow::deleteMarkedMenuClick);
-    QSignalSpy plays(&window, &MainWindow::playMenuClick);
-    QSignalSpy shows(&window, &MainWindow::showinFinderMenuClick);
-    QSignalSpy abouts(&window, &MainWindow::aboutButtonClick);
-    QSignalSpy helps(&window, &MainWindow::helpButtonClick);
-    for (const char* name :
-         {"deleteMarkedMenuitem", "playMenuitem", "showinFinderMenuitem", "aboutMenuitem", "helpMenuitem"})
-        item(name).trigger();
-    EXPECT_EQ(deletes.size() + plays.size() + shows.size() + abouts.size() + helps.size(), 5);
+TEST_F(MainWindowTest, EveryMenuItemAsksForItsActionAndForNoOther) {
+    struct Wish {
+        const char* item;
+        void (MainWindow::*signal)();
+    };
+    const std::vector<Wish> wishes = {
+        {"searchMenuitem", &MainWindow::startButtonClick},
+        {"deleteMarkedMenuitem", &MainWindow::deleteMarkedMenuClick},
+        {"autoMarkMenuitem", &MainWindow::markButtonClick},
+        {"playMenuitem", &MainWindow::playMenuClick},
+        {"showinFinderMenuitem", &MainWindow::showinFinderMenuClick},
+        {"mainWindowMenuitem", &MainWindow::mainWindowMenuClick},
+        {"helpMenuitem", &MainWindow::helpButtonClick},
+        {"websiteMenuitem", &MainWindow::websiteButtonClick},
+        {"contactMenuitem", &MainWindow::contactButtonClick},
+        {"aboutMenuitem", &MainWindow::aboutButtonClick},
+        {"quitMenuitem", &MainWindow::quit},
+        {"closeMenuitem", &MainWindow::closed},
+    };
+    window.setMarkEnabled(true);
+    QStringList asked;
+    for (const Wish& wish : wishes)
+        QObject::connect(&window, wish.signal, &window,
+                         [&asked, wish] { asked.append(QString::fromLatin1(wish.item)); });
+    for (const Wish& wish : wishes) {
+        asked.clear();
+        item(wish.item).trigger();
+        EXPECT_EQ(asked, QStringList(QString::fromLatin1(wish.item)));
+    }
+}
+
+TEST_F(MainWindowTest, EveryItemWithAKeyIsPressedByIt) {
+    const std::vector<std::pair<const char*, QKeyCombination>> keys = {
+        {"openLibraryMenuitem", Qt::CTRL | Qt::Key_O},
+        {"searchMenuitem", Qt::CTRL | Qt::Key_F},
+        {"deleteMarkedMenuitem", Qt::CTRL | Qt::Key_Delete},
+        {"quitMenuitem", Qt::CTRL | Qt::Key_Q},
+        {"autoMarkMenuitem", Qt::CTRL | Qt::Key_R},
+        {"markSelectedMenuitem", Qt::CTRL | Qt::Key_K},
+        {"unmarkSelectedMenuitem", Qt::CTRL | Qt::SHIFT | Qt::Key_K},
+        {"markAllMenuitem", Qt::CTRL | Qt::SHIFT | Qt::Key_A},
+        {"unmarkAllMenuitem", Qt::CTRL | Qt::Key_U},
+        {"playMenuitem", Qt::CTRL | Qt::Key_P},
+        {"showinFinderMenuitem", Qt::CTRL | Qt::SHIFT | Qt::Key_R},
+        {"mainWindowMenuitem", Qt::CTRL | Qt::Key_0},
+        {"helpMenuitem", Qt::NoModifier | Qt::Key_F1},
+        {"closeMenuitem", Qt::CTRL | Qt::Key_W},
+    };
+    window.setOpenLibraryGuard([] { return false; });
+    showResults(list);
+    for (const auto& [name, key] : keys) {
+        QSignalSpy presses(&item(name), &QAction::triggered);
+        QTest::keyClick(window.focusWidget(), key.key(), key.keyboardModifiers());
+        EXPECT_EQ(presses.size(), 1) << name;
+    }
+    for (const QAction* action : window.findChildren<QAction*>())
+        EXPECT_TRUE(action->shortcut().isEmpty() || std::any_of(keys.begin(), keys.end(),
+                                                                [&](const auto& each) {
+                                                                    return action->objectName() ==
+                                                                           QString::fromLatin1(each.first);
+                                                                }))
+            << action->text().toStdString();
 }
 
 TEST_F(MainWindowTest, MarkItemsCarryTheirTags) {
@@ -379,6 +433,25 @@ TEST_F(MainWindowTest, ControlsSpeakInVerbAndObject) {
     }
 }
 
+TEST_F(MainWindowTest, ControlsHaveTheirRoles) {
+    const std::vector<std::pair<const char*, QAccessible::Role>> roles = {
+        {"searchButton", QAccessible::Button},
+        {"autoMarkButton", QAccessible::Button},
+        {"deleteButton", QAccessible::Button},
+        {"formprogressCancelButton", QAccessible::Button},
+        {"emptySearchButton", QAccessible::Button},
+        {"formprogress", QAccessible::ProgressBar},
+        {"tableview", QAccessible::Table},
+        {"progressInfoLabel", QAccessible::StaticText},
+        {"progressValueLabel", QAccessible::StaticText},
+        {"statusBottomLabel", QAccessible::StaticText},
+        {"searchedLabel", QAccessible::StaticText},
+        {"mainMenu", QAccessible::MenuBar},
+    };
+    for (const auto& [name, role] : roles)
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(&control<QWidget>(name))->role(), role) << name;
+}
+
 TEST_F(MainWindowTest, ToolTipsNameTheKeys) {
     EXPECT_EQ(control<QWidget>("searchButton").toolTip(), QStringLiteral("Find duplicates (Ctrl+F)"));
     EXPECT_EQ(control<QWidget>("autoMarkButton").toolTip(), QStringLiteral("Mark copies by a rule (Ctrl+R)"));
@@ -430,5 +503,35 @@ TEST_F(MainWindowTest, TheBarIsInTheMiddleOfThePage) {
     const QWidget& bar = control<QProgressBar>("formprogress");
     EXPECT_NEAR(bar.geometry().center().x(), bar.parentWidget()->rect().center().x(), 1);
 }
+
+class MainWindowAtScale : public ThemedTest, public ::testing::WithParamInterface<double> {};
+
+TEST_P(MainWindowAtScale, ClipsNoTextOnAnyPage) {
+    setFont(GetParam(), 100);
+    RecordingLog log;
+    MainWindow window(log);
+    window.show();
+    window.resize(window.minimumSize());
+    const auto clipped = [&] {
+        QApplication::processEvents();
+        return clippedControls(window).join(QLatin1Char(' ')).toStdString();
+    };
+    EXPECT_EQ(clipped(), "") << "empty state";
+    window.setPerformLabelVisible(false);
+    window.beginProgress();
+    window.setProgressInfo("Checking missing tracks...");
+    window.setProgressValue(100);
+    EXPECT_EQ(clipped(), "") << "searching";
+    window.endProgress();
+    window.setTableVisible(true);
+    window.reloadTable(sampleRows());
+    window.setStatusText("123456 of 1000000 marked");
+    window.setStatusVisible(true);
+    window.setSearchedText("Music: same name, artist, album, time");
+    window.setDeleteEnabled(true);
+    EXPECT_EQ(clipped(), "") << "results";
+}
+
+INSTANTIATE_TEST_SUITE_P(, MainWindowAtScale, ::testing::Values(1.0, 1.5, 2.0));
 
 } // namespace songsweep::test
