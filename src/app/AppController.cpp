@@ -26,6 +26,7 @@ AppController::AppController(ControllerServices services, ControllerView& view)
     , m_view(view)
     , m_queries(m_services.scripts, m_services.log)
     , m_list1(std::make_shared<TrackList>())
+    , m_surveys(m_center, m_services.log)
     , m_queue(m_center, m_services.log) {
     m_progressTimer.setInterval(progressIntervalMilliseconds);
     m_progressTimer.setTimerType(Qt::PreciseTimer);
@@ -35,7 +36,7 @@ AppController::AppController(ControllerServices services, ControllerView& view)
     m_queue.setIdleHandler([this] { reportIdle(); });
 }
 
-AppController::~AppController() = default;
+AppController::~AppController() { m_surveys.cancelAllOperations(); }
 
 void AppController::awakeFromNib(const std::function<bool()>& redirectLog) {
     // A log that could not be redirected says so itself, and start-up goes on.
@@ -50,6 +51,7 @@ bool AppController::applicationShouldTerminate() {
     m_progressTimer.stop();
     m_myTimer.stop();
     m_queue.cancelAllOperations();
+    m_surveys.cancelAllOperations();
     m_center.close();
     return true;
 }

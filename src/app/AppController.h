@@ -6,6 +6,7 @@
 #include "app/Progress.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
+#include "delete/FileSurvey.h"
 #include "dupes/MarkChoice.h"
 #include "library/DisplayedList.h"
 #include "library/SWXMLParser.h"
@@ -13,6 +14,7 @@
 #include "operations/NotificationCenter.h"
 #include "operations/OperationQueue.h"
 
+#include <QObject>
 #include <QTimer>
 
 #include <functional>
@@ -35,7 +37,8 @@ struct ControllerServices {
     std::string version; ///< "1.0"
     /// Why the embedded library cannot be read, for the alert; empty where nothing is known.
     std::function<std::string()> unreachableReason = [] { return std::string(); };
-    /// Every track of the whole library with its file, for finding files that two tracks share.
+    /// Every track of the whole library with its file, for finding files that two tracks share; called on a
+    /// worker thread.
     LibraryLocations libraryLocations = {};
     /// Told that a deletion is about to begin, so that it gets a backup of its own.
     std::function<void()> beginDeletionRun = [] {};
@@ -102,11 +105,13 @@ class AppController {
     void markMenuClick(std::int32_t tag);
 
     // Deleting.
+    /// Opens the confirmation at once; what it says of files comes when a survey of them has answered.
     void deleteButtonClick();
     /// The menu command: refreshes the status, then presses Delete, or beeps.
     void deleteMarkedMenuClick();
     void delConfCancelButtonClick();
-    /// `leaveSharedFiles`: files that a track that stays uses too are not touched.
+    /// `leaveSharedFiles`: files that a track that stays uses too are not touched. Nothing happens with
+    /// `deleteFiles` before the survey of the files has answered.
     void delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles = true);
     void beginDelete();
     int getCheckedCount() const;
@@ -171,6 +176,11 @@ class AppController {
     void closeProgressWindow(ProgressBar bar);
     void updateProgress();
 
+    // The survey of the files of a deletion.
+    void startSurvey(const DeleteConfirmationFacts& facts);
+    void onSurvey(std::uint64_t serial, FileSurvey::Answer& answer);
+    void forgetSurvey();
+
     // Steps of a search.
     void startReader();
     void startAddProc();
@@ -221,11 +231,15 @@ class AppController {
     bool m_deleteFiles = false;
     bool m_leaveSharedFiles = true;
     DeletePlan m_deletePlan;
+    std::optional<std::uint64_t> m_pendingSurvey; ///< its serial, while the confirmation waits for its answer
     std::shared_ptr<DeleteReport> m_deleteReport;
 
     std::uint64_t m_searchSerial = 0; ///< of the present search's first worker
     std::function<void()> m_idleHandler;
-    OperationQueue m_queue; ///< last, so that its workers end before what they use
+    QObject m_surveyReceiver; ///< on the main thread, where the answers go
+    // Last, so that their workers end before what they use.
+    OperationQueue m_surveys; ///< of their own, so that no worker waits for a survey that takes long to stop
+    OperationQueue m_queue;
 };
 
 } // namespace songsweep

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The deletion: its confirmation, its start, and what is left of the groups afterwards.
 #include "app/AppController.h"
+#include "delete/TrackFacts.h"
+
+#include <QMetaObject>
 
 #include <utility>
 
@@ -9,10 +12,37 @@ namespace songsweep {
 void AppController::deleteButtonClick() {
     if (isDeleting() || isWorking()) return;
     m_deletion = Deletion::confirming;
-    m_deletePlan = makeDeletePlan(m_tableDataSource.rows, m_services.files, m_services.libraryLocations);
-    DeleteConfirmationFacts facts = confirmationFacts(m_tableDataSource.rows, m_services.files, m_deletePlan);
+    DeleteConfirmationFacts facts = trackFacts(m_tableDataSource.rows);
     facts.embeddedLibrary = m_services.embeddedLibrary();
+    facts.filesPending = facts.tracks > 0;
+    if (facts.filesPending) startSurvey(facts);
     m_view.beginDeleteConfirmation(facts);
+}
+
+void AppController::startSurvey(const DeleteConfirmationFacts& facts) {
+    SurveyedRows rows(m_tableDataSource.rows, m_tableDataSource.storage);
+    auto survey = std::make_unique<FileSurvey>(
+        std::move(rows), facts, m_services.files, m_services.libraryLocations,
+        [this](std::uint64_t serial, const std::shared_ptr<FileSurvey::Answer>& answer) {
+            QMetaObject::invokeMethod(
+                &m_surveyReceiver, [this, serial, answer] { onSurvey(serial, *answer); },
+                Qt::QueuedConnection);
+        });
+    m_pendingSurvey = survey->serial();
+    m_surveys.add(std::move(survey));
+}
+
+void AppController::onSurvey(std::uint64_t serial, FileSurvey::Answer& answer) {
+    if (serial != m_pendingSurvey) return; // the answer of one that nobody waits for any more
+    m_pendingSurvey.reset();
+    m_deletePlan = std::move(answer.plan);
+    m_view.updateDeleteConfirmation(answer.facts);
+}
+
+void AppController::forgetSurvey() {
+    m_pendingSurvey.reset();
+    m_surveys.cancelAllOperations();
+    m_deletePlan = {};
 }
 
 void AppController::deleteMarkedMenuClick() {
@@ -26,15 +56,18 @@ void AppController::deleteMarkedMenuClick() {
 
 void AppController::delConfCancelButtonClick() {
     m_view.endDeleteConfirmation();
-    if (m_deletion == Deletion::confirming) m_deletion = Deletion::none;
-    m_deletePlan = {};
+    if (m_deletion != Deletion::confirming) return;
+    m_deletion = Deletion::none;
+    forgetSurvey();
 }
 
 void AppController::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
     if (m_deletion != Deletion::confirming) return;
+    if (deleteFiles && m_pendingSurvey) return; // which files may go is not known yet
     m_view.endDeleteConfirmation();
     m_deletion = Deletion::starting;
     m_deleteFiles = deleteFiles;
+    if (!deleteFiles) forgetSurvey();
     if (!leaveSharedFiles) m_deletePlan.shared.clear();
     m_queries.iTunesStop();
     m_myTimer.start();

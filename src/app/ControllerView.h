@@ -82,6 +82,8 @@ class ControllerView {
 
     // The delete confirmation.
     virtual void beginDeleteConfirmation(const DeleteConfirmationFacts& /*facts*/) {}
+    /// What it says of files is known now; comes while the confirmation is open, if at all.
+    virtual void updateDeleteConfirmation(const DeleteConfirmationFacts& /*facts*/) {}
     virtual void endDeleteConfirmation() {}
 };
 

@@ -138,6 +138,10 @@ void WindowedView::beginDeleteConfirmation(const DeleteConfirmationFacts& facts)
     m_deleteConfirmation.open();
 }
 
+void WindowedView::updateDeleteConfirmation(const DeleteConfirmationFacts& facts) {
+    m_deleteConfirmation.updateFacts(facts);
+}
+
 void WindowedView::endDeleteConfirmation() { m_deleteConfirmation.hide(); }
 
 } // namespace songsweep

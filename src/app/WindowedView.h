@@ -79,6 +79,7 @@ class WindowedView final : public ControllerView {
     void closeMarkWindow() override;
     void chooseMarkFolder() override;
     void beginDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
+    void updateDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
     void endDeleteConfirmation() override;
 
   private:

@@ -4,6 +4,7 @@
 #include "cli/OutcomeReport.h"
 #include "cli/Output.h"
 #include "delete/DeletePrediction.h"
+#include "delete/TrackFacts.h"
 
 #include <algorithm>
 

@@ -44,7 +44,8 @@ std::optional<SearchFailure> SearchRun::run(AppController& controller, const Sea
 bool SearchRun::runDeletion(AppController& controller, bool deleteFiles, bool leaveSharedFiles) {
     m_controller = &controller;
     controller.deleteButtonClick();
-    QCoreApplication::processEvents(); // Ctrl-C may have come while tracks were marked and files looked at
+    if (deleteFiles) waitForSurvey();
+    QCoreApplication::processEvents(); // Ctrl-C may have come while tracks were marked
     if (m_interrupted) {
         controller.delConfCancelButtonClick();
     } else {
@@ -63,8 +64,24 @@ void SearchRun::waitUntilIdle(AppController& controller) {
     controller.setIdleHandler({});
 }
 
+/// The answer comes by the event loop, so that Ctrl-C is heard meanwhile.
+void SearchRun::waitForSurvey() {
+    QEventLoop loop;
+    m_leaveSurvey = [&] { loop.quit(); };
+    if (!m_interrupted) loop.exec();
+    m_leaveSurvey = {};
+}
+
+void SearchRun::updateDeleteConfirmation(const DeleteConfirmationFacts&) {
+    if (m_leaveSurvey) m_leaveSurvey();
+}
+
 void SearchRun::interrupt() {
     m_interrupted = true;
+    if (m_leaveSurvey) {
+        m_leaveSurvey();
+        return;
+    }
     if (!m_controller) return;
     if (m_controller->isDeleting()) {
         m_controller->cancelButtonClick();

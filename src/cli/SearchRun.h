@@ -6,6 +6,7 @@
 
 #include <QTimer>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -39,10 +40,12 @@ class SearchRun final : public ControllerView {
     void setProgressInfo(const std::string& phase) override;
     void setProgressValue(double percent) override;
     void endProgress(ProgressBar bar) override;
+    void updateDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
     void alertCantAccess(const std::string& message, const std::string& reason) override;
 
   private:
     void waitUntilIdle(AppController& controller);
+    void waitForSurvey();
     void lookForReadError();
     void clearLine();
 
@@ -51,7 +54,8 @@ class SearchRun final : public ControllerView {
     bool m_terminal;
     bool m_lineShown = false;
     bool m_interrupted = false;
-    bool m_ended = false; ///< the results were shown
+    bool m_ended = false;                ///< the results were shown
+    std::function<void()> m_leaveSurvey; ///< while the survey of the files is waited for
     std::optional<SearchFailure> m_failure;
 };
 

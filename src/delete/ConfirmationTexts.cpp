@@ -45,6 +45,8 @@ QString filesStayLine(const DeleteConfirmationFacts& facts) {
                   QStringLiteral("The files stay where they are."));
 }
 
+QString filesPendingLine() { return QStringLiteral("Looking at the files..."); }
+
 QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared) {
     const int files = facts.filesToTrash + (leaveShared ? 0 : facts.sharedFiles);
     const std::int64_t bytes = facts.bytesToTrash + (leaveShared ? 0 : facts.sharedBytes);

@@ -17,6 +17,9 @@ QString deleteButton(const DeleteConfirmationFacts& facts);
 /// What is told while no file is to be trashed.
 QString filesStayLine(const DeleteConfirmationFacts& facts);
 
+/// What is told while the files are looked at.
+QString filesPendingLine();
+
 /// What happens to files; each is empty where it has nothing to count. `leaveShared` is the user's choice.
 QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);

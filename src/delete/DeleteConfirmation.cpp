@@ -11,8 +11,9 @@ namespace songsweep {
 
 namespace {
 
+/// Shows a line, or hides it where it has nothing to say.
 template <class Control>
-void showText(Control* control, const QString& text) {
+void showLine(Control* control, const QString& text) {
     control->setVisible(!text.isEmpty());
     showLive(*control, text);
 }
@@ -35,6 +36,11 @@ void DeleteConfirmation::setFacts(const DeleteConfirmationFacts& facts) {
     m_facts = facts;
     m_ui->delConfSharedCK->setChecked(true);
     updateHeading();
+    updateLines();
+}
+
+void DeleteConfirmation::updateFacts(const DeleteConfirmationFacts& facts) {
+    m_facts = facts;
     updateLines();
 }
 
@@ -80,15 +86,22 @@ void DeleteConfirmation::updateHeading() {
 
 void DeleteConfirmation::updateLines() {
     const bool shared = leavesSharedFiles();
+    const bool waits = deletesFiles() && m_facts.filesPending;
+    m_deleteButton->setEnabled(!waits);
     if (!deletesFiles()) {
-        showText(m_ui->delConfTrashLabel, confirmationTexts::filesStayLine(m_facts));
-        showText(m_ui->delConfSharedCK, QString());
-        showText(m_ui->delConfMissingLabel, QString());
-        return;
+        showLines(confirmationTexts::filesStayLine(m_facts), {}, {});
+    } else if (waits) {
+        showLines(confirmationTexts::filesPendingLine(), {}, {});
+    } else {
+        showLines(confirmationTexts::trashLine(m_facts, shared),
+                  confirmationTexts::sharedLine(m_facts, shared), confirmationTexts::missingLine(m_facts));
     }
-    showText(m_ui->delConfTrashLabel, confirmationTexts::trashLine(m_facts, shared));
-    showText(m_ui->delConfSharedCK, confirmationTexts::sharedLine(m_facts, shared));
-    showText(m_ui->delConfMissingLabel, confirmationTexts::missingLine(m_facts));
+}
+
+void DeleteConfirmation::showLines(const QString& trash, const QString& shared, const QString& missing) {
+    showLine(m_ui->delConfTrashLabel, trash);
+    showLine(m_ui->delConfSharedCK, shared);
+    showLine(m_ui->delConfMissingLabel, missing);
 }
 
 } // namespace songsweep

@@ -19,7 +19,8 @@ class DeleteConfirmation;
 ///
 /// Return and Escape both cancel; deleting needs a deliberate key or click. Whether files go to the Trash is
 /// kept from one confirmation to the next; leaving files that other tracks use is on again each time. The
-/// room of the lines about files is reserved, so that nothing moves when the box is switched. Main thread.
+/// room of the lines about files is reserved, so that nothing moves when the box is switched or when the
+/// files have been looked at; until then files cannot be deleted, but tracks can. Main thread.
 class DeleteConfirmation : public QDialog {
     Q_OBJECT
 
@@ -29,6 +30,8 @@ class DeleteConfirmation : public QDialog {
 
     /// Words the sheet for these facts; to be called before each opening.
     void setFacts(const DeleteConfirmationFacts& facts);
+    /// Changes the lines about files, which are known now, and nothing else.
+    void updateFacts(const DeleteConfirmationFacts& facts);
 
     bool deletesFiles() const;
     bool leavesSharedFiles() const;
@@ -44,6 +47,7 @@ class DeleteConfirmation : public QDialog {
     void setUpButtons();
     void updateHeading();
     void updateLines();
+    void showLines(const QString& trash, const QString& shared, const QString& missing);
 
     std::unique_ptr<Ui::DeleteConfirmation> m_ui;
     QPushButton* m_cancelButton = nullptr;

@@ -10,12 +10,13 @@ namespace songsweep {
 struct DeleteConfirmationFacts {
     int tracks = 0;
     int filesToTrash = 0;
-    std::int64_t bytesToTrash = 0;
-    int sharedFiles = 0;          ///< files that a track that stays uses too
-    std::int64_t sharedBytes = 0; ///< their sizes, for the case that they are not left
+    std::int64_t bytesToTrash = 0; ///< a file of several names counts once
+    int sharedFiles = 0;           ///< files that a track that stays uses too
+    std::int64_t sharedBytes = 0;  ///< their sizes, for the case that they are not left
     int missingFiles = 0;
     int groupsLosingEveryCopy = 0;
     bool embeddedLibrary = false; ///< the library is a file that this program itself writes
+    bool filesPending = false;    ///< the files are still looked at: the file counts say nothing yet
 
     bool operator==(const DeleteConfirmationFacts&) const = default;
 };

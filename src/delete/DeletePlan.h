@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "delete/DeleteConfirmationFacts.h"
+#include "library/DisplayedList.h"
 #include "library/TrackRecord.h"
 
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -14,14 +16,16 @@
 namespace songsweep {
 
 class Files;
+struct DeleteConfirmationFacts;
 
-/// Visits every track of the whole library that has a location: its persistent ID ("" for none) and its path.
-using LocationVisitor = std::function<void(std::string_view pid, const std::string& path)>;
-/// False where it could not visit them all.
+/// Is told every track of the whole library that has a location: its persistent ID ("" for none) and its
+/// path. False where it wants no more.
+using LocationVisitor = std::function<bool(std::string_view pid, const std::string& path)>;
+/// Visits them all; false where it could not. Called on any thread.
 using LibraryLocations = std::function<bool(const LocationVisitor&)>;
 
 /// What a deletion with files has to know before anything is deleted. A value; the records are those of the
-/// rows that it was made from.
+/// rows that it was made from, and keys alone.
 struct DeletePlan {
     /// Marked tracks whose file a track that stays uses too.
     std::unordered_set<const TrackRecord*> shared;
@@ -32,23 +36,42 @@ struct DeletePlan {
     std::unordered_map<const TrackRecord*, std::string> files;
 };
 
-/// Looks at the files of the marked rows, and at those of all other tracks of the library.
+/// What a look at the files needs of the rows, taken from them at one moment.
+///
+/// The records are keys and never read through, so that another thread may look at the files while the rows
+/// change; the texts are those of the storage, which is kept. 24 bytes a marked row, 8 any other.
+struct SurveyedRows {
+    struct Track {
+        const TrackRecord* record;
+        Text pid;
+        Text location;
+    };
+
+    explicit SurveyedRows(const std::vector<TrackRecord*>& rows,
+                          std::shared_ptr<const TrackStorage> kept = nullptr);
+
+    std::vector<Track> marked;
+    std::vector<Text> otherLocations;
+    std::shared_ptr<const TrackStorage> storage;
+};
+
+/// Looks at the files of the marked rows, and at those of all other tracks of the library; completes the
+/// facts by the counts of files.
 ///
 /// Two paths are one file when their canonical paths are equal, or, where the link count is above one, their
 /// device and inode. Linear in the rows and the library: one look at the file system for each track. Without
 /// `locations` the library is not known, and the rows that are not marked stand for it. A track without a
-/// persistent ID stays, since nothing can name it, and so does its file.
+/// persistent ID stays, since nothing can name it, and so does its file. Nothing where `isStopped`, asked
+/// before each look, says so. Any thread.
+std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& files,
+                                      const LibraryLocations& locations, DeleteConfirmationFacts& facts,
+                                      const std::function<bool()>& isStopped);
+
+/// The plan alone, made at once.
 DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
                           const LibraryLocations& locations);
 
-/// The counts that the confirmation shows.
-DeleteConfirmationFacts confirmationFacts(const std::vector<TrackRecord*>& rows, const Files& files,
-                                          const DeletePlan& plan);
-
 /// Why the file of a shared track is left.
 const char* reasonToLeave(const DeletePlan& plan);
-
-/// The number of groups of which every row is marked.
-int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
 
 } // namespace songsweep

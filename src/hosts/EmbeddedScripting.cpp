@@ -11,6 +11,8 @@ namespace songsweep {
 
 namespace {
 
+constexpr int mostPasses = 3; // over a library that somebody rewrites meanwhile
+
 std::vector<interpreter::NamedApplication> applications(ITunesServices& services) {
     return {{"iTunes", std::make_shared<ITunesApplication>(services)},
             {"Finder", std::make_shared<FinderApplication>(services.files, services.desktop)}};
@@ -111,11 +113,22 @@ Result<std::vector<PlaylistInfo>> EmbeddedScripting::playlists() {
     return document.value()->playlists();
 }
 
-Result<void> EmbeddedScripting::forEachLocation(const LibraryDocument::LocationCallback& callback) {
+Result<LocationPass> EmbeddedScripting::locationPass() {
     const std::lock_guard lock(m_lock);
     const auto document = currentDocument();
     if (!document) return document.error();
-    return document.value()->forEachLocation(callback);
+    return document.value()->locations();
+}
+
+Result<void> EmbeddedScripting::forEachLocation(const LocationPass::Callback& callback) {
+    Result<void> done;
+    for (int attempt = 0; attempt < mostPasses; ++attempt) {
+        const auto pass = locationPass();
+        if (!pass) return pass.error();
+        done = pass.value().run(callback);
+        if (done || done.error().code != Error::Code::busy) break;
+    }
+    return done;
 }
 
 Result<void> EmbeddedScripting::flush() {

@@ -70,8 +70,10 @@ class EmbeddedScripting final : public AppleScript {
 
     Result<int> trackCount();
     Result<std::vector<PlaylistInfo>> playlists();
-    /// As LibraryDocument::forEachLocation. The callback must not run scripts.
-    Result<void> forEachLocation(const LibraryDocument::LocationCallback& callback);
+    /// Calls back for every track of the library with a location until the callback says false. Texts run
+    /// meanwhile as ever. Where the library changes before the end, the pass begins again with the new
+    /// version, so that its tracks come too; `busy` where it changes again and again.
+    Result<void> forEachLocation(const LocationPass::Callback& callback);
 
     /// Runs a last text and writes pending deletions; every later text fails. For a process that is about to
     /// end while others still send texts, so that none of them does what is not written.
@@ -90,6 +92,7 @@ class EmbeddedScripting final : public AppleScript {
 
   private:
     Result<LibraryDocument*> currentDocument();
+    Result<LocationPass> locationPass();
     Result<std::optional<Descriptor>> runLocked(std::string_view source);
     Result<void> flushLocked();
     void tellOfWrite(const Result<void>& written, std::size_t deletions);

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/LibraryDocument.h"
 
-#include "hosts/FileWindow.h"
-#include "library/LocationUrl.h"
-
 #include <algorithm>
 #include <numeric>
 
@@ -53,11 +50,10 @@ Result<std::unique_ptr<LibraryDocument>> LibraryDocument::open(const std::string
 
 LibraryDocument::LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index)
     : m_path(std::move(path))
-    , m_options(options)
-    , m_file(std::move(file)) {
+    , m_options(options) {
     PersistentIdTable table;
     table.build(index.tracks);
-    adopt(std::move(m_file), std::move(index), std::move(table));
+    adopt(std::move(file), std::move(index), std::move(table));
 }
 
 LibraryDocument::~LibraryDocument() = default;
@@ -80,7 +76,7 @@ Result<void> LibraryDocument::refresh() {
 }
 
 void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table) {
-    m_file = std::move(file);
+    m_file = std::make_shared<const LibraryFile>(std::move(file));
     m_index = std::move(index);
     m_byPersistentId = std::move(table);
     m_playlistOrder = presentationOrder(m_index.playlists);
@@ -161,7 +157,7 @@ LibraryDocument::tracksOfWithPersistentId(std::size_t playlist, std::string_view
 Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
     Cached& cached = m_cache[track % m_cache.size()];
     if (cached.track == track) return &cached.fields;
-    const auto bytes = m_file.read(m_index.tracks[track].range());
+    const auto bytes = m_file->read(m_index.tracks[track].range());
     if (!bytes) return bytes.error();
     auto parsed = TrackFields::parse(bytes.value(), m_index.entities);
     if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
@@ -169,23 +165,18 @@ Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
     return &cached.fields;
 }
 
-Result<void> LibraryDocument::forEachLocation(const LocationCallback& callback) {
-    FileWindow window(m_file);
-    for (const TrackSlot& track : m_index.tracks) {
-        if (track.deleted) continue;
-        const auto parsed = TrackFields::parse(window.view(track.range()), m_index.entities);
-        if (window.error()) return *window.error();
-        if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
-        const auto path = pathOfUrl(parsed->text("location"));
-        if (path) callback(parsed->text("persistent id"), *path);
-    }
-    return {};
+LocationPass LibraryDocument::locations() const {
+    std::vector<ByteRange> tracks;
+    tracks.reserve(m_index.tracks.size());
+    for (const TrackSlot& track : m_index.tracks)
+        if (!track.deleted) tracks.push_back(track.range());
+    return {m_path, m_file, m_index.stamp, std::move(tracks), m_index.entities};
 }
 
 Result<void> LibraryDocument::remove(TrackPosition track) {
     if (isDeleted(track)) return {};
     if (DeletionMemory::needsBytes(m_index, m_byPersistentId, track)) {
-        const auto bytes = m_file.read(m_index.tracks[track].range());
+        const auto bytes = m_file->read(m_index.tracks[track].range());
         if (!bytes) return bytes.error();
         m_memory.noteBytes(track, bytes.value());
     }

@@ -3,12 +3,12 @@
 
 #include "hosts/DeletionMemory.h"
 #include "hosts/LibraryIndex.h"
+#include "hosts/LocationPass.h"
 #include "hosts/TrackFields.h"
 
 #include <array>
 #include <chrono>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -42,7 +42,7 @@ struct PlaylistInfo {
 ///     if (!library) return library.error(); // "line 12: </dict> stands where </array> is due"
 ///     library.value()->tracksWithPersistentId("00A1B2C3D4E5F607");
 ///
-/// One thread at a time. Track positions are good until the next `refresh`, `flush` or `forEachLocation`.
+/// One thread at a time. Track positions are good until the next `refresh` or `flush`.
 class LibraryDocument {
   public:
     using TrackPosition = std::uint32_t;
@@ -95,10 +95,8 @@ class LibraryDocument {
     /// call.
     Result<const TrackFields*> fields(TrackPosition track);
 
-    /// Calls back for every track with a location: its persistent ID ("" for none) and the path of its file.
-    /// One pass over the file, deleted tracks left out.
-    using LocationCallback = std::function<void(std::string_view persistentId, const std::string& posixPath)>;
-    Result<void> forEachLocation(const LocationCallback& callback);
+    /// A pass over the locations of the tracks as they are now, deleted ones left out.
+    LocationPass locations() const;
 
     /// Deletes a track: its entry and every playlist item of it. Already deleted ones stay so. An error where
     /// the track's bytes are needed to know it again and cannot be read.
@@ -140,7 +138,7 @@ class LibraryDocument {
 
     std::string m_path;
     Options m_options;
-    LibraryFile m_file;
+    std::shared_ptr<const LibraryFile> m_file; ///< never null; a pass may hold it longer than the document
     LibraryIndex m_index;
     PersistentIdTable m_byPersistentId;
     std::vector<std::uint32_t> m_playlistOrder;

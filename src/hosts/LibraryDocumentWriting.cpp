@@ -51,13 +51,13 @@ Result<void> LibraryDocument::write() {
 
 Result<void> LibraryDocument::judgeOnce() {
     if (m_judged == m_index.stamp) return {};
-    if (auto judged = judgeWellFormed(m_file); !judged) return judged;
+    if (auto judged = judgeWellFormed(*m_file); !judged) return judged;
     m_judged = m_index.stamp;
     return {};
 }
 
 Result<void> LibraryDocument::replaceLibrary(const std::string& target, int folderDescriptor) {
-    auto rewritten = RewrittenLibrary::write(m_file, m_index, target);
+    auto rewritten = RewrittenLibrary::write(*m_file, m_index, target);
     if (!rewritten) return rewritten.error();
     if (m_backup.empty()) {
         auto backup = keepBackup(target);

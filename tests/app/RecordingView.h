@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ControllerView.h"
+#include "delete/DeleteConfirmationFacts.h"
 
 #include <functional>
 #include <string>
@@ -63,10 +64,18 @@ class RecordingView final : public ControllerView {
     void chooseMarkFolder() override { note("chooseMarkFolder"); }
     void showMarkWindow() override { note("showMarkWindow"); }
     void closeMarkWindow() override { note("closeMarkWindow"); }
-    void beginDeleteConfirmation(const DeleteConfirmationFacts&) override { note("beginDeleteConfirmation"); }
+    void beginDeleteConfirmation(const DeleteConfirmationFacts& facts) override {
+        deleteFacts = facts;
+        note("beginDeleteConfirmation");
+    }
+    void updateDeleteConfirmation(const DeleteConfirmationFacts& facts) override {
+        deleteFacts = facts;
+        note("updateDeleteConfirmation");
+    }
     void endDeleteConfirmation() override { note("endDeleteConfirmation"); }
 
     std::vector<double> progressValues;
+    DeleteConfirmationFacts deleteFacts; ///< the last ones
 
   private:
     static std::string name(ProgressBar bar) {

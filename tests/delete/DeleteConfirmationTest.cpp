@@ -103,6 +103,51 @@ TEST_F(DeleteConfirmationTest, DoesNotMoveWhenTheFileOptionIsSwitched) {
     EXPECT_EQ(child<QPushButton>(sheet, "delConfOkButton").mapTo(&sheet, QPoint()), button);
 }
 
+/// Three tracks whose files are still looked at.
+DeleteConfirmationFacts pendingTracks() { return {.tracks = 3, .filesPending = true}; }
+
+bool canDelete(const DeleteConfirmation& sheet) {
+    return child<QPushButton>(sheet, "delConfOkButton").isEnabled();
+}
+
+TEST_F(DeleteConfirmationTest, WaitsForTheFilesOnlyWhereTheyGoToo) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(pendingTracks());
+    EXPECT_TRUE(canDelete(sheet));
+    EXPECT_EQ(visibleLines(sheet), QStringList(QStringLiteral("The files stay where they are.")));
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_FALSE(canDelete(sheet));
+    EXPECT_EQ(visibleLines(sheet), QStringList(QStringLiteral("Looking at the files...")));
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_TRUE(canDelete(sheet));
+}
+
+TEST_F(DeleteConfirmationTest, TellsOfTheFilesOnceTheyWereLookedAt) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(pendingTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    sheet.updateFacts(threeTracks());
+    EXPECT_TRUE(canDelete(sheet));
+    EXPECT_EQ(visibleLines(sheet),
+              QStringList({QStringLiteral("2 files, 8.6 MB, go to the Trash."),
+                           QStringLiteral("1 file is shared with a track that stays, and is kept."),
+                           QStringLiteral("1 file is missing already.")}));
+}
+
+TEST_F(DeleteConfirmationTest, KeepsFocusAndPlaceWhenTheFilesWereLookedAt) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(pendingTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    test::open(sheet);
+    const QSize before = sheet.size();
+    child<QCheckBox>(sheet, "delConfFileCK").setFocus();
+    sheet.updateFacts(threeTracks());
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(sheet.size(), before);
+    EXPECT_EQ(sheet.focusWidget(), &child<QCheckBox>(sheet, "delConfFileCK"));
+    EXPECT_EQ(test::filledButtons(sheet), QStringList(QStringLiteral("&Cancel")));
+}
+
 TEST_F(DeleteConfirmationTest, WarnsOnlyWhereASongLosesEveryCopy) {
     DeleteConfirmationFacts facts = threeTracks();
     DeleteConfirmation sheet;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeleteFixture.h"
 #include "delete/DeletePlan.h"
 
@@ -15,22 +16,35 @@ using testing::UnorderedElementsAre;
 
 class DeletePlanTest : public test::DeleteFixture {
   protected:
-    /// The library's tracks: the displayed rows and these.
-    DeletePlan plan(const std::vector<std::pair<std::string, std::string>>& others,
-                    const Files& files) const {
-        return makeDeletePlan(m_list.rows, files, [&](const LocationVisitor& visit) {
+    using Others = std::vector<std::pair<std::string, std::string>>;
+
+    /// The library's tracks: the displayed rows and these, by ID and location.
+    LibraryLocations libraryWith(const Others& others) const {
+        return [this, others](const LocationVisitor& visit) {
             for (const TrackRecord* const record : m_list.rows)
                 visit(record->pid, record->location.string());
             for (const auto& [pid, location] : others)
                 visit(pid, location);
             return true;
-        });
+        };
     }
-    DeletePlan plan(const std::vector<std::pair<std::string, std::string>>& others = {}) const {
-        return plan(others, m_files);
+    DeletePlan plan(const Others& others, const Files& files) const {
+        return makeDeletePlan(m_list.rows, files, libraryWith(others));
     }
-    DeleteConfirmationFacts facts(const DeletePlan& plan) const {
-        return confirmationFacts(m_list.rows, m_files, plan);
+    DeletePlan plan(const Others& others = {}) const { return plan(others, m_files); }
+    DeleteConfirmationFacts facts(const Others& others = {}) const {
+        DeleteConfirmationFacts facts;
+        const auto isStopped = [] { return false; };
+        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), m_files, libraryWith(others), facts, isStopped));
+        return facts;
+    }
+    /// Whether a survey that is stopped at the n-th time it asks gives a plan.
+    bool answersWhenStoppedAt(int turn) const {
+        DeleteConfirmationFacts facts;
+        int asked = 0;
+        return surveyFiles(SurveyedRows(m_list.rows), m_files, libraryWith({}), facts,
+                           [&] { return ++asked >= turn; })
+            .has_value();
     }
 };
 
@@ -114,36 +128,43 @@ TEST_F(DeletePlanTest, aLocationThatIsNoPathIsNoFile) {
     EXPECT_THAT(plan({{"X", "msng"}, {"Y", ""}}).files, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, theFactsCountTracksFilesBytesAndWhatIsShared) {
+TEST_F(DeletePlanTest, theFactsCountFilesBytesAndWhatIsShared) {
     addFile("A", true, "four");        // 4 bytes
     addFile("B", true, "sixsix");      // 6 bytes
     add(2, "C", true, path("sixsix")); // the file of B once more
     add(2, "D", true, path("gone"));
     addFile("E", true, "shared9"); // 7 bytes
     add(3, "F", false, path("four2"));
-    const DeleteConfirmationFacts expected = {.tracks = 5,
-                                              .filesToTrash = 2,
-                                              .bytesToTrash = 10,
-                                              .sharedFiles = 1,
-                                              .sharedBytes = 7,
-                                              .missingFiles = 1,
-                                              .groupsLosingEveryCopy = 3};
-    EXPECT_EQ(facts(plan({{"X", path("shared9")}})), expected);
+    const DeleteConfirmationFacts expected = {
+        .filesToTrash = 2, .bytesToTrash = 10, .sharedFiles = 1, .sharedBytes = 7, .missingFiles = 1};
+    EXPECT_EQ(facts({{"X", path("shared9")}}), expected);
+}
+
+TEST_F(DeletePlanTest, theNamesOfOneFileCountItsBytesOnce) {
+    addFile("A", true, "four");
+    std::filesystem::create_hard_link(path("four"), path("other name"));
+    add(1, "B", true, path("other name"));
+    EXPECT_EQ(facts(), (DeleteConfirmationFacts{.filesToTrash = 2, .bytesToTrash = 4}));
+}
+
+TEST_F(DeletePlanTest, aLinkToAMarkedFileIsNoFileOfItsOwn) {
+    addFile("A", true, "four");
+    std::filesystem::create_symlink(path("four"), path("link"));
+    add(1, "B", true, path("link"));
+    EXPECT_EQ(facts(), (DeleteConfirmationFacts{.filesToTrash = 1, .bytesToTrash = 4}));
 }
 
 TEST_F(DeletePlanTest, aFileThatCannotBeNamedIsNotCountedAsGoing) {
     addFile("A", true, "say \"hi\".mp3");
-    EXPECT_EQ(facts(plan()).filesToTrash, 0);
+    EXPECT_EQ(facts(), DeleteConfirmationFacts());
 }
 
-TEST_F(DeletePlanTest, groupsThatLoseEveryCopyAreThoseWithAllRowsMarked) {
-    add(1, "A", true);
-    add(1, "B", true);
-    add(2, "C", true);
-    add(2, "D", false);
-    add(3, "E", true);
-    EXPECT_EQ(groupsLosingEveryCopy(m_list.rows), 2);
-    EXPECT_EQ(groupsLosingEveryCopy({}), 0);
+TEST_F(DeletePlanTest, aSurveyThatIsStoppedHasNoPlan) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    for (int turn = 1; turn <= 4; ++turn) // one for each row, one for each of the library's, at the end
+        EXPECT_FALSE(answersWhenStoppedAt(turn)) << turn;
+    EXPECT_TRUE(answersWhenStoppedAt(5));
 }
 
 } // namespace

@@ -63,6 +63,11 @@ class EmbeddedScriptingTest : public testing::Test {
         return result ? "(no failure)" : result.error().message;
     }
 
+    /// Another program's new version takes the library's place.
+    void replaceLibrary(std::string_view text) const {
+        std::filesystem::rename(m_folder.write("new.xml", text), m_path);
+    }
+
     /// A file in the folder and its location as a library has it.
     std::string locationOf(const std::string& name) {
         m_folder.write(name, "sound");
@@ -347,13 +352,60 @@ TEST_F(EmbeddedScriptingTest, FilesHaveNoLock) {
                 HasSubstr("files cannot be locked here"));
 }
 
+/// A track that has a file of its ID's name.
+test::FixtureTrack trackWithFile(int id, const std::string& persistentId) {
+    return {id, persistentId, "<key>Location</key><string>file:///M/" + persistentId + ".mp3</string>"};
+}
+
 TEST_F(EmbeddedScriptingTest, NamesEveryFileOfTheLibrary) {
-    open(libraryXml({{1, "A1", "<key>Location</key><string>file:///M/a.mp3</string>"}}, {}));
+    open(libraryXml({trackWithFile(1, "A1")}, {}));
     std::vector<std::string> seen;
-    ASSERT_TRUE(m_scripts->forEachLocation(
-        [&](std::string_view id, const std::string& path) { seen.push_back(std::string(id) + path); }));
-    EXPECT_THAT(seen, ElementsAre("A1/M/a.mp3"));
+    ASSERT_TRUE(m_scripts->forEachLocation([&](std::string_view id, const std::string& path) {
+        seen.push_back(std::string(id) + path);
+        return true;
+    }));
+    EXPECT_THAT(seen, ElementsAre("A1/M/A1.mp3"));
     EXPECT_EQ(m_scripts->trackCount().value(), 1);
+}
+
+TEST_F(EmbeddedScriptingTest, NamesNoMoreFilesThanAreWanted) {
+    open(libraryXml({trackWithFile(1, "A1"), trackWithFile(2, "A2")}, {}));
+    int seen = 0;
+    EXPECT_TRUE(m_scripts->forEachLocation([&](std::string_view, const std::string&) { return ++seen < 1; }));
+    EXPECT_EQ(seen, 1);
+}
+
+TEST_F(EmbeddedScriptingTest, TextsRunWhileTheFilesAreNamed) {
+    open(libraryXml({trackWithFile(1, "A1")}, {}));
+    std::string count;
+    ASSERT_TRUE(m_scripts->forEachLocation([&](std::string_view, const std::string&) {
+        std::thread([&] { count = text(test::trackCountText); }).join();
+        return true;
+    }));
+    EXPECT_EQ(count, "1");
+}
+
+TEST_F(EmbeddedScriptingTest, ALibraryThatIsReplacedMeanwhileHasItsNewFilesNamedToo) {
+    open(libraryXml({trackWithFile(1, "A1"), trackWithFile(2, "A2")}, {}));
+    std::vector<std::string> seen;
+    ASSERT_TRUE(m_scripts->forEachLocation([&](std::string_view id, const std::string&) {
+        if (seen.empty()) replaceLibrary(libraryXml({trackWithFile(1, "A1"), trackWithFile(3, "B3")}, {}));
+        seen.emplace_back(id);
+        return true;
+    }));
+    EXPECT_THAT(seen, ElementsAre("A1", "A2", "A1", "B3"));
+}
+
+TEST_F(EmbeddedScriptingTest, ALibraryThatIsReplacedAgainAndAgainCannotBeGoneThrough) {
+    open(libraryXml({trackWithFile(1, "A1")}, {}));
+    int passes = 0;
+    const Result<void> done = m_scripts->forEachLocation([&](std::string_view, const std::string&) {
+        replaceLibrary(libraryXml({trackWithFile(++passes, "A1")}, {}));
+        return true;
+    });
+    ASSERT_FALSE(done);
+    EXPECT_EQ(done.error().code, Error::Code::busy);
+    EXPECT_EQ(passes, 3);
 }
 
 TEST_F(EmbeddedScriptingTest, TwoThreadsMaySendScripts) {

@@ -129,9 +129,33 @@ TEST_F(LibraryDocumentTest, NamesEveryFileThatTracksUse) {
                         {}));
     ASSERT_TRUE(library.remove(4));
     std::vector<std::string> seen;
-    ASSERT_TRUE(library.forEachLocation(
-        [&](std::string_view id, const std::string& path) { seen.push_back(std::string(id) + " " + path); }));
+    ASSERT_TRUE(library.locations().run([&](std::string_view id, const std::string& path) {
+        seen.push_back(std::string(id) + " " + path);
+        return true;
+    }));
     EXPECT_EQ(seen, (std::vector<std::string>{"A1 /M/a b.mp3", " /C:/M/c.mp3"}));
+}
+
+TEST_F(LibraryDocumentTest, APassOverTheFilesGoesOnWithoutTheDocument) {
+    const std::string location = "<key>Location</key><string>file:///M/a.mp3</string>";
+    std::optional<LocationPass> pass =
+        open(libraryXml({{1, "A1", location}, {2, "A2", location}}, {})).locations();
+    m_library.reset();
+    int seen = 0;
+    EXPECT_TRUE(pass->run([&](std::string_view, const std::string&) { return ++seen < 3; }));
+    EXPECT_EQ(seen, 2);
+}
+
+TEST_F(LibraryDocumentTest, APassOverTheFilesSaysThatTheLibraryIsAnotherAtItsEnd) {
+    const std::string text =
+        libraryXml({{1, "A1", "<key>Location</key><string>file:///M/a.mp3</string>"}}, {});
+    const LocationPass pass = open(text).locations();
+    std::filesystem::rename(m_folder.write("new.xml", libraryXml({}, {})), m_library->path());
+    int seen = 0;
+    const Result<void> done = pass.run([&](std::string_view, const std::string&) { return ++seen > 0; });
+    ASSERT_FALSE(done);
+    EXPECT_EQ(done.error().code, Error::Code::busy);
+    EXPECT_EQ(seen, 1) << "the version that it is of stays readable";
 }
 
 TEST_F(LibraryDocumentTest, ADeletedTrackIsGoneAtOnce) {

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "delete/FileSurvey.h"
+#include "platform/Files.h"
+#include "support/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+using testing::UnorderedElementsAre;
+
+/// Two copies of a song with files of their own, of which the first is marked.
+class FileSurveyTest : public testing::Test {
+  protected:
+    FileSurveyTest() {
+        m_list.storage = std::make_shared<TrackStorage>();
+        for (const char* const name : {"a.mp3", "b.mp3"}) {
+            TrackRecord& record = m_list.storage->makeRecord();
+            record.pid = m_list.storage->store(name);
+            record.location = m_list.storage->store(m_folder.write(name, "sound"));
+            m_list.rows.push_back(&record);
+        }
+        m_list.rows.front()->checkbox = true;
+    }
+
+    std::unique_ptr<FileSurvey> survey(const LibraryLocations& locations = {}) {
+        return std::make_unique<FileSurvey>(
+            SurveyedRows(m_list.rows, m_list.storage),
+            DeleteConfirmationFacts{.tracks = 7, .filesPending = true}, m_files, locations,
+            [this](std::uint64_t serial, std::shared_ptr<FileSurvey::Answer> answer) {
+                m_serial = serial;
+                m_answer = std::move(answer);
+            });
+    }
+
+    test::TemporaryFolder m_folder;
+    Files m_files;
+    DisplayedList m_list;
+    std::uint64_t m_serial = 0;
+    std::shared_ptr<FileSurvey::Answer> m_answer;
+};
+
+TEST_F(FileSurveyTest, answersWithThePlanAndTheCompletedFacts) {
+    const auto made = survey();
+    made->main();
+    ASSERT_TRUE(m_answer);
+    EXPECT_EQ(m_serial, made->serial());
+    EXPECT_EQ(m_answer->facts, (DeleteConfirmationFacts{.tracks = 7, .filesToTrash = 1, .bytesToTrash = 5}));
+    EXPECT_EQ(m_answer->plan.files.size(), 1U);
+}
+
+TEST_F(FileSurveyTest, saysNothingOnceItIsCancelled) {
+    const auto made = survey();
+    made->cancel();
+    made->main();
+    EXPECT_FALSE(m_answer);
+}
+
+TEST_F(FileSurveyTest, stopsVisitingTheLibraryOnceItIsCancelled) {
+    FileSurvey* running = nullptr;
+    bool wantsMore = true;
+    const auto made = survey([&](const LocationVisitor& visit) {
+        running->cancel();
+        wantsMore = visit("X", "/x.mp3");
+        return true;
+    });
+    running = made.get();
+    made->main();
+    EXPECT_FALSE(wantsMore);
+    EXPECT_FALSE(m_answer);
+}
+
+TEST_F(FileSurveyTest, isOfTheMarksAsTheyWereWhenItWasMadeAndKeepsTheirTexts) {
+    const TrackRecord* const marked = m_list.rows.front();
+    const std::string shared = marked->location.string();
+    const auto made = survey([&](const LocationVisitor& visit) { return visit("X", shared); });
+    m_list.rows.front()->checkbox = false;
+    m_list = {};
+    made->main();
+    ASSERT_TRUE(m_answer);
+    EXPECT_THAT(m_answer->plan.shared, UnorderedElementsAre(marked));
+}
+
+} // namespace
+} // namespace songsweep
