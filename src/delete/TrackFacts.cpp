@@ -12,7 +12,10 @@ namespace {
 using Row = std::vector<TrackRecord*>::const_iterator;
 
 bool losesEveryCopy(Row first, Row end) {
-    return std::all_of(first, end, [](const TrackRecord* record) { return record->checkbox; });
+    const bool works = std::any_of(first, end, [](const TrackRecord* record) { return !record->isdead; });
+    return std::all_of(first, end, [works](const TrackRecord* record) {
+        return record->checkbox || (works && record->isdead);
+    });
 }
 
 } // namespace

@@ -11,7 +11,12 @@ namespace songsweep {
 /// The facts that no file has to be looked at for: the tracks and the groups. Linear in the rows.
 DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows);
 
-/// The number of groups of which every row is marked.
+/// The number of groups of which no copy is left.
+///
+/// An entry whose file is missing is no copy while the group has one that works: whoever deletes all that
+/// work, and leaves the empty entry, loses the song. Where none works, as on a drive that is not there, every
+/// entry counts, or nothing could be deleted then. So no group is lost to what the marking rules leave with
+/// except-one, which is a working copy if there is one.
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
 
 } // namespace songsweep

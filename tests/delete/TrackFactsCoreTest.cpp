@@ -9,6 +9,8 @@ namespace {
 
 class TrackFactsTest : public test::DeleteFixture {
   protected:
+    /// A row whose file is missing.
+    void addDead(int gid, const char* pid, bool marked) { add(gid, pid, marked).isdead = true; }
     int lost() const { return groupsLosingEveryCopy(m_list.rows); }
 };
 
@@ -19,6 +21,27 @@ TEST_F(TrackFactsTest, aGroupWithEveryRowMarkedLosesEveryCopy) {
     add(2, "D", false);
     add(3, "E", true);
     EXPECT_EQ(lost(), 2);
+}
+
+TEST_F(TrackFactsTest, anEntryWithoutItsFileIsNoCopyThatIsLeft) {
+    add(1, "A", true);
+    addDead(1, "B", false);
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(TrackFactsTest, aWorkingCopyThatStaysIsEnough) {
+    addDead(1, "A", true);
+    add(1, "B", false);
+    addDead(1, "C", false);
+    EXPECT_EQ(lost(), 0);
+}
+
+TEST_F(TrackFactsTest, whereNoCopyWorksAnyEntryThatStaysIsEnough) {
+    addDead(1, "A", true);
+    addDead(1, "B", false);
+    addDead(2, "C", true);
+    addDead(2, "D", true);
+    EXPECT_EQ(lost(), 1);
 }
 
 TEST_F(TrackFactsTest, theFactsCountMarkedTracksAndLostGroupsAndNoFiles) {
