@@ -33,7 +33,10 @@ const std::string& sampleLibraryText() {
 } // namespace
 
 WindowsFixture::WindowsFixture()
-    : library(folder.write("library.xml", sampleLibraryText()))
+    : WindowsFixture(sampleLibraryText()) {}
+
+WindowsFixture::WindowsFixture(const std::string& libraryText)
+    : library(folder.write("library.xml", libraryText))
     , program(std::make_unique<Program>(ProgramOptions{.library = library, .map = {}, .version = "1.0"}, log))
     , controller(std::make_unique<AppController>(program->controllerServices(), view))
     , actions(std::make_unique<WindowActions>(

@@ -21,7 +21,8 @@ namespace songsweep::test {
 /// The whole program with its windows, over a library with duplicates that every test gets fresh.
 class WindowsFixture : public ::testing::Test {
   protected:
-    WindowsFixture();
+    WindowsFixture(); ///< over the sample library
+    explicit WindowsFixture(const std::string& libraryText);
     ~WindowsFixture() override;
 
     MainWindow& window() { return view.mainWindow(); }
