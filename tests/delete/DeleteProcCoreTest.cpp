@@ -323,6 +323,15 @@ TEST_F(DeleteProcTest, aLinkAndTheFileThatItLeadsToBothGo) {
     EXPECT_THAT(outcomes(), ElementsAre("B: deleted, file trashed", "A: deleted, file trashed"));
 }
 
+TEST_F(DeleteProcTest, aLinkWhoseFileWasTrashedBeforeIsDealtWith) {
+    addFile("A", true, "a.mp3");
+    std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
+    add(1, "B", true, path("link.mp3"));
+    run(withFiles);
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_TRUE(m_report.allDealtWith());
+}
+
 TEST_F(DeleteProcTest, aFileThatATrackUsesThatStaysIsLeft) {
     addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
