@@ -26,8 +26,10 @@ std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& optio
 
 ExitCode predict(LibrarySearch& search, const DeleteOptions& options, Output& output) {
     const auto& rows = search.controller().tableDataSource().rows;
-    DeletePlan plan = makeDeletePlan(rows, search.program().files(),
-                                     search.program().controllerServices().libraryLocations);
+    DeletePlan plan;
+    if (options.files)
+        plan = makeDeletePlan(rows, search.program().files(),
+                              search.program().controllerServices().libraryLocations);
     if (options.sharedFiles) plan.shared.clear();
     const DeleteReport report = predictedReport(rows, options.files, plan);
     return writeReportTo(output, options, report)
