@@ -4,6 +4,7 @@
 #include "library/ValueFormats.h"
 #include "platform/Log.h"
 #include "scripting/AppleScript.h"
+#include "scripting/TextLiteral.h"
 
 namespace songsweep {
 
@@ -45,6 +46,7 @@ std::vector<std::string> ITunesQueries::userPlaylistNames() const {
 }
 
 std::int32_t ITunesQueries::getMusicLibraryInt(const std::string& name) const {
+    if (!canStandInText(name)) return -1; // as where the name breaks the script
     const auto index = m_scripts.executeAndReturnError(playlistIndexScript(name));
     return index ? integerValue(textOf(index.value())) : -1;
 }
@@ -69,6 +71,7 @@ void ITunesQueries::iTunesStop() const {
 }
 
 void ITunesQueries::play(const std::string& hfsPath) const {
+    if (!canStandInText(hfsPath)) return;
     // A file that cannot be played is no news to a user who just asked for it: nothing starts.
     (void)m_scripts.executeAndReturnError("tell application \"iTunes\" \nplay \"" + hfsPath +
                                           "\" \nend tell");

@@ -6,6 +6,7 @@
 #include "operations/NotificationCenter.h"
 #include "platform/Log.h"
 #include "scripting/AppleScript.h"
+#include "scripting/TextLiteral.h"
 
 #include <exception>
 

@@ -2,6 +2,7 @@
 #include "delete/DeleteTexts.h"
 
 #include "platform/HfsPath.h"
+#include "scripting/TextLiteral.h"
 
 namespace songsweep {
 
@@ -18,8 +19,6 @@ std::string deleteFile(std::string_view hfsPath) {
 }
 
 } // namespace deleteTexts
-
-bool canStandInText(std::string_view words) { return words.find_first_of("\"\\") == std::string_view::npos; }
 
 bool isPath(std::string_view location) { return location.starts_with('/'); }
 

@@ -19,10 +19,6 @@ std::string deleteFile(std::string_view hfsPath);
 
 } // namespace deleteTexts
 
-/// Whether words written between two quotes in a text read back as themselves: a quote would end the literal,
-/// and a backslash begins an escape.
-bool canStandInText(std::string_view words);
-
 /// Whether a record's location is a path at all: "" and "msng" stand for a track without a file.
 bool isPath(std::string_view location);
 

@@ -2,6 +2,7 @@
 #include "delete/Obstacles.h"
 
 #include "delete/DeleteTexts.h"
+#include "scripting/TextLiteral.h"
 
 namespace songsweep {
 

@@ -5,6 +5,7 @@
 #include "library/SWXMLParser.h"
 #include "platform/Files.h"
 #include "scripting/AppleScript.h"
+#include "scripting/TextLiteral.h"
 
 #include <exception>
 #include <stdexcept>
@@ -77,6 +78,7 @@ void SWXMLParser::makePath(TrackRecord& record) {
 bool SWXMLParser::isInMusicPlaylist(const TrackRecord& record) { return m_songlist.take(record.trackid); }
 
 void SWXMLParser::refreshLocationApplescript(TrackRecord& record) {
+    if (!canStandInText(record.pid)) return; // as where iTunes knows no such track
     try {
         const Result<Descriptor> result =
             m_services.scripts.executeAndReturnError(locationScript(record.pid));

@@ -54,6 +54,13 @@ TEST_F(ITunesQueriesTest, AFailedListOfUserPlaylistsIsLogged) {
     EXPECT_THAT(log.lines(), ElementsAre("Error occured"));
 }
 
+TEST_F(ITunesQueriesTest, WordsThatWouldEndTheirLiteralAreNotSent) {
+    EXPECT_EQ(queries.getMusicLibraryInt("Best \"of\""), -1);
+    EXPECT_EQ(queries.getMusicLibraryInt("AC\\DC"), -1);
+    queries.play("Disk:a\" \ndelete tracks of playlist 1 \nplay \"b.mp3");
+    EXPECT_THAT(iTunes.texts(), IsEmpty());
+}
+
 TEST_F(ITunesQueriesTest, ThePlaylistIndexIsTheFirstOfThatName) {
     iTunes.playlists = {"Library", "Party", "Party"};
     EXPECT_EQ(queries.getMusicLibraryInt("Party"), 2);

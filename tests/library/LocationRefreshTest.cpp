@@ -50,6 +50,16 @@ TEST_F(LocationRefreshTest, SendsThisText) {
                             "end tell"));
 }
 
+TEST_F(LocationRefreshTest, AnIdThatWouldEndItsLiteralIsNotSent) {
+    answer(Descriptor::text("/new"));
+    SWXMLParser parser(m_services);
+    TrackRecord record{.pid = "0\") \ndelete tracks of playlist 1 \nset q to (tracks whose name is \"",
+                       .location = "/old"};
+    parser.refreshLocationApplescript(record);
+    EXPECT_THAT(m_scripts.sources, IsEmpty());
+    EXPECT_EQ(record.location, "/old");
+}
+
 TEST_F(LocationRefreshTest, TakesTheAnswerAsItComes) {
     answer(Descriptor::list({Descriptor::text("/New/Place.MP3")}));
     EXPECT_EQ(refreshed("/old"), "/New/Place.MP3");
