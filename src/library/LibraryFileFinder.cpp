@@ -31,7 +31,7 @@ std::optional<std::string> LibraryFileFinder::locate() const {
     }
     std::optional<std::string> path = pathOfUrl(domain->iTunesRecentDatabases.front());
     m_services.log.line("iTunes library file : " + path.value_or("(null)"));
-    if (path && m_services.files.exists(*path)) return path;
+    if (path && m_files.exists(*path)) return path;
     m_services.log.line("Cannot locate iTunes XML");
     return {};
 }
@@ -59,7 +59,7 @@ std::optional<FileAttributes> LibraryFileFinder::waitUntilRewritten(const std::s
 
 FileAttributes LibraryFileFinder::attributes(const std::string& path) const {
     // A file that has gone since it was found has no date; it is dealt with when it cannot be opened.
-    return m_services.files.attributes(path).value_or(FileAttributes{});
+    return m_files.attributes(path).value_or(FileAttributes{});
 }
 
 void LibraryFileFinder::sleepSeconds(std::int64_t seconds) const {

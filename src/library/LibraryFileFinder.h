@@ -22,7 +22,8 @@ struct RewriteWait {
 
 /// Finds iTunes' library file, and waits until it can be trusted.
 ///
-/// The waits block the calling thread; they end early when the operation is cancelled.
+/// The library is the file of that very name, whatever the path map says of its tracks' files. The waits
+/// block the calling thread; they end early when the operation is cancelled.
 class LibraryFileFinder {
   public:
     LibraryFileFinder(const ReaderServices& services, const Operation& operation)
@@ -35,12 +36,16 @@ class LibraryFileFinder {
     /// The file's attributes as soon as iTunes has rewritten it; nothing where both waits pass in vain.
     std::optional<FileAttributes> waitUntilRewritten(const std::string& path, const RewriteWait& wait) const;
 
+    /// The name under which the file can be opened.
+    std::string localPath(const std::string& path) const { return m_files.localPath(path); }
+
   private:
     FileAttributes attributes(const std::string& path) const;
     void sleepSeconds(std::int64_t seconds) const;
 
     const ReaderServices& m_services;
     const Operation& m_operation;
+    Files m_files; // without a map
 };
 
 } // namespace songsweep

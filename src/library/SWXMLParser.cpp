@@ -74,7 +74,7 @@ void SWXMLParser::read() {
     if (!attributes) return post(EventName::xmlErrorParsing);
     post(EventName::xmlModifiedDate, *attributes);
 
-    const std::unique_ptr<XmlReader> reader = XmlReader::open(m_services.files.localPath(*path));
+    const std::unique_ptr<XmlReader> reader = XmlReader::open(finder.localPath(*path));
     if (!reader) return post(EventName::xmlErrorParsing);
     const Clock::time_point start = Clock::now();
     log("Begin Parse XML");

@@ -58,6 +58,17 @@ TEST_F(LocatingTest, ADatabaseThatIsNoUrlCannotBeLocated) {
     EXPECT_EQ(m_trace.at(2), "Cannot locate iTunes XML");
 }
 
+TEST_F(LocatingTest, ThePathMapOfTheMusicLeavesTheLibraryWhereItIs) {
+    useLibrary("no-playlists.xml");
+    PathMap map;
+    map.add(m_folder.path().toStdString(), "/nowhere");
+    Files mapped(map);
+    SWXMLParser parser(m_list, {}, 1, 0, false, 5, 10,
+                       {m_center, m_scripts, mapped, m_preferences, m_sleeper, m_log});
+    run(parser);
+    EXPECT_EQ(events().back(), "addFinish");
+}
+
 TEST_F(LocatingTest, AMissingLibraryLeavesTheTrackListUntouched) {
     m_list->records.push_back(&m_list->storage->makeRecord());
     run({}, 1);

@@ -244,21 +244,21 @@ TEST_F(SWXMLParserTest, ACancelledOperationStillPostsItsCancelEvent) {
     EXPECT_THAT(m_list->records, IsEmpty());
 }
 
-/// Files whose every question fails with an exception.
-class BrokenFiles final : public Files {
+/// Preferences whose every question fails with an exception.
+class BrokenPreferences final : public Preferences {
   public:
-    bool exists(const char*) const override { throw std::runtime_error("broken"); }
-    using Files::exists;
+    std::optional<IAppsDomain> iAppsDomain() const override { throw std::runtime_error("broken"); }
+    std::optional<IAppsDomain> iAppsPropertyList(const std::string&) const override { return {}; }
+    std::string homeFolder() const override { return {}; }
 };
 
 TEST_F(SWXMLParserTest, AnExceptionWhileLocatingLeavesTheOperationAfterTheFinishingSteps) {
-    BrokenFiles files;
+    BrokenPreferences preferences;
     SWXMLParser parser(m_list, all(), fiveTracks, 0, false, 5, 10,
-                       {m_center, m_scripts, files, m_preferences, m_sleeper, m_log});
+                       {m_center, m_scripts, m_files, preferences, m_sleeper, m_log});
     m_list->records.push_back(&m_list->storage->makeRecord());
     EXPECT_THROW(run(parser), std::runtime_error);
-    EXPECT_THAT(m_trace, ElementsAre("XML Parsing", "iTunes library file : " + path("library.xml"),
-                                     "Begin XML Finally", "End XML Finally"));
+    EXPECT_THAT(m_trace, ElementsAre("XML Parsing", "Begin XML Finally", "End XML Finally"));
     EXPECT_EQ(m_list->records.size(), 1U);
 }
 
