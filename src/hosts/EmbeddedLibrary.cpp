@@ -11,7 +11,9 @@ Result<LibraryDocument*> EmbeddedLibrary::document() {
         if (!refusedAlready) {
             const auto done = openOrRefresh();
             m_error = done ? std::nullopt : std::optional(done.error());
-            m_refused = !done && stamp ? std::optional(stamp.value()) : std::nullopt;
+            // Only what the file holds is remembered: its permissions may be others at the next look.
+            const bool refused = m_error && m_error->code == Error::Code::invalid && stamp;
+            m_refused = refused ? std::optional(stamp.value()) : std::nullopt;
         }
     }
     if (m_error) return *m_error;
