@@ -7,9 +7,11 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <csignal>
 #include <random>
 #include <set>
+#include <thread>
 
 namespace songsweep {
 namespace {
@@ -35,8 +37,26 @@ constexpr int trackCount = 120;
     ::_exit(0);
 }
 
-/// Starts the child, kills it a random moment into one of its writes.
-void killDuringAWrite(const std::string& path, std::mt19937& random) {
+/// How long the child's first write takes here and now.
+std::chrono::microseconds timeOfAWrite(const std::string& path) {
+    std::array<int, 2> ends{};
+    if (::pipe(ends.data()) != 0) return {};
+    const pid_t child = ::fork();
+    if (child == 0) deleteAll(path, ends[1]);
+    ::close(ends[1]);
+    char begun = 0;
+    EXPECT_EQ(::read(ends[0], &begun, 1), 1);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(::read(ends[0], &begun, 1), 1);
+    const auto time = std::chrono::steady_clock::now() - start;
+    ::close(ends[0]);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    return std::chrono::duration_cast<std::chrono::microseconds>(time);
+}
+
+/// Starts the child, kills it a random moment into one of its first writes.
+void killDuringAWrite(const std::string& path, std::mt19937& random, std::chrono::microseconds write) {
     std::array<int, 2> ends{};
     ASSERT_EQ(::pipe(ends.data()), 0);
     const pid_t child = ::fork();
@@ -44,7 +64,7 @@ void killDuringAWrite(const std::string& path, std::mt19937& random) {
     ::close(ends[1]);
     char begun = 0;
     EXPECT_EQ(::read(ends[0], &begun, 1), 1);
-    ::usleep(random() % 6000);
+    std::this_thread::sleep_for(std::chrono::microseconds(random() % (2 * write.count() + 1)));
     ::kill(child, SIGKILL);
     int status = 0;
     ASSERT_EQ(::waitpid(child, &status, 0), child);
@@ -61,11 +81,13 @@ TEST_P(LibraryKill, AProgramKilledAtAnyMomentLeavesTheOldFileOrTheNew) {
     const std::string text = manyTracks(trackCount);
     std::mt19937 random(GetParam());
     int written = 0;
+    folder.write("library.xml", text);
+    const std::chrono::microseconds write = timeOfAWrite(path);
     for (int i = 0; i < killsATest; ++i) {
         for (const std::string& name : folder.names())
             std::filesystem::remove(folder.pathOf(name));
         folder.write("library.xml", text);
-        ASSERT_NO_FATAL_FAILURE(killDuringAWrite(path, random));
+        ASSERT_NO_FATAL_FAILURE(killDuringAWrite(path, random, write));
         auto library = LibraryDocument::open(path);
         ASSERT_TRUE(library) << library.error().message;
         const int deleted = trackCount - library.value()->trackCount();
