@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "delete/MarkedFiles.h"
+
+#include "delete/DeleteConfirmationFacts.h"
+#include "delete/DeleteTexts.h"
+#include "delete/Obstacles.h"
+#include "platform/LocalName.h"
+
+namespace songsweep {
+
+std::optional<std::string> MarkedFiles::add(const SurveyedRows::Track& track) {
+    const std::string path = track.location.string();
+    const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
+    if (!attributes) return std::nullopt;
+    std::string canonical = canonicalPath(m_files.localPath(path));
+    MarkedFile& file = m_byKey[keyOf(*attributes)][canonical];
+    file.tracks.push_back(track.record);
+    file.attributes = *attributes;
+    file.canGo = file.canGo || (!trackObstacle(track.pid) && !fileObstacle(path));
+    return canonical;
+}
+
+std::vector<const MarkedFile*> MarkedFiles::filesAt(const std::string& path) const {
+    std::vector<const MarkedFile*> found;
+    const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
+    if (!attributes) return found;
+    const auto names = m_byKey.find(keyOf(*attributes));
+    if (names == m_byKey.end()) return found;
+    if (attributes->linkCount > 1) {
+        for (const auto& [name, file] : names->second)
+            found.push_back(&file);
+    } else if (const auto file = names->second.find(canonicalPath(m_files.localPath(path)));
+               file != names->second.end()) {
+        found.push_back(&file->second);
+    }
+    return found;
+}
+
+void MarkedFiles::count(const std::unordered_set<const TrackRecord*>& shared,
+                        DeleteConfirmationFacts& facts) const {
+    for (const auto& [key, names] : m_byKey) {
+        bool isCounted = false;
+        for (const auto& [name, file] : names) {
+            if (!file.canGo) continue;
+            const bool isShared = shared.contains(file.tracks.front());
+            (isShared ? facts.sharedFiles : facts.filesToTrash) += 1;
+            // The other names of a file take no room of their own.
+            if (file.attributes.linkCount > 1 && std::exchange(isCounted, true)) continue;
+            (isShared ? facts.sharedBytes : facts.bytesToTrash) +=
+                static_cast<std::int64_t>(file.attributes.size);
+        }
+    }
+}
+
+} // namespace songsweep

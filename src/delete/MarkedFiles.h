@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delete/DeletePlan.h"
+#include "platform/Files.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+#include <vector>
+
+namespace songsweep {
+
+/// One file under one name, with the marked tracks that use it.
+struct MarkedFile {
+    std::vector<const TrackRecord*> tracks;
+    FileAttributes attributes;
+    bool canGo = false; ///< nothing is in the way of at least one of the tracks and its path
+};
+
+/// The files of the marked tracks, ready to be held against those of the rest of the library.
+///
+/// One look at the file system for each track, and one for each path that is asked for. One thread at a time.
+class MarkedFiles {
+  public:
+    explicit MarkedFiles(const Files& files)
+        : m_files(files) {}
+
+    bool empty() const { return m_byKey.empty(); }
+
+    /// Takes in the file of a marked track and gives its canonical path; nothing where it does not exist.
+    std::optional<std::string> add(const SurveyedRows::Track& track);
+
+    /// The marked files that the path leads to, under this name or another one.
+    std::vector<const MarkedFile*> filesAt(const std::string& path) const;
+
+    /// Adds the counts of files and bytes to the facts.
+    void count(const std::unordered_set<const TrackRecord*>& shared, DeleteConfirmationFacts& facts) const;
+
+  private:
+    /// A file as the file system knows it. Some repeat their keys, so that the canonical path counts, too.
+    using Key = std::pair<std::uint64_t, std::uint64_t>;
+    using Names = std::unordered_map<std::string, MarkedFile>;
+
+    static Key keyOf(const FileAttributes& attributes) { return {attributes.device, attributes.inode}; }
+
+    const Files& m_files;
+    std::map<Key, Names> m_byKey;
+};
+
+} // namespace songsweep
