@@ -59,7 +59,7 @@ class Survey {
 
     void shareAll() {
         m_plan.libraryUnknown = true;
-        for (const auto& [record, path] : m_plan.files)
+        for (const auto& [record, file] : m_plan.files)
             m_plan.shared.insert(record);
     }
 

@@ -24,6 +24,13 @@ using LocationVisitor = std::function<bool(std::string_view pid, const std::stri
 /// Visits them all; false where it could not. Called on any thread.
 using LibraryLocations = std::function<bool(const LocationVisitor&)>;
 
+/// The file of a marked track as it was when it was looked at.
+struct PlannedFile {
+    std::string path; ///< canonical and local; the same for tracks that share it
+    const char* obstacle =
+        nullptr; ///< why it stays whatever the user wants; null where nothing is in the way
+};
+
 /// What a deletion with files has to know before anything is deleted. A value; the records are those of the
 /// rows that it was made from, and keys alone.
 struct DeletePlan {
@@ -31,9 +38,8 @@ struct DeletePlan {
     std::unordered_set<const TrackRecord*> shared;
     /// The rest of the library could not be looked at, so that every file counts as shared.
     bool libraryUnknown = false;
-    /// The file of each marked track whose file exists: its canonical local path. Tracks that share a file
-    /// have the same one.
-    std::unordered_map<const TrackRecord*, std::string> files;
+    /// Of each marked track whose file exists.
+    std::unordered_map<const TrackRecord*, PlannedFile> files;
 };
 
 /// What a look at the files needs of the rows, taken from them at one moment.

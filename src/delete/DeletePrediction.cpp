@@ -9,15 +9,16 @@ namespace {
 
 void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome) {
     using File = DeleteOutcome::File;
-    if (!plan.files.contains(&record)) {
+    const auto file = plan.files.find(&record);
+    if (file == plan.files.end()) {
         outcome.file = File::missing;
     } else if (trackObstacle(record.pid)) {
         outcome.file = File::kept; // It stays with its track, for the track's reason.
     } else if (plan.shared.contains(&record)) {
         outcome.file = File::kept;
         outcome.addReason(reasonToLeave(plan));
-    } else if (const char* const obstacle = fileObstacle(record.location)) {
-        outcome.keepFile(obstacle);
+    } else if (file->second.obstacle) {
+        outcome.keepFile(file->second.obstacle);
     } else {
         outcome.file = File::trashed;
     }

@@ -33,16 +33,14 @@ void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome) {
         outcome.addReason(reasonToLeave(m_plan));
     } else if (file != planned) {
         outcome.keepFile("it is not the file that was looked at");
+    } else if (const char* const obstacle = obstacleOf(record)) {
+        outcome.keepFile(obstacle);
     } else {
         trash(record, file, outcome);
     }
 }
 
 void FileDeletion::trash(const TrackRecord& record, const std::string& file, DeleteOutcome& outcome) {
-    if (const char* const obstacle = fileObstacle(record.location)) {
-        outcome.keepFile(obstacle);
-        return;
-    }
     const std::string name = m_files.localPath(record.location.string());
     const std::string hfs = nameableHfsPath(record.location).value();
     const Result<void> trashed = tellFinder(deleteTexts::deleteFile(hfs));
@@ -62,10 +60,16 @@ std::string FileDeletion::fileOf(const TrackRecord& record) const {
     return isPath(path) && m_files.exists(path) ? canonicalPath(m_files.localPath(path)) : std::string();
 }
 
+/// Looked at once more: a folder may have taken the place of the file since.
+const char* FileDeletion::obstacleOf(const TrackRecord& record) const {
+    const auto attributes = m_files.attributes(record.location.string());
+    return fileObstacle(record.location, attributes ? attributes->kind : FileAttributes::Kind::other);
+}
+
 /// What tracks that share a file have in common; "" where there was no file.
 std::string FileDeletion::plannedFileOf(const TrackRecord& record) const {
     const auto planned = m_plan.files.find(&record);
-    return planned == m_plan.files.end() ? std::string() : planned->second;
+    return planned == m_plan.files.end() ? std::string() : planned->second.path;
 }
 
 /// What is thrown meanwhile is the reason, if the file stays.

@@ -32,6 +32,7 @@ class FileDeletion {
   private:
     void decide(const TrackRecord& record, DeleteOutcome& outcome);
     void trash(const TrackRecord& record, const std::string& file, DeleteOutcome& outcome);
+    const char* obstacleOf(const TrackRecord& record) const;
     std::string fileOf(const TrackRecord& record) const;
     std::string plannedFileOf(const TrackRecord& record) const;
     Result<void> tellFinder(const std::string& text);

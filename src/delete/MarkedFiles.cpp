@@ -8,16 +8,16 @@
 
 namespace songsweep {
 
-std::optional<std::string> MarkedFiles::add(const SurveyedRows::Track& track) {
+std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     const std::string path = track.location.string();
     const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
     if (!attributes) return std::nullopt;
-    std::string canonical = canonicalPath(m_files.localPath(path));
-    MarkedFile& file = m_byKey[keyOf(*attributes)][canonical];
+    PlannedFile planned = {canonicalPath(m_files.localPath(path)), fileObstacle(path, attributes->kind)};
+    MarkedFile& file = m_byKey[keyOf(*attributes)][planned.path];
     file.tracks.push_back(track.record);
     file.attributes = *attributes;
-    file.canGo = file.canGo || (!trackObstacle(track.pid) && !fileObstacle(path));
-    return canonical;
+    file.canGo = file.canGo || (!trackObstacle(track.pid) && !planned.obstacle);
+    return planned;
 }
 
 std::vector<const MarkedFile*> MarkedFiles::filesAt(const std::string& path) const {

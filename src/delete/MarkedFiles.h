@@ -19,7 +19,7 @@ namespace songsweep {
 struct MarkedFile {
     std::vector<const TrackRecord*> tracks;
     FileAttributes attributes;
-    bool canGo = false; ///< nothing is in the way of at least one of the tracks and its path
+    bool canGo = false; ///< nothing is in the way where at least one of the tracks names it
 };
 
 /// The files of the marked tracks, ready to be held against those of the rest of the library.
@@ -32,8 +32,8 @@ class MarkedFiles {
 
     bool empty() const { return m_byKey.empty(); }
 
-    /// Takes in the file of a marked track and gives its canonical path; nothing where it does not exist.
-    std::optional<std::string> add(const SurveyedRows::Track& track);
+    /// Takes in the file of a marked track; nothing where it does not exist.
+    std::optional<PlannedFile> add(const SurveyedRows::Track& track);
 
     /// The marked files that the path leads to, under this name or another one.
     std::vector<const MarkedFile*> filesAt(const std::string& path) const;

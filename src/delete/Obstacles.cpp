@@ -11,7 +11,9 @@ const char* trackObstacle(std::string_view pid) {
     return canStandInText(pid) ? nullptr : "its persistent ID cannot be told to iTunes";
 }
 
-const char* fileObstacle(std::string_view location) {
+const char* fileObstacle(std::string_view location, FileAttributes::Kind kind) {
+    if (kind == FileAttributes::Kind::folder) return "it is a folder";
+    if (kind == FileAttributes::Kind::other) return "it is no regular file";
     return canNameFile(location) ? nullptr : "its name cannot be told to Finder";
 }
 

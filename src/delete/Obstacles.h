@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Files.h"
+
 #include <string_view>
 
 namespace songsweep {
@@ -9,7 +11,8 @@ namespace songsweep {
 /// with it. A phrase for an outcome.
 const char* trackObstacle(std::string_view pid);
 
-/// Why a file that exists stays though it is to be trashed; null where nothing is in the way.
-const char* fileObstacle(std::string_view location);
+/// Why what exists at a location stays though it is to be trashed; null where nothing is in the way. A folder
+/// would take the files of other tracks with it.
+const char* fileObstacle(std::string_view location, FileAttributes::Kind kind);
 
 } // namespace songsweep

@@ -15,9 +15,15 @@ timespec modificationTime(const struct stat& file) { return file.st_mtimespec; }
 timespec modificationTime(const struct stat& file) { return file.st_mtim; }
 #endif
 
+FileAttributes::Kind kindOf(const struct stat& file) {
+    if (S_ISREG(file.st_mode)) return FileAttributes::Kind::file;
+    return S_ISDIR(file.st_mode) ? FileAttributes::Kind::folder : FileAttributes::Kind::other;
+}
+
 FileAttributes attributesOf(const struct stat& file) {
     const timespec modified = modificationTime(file);
     FileAttributes attributes;
+    attributes.kind = kindOf(file);
     attributes.modificationNanoseconds = std::int64_t{modified.tv_sec} * 1'000'000'000 + modified.tv_nsec;
     attributes.size = static_cast<std::uint64_t>(file.st_size);
     attributes.device = static_cast<std::uint64_t>(file.st_dev);

@@ -11,6 +11,9 @@ namespace songsweep {
 
 /// What the file system tells of a file; follows symbolic links.
 struct FileAttributes {
+    enum class Kind : std::uint8_t { file, folder, other };
+
+    Kind kind = Kind::file;
     std::int64_t modificationNanoseconds = 0; ///< since 1970-01-01 00:00:00 UTC
     std::uint64_t size = 0;                   ///< bytes
     std::uint64_t device = 0;

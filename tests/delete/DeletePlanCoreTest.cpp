@@ -159,6 +159,11 @@ TEST_F(DeletePlanTest, aFileThatCannotBeNamedIsNotCountedAsGoing) {
     EXPECT_EQ(facts(), DeleteConfirmationFacts());
 }
 
+TEST_F(DeletePlanTest, aFolderIsNotCountedAsGoingOrMissing) {
+    add(1, "A", true, m_folder.path());
+    EXPECT_EQ(facts(), DeleteConfirmationFacts());
+}
+
 TEST_F(DeletePlanTest, aSurveyThatIsStoppedHasNoPlan) {
     addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");

@@ -32,6 +32,7 @@ TEST_F(DeletePredictionTest, tellsWhatBecomesOfTheFilesInEarnest) {
     add(1, "D", false, path("c.mp3"));
     addFile("E", true, "say \"hi\".mp3");
     add(1, "F", true, path("gone.mp3"));
+    add(1, "G", true, m_folder.path());
     expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
 }
 

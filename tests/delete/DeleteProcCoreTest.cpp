@@ -118,6 +118,26 @@ TEST_P(UnspeakableNameTest, theFileStaysAndNoTextIsSent) {
 INSTANTIATE_TEST_SUITE_P(names, UnspeakableNameTest,
                          testing::Values("say \"hi\".mp3", "back\\slash.mp3", "tab\\t.mp3", "\\", "\""));
 
+TEST_F(DeleteProcTest, aFolderStaysWithAllThatIsInIt) {
+    addFile("B", false, "Album/3.mp3");
+    add(1, "A", true, path("Album"));
+    run(withFiles);
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_TRUE(exists("Album/3.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: it is a folder"));
+    EXPECT_FALSE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, aFolderInThePlaceOfAPlannedFileStays) {
+    addFile("A", true, "a.mp3");
+    const DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
+    std::filesystem::remove(path("a.mp3"));
+    m_folder.write("a.mp3/b.mp3", "another");
+    run(withFiles, plan);
+    EXPECT_TRUE(exists("a.mp3/b.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: it is a folder"));
+}
+
 TEST_F(DeleteProcTest, aMissingFileIsNotToldToFinder) {
     add(1, "A", true, path("gone.mp3"));
     add(1, "B", true, "");

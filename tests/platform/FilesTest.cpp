@@ -40,6 +40,17 @@ TEST(Files, followsSymbolicLinks) {
     EXPECT_FALSE(files.exists(folder.path() + "/dangling"));
 }
 
+TEST(Files, tellsFilesFromFoldersAndOtherThings) {
+    const TemporaryFolder folder;
+    const std::string pipe = folder.path() + "/pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::filesystem::create_directory_symlink(folder.path(), folder.path() + "/link");
+    const Files files;
+    EXPECT_EQ(files.attributes(folder.write("a.mp3", "x"))->kind, FileAttributes::Kind::file);
+    EXPECT_EQ(files.attributes(folder.path() + "/link")->kind, FileAttributes::Kind::folder);
+    EXPECT_EQ(files.attributes(pipe)->kind, FileAttributes::Kind::other);
+}
+
 TEST(Files, tellsTheAttributesOfAFile) {
     const TemporaryFolder folder;
     const std::string file = folder.write("a.mp3", "four");
