@@ -64,11 +64,11 @@ struct SurveyedRows {
 /// Looks at the files of the marked rows, and at those of all other tracks of the library; completes the
 /// facts by the counts of files.
 ///
-/// Two paths are one file when their canonical paths are equal, or, where the link count is above one, their
-/// device and inode. Linear in the rows and the library: one look at the file system for each track. Without
-/// `locations` the library is not known, and the rows that are not marked stand for it. A track without a
-/// persistent ID stays, since nothing can name it, and so does its file. Nothing where `isStopped`, asked
-/// before each look, says so. Any thread.
+/// Two paths are one file when their canonical paths are equal, or their device and inode, where the link
+/// count is above one or size and modification time agree, too. Linear in the rows and the library: one look
+/// at the file system for each track. Without `locations` the library is not known, and the rows that are not
+/// marked stand for it. A track without a persistent ID stays, since nothing can name it, and so does its
+/// file. Nothing where `isStopped`, asked before each look, says so. Any thread.
 std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& files,
                                       const LibraryLocations& locations, DeleteConfirmationFacts& facts,
                                       const std::function<bool()>& isStopped);

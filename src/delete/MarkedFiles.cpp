@@ -13,7 +13,9 @@ std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
     if (!attributes) return std::nullopt;
     PlannedFile planned = {canonicalPath(m_files.localPath(path)), fileObstacle(path, attributes->kind)};
-    MarkedFile& file = m_byKey[keyOf(*attributes)][planned.path];
+    const auto [name, isNew] = m_byKey[keyOf(*attributes)].try_emplace(planned.path);
+    MarkedFile& file = name->second;
+    if (isNew) m_bySight.emplace(sightOf(*attributes), &file);
     file.tracks.push_back(track.record);
     file.attributes = *attributes;
     file.canGo = file.canGo || (!trackObstacle(track.pid) && !planned.obstacle);
@@ -29,10 +31,14 @@ std::vector<const MarkedFile*> MarkedFiles::filesAt(const std::string& path) con
     if (attributes->linkCount > 1) {
         for (const auto& [name, file] : names->second)
             found.push_back(&file);
-    } else if (const auto file = names->second.find(canonicalPath(m_files.localPath(path)));
-               file != names->second.end()) {
-        found.push_back(&file->second);
+        return found;
     }
+    const auto [first, last] = m_bySight.equal_range(sightOf(*attributes));
+    for (auto sight = first; sight != last; ++sight)
+        found.push_back(sight->second);
+    // Its size and time may have changed since.
+    const auto file = names->second.find(canonicalPath(m_files.localPath(path)));
+    if (file != names->second.end()) found.push_back(&file->second);
     return found;
 }
 

@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -35,21 +36,29 @@ class MarkedFiles {
     /// Takes in the file of a marked track; nothing where it does not exist.
     std::optional<PlannedFile> add(const SurveyedRows::Track& track);
 
-    /// The marked files that the path leads to, under this name or another one.
+    /// The marked files that the path leads to, under this name or another one; one may come twice.
     std::vector<const MarkedFile*> filesAt(const std::string& path) const;
 
     /// Adds the counts of files and bytes to the facts.
     void count(const std::unordered_set<const TrackRecord*>& shared, DeleteConfirmationFacts& facts) const;
 
   private:
-    /// A file as the file system knows it. Some repeat their keys, so that the canonical path counts, too.
+    /// A file as the file system knows it: device and inode. Some file systems repeat them, so that they
+    /// alone say nothing where the file has one name.
     using Key = std::pair<std::uint64_t, std::uint64_t>;
+    /// The same with size and modification time: files that agree in all four are taken for one. Under
+    /// another mount, or in another letter case, a file has names that no link count tells of.
+    using Sight = std::tuple<std::uint64_t, std::uint64_t, std::uint64_t, std::int64_t>;
     using Names = std::unordered_map<std::string, MarkedFile>;
 
-    static Key keyOf(const FileAttributes& attributes) { return {attributes.device, attributes.inode}; }
+    static Key keyOf(const FileAttributes& file) { return {file.device, file.inode}; }
+    static Sight sightOf(const FileAttributes& file) {
+        return {file.device, file.inode, file.size, file.modificationNanoseconds};
+    }
 
     const Files& m_files;
     std::map<Key, Names> m_byKey;
+    std::multimap<Sight, const MarkedFile*> m_bySight;
 };
 
 } // namespace songsweep

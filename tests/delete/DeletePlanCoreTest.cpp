@@ -2,10 +2,12 @@
 #include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeleteFixture.h"
 #include "delete/DeletePlan.h"
+#include "support/BindMount.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 
 namespace songsweep {
@@ -90,11 +92,30 @@ TEST_F(DeletePlanTest, aHardLinkIsTheSameFile) {
 
 TEST_F(DeletePlanTest, anEqualFileNumberAloneIsNoSharing) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
-    addFile("B", true, "b.mp3");
-    addFile("C", false, "c.mp3");
+    addFile("B", true, "another.mp3");
+    addFile("C", false, "a third one.mp3");
     const OneNumberFiles files;
     EXPECT_THAT(plan({}, files).shared, IsEmpty());
     EXPECT_THAT(plan({{"X", path("a.mp3")}}, files).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, theSameFileUnderAnotherMountIsShared) {
+    const TrackRecord& a = addFile("A", true, "music/a.mp3");
+    addFile("B", true, "music/b.mp3");
+    const test::BindMount mount(path("music"), path("mounted"));
+    if (!mount.isMounted()) GTEST_SKIP() << "this user may not mount";
+    EXPECT_THAT(plan({{"X", path("mounted/a.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aFileOfEqualNumberSizeAndTimeIsTakenForTheSame) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    const auto time = std::filesystem::last_write_time(path("a.mp3"));
+    const OneNumberFiles files;
+    std::filesystem::last_write_time(path("b.mp3"), time);
+    EXPECT_THAT(plan({}, files).shared, UnorderedElementsAre(&a));
+    std::filesystem::last_write_time(path("b.mp3"), time + std::chrono::seconds(1));
+    EXPECT_THAT(plan({}, files).shared, IsEmpty());
 }
 
 TEST_F(DeletePlanTest, aMarkedTrackWithoutAnIdKeepsItsFileSinceNothingCanDeleteIt) {
