@@ -3,7 +3,10 @@
 
 #include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeleteReport.h"
+#include "delete/MarkedEntries.h"
 #include "delete/MarkedFiles.h"
+#include "delete/MarkedIds.h"
+#include "delete/Obstacles.h"
 
 #include <utility>
 
@@ -17,25 +20,27 @@ class Survey {
     Survey(const SurveyedRows& rows, const Files& files, const std::function<bool()>& isStopped)
         : m_rows(rows)
         , m_isStopped(isStopped)
+        , m_entries(files)
         , m_markedFiles(files) {}
 
     void lookAtMarked() {
         for (const SurveyedRows::Track& track : m_rows.marked) {
             if (m_isStopped()) return;
-            m_markedPids.insert(track.pid);
+            m_ids.add(track.pid);
+            m_entries.add(track);
             if (auto file = m_markedFiles.add(track)) m_plan.files.emplace(track.record, std::move(*file));
         }
     }
 
     void lookAtOthers(const LibraryLocations& locations) {
         if (m_markedFiles.empty()) return;
-        if (!locations) {
-            for (const Text location : m_rows.otherLocations)
-                if (!lookAtOther({}, location.string())) return;
-            return;
+        for (const SurveyedRows::Other& row : m_rows.others) {
+            const bool isDoomed = m_ids.contains(row.pid);
+            if ((isDoomed || !locations) && !lookAtOther(row.location.string())) return;
         }
-        if (!locations(
-                [this](std::string_view pid, const std::string& path) { return lookAtOther(pid, path); }))
+        if (locations && !locations([this](std::string_view pid, const std::string& path) {
+                return m_entries.take(pid, path) ? !m_isStopped() : lookAtOther(path);
+            }))
             shareAll();
     }
 
@@ -48,10 +53,8 @@ class Survey {
 
   private:
     /// False where the survey is stopped.
-    bool lookAtOther(std::string_view pid, const std::string& path) {
+    bool lookAtOther(const std::string& path) {
         if (m_isStopped()) return false;
-        const bool goes = !pid.empty() && m_markedPids.contains(pid);
-        if (goes) return true;
         for (const MarkedFile* const file : m_markedFiles.filesAt(path))
             m_plan.shared.insert(file->tracks.begin(), file->tracks.end());
         return true;
@@ -65,7 +68,8 @@ class Survey {
 
     const SurveyedRows& m_rows;
     const std::function<bool()>& m_isStopped;
-    std::unordered_set<std::string_view> m_markedPids;
+    MarkedIds m_ids;
+    MarkedEntries m_entries;
     MarkedFiles m_markedFiles;
     DeletePlan m_plan;
 };
@@ -75,11 +79,9 @@ class Survey {
 SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept)
     : storage(std::move(kept)) {
     for (const TrackRecord* const record : rows) {
-        if (record->checkbox) {
-            marked.push_back({record, record->pid, record->location});
-        } else {
-            otherLocations.push_back(record->location);
-        }
+        if (record->checkbox) marked.push_back({record, record->pid, record->location});
+        if (!record->checkbox || trackObstacle(record->pid))
+            others.push_back({record->pid, record->location});
     }
 }
 

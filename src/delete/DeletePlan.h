@@ -34,7 +34,7 @@ struct PlannedFile {
 /// What a deletion with files has to know before anything is deleted. A value; the records are those of the
 /// rows that it was made from, and keys alone.
 struct DeletePlan {
-    /// Marked tracks whose file a track that stays uses too.
+    /// Marked tracks whose file a track that is not marked, or that cannot be deleted, uses too.
     std::unordered_set<const TrackRecord*> shared;
     /// The rest of the library could not be looked at, so that every file counts as shared.
     bool libraryUnknown = false;
@@ -45,10 +45,14 @@ struct DeletePlan {
 /// What a look at the files needs of the rows, taken from them at one moment.
 ///
 /// The records are keys and never read through, so that another thread may look at the files while the rows
-/// change; the texts are those of the storage, which is kept. 24 bytes a marked row, 8 any other.
+/// change; the texts are those of the storage, which is kept. 24 bytes a marked row, 16 any other.
 struct SurveyedRows {
     struct Track {
         const TrackRecord* record;
+        Text pid;
+        Text location;
+    };
+    struct Other {
         Text pid;
         Text location;
     };
@@ -57,7 +61,7 @@ struct SurveyedRows {
                           std::shared_ptr<const TrackStorage> kept = nullptr);
 
     std::vector<Track> marked;
-    std::vector<Text> otherLocations;
+    std::vector<Other> others; ///< with the marked ones that cannot be deleted
     std::shared_ptr<const TrackStorage> storage;
 };
 

@@ -9,7 +9,7 @@
 namespace songsweep {
 
 /// Why a file is left though it was to be trashed.
-inline constexpr const char* fileIsShared = "a track that stays uses it too";
+inline constexpr const char* fileIsShared = "a track that is not marked uses it too";
 inline constexpr const char* libraryIsUnknown = "other tracks that use it could not be looked for";
 
 /// What became of one marked track.

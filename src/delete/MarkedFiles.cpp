@@ -18,7 +18,7 @@ std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     if (isNew) m_bySight.emplace(sightOf(*attributes), &file);
     file.tracks.push_back(track.record);
     file.attributes = *attributes;
-    file.canGo = file.canGo || (!trackObstacle(track.pid) && !planned.obstacle);
+    file.canGo = file.canGo || (!planned.obstacle && !trackObstacle(track.pid));
     return planned;
 }
 

@@ -20,7 +20,7 @@ namespace songsweep {
 struct MarkedFile {
     std::vector<const TrackRecord*> tracks;
     FileAttributes attributes;
-    bool canGo = false; ///< nothing is in the way where at least one of the tracks names it
+    bool canGo = false; ///< nothing is in the way of at least one of the tracks and of its path
 };
 
 /// The files of the marked tracks, ready to be held against those of the rest of the library.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/TrackFacts.h"
 
+#include "delete/MarkedIds.h"
 #include "library/DisplayedList.h"
 
 #include <algorithm>
@@ -11,10 +12,17 @@ namespace {
 
 using Row = std::vector<TrackRecord*>::const_iterator;
 
-bool losesEveryCopy(Row first, Row end) {
+MarkedIds markedIds(const std::vector<TrackRecord*>& rows) {
+    MarkedIds ids;
+    for (const TrackRecord* const record : rows)
+        if (record->checkbox) ids.add(record->pid);
+    return ids;
+}
+
+bool losesEveryCopy(Row first, Row end, const MarkedIds& ids) {
     const bool works = std::any_of(first, end, [](const TrackRecord* record) { return !record->isdead; });
-    return std::all_of(first, end, [works](const TrackRecord* record) {
-        return record->checkbox || (works && record->isdead);
+    return std::all_of(first, end, [works, &ids](const TrackRecord* record) {
+        return record->checkbox || (works && record->isdead) || ids.contains(record->pid);
     });
 }
 
@@ -28,11 +36,12 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
 }
 
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
+    const MarkedIds ids = markedIds(rows);
     int count = 0;
     for (Row first = rows.begin(); first != rows.end();) {
         const Row end = std::find_if(
             first, rows.end(), [first](const TrackRecord* record) { return record->gid != (*first)->gid; });
-        count += losesEveryCopy(first, end) ? 1 : 0;
+        count += losesEveryCopy(first, end, ids) ? 1 : 0;
         first = end;
     }
     return count;

@@ -16,7 +16,8 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows);
 /// An entry whose file is missing is no copy while the group has one that works: whoever deletes all that
 /// work, and leaves the empty entry, loses the song. Where none works, as on a drive that is not there, every
 /// entry counts, or nothing could be deleted then. So no group is lost to what the marking rules leave with
-/// except-one, which is a working copy if there is one.
+/// except-one, which is a working copy if there is one. An entry with the persistent ID of a marked one is
+/// deleted with it, and so is none that is left.
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
 
 } // namespace songsweep

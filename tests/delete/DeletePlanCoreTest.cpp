@@ -118,15 +118,44 @@ TEST_F(DeletePlanTest, aFileOfEqualNumberSizeAndTimeIsTakenForTheSame) {
     EXPECT_THAT(plan({}, files).shared, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, aMarkedTrackWithoutAnIdKeepsItsFileSinceNothingCanDeleteIt) {
+TEST_F(DeletePlanTest, aMarkedTrackThatCannotBeDeletedKeepsItsFile) {
     const TrackRecord& a = addFile("0", true, "a.mp3");
-    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files,
-                               [&](const LocationVisitor& visit) {
-                                   visit("", path("a.mp3"));
-                                   return true;
-                               })
-                    .shared,
-                UnorderedElementsAre(&a));
+    const TrackRecord& b = add(1, "B", true, path("a.mp3"));
+    const TrackRecord& c = addFile("C\"", true, "c.mp3");
+    EXPECT_THAT(plan().shared, UnorderedElementsAre(&a, &b, &c));
+    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a, &b, &c));
+    EXPECT_EQ(facts(), (DeleteConfirmationFacts{.sharedFiles = 1, .sharedBytes = 5})) << "c stays anyway";
+}
+
+TEST_F(DeletePlanTest, anEntryOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    addFile("B", true, "b.mp3");
+    add(2, "B", true, path("b.mp3"));
+    EXPECT_THAT(plan({{"A", path("a.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, aRowOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    add(1, "A", false, path("a.mp3"));
+    const LibraryLocations oneEntry = [this](const LocationVisitor& visit) {
+        return visit("A", path("a.mp3"));
+    };
+    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, anEntryOfAMarkedIdElsewhereIsNotTheMarkedOne) {
+    addFile("A", true, "a.mp3");
+    m_folder.write("b.mp3", "b");
+    EXPECT_THAT(plan({{"A", path("b.mp3")}}).shared, IsEmpty());
+}
+
+TEST_F(DeletePlanTest, anEntryIsTheMarkedOneUnderAnotherNameOfItsFile) {
+    addFile("A", true, "real/a.mp3");
+    std::filesystem::create_directory_symlink(path("real"), path("linked"));
+    const LibraryLocations oneEntry = [this](const LocationVisitor& visit) {
+        return visit("A", path("linked/a.mp3"));
+    };
+    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, IsEmpty());
 }
 
 TEST_F(DeletePlanTest, aLibraryThatCannotBeLookedAtKeepsEveryFile) {

@@ -2,6 +2,7 @@
 // The road from a library file to a smaller one, with the program's own iTunes and Finder.
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
+#include "delete/TrackFacts.h"
 #include "dupes/BuildResultProc.h"
 #include "dupes/MarkingRules.h"
 #include "hosts/EmbeddedScripting.h"
@@ -93,6 +94,17 @@ class EmbeddedDeletionTest : public testing::Test {
         m_scripts = std::make_unique<EmbeddedScripting>(m_folder.pathOf("library.xml"), m_desktop, m_files);
     }
 
+    /// Replaces a text of the library, everywhere or at its last place alone.
+    void replaceAll(const std::string& text, const std::string& by) {
+        for (std::size_t at = m_text.find(text); at != std::string::npos; at = m_text.find(text, at))
+            m_text.replace(at, text.size(), by);
+        m_folder.write("library.xml", m_text);
+    }
+    void replaceLast(const std::string& text, const std::string& by) {
+        m_text.replace(m_text.rfind(text), text.size(), by);
+        m_folder.write("library.xml", m_text);
+    }
+
     /// A search by name, as its two workers make it, on this thread.
     DisplayedList search(int trackCount) {
         const SearchParameters parameters = {.issamename = true, .playlist = "Library"};
@@ -159,6 +171,19 @@ TEST_F(EmbeddedDeletionTest, theLosingCopiesLeaveTheLibraryAndAllElseStays) {
     EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102}));
     EXPECT_EQ(test::contentOf(m_scripts->backup()), m_text);
     EXPECT_THAT(search(2).rows, IsEmpty());
+}
+
+TEST_F(EmbeddedDeletionTest, anEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
+    writeLibrary({"a.mp3", "a2.mp3"});
+    replaceAll("a2.mp3", "a.mp3");
+    replaceAll(test::persistentIdOf(101), test::persistentIdOf(100));
+    DisplayedList list = search(2);
+    markItems(list.rows, markType::highestBitrate, true);
+    EXPECT_EQ(groupsLosingEveryCopy(list.rows), 1);
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(1));
+    EXPECT_EQ(outcomeText(report.outcomes[0]), "deleted, file kept: a track that is not marked uses it too");
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
 }
 
 TEST_F(EmbeddedDeletionTest, awkwardNamesGoToTheTrashOrStay) {

@@ -44,6 +44,14 @@ TEST_F(TrackFactsTest, whereNoCopyWorksAnyEntryThatStaysIsEnough) {
     EXPECT_EQ(lost(), 1);
 }
 
+TEST_F(TrackFactsTest, anEntryThatIsDeletedWithAMarkedOneIsNoCopyThatIsLeft) {
+    add(1, "00A1B2C3D4E5F607", true);
+    add(1, "00a1b2c3d4e5f607", false);
+    add(2, "0", true);
+    add(2, "0", false);
+    EXPECT_EQ(lost(), 1) << "without an ID nothing is deleted";
+}
+
 TEST_F(TrackFactsTest, theFactsCountMarkedTracksAndLostGroupsAndNoFiles) {
     addFile("A", true, "a.mp3");
     addFile("B", true, "b.mp3");
