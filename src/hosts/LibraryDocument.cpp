@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/LibraryDocument.h"
 
+#include "library/Trim.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -137,7 +139,7 @@ LibraryDocument::tracksWithPersistentId(std::string_view persistentId) {
         if (isDeleted(track)) continue;
         if (id.kind == PersistentId::Kind::hashed) {
             const auto values = fields(track);
-            if (!values || PersistentId::of(values.value()->text("persistent id")) != id) continue;
+            if (!values || PersistentId::of(trimmed(values.value()->text("persistent id"))) != id) continue;
         }
         found.push_back(track);
     }

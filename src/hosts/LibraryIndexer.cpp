@@ -2,6 +2,7 @@
 #include "hosts/LibraryIndex.h"
 #include "hosts/LibraryWords.h"
 #include "hosts/TagScanner.h"
+#include "library/Trim.h"
 
 #include <algorithm>
 #include <limits>

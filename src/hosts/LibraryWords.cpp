@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/LibraryWords.h"
 
-#include "hosts/XmlText.h"
+#include "library/Trim.h"
 
 #include <algorithm>
 #include <charconv>
@@ -18,14 +18,6 @@ bool isCalled(std::string_view text, std::string_view lowerCaseName) {
 }
 
 } // namespace
-
-std::string_view trimmed(std::string_view text) {
-    while (!text.empty() && isXmlSpace(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isXmlSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
 
 std::optional<std::int64_t> wholeNumber(std::string_view text) {
     text = trimmed(text);

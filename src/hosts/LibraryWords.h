@@ -41,9 +41,6 @@ enum class LibraryPlace : std::uint8_t {
 /// The key of that name inside an element at `place`; letter case does not count.
 LibraryKey keyCalled(std::string_view name, LibraryPlace place);
 
-/// The text without white space at its ends.
-std::string_view trimmed(std::string_view text);
-
 /// The number that the text is, blanks around it left out; nothing for any other text.
 std::optional<std::int64_t> wholeNumber(std::string_view text);
 

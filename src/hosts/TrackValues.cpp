@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/TrackValues.h"
 
-#include "hosts/LibraryWords.h"
 #include "library/LocationUrl.h"
+#include "library/Trim.h"
 #include "library/ValueFormats.h"
 #include "platform/Files.h"
 

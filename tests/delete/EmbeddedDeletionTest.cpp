@@ -186,6 +186,16 @@ TEST_F(EmbeddedDeletionTest, anEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
 }
 
+TEST_F(EmbeddedDeletionTest, whiteSpaceAroundALocationHidesNoSharedFile) {
+    writeLibrary({"a.mp3", "a2.mp3", "a.mp3"});
+    replaceLast("<string>file://", "<string>\n\tfile://");
+    DisplayedList list = search(3);
+    markItems(list.rows, markType::highestBitrate, true);
+    deleteMarked(list);
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_EQ(m_desktop.trashed, 0);
+}
+
 TEST_F(EmbeddedDeletionTest, awkwardNamesGoToTheTrashOrStay) {
     const std::string longName(255, 'n');
     writeLibrary({"colon : slash.mp3", "kept", "line\nbreak.mp3", "kept2", "été – 歌.mp3", "kept3", longName,

@@ -119,6 +119,18 @@ TEST_F(LibraryDocumentTest, FindsOddPersistentIdsByTheirText) {
     EXPECT_TRUE(library.tracksWithPersistentId("0").empty());
 }
 
+TEST_F(LibraryDocumentTest, WhiteSpaceAroundAnIdOrALocationIsNoPartOfIt) {
+    LibraryDocument& library = open(
+        libraryXml({{1, "\n A1 \t", "<key>Location</key><string>\n\tfile:///a.mp3\u00a0</string>"}}, {}));
+    std::vector<std::string> found;
+    ASSERT_TRUE(library.locations().run([&](std::string_view id, const std::string& path) {
+        found.push_back(std::string(id) + " " + path);
+        return true;
+    }));
+    EXPECT_EQ(found, std::vector<std::string>{"A1 /a.mp3"});
+    EXPECT_EQ(library.tracksWithPersistentId("A1").size(), 1U);
+}
+
 TEST_F(LibraryDocumentTest, NamesEveryFileThatTracksUse) {
     LibraryDocument& library =
         open(libraryXml({{1, "A1", "<key>Location</key><string>file://localhost/M/a%20b.mp3</string>"},
