@@ -68,7 +68,7 @@ void AppController::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles
     m_deletion = Deletion::starting;
     m_deleteFiles = deleteFiles;
     if (!deleteFiles) forgetSurvey();
-    if (!leaveSharedFiles) m_deletePlan.shared.clear();
+    if (!leaveSharedFiles) m_deletePlan.giveUpSharedFiles();
     m_queries.iTunesStop();
     m_myTimer.start();
 }

@@ -30,7 +30,7 @@ ExitCode predict(LibrarySearch& search, const DeleteOptions& options, Output& ou
     if (options.files)
         plan = makeDeletePlan(rows, search.program().files(),
                               search.program().controllerServices().libraryLocations);
-    if (options.sharedFiles) plan.shared.clear();
+    if (options.sharedFiles) plan.giveUpSharedFiles();
     const DeleteReport report = predictedReport(rows, options.files, plan);
     return writeReportTo(output, options, report)
         .value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);

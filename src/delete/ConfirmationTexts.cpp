@@ -47,6 +47,12 @@ QString filesStayLine(const DeleteConfirmationFacts& facts) {
 
 QString filesPendingLine() { return QStringLiteral("Looking at the files..."); }
 
+QString libraryUnknownLine(const DeleteConfirmationFacts& facts) {
+    return worded(facts.tracks,
+                  QStringLiteral("The rest of the library could not be read, so the file stays."),
+                  QStringLiteral("The rest of the library could not be read, so the files stay."));
+}
+
 QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared) {
     const int files = facts.filesToTrash + (leaveShared ? 0 : facts.sharedFiles);
     const std::int64_t bytes = facts.bytesToTrash + (leaveShared ? 0 : facts.sharedBytes);

@@ -20,6 +20,9 @@ QString filesStayLine(const DeleteConfirmationFacts& facts);
 /// What is told while the files are looked at.
 QString filesPendingLine();
 
+/// What is told in place of the files that go, where the other tracks that use them could not be looked for.
+QString libraryUnknownLine(const DeleteConfirmationFacts& facts);
+
 /// What happens to files; each is empty where it has nothing to count. `leaveShared` is the user's choice.
 QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);

@@ -92,6 +92,9 @@ void DeleteConfirmation::updateLines() {
         showLines(confirmationTexts::filesStayLine(m_facts), {}, {});
     } else if (waits) {
         showLines(confirmationTexts::filesPendingLine(), {}, {});
+    } else if (m_facts.libraryUnknown) {
+        showLines(confirmationTexts::libraryUnknownLine(m_facts), {},
+                  confirmationTexts::missingLine(m_facts));
     } else {
         showLines(confirmationTexts::trashLine(m_facts, shared),
                   confirmationTexts::sharedLine(m_facts, shared), confirmationTexts::missingLine(m_facts));

@@ -16,6 +16,7 @@ struct DeleteConfirmationFacts {
     int missingFiles = 0;
     int groupsLosingEveryCopy = 0;
     bool embeddedLibrary = false; ///< the library is a file that this program itself writes
+    bool libraryUnknown = false;  ///< the other tracks could not be looked at, so that no file goes
     bool filesPending = false;    ///< the files are still looked at: the file counts say nothing yet
 
     bool operator==(const DeleteConfirmationFacts&) const = default;

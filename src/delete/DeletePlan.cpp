@@ -2,7 +2,6 @@
 #include "delete/DeletePlan.h"
 
 #include "delete/DeleteConfirmationFacts.h"
-#include "delete/DeleteReport.h"
 #include "delete/MarkedEntries.h"
 #include "delete/MarkedFiles.h"
 #include "delete/MarkedIds.h"
@@ -46,7 +45,8 @@ class Survey {
 
     void count(DeleteConfirmationFacts& facts) const {
         facts.missingFiles = static_cast<int>(m_rows.marked.size() - m_plan.files.size());
-        m_markedFiles.count(m_plan.shared, facts);
+        facts.libraryUnknown = m_plan.libraryUnknown;
+        if (!m_plan.libraryUnknown) m_markedFiles.count(m_plan.shared, facts);
     }
 
     DeletePlan plan() && { return std::move(m_plan); }
@@ -76,6 +76,10 @@ class Survey {
 
 } // namespace
 
+void DeletePlan::giveUpSharedFiles() {
+    if (!libraryUnknown) shared.clear();
+}
+
 SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept)
     : storage(std::move(kept)) {
     for (const TrackRecord* const record : rows) {
@@ -100,10 +104,6 @@ DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& fi
                           const LibraryLocations& locations) {
     DeleteConfirmationFacts ignored;
     return surveyFiles(SurveyedRows(rows), files, locations, ignored, [] { return false; }).value();
-}
-
-const char* reasonToLeave(const DeletePlan& plan) {
-    return plan.libraryUnknown ? libraryIsUnknown : fileIsShared;
 }
 
 } // namespace songsweep

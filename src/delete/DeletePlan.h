@@ -40,6 +40,9 @@ struct DeletePlan {
     bool libraryUnknown = false;
     /// Of each marked track whose file exists.
     std::unordered_map<const TrackRecord*, PlannedFile> files;
+
+    /// Lets shared files go, too, as somebody asked who knows their number; not where that is unknown.
+    void giveUpSharedFiles();
 };
 
 /// What a look at the files needs of the rows, taken from them at one moment.
@@ -80,8 +83,5 @@ std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& fil
 /// The plan alone, made at once.
 DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
                           const LibraryLocations& locations);
-
-/// Why the file of a shared track is left.
-const char* reasonToLeave(const DeletePlan& plan);
 
 } // namespace songsweep

@@ -12,11 +12,8 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
     const auto file = plan.files.find(&record);
     if (file == plan.files.end()) {
         outcome.file = File::missing;
-    } else if (trackObstacle(record.pid)) {
-        outcome.file = File::kept; // It stays with its track, for the track's reason.
-    } else if (plan.shared.contains(&record)) {
-        outcome.file = File::kept;
-        outcome.addReason(reasonToLeave(plan));
+    } else if (isKeptByPlan(record, plan, outcome)) {
+        return;
     } else if (file->second.obstacle) {
         outcome.keepFile(file->second.obstacle);
     } else {

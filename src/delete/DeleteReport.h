@@ -8,10 +8,6 @@
 
 namespace songsweep {
 
-/// Why a file is left though it was to be trashed.
-inline constexpr const char* fileIsShared = "a track that is not marked uses it too";
-inline constexpr const char* libraryIsUnknown = "other tracks that use it could not be looked for";
-
 /// What became of one marked track.
 struct DeleteOutcome {
     enum class Track { deleted, failed, notAttempted };
@@ -25,8 +21,8 @@ struct DeleteOutcome {
     std::string artist;
     std::string location;
 
-    /// Whether what was asked for was done. A file that was left because a track that stays uses it counts as
-    /// dealt with: that is what was asked for.
+    /// Whether what was asked for was done. A file that was left because a track that is not marked uses it
+    /// counts as dealt with: that is what was asked for.
     bool dealtWith = false;
 
     void addReason(const std::string& why);

@@ -26,11 +26,8 @@ void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome) {
         outcome.file = DeleteOutcome::File::trashed;
     } else if (file.empty()) {
         outcome.file = DeleteOutcome::File::missing;
-    } else if (trackObstacle(record.pid)) {
-        outcome.file = DeleteOutcome::File::kept; // It stays with its track, for the track's reason.
-    } else if (m_plan.shared.contains(&record)) {
-        outcome.file = DeleteOutcome::File::kept;
-        outcome.addReason(reasonToLeave(m_plan));
+    } else if (isKeptByPlan(record, m_plan, outcome)) {
+        return;
     } else if (file != planned) {
         outcome.keepFile("it is not the file that was looked at");
     } else if (const char* const obstacle = obstacleOf(record)) {

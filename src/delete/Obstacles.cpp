@@ -17,4 +17,19 @@ const char* fileObstacle(std::string_view location, FileAttributes::Kind kind) {
     return canNameFile(location) ? nullptr : "its name cannot be told to Finder";
 }
 
+bool isKeptByPlan(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome) {
+    if (trackObstacle(record.pid)) {
+        outcome.file = DeleteOutcome::File::kept; // with its track, for the track's reason
+        return true;
+    }
+    if (!plan.shared.contains(&record)) return false;
+    if (plan.libraryUnknown) {
+        outcome.keepFile("other tracks that use it could not be looked for");
+    } else {
+        outcome.file = DeleteOutcome::File::kept;
+        outcome.addReason("a track that is not marked uses it too");
+    }
+    return true;
+}
+
 } // namespace songsweep

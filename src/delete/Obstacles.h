@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "delete/DeletePlan.h"
+#include "delete/DeleteReport.h"
 #include "platform/Files.h"
 
 #include <string_view>
@@ -14,5 +16,10 @@ const char* trackObstacle(std::string_view pid);
 /// Why what exists at a location stays though it is to be trashed; null where nothing is in the way. A folder
 /// would take the files of other tracks with it.
 const char* fileObstacle(std::string_view location, FileAttributes::Kind kind);
+
+/// Whether the file of a marked track stays by the plan, for the sake of its own track or of others; notes it
+/// in the outcome then. Where the others could not be looked for, nobody asked for that, and the track is not
+/// dealt with.
+bool isKeptByPlan(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome);
 
 } // namespace songsweep

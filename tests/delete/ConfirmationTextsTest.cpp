@@ -25,6 +25,8 @@ TEST(ConfirmationTexts, AreWordedForOne) {
     EXPECT_EQ(texts::fileOption(one), QStringLiteral("Move its &file to the Trash too"));
     EXPECT_EQ(texts::deleteButton(one), QStringLiteral("&Delete 1 track"));
     EXPECT_EQ(texts::filesStayLine(one), QStringLiteral("The file stays where it is."));
+    EXPECT_EQ(texts::libraryUnknownLine(one),
+              QStringLiteral("The rest of the library could not be read, so the file stays."));
     EXPECT_EQ(texts::trashLine(one, true), QStringLiteral("1 file, 5.2 MB, goes to the Trash."));
     EXPECT_EQ(texts::sharedLine(one, true),
               QStringLiteral("1 file is shared with a track that stays, and is kept."));
@@ -40,6 +42,8 @@ TEST(ConfirmationTexts, AreWordedForMany) {
     EXPECT_EQ(texts::fileOption(two), QStringLiteral("Move their &files to the Trash too"));
     EXPECT_EQ(texts::deleteButton(two), QStringLiteral("&Delete 2 tracks"));
     EXPECT_EQ(texts::filesStayLine(two), QStringLiteral("The files stay where they are."));
+    EXPECT_EQ(texts::libraryUnknownLine(two),
+              QStringLiteral("The rest of the library could not be read, so the files stay."));
     EXPECT_EQ(texts::trashLine(two, true), QStringLiteral("2 files, 5.2 MB, go to the Trash."));
     EXPECT_EQ(texts::sharedLine(two, true),
               QStringLiteral("2 files are shared with tracks that stay, and are kept."));

@@ -103,6 +103,18 @@ TEST_F(DeleteConfirmationTest, DoesNotMoveWhenTheFileOptionIsSwitched) {
     EXPECT_EQ(child<QPushButton>(sheet, "delConfOkButton").mapTo(&sheet, QPoint()), button);
 }
 
+TEST_F(DeleteConfirmationTest, OffersNoFilesWhereTheRestOfTheLibraryCouldNotBeRead) {
+    DeleteConfirmation sheet;
+    sheet.setFacts({.tracks = 3, .missingFiles = 1, .libraryUnknown = true});
+    EXPECT_EQ(visibleLines(sheet), QStringList(QStringLiteral("The files stay where they are.")));
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_EQ(visibleLines(sheet),
+              QStringList({QStringLiteral("The rest of the library could not be read, so the files stay."),
+                           QStringLiteral("1 file is missing already.")}));
+    test::open(sheet);
+    EXPECT_EQ(test::clippedControls(sheet), QStringList());
+}
+
 /// Three tracks whose files are still looked at.
 DeleteConfirmationFacts pendingTracks() { return {.tracks = 3, .filesPending = true}; }
 

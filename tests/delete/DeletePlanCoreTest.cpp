@@ -158,12 +158,17 @@ TEST_F(DeletePlanTest, anEntryIsTheMarkedOneUnderAnotherNameOfItsFile) {
     EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, aLibraryThatCannotBeLookedAtKeepsEveryFile) {
+TEST_F(DeletePlanTest, aLibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWanted) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
-    const DeletePlan made =
-        makeDeletePlan(m_list.rows, m_files, [](const LocationVisitor&) { return false; });
-    EXPECT_THAT(made.shared, UnorderedElementsAre(&a));
-    EXPECT_STREQ(reasonToLeave(made), "other tracks that use it could not be looked for");
+    add(1, "B", true, path("gone.mp3"));
+    DeleteConfirmationFacts facts;
+    auto made = surveyFiles(
+        SurveyedRows(m_list.rows), m_files, [](const LocationVisitor&) { return false; }, facts,
+        [] { return false; });
+    ASSERT_TRUE(made);
+    EXPECT_EQ(facts, (DeleteConfirmationFacts{.missingFiles = 1, .libraryUnknown = true}));
+    made->giveUpSharedFiles();
+    EXPECT_THAT(made->shared, UnorderedElementsAre(&a));
 }
 
 TEST_F(DeletePlanTest, withoutALibraryTheUnmarkedRowsStandForIt) {

@@ -43,5 +43,15 @@ TEST_F(DeletePredictionTest, tellsWhichTracksStayInEarnest) {
     expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
 }
 
+TEST_F(DeletePredictionTest, tellsThatFilesStayOfALibraryThatCannotBeLookedAt) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true, path("gone.mp3"));
+    expectTheSameInEarnest(
+        makeDeletePlan(m_list.rows, m_files, [](const LocationVisitor&) { return false; }));
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_EQ(outcomes().front(), "A: deleted, file kept: other tracks that use it could not be looked for");
+    EXPECT_FALSE(m_report.allDealtWith());
+}
+
 } // namespace
 } // namespace songsweep

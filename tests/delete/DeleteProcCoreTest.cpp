@@ -366,7 +366,7 @@ TEST_F(DeleteProcTest, aSharedFileGoesWhereTheUserWantsIt) {
     addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
     DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
-    plan.shared.clear();
+    plan.giveUpSharedFiles();
     run(withFiles, std::move(plan));
     EXPECT_FALSE(exists("a.mp3"));
 }
