@@ -229,7 +229,6 @@ class AppController {
 
     Deletion m_deletion = Deletion::none;
     bool m_deleteFiles = false;
-    bool m_leaveSharedFiles = true;
     DeletePlan m_deletePlan;
     std::optional<std::uint64_t> m_pendingSurvey; ///< its serial, while the confirmation waits for its answer
     std::shared_ptr<DeleteReport> m_deleteReport;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The confirmation of a deletion while the files are looked at on another thread.
 #include "app/ControllerFixture.h"
+#include "delete/DeleteTexts.h"
+#include "platform/HfsPath.h"
+#include "support/TemporaryFolder.h"
 
 #include <algorithm>
 #include <array>
@@ -173,6 +176,18 @@ TEST_F(DeletionTest, TheAnswerOfACancelledConfirmationIsForgotten) {
     EXPECT_TRUE(view.deleteFacts.filesPending);
     controller->delConfOkButtonClick(true);
     EXPECT_THAT(view.calls, Not(Contains("endDeleteConfirmation"))) << "the former answer is of no use";
+}
+
+TEST_F(DeletionTest, CancellingAConfirmedDeletionChangesNothing) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("a.mp3", "sound");
+    records[0]->location = file.c_str();
+    controller->deleteButtonClick();
+    waitForTheAnswer();
+    controller->delConfOkButtonClick(true);
+    controller->delConfCancelButtonClick(); // as a sheet that closes late does
+    runUntilDeleted();
+    EXPECT_THAT(iTunes.texts(), Contains(deleteTexts::deleteFile(hfsPath(file).value())));
 }
 
 TEST_F(DeletionTest, QuittingEndsTheLookAtTheFiles) {
