@@ -13,6 +13,7 @@
 #include <chrono>
 #include <csignal>
 #include <iostream>
+#include <iterator>
 #include <map>
 #include <random>
 #include <set>
@@ -26,11 +27,11 @@ using std::chrono::microseconds;
 using test::RunResult;
 
 constexpr int killsATest = 20;
-constexpr int songs = 40;
+constexpr int songs = 24;
 constexpr int copies = 3;
 constexpr int trackCount = songs * copies;
 
-/// Three copies of each of forty songs with a file each; the last copy of a song has the best bit rate, so
+/// Three copies of each of 24 songs with a file each; the last copy of a song has the best bit rate, so
 /// that the others go.
 class KilledDeletion : public test::ProgramTest, public testing::WithParamInterface<unsigned> {
   protected:
@@ -42,8 +43,8 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
             all.push_back(id);
             if (id % copies != 0) m_marked.insert(id);
         }
-        m_text = test::libraryXml(
-            tracks, {{"Library", "<key>Master</key><true/>", all}, {"Twice", "", {1, 2, 3, 1, 2, 3, 120}}});
+        m_text = test::libraryXml(tracks, {{"Library", "<key>Master</key><true/>", all},
+                                           {"Twice", "", {1, 2, 3, 1, 2, 3, trackCount}}});
     }
 
     static std::string nameOf(int id) { return std::to_string(id) + ".mp3"; }
@@ -133,7 +134,15 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
         }
     }
 
+    /// All is as it was made, so that a second run would be a first one.
+    bool isUntouched() const {
+        const auto entries = std::distance(fs::directory_iterator(m_folder.path()), {});
+        constexpr int madeEntries = 3; // library, music, home
+        return m_gone.empty() && m_trashed == 0 && entries == madeEntries && fs::is_empty(path("home/data"));
+    }
+
     void checkThatTheWorkCanBeCompleted() {
+        if (isUntouched()) return;
         const RunResult again = run(command());
         EXPECT_EQ(again.exitCode, 0) << again.errors << again.output;
         ASSERT_NO_FATAL_FAILURE(checkLibrary());
