@@ -19,7 +19,9 @@ Error parserError(XML_Parser parser) {
 } // namespace
 
 Result<void> judgeWellFormed(const LibraryFile& file) {
-    const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate(nullptr),
+    // The index was read from this file, so what it declares is UTF-8 or ASCII, by a name that this parser
+    // might not know ("utf8").
+    const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
                                                                               &XML_ParserFree);
     if (!parser) return Error{Error::Code::failed, "there is no memory to check " + file.path()};
     std::uint64_t offset = 0;

@@ -252,6 +252,18 @@ TEST_F(LibraryWriteTest, WhatAParserRefusesIsNotWritten) {
     EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
 }
 
+TEST_F(LibraryWriteTest, EveryNameOfAnEncodingThatIsReadIsWritten) {
+    for (const std::string name : {"utf8", "UTF8", "ascii", "US-ASCII", "utf-8"}) {
+        std::string text = libraryXml({{1, "A1", ""}, {2, "A2", ""}}, {});
+        text.replace(text.find("UTF-8"), 5, name);
+        openText(text);
+        remove("A2");
+        const auto written = m_library->flush();
+        EXPECT_TRUE(written) << name << ": " << written.error().message;
+        EXPECT_EQ(content(), withoutTracks(text, {2})) << name;
+    }
+}
+
 TEST_F(LibraryWriteTest, AFileCutOffMeanwhileIsNotWritten) {
     const std::string text = test::manyTracks(3);
     openText(text);
