@@ -40,8 +40,9 @@ struct ControllerServices {
     /// Every track of the whole library with its file, for finding files that two tracks share; called on a
     /// worker thread.
     LibraryLocations libraryLocations = {};
-    /// Told that a deletion is about to begin, so that it gets a backup of its own.
-    std::function<void()> beginDeletionRun = [] {};
+    /// Told that a deletion is about to begin, so that it gets a backup of its own. An error where it must
+    /// not begin, as the library could not be written.
+    std::function<Result<void>()> beginDeletionRun = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
 };

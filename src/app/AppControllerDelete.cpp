@@ -83,11 +83,16 @@ void AppController::abandonDeletion() {
 
 void AppController::beginDelete() {
     m_myTimer.stop();
+    // Before any file is in the Trash whose track would stay.
+    if (const Result<void> begun = m_services.beginDeletionRun(); !begun) {
+        m_view.alertCantBeginDelete(begun.error().message);
+        abandonDeletion();
+        return;
+    }
     m_deletion = Deletion::running;
     m_progress.total = getCheckedCount();
     if (m_progress.total > 0) m_deletedSinceRead = true;
     m_progress.beginPhase(0, 100);
-    m_services.beginDeletionRun();
     m_deleteReport = std::make_shared<DeleteReport>();
     const DeleteServices services = {m_center, m_services.scripts, m_services.files, m_services.log};
     m_queue.add(std::make_unique<DeleteProc>(m_tableDataSource, m_deleteFiles, services,

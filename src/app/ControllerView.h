@@ -72,6 +72,8 @@ class ControllerView {
     /// "Can't access iTunes. ..." with "OK" and "Help"; `reason` is its informative text, or empty.
     virtual void alertCantAccess(const std::string& /*message*/, const std::string& /*reason*/) {}
     virtual void alertNoDuplicates() {}
+    /// That the library could not be written, so that nothing is deleted.
+    virtual void alertCantBeginDelete(const std::string& /*reason*/) {}
 
     // The mark dialog.
     /// Kinds for the list of the kind rule, in their order; comes once in a run.

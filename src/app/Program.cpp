@@ -84,7 +84,7 @@ ControllerServices Program::controllerServices() {
         .version = m_options.version,
         .unreachableReason = [this] { return unreachableReason(); },
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
-        .beginDeletionRun = [this] { m_scripting.beginDeletionRun(); },
+        .beginDeletionRun = [this] { return beginDeletionRun(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
     };
 }
@@ -118,6 +118,13 @@ void Program::setWriteFailedHandler(std::function<void(const std::string&)> hand
 Result<void> Program::writeLibrary() {
     const Result<void> written = m_scripting.flush();
     if (!written) return Error{written.error().code, withLibraryPath(written.error().message)};
+    return {};
+}
+
+Result<void> Program::beginDeletionRun() {
+    if (!m_scripts.usesEmbedded()) return {};
+    const Result<void> begun = m_scripting.beginDeletionRun();
+    if (!begun) return Error{begun.error().code, withLibraryPath(begun.error().message)};
     return {};
 }
 

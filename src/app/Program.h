@@ -87,6 +87,7 @@ class Program {
   private:
     EmbeddedScripting::Options scriptingOptions();
     std::string withLibraryPath(const std::string& reason) const;
+    Result<void> beginDeletionRun();
     bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;

@@ -114,6 +114,10 @@ void WindowedView::alertCantOpen(const std::string& reason) {
     alerts::openCantOpenLibrary(&m_mainWindow, QString::fromStdString(reason));
 }
 
+void WindowedView::alertCantBeginDelete(const std::string& reason) {
+    alertCantWrite(reason + "\nNothing was deleted.");
+}
+
 QMessageBox* WindowedView::alertCantWrite(const std::string& reason) {
     return alerts::openCantWriteLibrary(m_mainWindow.isVisible() ? &m_mainWindow : nullptr,
                                         QString::fromStdString(reason));

@@ -74,6 +74,7 @@ class WindowedView final : public ControllerView {
     void beep() override;
     void alertCantAccess(const std::string& message, const std::string& reason) override;
     void alertNoDuplicates() override;
+    void alertCantBeginDelete(const std::string& reason) override;
     void fillKinds(const std::vector<std::string>& kinds) override;
     void showMarkWindow() override;
     void closeMarkWindow() override;

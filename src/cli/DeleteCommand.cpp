@@ -59,6 +59,7 @@ ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options, Output& o
     const auto problem = writeReportTo(output, options, report);
     if (!written) return fail(options.library + ": " + written.error().message);
     if (problem) return *problem;
+    if (search.deletionProblem()) return fail(*search.deletionProblem());
     if (!completed && !allAttempted(report)) return ExitCode::interrupted;
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
 }

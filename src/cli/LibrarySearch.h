@@ -28,6 +28,9 @@ class LibrarySearch {
     /// Deletes the tracks that are marked. False when it was interrupted. Write the library afterwards.
     bool deleteMarked(bool deleteFiles, bool leaveSharedFiles);
 
+    /// Why the deletion did not begin; nothing where it did.
+    const std::optional<std::string>& deletionProblem() const { return m_run.deletionProblem(); }
+
     /// Writes the library without the deleted tracks.
     Result<void> writeLibrary();
 

@@ -106,6 +106,8 @@ void SearchRun::alertCantAccess(const std::string& message, const std::string& r
     m_failure = SearchFailure{false, reason.empty() ? message : message + "\n" + reason};
 }
 
+void SearchRun::alertCantBeginDelete(const std::string& reason) { m_deletionProblem = reason; }
+
 void SearchRun::setProgressTitle(const std::string& title) { m_phase = title; }
 
 void SearchRun::setProgressInfo(const std::string& phase) {

@@ -32,6 +32,9 @@ class SearchRun final : public ControllerView {
     /// Deletes the marked tracks and waits for the end. False when it was interrupted.
     bool runDeletion(AppController& controller, bool deleteFiles, bool leaveSharedFiles);
 
+    /// Why the deletion did not begin; nothing where it did.
+    const std::optional<std::string>& deletionProblem() const { return m_deletionProblem; }
+
     /// Cancels what runs; for Ctrl-C. Safe at any time on the main thread.
     void interrupt();
 
@@ -42,6 +45,7 @@ class SearchRun final : public ControllerView {
     void endProgress(ProgressBar bar) override;
     void updateDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
     void alertCantAccess(const std::string& message, const std::string& reason) override;
+    void alertCantBeginDelete(const std::string& reason) override;
 
   private:
     void waitUntilIdle(AppController& controller);
@@ -57,6 +61,7 @@ class SearchRun final : public ControllerView {
     bool m_ended = false;                ///< the results were shown
     std::function<void()> m_leaveSurvey; ///< while the survey of the files is waited for
     std::optional<SearchFailure> m_failure;
+    std::optional<std::string> m_deletionProblem;
 };
 
 } // namespace songsweep::cli

@@ -171,11 +171,13 @@ std::optional<Error> EmbeddedScripting::lastWriteError() const {
     return m_library.opened() ? m_library.opened()->lastWriteError() : std::nullopt;
 }
 
-void EmbeddedScripting::beginDeletionRun() {
+Result<void> EmbeddedScripting::beginDeletionRun() {
     const std::lock_guard lock(m_lock);
-    // A failed write keeps its deletions and its reason; they go with this run's.
-    static_cast<void>(flushLocked());
-    if (m_library.opened() != nullptr) m_library.opened()->beginDeletionRun();
+    // A failed write keeps its deletions and its reason, and nothing is added to them.
+    if (auto written = flushLocked(); !written) return written;
+    const auto document = currentDocument();
+    if (!document) return document.error();
+    return document.value()->beginDeletionRun();
 }
 
 std::string EmbeddedScripting::backup() const {

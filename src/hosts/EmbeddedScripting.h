@@ -86,7 +86,8 @@ class EmbeddedScripting final : public AppleScript {
     std::optional<Error> lastWriteError() const;
 
     /// A new deletion begins: what an earlier one left is written, and the next write keeps a backup again.
-    void beginDeletionRun();
+    /// An error where the library cannot be read or written, so that the deletion must not begin.
+    Result<void> beginDeletionRun();
     /// The backup of the present run, "" while nothing was written.
     std::string backup() const;
 

@@ -117,8 +117,10 @@ class LibraryDocument {
     /// Why the last `flush` failed; nothing after one that succeeded.
     const std::optional<Error>& lastWriteError() const { return m_lastWriteError; }
 
-    /// The next write keeps a backup again. A document begins with a run.
-    void beginDeletionRun() { m_backup.clear(); }
+    /// The next write keeps a backup again. A document begins with a run. Tries everything that a write does
+    /// but for its bytes (the parser's judgement, the lock, a file beside the library), so that nobody begins
+    /// what cannot be written; an error says why, and nothing is changed. Costs what the judgement costs.
+    Result<void> beginDeletionRun();
     /// The backup of this run, "" while there is none.
     const std::string& backup() const { return m_backup; }
 

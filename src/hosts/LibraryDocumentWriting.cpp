@@ -21,7 +21,30 @@ Result<std::string> realPath(const std::string& path) {
     return std::string(real.get());
 }
 
+/// Where a write goes, closed to other programs.
+struct LockedTarget {
+    std::string path;
+    FolderLock lock;
+};
+
+Result<LockedTarget> lockTarget(const std::string& path, std::chrono::milliseconds patience) {
+    auto target = realPath(path);
+    if (!target) return target.error();
+    auto lock = FolderLock::acquire(target.value().substr(0, target.value().rfind('/') + 1), patience);
+    if (!lock) return lock.error();
+    return LockedTarget{std::move(target).value(), std::move(lock).value()};
+}
+
 } // namespace
+
+Result<void> LibraryDocument::beginDeletionRun() {
+    m_backup.clear();
+    if (auto refreshed = refresh(); !refreshed) return refreshed;
+    if (auto judged = judgeOnce(); !judged) return judged;
+    const auto target = lockTarget(m_path, m_options.lockPatience);
+    if (!target) return target.error();
+    return RewrittenLibrary::tryToWrite(*m_file, target.value().path);
+}
 
 Result<void> LibraryDocument::flush() {
     if (m_deletedCount == 0) return {};
@@ -32,18 +55,15 @@ Result<void> LibraryDocument::flush() {
 }
 
 Result<void> LibraryDocument::write() {
-    const auto target = realPath(m_path);
+    const auto target = lockTarget(m_path, m_options.lockPatience);
     if (!target) return target.error();
-    const auto lock =
-        FolderLock::acquire(target.value().substr(0, target.value().rfind('/') + 1), m_options.lockPatience);
-    if (!lock) return lock.error();
     Result<void> replaced;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         // Under the lock, as another program may have written while this one waited.
         if (auto refreshed = refresh(); !refreshed) return refreshed;
         if (m_deletedCount == 0) return {};
         if (auto judged = judgeOnce(); !judged) return judged;
-        replaced = replaceLibrary(target.value(), lock.value().descriptor());
+        replaced = replaceLibrary(target.value().path, target.value().lock.descriptor());
         if (replaced || replaced.error().code != Error::Code::busy) break;
     }
     return replaced;

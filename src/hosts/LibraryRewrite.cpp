@@ -130,6 +130,13 @@ Result<RewrittenLibrary> RewrittenLibrary::write(const LibraryFile& original, co
     return rewritten;
 }
 
+Result<void> RewrittenLibrary::tryToWrite(const LibraryFile& original, const std::string& path) {
+    const std::string temporaryPath = folderOf(path) + "/" + temporaryName;
+    ::unlink(temporaryPath.c_str());
+    const RewrittenLibrary empty(temporaryPath);
+    return copyWithoutRanges(original, {{0, original.stamp().size}}, temporaryPath);
+}
+
 RewrittenLibrary::RewrittenLibrary(RewrittenLibrary&& other) noexcept
     : m_temporaryPath(std::exchange(other.m_temporaryPath, {}))
     , m_index(std::move(other.m_index)) {}

@@ -28,6 +28,9 @@ class RewrittenLibrary {
     static Result<RewrittenLibrary> write(const LibraryFile& original, const LibraryIndex& index,
                                           const std::string& path);
 
+    /// Whether `write` could make its file: makes an empty one in the same way and removes it.
+    static Result<void> tryToWrite(const LibraryFile& original, const std::string& path);
+
     RewrittenLibrary(RewrittenLibrary&& other) noexcept;
     RewrittenLibrary& operator=(RewrittenLibrary&&) = delete;
     RewrittenLibrary(const RewrittenLibrary&) = delete;

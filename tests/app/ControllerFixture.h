@@ -97,19 +97,21 @@ class ControllerFixture : public ::testing::Test {
     RecordingLog log;
     RecordingDesktop desktop;
     RecordingView view;
+    Result<void> deletionMayBegin;
     std::vector<std::unique_ptr<TrackRecord>> records;
-    std::unique_ptr<AppController> controller = std::make_unique<AppController>(
-        ControllerServices{
-            .scripts = iTunes,
-            .files = files,
-            .preferences = preferences,
-            .sleeper = sleeper,
-            .log = log,
-            .desktop = desktop,
-            .version = "1.0",
-            .unreachableReason = [] { return std::string("line 3: no end"); },
-        },
-        view);
+    std::unique_ptr<AppController> controller =
+        std::make_unique<AppController>(ControllerServices{
+                                            .scripts = iTunes,
+                                            .files = files,
+                                            .preferences = preferences,
+                                            .sleeper = sleeper,
+                                            .log = log,
+                                            .desktop = desktop,
+                                            .version = "1.0",
+                                            .unreachableReason = [] { return std::string("line 3: no end"); },
+                                            .beginDeletionRun = [this] { return deletionMayBegin; },
+                                        },
+                                        view);
 };
 
 } // namespace songsweep::test

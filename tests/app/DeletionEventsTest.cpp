@@ -96,6 +96,28 @@ TEST_F(DeletionEventsTest, ACancelBeforeTheWorkerBeginsDeletesNothing) {
     EXPECT_EQ(controller->lastDeleteReport(), nullptr);
 }
 
+TEST_F(DeletionEventsTest, ADeletionThatCouldNotBeWrittenDoesNotBegin) {
+    addMarkedRows({1, 1, 2, 2});
+    const auto rowsBefore = rows();
+    deletionMayBegin = Error{Error::Code::noPermission, "the folder is closed"};
+    confirm();
+    view.calls.clear();
+    controller->beginDelete();
+    EXPECT_FALSE(controller->isDeleting());
+    runUntilIdle();
+    EXPECT_THAT(view.calls, ElementsAre("alertCantBeginDelete the folder is closed"));
+    EXPECT_EQ(deletedTracks(), 0);
+    EXPECT_EQ(rows(), rowsBefore);
+    EXPECT_EQ(controller->getCheckedCount(), 2);
+    EXPECT_EQ(controller->lastDeleteReport(), nullptr);
+
+    deletionMayBegin = {};
+    confirm();
+    controller->beginDelete();
+    runUntilIdle();
+    EXPECT_EQ(deletedTracks(), 2);
+}
+
 TEST_F(DeletionEventsTest, ITunesIsStoppedBeforeTheDelay) {
     addMarkedRows({1, 1});
     confirm();

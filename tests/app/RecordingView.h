@@ -55,6 +55,7 @@ class RecordingView final : public ControllerView {
         note("alertCantAccess " + message + "|" + reason);
     }
     void alertNoDuplicates() override { note("alertNoDuplicates"); }
+    void alertCantBeginDelete(const std::string& reason) override { note("alertCantBeginDelete " + reason); }
     void fillKinds(const std::vector<std::string>& kinds) override {
         std::string all;
         for (const std::string& kind : kinds)

@@ -46,7 +46,7 @@ class SearchAfterDeletionTest : public ControllerFixture {
                                .log = log,
                                .desktop = desktop,
                                .version = "1.0",
-                               .beginDeletionRun = [this] { m_scripts.beginDeletionRun(); }},
+                               .beginDeletionRun = [this] { return m_scripts.beginDeletionRun(); }},
             view);
         controller->awakeFromNib();
         search();

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <map>
 
@@ -72,6 +74,30 @@ TEST_F(MarkAndDelete, marksWhatARuleLosesAndSaysWhy) {
         }
     EXPECT_THAT(marked, ElementsAre("1", "3"));
     EXPECT_EQ(tree(), before) << "nothing is changed";
+}
+
+TEST_F(MarkAndDelete, deletesNothingWhereTheLibraryCannotBeWritten) {
+    fs::create_directory(path("closed"));
+    fs::rename(m_library, path("closed/Library.xml"));
+    m_library = path("closed/Library.xml");
+    for (const char* folder : {"", "music"})
+        fs::permissions(path(folder), fs::perms::all);
+    fs::permissions(path("closed"), fs::perms(0555));
+    // Root writes anywhere.
+    if (::geteuid() == 0) m_beforeStart = [] { static_cast<void>(::setuid(65534)); };
+    const auto before = tree();
+    const RunResult result =
+        command("delete", {"--rule", "highest-bitrate", "--files", "--yes", "--format", "json"});
+    EXPECT_EQ(tree(), before);
+    EXPECT_EQ(result.exitCode, 1) << result.errors;
+    EXPECT_THAT(result.errors, HasSubstr("Permission denied"));
+    int outcomes = 0;
+    const json parsed = json::parse(result.output);
+    for (const json& outcome : parsed.at("outcomes")) {
+        EXPECT_EQ(outcome.at("track"), "not attempted");
+        ++outcomes;
+    }
+    EXPECT_EQ(outcomes, 2);
 }
 
 TEST_F(MarkAndDelete, marksEveryCopyButOne) {

@@ -267,17 +267,37 @@ TEST_F(EmbeddedScriptingTest, AfterTheLastTextAllIsWrittenAndNoneIsRun) {
 
 TEST_F(EmbeddedScriptingTest, EveryDeletionRunKeepsABackup) {
     open(manyTracks(4));
-    m_scripts->beginDeletionRun();
+    ASSERT_TRUE(m_scripts->beginDeletionRun());
     run(test::deleteTrackText(persistentIdOf(0)));
     ASSERT_TRUE(m_scripts->flush());
     const std::string first = m_scripts->backup();
     EXPECT_EQ(contentOf(first), manyTracks(4));
-    m_scripts->beginDeletionRun();
+    ASSERT_TRUE(m_scripts->beginDeletionRun());
     EXPECT_EQ(m_scripts->backup(), "");
     run(test::deleteTrackText(persistentIdOf(1)));
     ASSERT_TRUE(m_scripts->flush());
     EXPECT_NE(m_scripts->backup(), first);
     EXPECT_EQ(LibraryDocument::open(m_scripts->backup()).value()->trackCount(), 3);
+}
+
+TEST_F(EmbeddedScriptingTest, NoDeletionBeginsWhereAnEarlierOneCannotBeWritten) {
+    open(manyTracks(3));
+    run(test::deleteTrackText(persistentIdOf(0)));
+    ASSERT_EQ(::unlink(m_path.c_str()), 0);
+    const auto begun = m_scripts->beginDeletionRun();
+    ASSERT_FALSE(begun);
+    EXPECT_EQ(begun.error().code, Error::Code::notFound);
+    EXPECT_EQ(m_scripts->pendingDeletions(), 1U);
+    m_folder.write("library.xml", manyTracks(3));
+    EXPECT_TRUE(m_scripts->beginDeletionRun());
+    EXPECT_EQ(m_scripts->pendingDeletions(), 0U);
+}
+
+TEST_F(EmbeddedScriptingTest, NoDeletionBeginsInALibraryThatIsRefused) {
+    open("<plist>\n<dict>\n<key>Tracks</key>\n<dict>\n</array>");
+    const auto begun = m_scripts->beginDeletionRun();
+    ASSERT_FALSE(begun);
+    EXPECT_EQ(begun.error().message, "line 5: </array> stands where </dict> is due");
 }
 
 TEST_F(EmbeddedScriptingTest, ALibraryThatIsRefusedFailsItsScriptsAndSaysWhy) {

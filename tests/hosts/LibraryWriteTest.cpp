@@ -147,7 +147,7 @@ TEST_F(LibraryWriteTest, KeepsOneDatedBackupARun) {
     EXPECT_EQ(contentOf(first), text);
 
     const std::string second = content();
-    m_library->beginDeletionRun();
+    ASSERT_TRUE(m_library->beginDeletionRun());
     remove(persistentIdOf(2));
     ASSERT_TRUE(m_library->flush());
     EXPECT_EQ(m_folder.names().size(), 3U);
@@ -156,11 +156,35 @@ TEST_F(LibraryWriteTest, KeepsOneDatedBackupARun) {
     EXPECT_EQ(contentOf(first), text);
 }
 
+TEST_F(LibraryWriteTest, ARunThatMayBeginLeavesNothingBehind) {
+    const std::string text = test::manyTracks(3);
+    openText(text);
+    ASSERT_TRUE(m_library->beginDeletionRun());
+    EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
+    EXPECT_EQ(content(), text);
+}
+
+TEST_F(LibraryWriteTest, NoRunBeginsInWhatAParserRefuses) {
+    openText(libraryXml({{1, "A1", "<key>Name</key><string>a & b</string>"}}, {}));
+    const auto begun = m_library->beginDeletionRun();
+    ASSERT_FALSE(begun);
+    EXPECT_EQ(begun.error().code, Error::Code::invalid);
+}
+
+TEST_F(LibraryWriteTest, NoRunBeginsWhileAnotherProgramWrites) {
+    openText(test::manyTracks(3));
+    const auto lock = FolderLock::acquire(m_folder.path(), {});
+    ASSERT_TRUE(lock);
+    const auto begun = m_library->beginDeletionRun();
+    ASSERT_FALSE(begun);
+    EXPECT_EQ(begun.error().code, Error::Code::busy);
+}
+
 TEST_F(LibraryWriteTest, BackupsOfOneSecondGetACounter) {
     openText(test::manyTracks(40));
     std::set<std::string> backups;
     for (int n = 0; n < 20; ++n) {
-        m_library->beginDeletionRun();
+        ASSERT_TRUE(m_library->beginDeletionRun());
         remove(persistentIdOf(n));
         ASSERT_TRUE(m_library->flush());
         EXPECT_TRUE(backups.insert(m_library->backup()).second);
@@ -347,6 +371,9 @@ TEST_F(LibraryWriteTest, AReadOnlyFolderLosesNothing) {
     m_folder.write("disk/library.xml", text);
     open(m_folder.pathOf("disk/library.xml"));
     ASSERT_TRUE(disk.makeReadOnly());
+    const auto begun = m_library->beginDeletionRun();
+    ASSERT_FALSE(begun);
+    EXPECT_EQ(begun.error().code, Error::Code::noPermission);
     remove(persistentIdOf(0));
     const auto written = m_library->flush();
     ASSERT_FALSE(written);
