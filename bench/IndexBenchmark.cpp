@@ -7,10 +7,10 @@
 //     index-benchmark [TRACKS]     (100000 unless told otherwise, about 150 MB)
 
 #include "hosts/EmbeddedScripting.h"
-#include "hosts/FileCopy.h"
-#include "hosts/LibraryDocument.h"
-#include "hosts/LibraryIndex.h"
-#include "hosts/LibraryJudge.h"
+#include "libraryfile/FileCopy.h"
+#include "libraryfile/LibraryDocument.h"
+#include "libraryfile/LibraryIndex.h"
+#include "libraryfile/LibraryJudge.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "sample-library/BulkLibrary.h"

@@ -6,8 +6,8 @@
 #include "app/WindowedView.h"
 #include "platform/Log.h"
 #include "support/SampleRows.h"
+#include "theme/SongsweepStyle.h"
 #include "ui/SWTableView.h"
-#include "ui/theme/SongsweepStyle.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

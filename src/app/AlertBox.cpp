@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AlertBox.h"
 
-#include "ui/theme/Metrics.h"
+#include "theme/Metrics.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/LayoutLengths.h"
 
-#include "ui/theme/Metrics.h"
+#include "theme/Metrics.h"
 
 #include <QLayout>
 #include <QWidget>

@@ -2,7 +2,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Progress.h"
-#include "platform/Announcement.h"
+#include "theme/Announcement.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
+#include "theme/Icons.h"
+#include "theme/Metrics.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
-#include "ui/theme/Icons.h"
-#include "ui/theme/Metrics.h"
 #include "ui_MainWindow.h"
 
 #include <QMenu>

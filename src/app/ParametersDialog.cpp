@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/ParametersDialog.h"
 
-#include "platform/Announcement.h"
-#include "ui/theme/ToolTips.h"
+#include "theme/Announcement.h"
+#include "theme/ToolTips.h"
 #include "ui_ParametersDialog.h"
 
 #include <QPushButton>

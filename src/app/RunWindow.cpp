@@ -5,7 +5,7 @@
 #include "app/WindowedView.h"
 #include "platform/LogFile.h"
 #include "platform/SignalWatch.h"
-#include "ui/theme/SongsweepStyle.h"
+#include "theme/SongsweepStyle.h"
 
 #include <QApplication>
 #include <QMessageBox>

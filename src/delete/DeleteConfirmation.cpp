@@ -2,7 +2,7 @@
 #include "delete/DeleteConfirmation.h"
 
 #include "delete/ConfirmationTexts.h"
-#include "platform/Announcement.h"
+#include "theme/Announcement.h"
 #include "ui_DeleteConfirmation.h"
 
 #include <QPushButton>

@@ -2,7 +2,7 @@
 #include "delete/MarkedIds.h"
 
 #include "delete/Obstacles.h"
-#include "hosts/PersistentId.h"
+#include "library/PersistentId.h"
 
 namespace songsweep {
 

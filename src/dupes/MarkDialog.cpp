@@ -3,7 +3,7 @@
 
 #include "dupes/MarkingRules.h"
 #include "dupes/UpperCaseValidator.h"
-#include "platform/Announcement.h"
+#include "theme/Announcement.h"
 #include "ui_MarkDialog.h"
 
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosts/LibraryDocument.h"
+#include "libraryfile/LibraryDocument.h"
 
 #include <memory>
 #include <optional>

@@ -3,7 +3,7 @@
 
 #include "hosts/EmbeddedLibrary.h"
 #include "hosts/ITunesObjects.h"
-#include "hosts/WriteSchedule.h"
+#include "libraryfile/WriteSchedule.h"
 #include "scripting/AppleScript.h"
 #include "scripting/InterpretedAppleScript.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hosts/ITunesTerms.h"
-#include "hosts/TrackFields.h"
+#include "libraryfile/TrackFields.h"
 #include "scripting/interpreter/Value.h"
 
 #include <cstddef>

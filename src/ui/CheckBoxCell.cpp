@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/CheckBoxCell.h"
 
-#include "ui/theme/Painting.h"
+#include "theme/Painting.h"
 
 #include <QMouseEvent>
 #include <QPainter>

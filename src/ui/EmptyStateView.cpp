@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/EmptyStateView.h"
 
-#include "ui/theme/Icons.h"
-#include "ui/theme/Metrics.h"
+#include "theme/Icons.h"
+#include "theme/Metrics.h"
 
 #include <QPainter>
 

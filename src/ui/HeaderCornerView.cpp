@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/HeaderCornerView.h"
 
-#include "ui/theme/ThemeColors.h"
+#include "theme/ThemeColors.h"
 
 #include <QHeaderView>
 #include <QPainter>

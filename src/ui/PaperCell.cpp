@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/PaperCell.h"
 
+#include "theme/ToolTips.h"
 #include "ui/TrackTableModel.h"
-#include "ui/theme/ToolTips.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>

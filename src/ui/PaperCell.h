@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "theme/RowColors.h"
 #include "ui/TableMetrics.h"
-#include "ui/theme/RowColors.h"
 
 #include <QStyledItemDelegate>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/SummaryLabel.h"
 
-#include "ui/theme/ToolTips.h"
+#include "theme/ToolTips.h"
 
 #include <QHelpEvent>
 #include <QPainter>

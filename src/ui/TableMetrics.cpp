@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/TableMetrics.h"
 
-#include "ui/theme/Metrics.h"
+#include "theme/Metrics.h"
 
 #include <QFontMetrics>
 

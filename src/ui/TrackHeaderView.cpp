@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ui/TrackHeaderView.h"
 
+#include "theme/Icons.h"
+#include "theme/Metrics.h"
+#include "theme/ThemeColors.h"
 #include "ui/ColumnLook.h"
-#include "ui/theme/Icons.h"
-#include "ui/theme/Metrics.h"
-#include "ui/theme/ThemeColors.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "WindowsFixture.h"
-#include "hosts/LibraryFixture.h"
+#include "libraryfile/LibraryFixture.h"
 #include "support/EventLoop.h"
 
 #include <QApplication>

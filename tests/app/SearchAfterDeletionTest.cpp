@@ -2,7 +2,7 @@
 // The search that follows a deletion and needs the library file that the embedded iTunes has yet to write.
 #include "app/ControllerFixture.h"
 #include "hosts/EmbeddedScripting.h"
-#include "hosts/LibraryFixture.h"
+#include "libraryfile/LibraryFixture.h"
 #include "platform/FileUrl.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A deletion with files that is killed at random moments of its whole run, from the start of the process on.
 #include "ProgramRun.h"
-#include "hosts/LibraryFile.h"
-#include "hosts/LibraryFixture.h"
-#include "hosts/LibraryJudge.h"
+#include "libraryfile/LibraryFile.h"
+#include "libraryfile/LibraryFixture.h"
+#include "libraryfile/LibraryJudge.h"
 #include "platform/FileUrl.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/EmbeddedScripting.h"
 
-#include "hosts/LibraryFixture.h"
 #include "hosts/RecordingDesktop.h"
 #include "library/ValueFormats.h"
+#include "libraryfile/LibraryFixture.h"
 #include "platform/Files.h"
 #include "platform/HfsPath.h"
 #include "support/RecordingLog.h"

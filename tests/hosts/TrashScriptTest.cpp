@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/EmbeddedScripting.h"
-#include "hosts/LibraryFixture.h"
+#include "libraryfile/LibraryFixture.h"
 #include "platform/Files.h"
 #include "platform/HfsPath.h"
 #include "platform/linux/LinuxDesktop.h"

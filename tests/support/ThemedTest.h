@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ui/theme/SongsweepStyle.h"
+#include "theme/SongsweepStyle.h"
 
 #include <QApplication>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "theme/RowColors.h"
+#include "theme/ThemeColors.h"
 #include "ui/MakeCell.h"
 #include "ui/SWImageCell.h"
 #include "ui/SWLevelIndicatorCell.h"
 #include "ui/TableFixture.h"
-#include "ui/theme/RowColors.h"
-#include "ui/theme/ThemeColors.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/TrackHeaderView.h"
 
+#include "theme/ThemeColors.h"
 #include "ui/TableFixture.h"
-#include "ui/theme/ThemeColors.h"
 
 namespace songsweep::test {
 

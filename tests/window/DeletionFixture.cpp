@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "window/DeletionFixture.h"
 
-#include "hosts/LibraryFixture.h"
+#include "libraryfile/LibraryFixture.h"
 
 #include <QByteArray>
 

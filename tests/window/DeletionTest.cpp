@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // From the confirmation to a library that has lost nothing else.
-#include "hosts/LibraryFixture.h"
+#include "libraryfile/LibraryFixture.h"
 #include "sample-library/DesktopLibrary.h"
 #include "window/DeletionFixture.h"
 

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "libraryfile/LibraryDocument.h"
+
+#include "library/Trim.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace songsweep {
+
+namespace {
+
+constexpr int mostAttempts = 3;
+
+struct IndexedFile {
+    LibraryFile file;
+    LibraryIndex index;
+};
+
+/// Opens and indexes a file; one that is written to meanwhile is read again.
+Result<IndexedFile> readIndexed(const std::string& path) {
+    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+        auto file = LibraryFile::open(path);
+        if (!file) return file.error();
+        auto index = LibraryIndex::read(file.value());
+        if (index && index.value().stamp != file.value().stamp()) continue;
+        if (!index) return index.error();
+        return IndexedFile{std::move(file).value(), std::move(index).value()};
+    }
+    return Error{Error::Code::busy, path + " is being rewritten"};
+}
+
+/// The library first, then the others.
+std::vector<std::uint32_t> presentationOrder(const std::vector<PlaylistSlot>& playlists) {
+    std::vector<std::uint32_t> order(playlists.size());
+    std::iota(order.begin(), order.end(), 0U);
+    const auto library =
+        std::find_if(order.begin(), order.end(), [&](std::uint32_t i) { return playlists[i].master; });
+    if (library != order.end()) std::rotate(order.begin(), library, library + 1);
+    return order;
+}
+
+} // namespace
+
+Result<std::unique_ptr<LibraryDocument>> LibraryDocument::open(const std::string& path, Options options) {
+    auto read = readIndexed(path);
+    if (!read) return read.error();
+    IndexedFile indexed = std::move(read).value();
+    return std::unique_ptr<LibraryDocument>(
+        new LibraryDocument(path, options, std::move(indexed.file), std::move(indexed.index)));
+}
+
+LibraryDocument::LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index)
+    : m_path(std::move(path))
+    , m_options(options) {
+    PersistentIdTable table;
+    table.build(index.tracks);
+    adopt(std::move(file), std::move(index), std::move(table));
+}
+
+LibraryDocument::~LibraryDocument() = default;
+
+Result<void> LibraryDocument::refresh() {
+    const auto stamp = LibraryFile::stampOf(m_path);
+    if (!stamp) return stamp.error();
+    if (stamp.value() == m_index.stamp) return {};
+    auto read = readIndexed(m_path);
+    if (!read) return read.error();
+    IndexedFile fresh = std::move(read).value();
+    PersistentIdTable table;
+    table.build(fresh.index.tracks);
+    std::size_t deleted = 0;
+    if (m_deletedCount > 0)
+        deleted = m_memory.carryOver(m_index, m_byPersistentId, fresh.file, fresh.index, table);
+    adopt(std::move(fresh.file), std::move(fresh.index), std::move(table));
+    m_deletedCount = deleted;
+    return {};
+}
+
+void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table) {
+    m_file = std::make_shared<const LibraryFile>(std::move(file));
+    m_index = std::move(index);
+    m_byPersistentId = std::move(table);
+    m_playlistOrder = presentationOrder(m_index.playlists);
+    m_cache.fill({});
+    m_deletedCount = 0;
+    forgetLists();
+}
+
+void LibraryDocument::forgetLists() {
+    m_lists.assign(std::max<std::size_t>(m_playlistOrder.size(), 1), std::nullopt);
+    m_listsMade = false;
+}
+
+std::vector<PlaylistInfo> LibraryDocument::playlists() {
+    std::vector<PlaylistInfo> infos;
+    for (std::size_t i = 0; i < playlistCount(); ++i) {
+        const PlaylistSlot& slot = playlist(i);
+        const bool library = i == 0;
+        infos.push_back({slot.name, slot.persistentId, static_cast<int>(tracksOf(i).size()), library,
+                         library || slot.smart, slot.folder});
+    }
+    return infos;
+}
+
+const std::vector<LibraryDocument::TrackPosition>& LibraryDocument::tracksOf(std::size_t playlist) {
+    auto& list = m_lists[playlist];
+    if (list) return *list;
+    m_listsMade = true;
+    if (playlist == 0) return list.emplace(libraryTracks());
+    list.emplace();
+    for (const ItemSlot& item : m_index.playlists[m_playlistOrder[playlist]].items)
+        if (item.track != LibraryIndex::noTrack && !isDeleted(item.track)) list->push_back(item.track);
+    return *list;
+}
+
+std::vector<LibraryDocument::TrackPosition> LibraryDocument::libraryTracks() const {
+    std::vector<TrackPosition> tracks;
+    tracks.reserve(m_index.tracks.size());
+    std::vector<bool> seen(m_index.tracks.size());
+    const auto add = [&](TrackPosition track) {
+        if (!seen[track] && !isDeleted(track)) tracks.push_back(track);
+        seen[track] = true;
+    };
+    if (playlistCount() > 0) {
+        for (const ItemSlot& item : playlist(0).items)
+            if (item.track != LibraryIndex::noTrack) add(item.track);
+    }
+    for (TrackPosition track = 0; track < m_index.tracks.size(); ++track)
+        add(track);
+    return tracks;
+}
+
+std::vector<LibraryDocument::TrackPosition>
+LibraryDocument::tracksWithPersistentId(std::string_view persistentId) {
+    const PersistentId id = PersistentId::of(persistentId);
+    std::vector<TrackPosition> found;
+    for (const TrackPosition track : m_byPersistentId.find(m_index.tracks, id)) {
+        if (isDeleted(track)) continue;
+        if (id.kind == PersistentId::Kind::hashed) {
+            const auto values = fields(track);
+            if (!values || PersistentId::of(trimmed(values.value()->text("persistent id"))) != id) continue;
+        }
+        found.push_back(track);
+    }
+    return found;
+}
+
+std::vector<LibraryDocument::TrackPosition>
+LibraryDocument::tracksOfWithPersistentId(std::size_t playlist, std::string_view persistentId) {
+    std::vector<TrackPosition> found = tracksWithPersistentId(persistentId);
+    if (playlist == 0 || found.empty()) return found;
+    std::vector<TrackPosition> members;
+    for (const TrackPosition track : tracksOf(playlist))
+        if (std::binary_search(found.begin(), found.end(), track)) members.push_back(track);
+    return members;
+}
+
+Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
+    Cached& cached = m_cache[track % m_cache.size()];
+    if (cached.track == track) return &cached.fields;
+    const auto bytes = m_file->read(m_index.tracks[track].range());
+    if (!bytes) return bytes.error();
+    auto parsed = TrackFields::parse(bytes.value(), m_index.entities);
+    if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
+    cached = {track, std::move(*parsed)};
+    return &cached.fields;
+}
+
+LocationPass LibraryDocument::locations() const {
+    std::vector<ByteRange> tracks;
+    tracks.reserve(m_index.tracks.size());
+    for (const TrackSlot& track : m_index.tracks)
+        if (!track.deleted) tracks.push_back(track.range());
+    return {m_path, m_file, m_index.stamp, std::move(tracks), m_index.entities};
+}
+
+Result<void> LibraryDocument::remove(TrackPosition track) {
+    if (isDeleted(track)) return {};
+    if (DeletionMemory::needsBytes(m_index, m_byPersistentId, track)) {
+        const auto bytes = m_file->read(m_index.tracks[track].range());
+        if (!bytes) return bytes.error();
+        m_memory.noteBytes(track, bytes.value());
+    }
+    m_index.tracks[track].deleted = true;
+    ++m_deletedCount;
+    if (m_listsMade) forgetLists();
+    return {};
+}
+
+} // namespace songsweep

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "libraryfile/DeletionMemory.h"
+#include "libraryfile/LibraryIndex.h"
+#include "libraryfile/LocationPass.h"
+#include "libraryfile/TrackFields.h"
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace songsweep {
+
+/// A playlist as lists show it.
+struct PlaylistInfo {
+    std::string name;
+    std::string persistentId;
+    int trackCount = 0;
+    bool library = false; ///< the one that holds every track of the file
+    bool smart = false;   ///< true of the library as well
+    bool folder = false;
+};
+
+/// An iTunes library that is its XML file.
+///
+/// The file is indexed in one pass and never held as a whole; a value is read from its bytes when somebody
+/// asks for it. Deletions are noted here, seen at once by counts, playlists and searches, and written by
+/// `flush`. A file that changed on disk is indexed again by `refresh`, and the deletions go on in the new
+/// one. Costs some 40 bytes a track and 12 a playlist item.
+///
+/// The first playlist is the library: the one flagged as master, else the first of the file. It holds its
+/// items in their order and then every other track; a file without any playlist has that one alone, unnamed
+/// and not listed.
+///
+///     auto library = LibraryDocument::open(path);
+///     if (!library) return library.error(); // "line 12: </dict> stands where </array> is due"
+///     library.value()->tracksWithPersistentId("00A1B2C3D4E5F607");
+///
+/// One thread at a time. Track positions are good until the next `refresh` or `flush`.
+class LibraryDocument {
+  public:
+    using TrackPosition = std::uint32_t;
+
+    struct Options {
+        std::chrono::milliseconds lockPatience{5000}; ///< how long a write waits for another program's
+    };
+
+    /// Indexes the file. A folder, a missing file, one without permission, one that is not well formed, cut
+    /// off or no library is an error; where there is a line, the message begins with "line N: ".
+    static Result<std::unique_ptr<LibraryDocument>> open(const std::string& path) {
+        return open(path, Options());
+    }
+    static Result<std::unique_ptr<LibraryDocument>> open(const std::string& path, Options options);
+
+    LibraryDocument(const LibraryDocument&) = delete;
+    LibraryDocument& operator=(const LibraryDocument&) = delete;
+    ~LibraryDocument();
+
+    const std::string& path() const { return m_path; }
+
+    /// Indexes the file again if it changed on disk; deletions not yet written are made in the new version
+    /// too. On an error nothing is known about the tracks until a
+    /// later call succeeds.
+    Result<void> refresh();
+
+    /// The number of entries of the dictionary of tracks, without deleted ones.
+    int trackCount() const { return static_cast<int>(m_index.tracks.size() - m_deletedCount); }
+
+    /// The playlists, the library first, the others in file order; none where the file has none.
+    std::vector<PlaylistInfo> playlists();
+    std::size_t playlistCount() const { return m_playlistOrder.size(); }
+    /// A playlist in the order of `playlists`, counted from 0.
+    const PlaylistSlot& playlist(std::size_t index) const {
+        return m_index.playlists[m_playlistOrder[index]];
+    }
+
+    /// The tracks of a playlist in the order of `playlists`, without deleted ones; the library's (0) in a
+    /// file without playlists too. Made once and kept until something changes: linear then, free afterwards.
+    const std::vector<TrackPosition>& tracksOf(std::size_t playlist);
+
+    /// The tracks of a persistent ID in file order, mostly one; letter case does not count. Microseconds.
+    std::vector<TrackPosition> tracksWithPersistentId(std::string_view persistentId);
+
+    /// The same among the tracks of a playlist, in its order and as often as it holds them. Linear in the
+    /// playlist for any but the library.
+    std::vector<TrackPosition> tracksOfWithPersistentId(std::size_t playlist, std::string_view persistentId);
+
+    /// The values of a track; the last few tracks asked for are kept. The pointer is good until the next
+    /// call.
+    Result<const TrackFields*> fields(TrackPosition track);
+
+    /// A pass over the locations of the tracks as they are now, deleted ones left out.
+    LocationPass locations() const;
+
+    /// Deletes a track: its entry and every playlist item of it. Already deleted ones stay so. An error where
+    /// the track's bytes are needed to know it again and cannot be read.
+    Result<void> remove(TrackPosition track);
+    bool isDeleted(TrackPosition track) const { return m_index.tracks[track].deleted; }
+    /// The number of deletions that `flush` has yet to write.
+    std::size_t pendingDeletions() const { return m_deletedCount; }
+
+    /// Writes the deletions, all in one go; nothing to do without any.
+    ///
+    /// All other bytes stay as they are. They go to a temporary file beside the library, which is flushed,
+    /// read back, compared, and renamed over it, so that at any moment the old version or the new one is
+    /// there, complete. Before the first write a full parser judges the whole file; the first write of a run
+    /// keeps the old version under a dated name. On an error (no space, no permission, not well formed, held
+    /// by another program) the library is as it was and the deletions are still pending.
+    Result<void> flush();
+
+    /// Why the last `flush` failed; nothing after one that succeeded.
+    const std::optional<Error>& lastWriteError() const { return m_lastWriteError; }
+
+    /// The next write keeps a backup again. A document begins with a run. Tries everything that a write does
+    /// but for its bytes (the parser's judgement, the lock, a file beside the library), so that nobody begins
+    /// what cannot be written; an error says why, and nothing is changed. Costs what the judgement costs.
+    Result<void> beginDeletionRun();
+    /// The backup of this run, "" while there is none.
+    const std::string& backup() const { return m_backup; }
+
+  private:
+    struct Cached {
+        TrackPosition track = LibraryIndex::noTrack;
+        TrackFields fields;
+    };
+
+    LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index);
+    void adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table);
+    void forgetLists();
+    Result<void> write();
+    Result<void> replaceLibrary(const std::string& target, int folderDescriptor);
+    Result<void> judgeOnce();
+    std::vector<TrackPosition> libraryTracks() const;
+
+    std::string m_path;
+    Options m_options;
+    std::shared_ptr<const LibraryFile> m_file; ///< never null; a pass may hold it longer than the document
+    LibraryIndex m_index;
+    PersistentIdTable m_byPersistentId;
+    std::vector<std::uint32_t> m_playlistOrder;
+    std::vector<std::optional<std::vector<TrackPosition>>> m_lists; // of every playlist, as asked for
+    bool m_listsMade = false;
+    std::array<Cached, 16> m_cache;
+    std::size_t m_deletedCount = 0;
+    DeletionMemory m_memory;
+    FileStamp m_judged; // the version of the file that the full parser has accepted
+    std::string m_backup;
+    std::optional<Error> m_lastWriteError;
+};
+
+} // namespace songsweep

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "libraryfile/LocationPass.h"
+
+#include "library/LocationUrl.h"
+#include "library/Trim.h"
+#include "libraryfile/FileWindow.h"
+#include "libraryfile/TrackFields.h"
+
+namespace songsweep {
+
+Result<void> LocationPass::run(const Callback& callback) const {
+    FileWindow window(*m_file);
+    for (const ByteRange track : m_tracks) {
+        const auto parsed = TrackFields::parse(window.view(track), m_entities);
+        if (window.error()) return *window.error();
+        if (!parsed) return busy();
+        const auto path = pathOfUrl(trimmed(parsed->text("location")));
+        if (path && !callback(trimmed(parsed->text("persistent id")), *path)) return {};
+    }
+    const auto stamp = LibraryFile::stampOf(m_path);
+    if (!stamp) return stamp.error();
+    return stamp.value() == m_stamp ? Result<void>() : Result<void>(busy());
+}
+
+Error LocationPass::busy() const { return {Error::Code::busy, m_path + " is being rewritten"}; }
+
+} // namespace songsweep
