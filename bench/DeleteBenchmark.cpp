@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Taking a tenth of the rows out of the list, with scripts that do nothing: linear in the rows.
 #include "delete/DeleteProc.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
@@ -36,7 +37,7 @@ DisplayedList rows(std::int64_t count) {
 
 void deleteATenth(benchmark::State& state) {
     const DisplayedList all = rows(state.range(0));
-    NotificationCenter center;
+    NotificationCenter<WorkerEvent> center;
     IdleScripts scripts;
     Files files;
     SilentLog log;

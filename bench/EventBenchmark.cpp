@@ -6,8 +6,8 @@
 //
 //   event-benchmark --benchmark_counters_tabular=true
 #include "BusyCores.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
-#include "operations/WorkerEvent.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -96,7 +96,7 @@ void measure(benchmark::State& state, const std::function<void()>& work) {
 }
 
 void postEvents(benchmark::State& state) {
-    NotificationCenter center;
+    NotificationCenter<WorkerEvent> center;
     int handled = 0;
     center.setObserver([&handled](const WorkerEvent&) { ++handled; });
     measure(state, [&center] {
@@ -107,7 +107,7 @@ void postEvents(benchmark::State& state) {
 
 /// Nine counts to every event that is waited for, as a grouping with one in ten a duplicate posts them.
 void postCountsAmongEvents(benchmark::State& state) {
-    NotificationCenter center;
+    NotificationCenter<WorkerEvent> center;
     int handled = 0;
     center.setObserver([&handled](const WorkerEvent&) { ++handled; });
     measure(state, [&center] {
@@ -118,7 +118,7 @@ void postCountsAmongEvents(benchmark::State& state) {
 }
 
 void postCountsAlone(benchmark::State& state) {
-    NotificationCenter center;
+    NotificationCenter<WorkerEvent> center;
     int handled = 0;
     center.setObserver([&handled](const WorkerEvent&) { ++handled; });
     measure(state, [&center] {

@@ -4,6 +4,7 @@
 #include "dupes/BuildResultProc.h"
 #include "library/DisplayedList.h"
 #include "library/SWXMLParser.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "operations/OperationQueue.h"
 #include "platform/Files.h"
@@ -132,7 +133,7 @@ class Search {
     QEventLoop m_loop;
     std::shared_ptr<TrackList> m_list = std::make_shared<TrackList>();
     DisplayedList m_rows;
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     OperationQueue m_queue{m_center, m_log};
 };
 

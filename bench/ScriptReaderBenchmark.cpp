@@ -8,6 +8,7 @@
 #include "app/AddProc.h"
 #include "hosts/EmbeddedScripting.h"
 #include "library/SWXMLParser.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
@@ -108,7 +109,7 @@ class Bench {
   private:
     ReaderServices services() { return {m_center, m_scripts, m_files, *m_preferences, m_sleeper, m_log}; }
 
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     Files m_files;
     std::unique_ptr<Desktop> m_desktop = nativeDesktop();
     std::unique_ptr<Preferences> m_preferences = nativePreferences();

@@ -3,6 +3,7 @@
 
 #include "app/AddRecord.h"
 #include "library/ValueFormats.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Log.h"
 #include "scripting/AppleScript.h"

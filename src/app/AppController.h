@@ -11,6 +11,7 @@
 #include "library/DisplayedList.h"
 #include "library/SWXMLParser.h"
 #include "library/SearchParameters.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "operations/OperationQueue.h"
 
@@ -120,7 +121,7 @@ class AppController {
     void cancelButtonClick();
 
     /// Where workers post; a view posts "tableviewSpacebar" here.
-    NotificationCenter& notificationCenter() { return m_center; }
+    NotificationCenter<WorkerEvent>& notificationCenter() { return m_center; }
 
     // What views look at.
     const DisplayedList& tableDataSource() const { return m_tableDataSource; }
@@ -201,7 +202,7 @@ class AppController {
     ControllerServices m_services;
     ControllerView& m_view;
     ITunesQueries m_queries;
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     QTimer m_progressTimer;
     QTimer m_myTimer; ///< the short delay between confirmation and deletion
 

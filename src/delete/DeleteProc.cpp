@@ -3,6 +3,7 @@
 
 #include "delete/DeleteTexts.h"
 #include "delete/Obstacles.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Log.h"
 #include "scripting/AppleScript.h"

@@ -18,11 +18,13 @@ namespace songsweep {
 class AppleScript;
 class Files;
 class Log;
+struct WorkerEvent;
+template <typename Event>
 class NotificationCenter;
 
 /// What a deletion works with; all of it outlives the worker.
 struct DeleteServices {
-    NotificationCenter& center;
+    NotificationCenter<WorkerEvent>& center;
     AppleScript& scripts;
     Files& files;
     Log& log;

@@ -3,6 +3,7 @@
 
 #include "library/CaseFolding.h"
 #include "library/KeySort.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 
 #include <utility>
@@ -37,7 +38,7 @@ bool isSameTag(const TrackRecord& a, const TrackRecord& b, const SearchParameter
 }
 
 BuildResultProc::BuildResultProc(std::shared_ptr<TrackList> list, SearchParameters parameters,
-                                 NotificationCenter& center)
+                                 NotificationCenter<WorkerEvent>& center)
     : m_list(std::move(list))
     , m_searchparams(std::move(parameters))
     , m_center(center) {}

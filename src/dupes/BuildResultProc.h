@@ -3,8 +3,8 @@
 
 #include "library/SearchParameters.h"
 #include "library/TrackStorage.h"
+#include "library/WorkerEvent.h"
 #include "operations/Operation.h"
-#include "operations/WorkerEvent.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,6 +12,7 @@
 
 namespace songsweep {
 
+template <typename Event>
 class NotificationCenter;
 
 /// Whether two records are duplicates by what the parameters compare. Texts are equal without regard to case;
@@ -26,7 +27,8 @@ bool isSameTag(const TrackRecord& a, const TrackRecord& b, const SearchParameter
 /// sort, one pass.
 class BuildResultProc final : public Operation {
   public:
-    BuildResultProc(std::shared_ptr<TrackList> list, SearchParameters parameters, NotificationCenter& center);
+    BuildResultProc(std::shared_ptr<TrackList> list, SearchParameters parameters,
+                    NotificationCenter<WorkerEvent>& center);
 
     void main() override;
 
@@ -39,7 +41,7 @@ class BuildResultProc final : public Operation {
 
     std::shared_ptr<TrackList> m_list;
     SearchParameters m_searchparams;
-    NotificationCenter& m_center;
+    NotificationCenter<WorkerEvent>& m_center;
 };
 
 } // namespace songsweep

@@ -2,6 +2,7 @@
 #include "library/SWXMLParser.h"
 
 #include "library/LibraryWalk.h"
+#include "library/WorkerEvent.h"
 #include "library/XmlReader.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"

@@ -7,8 +7,8 @@
 #include "library/ReaderServices.h"
 #include "library/SearchParameters.h"
 #include "library/TrackStorage.h"
+#include "library/WorkerEvent.h"
 #include "operations/Operation.h"
-#include "operations/WorkerEvent.h"
 
 #include <chrono>
 #include <cstdint>

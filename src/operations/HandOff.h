@@ -1,34 +1,57 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "operations/NotificationCenter.h"
 #include "operations/Patience.h"
 
 #include <QBasicTimer>
 #include <QObject>
 
 #include <atomic>
-#include <mutex>
+#include <functional>
 #include <thread>
-#include <vector>
 
 namespace songsweep {
 
 /// The machinery of the notification centre: one poster at a time hands a batch to the main thread.
 ///
-/// A batch is the counts that were waiting and then, as a rule, one event. All that both sides share is one
-/// atomic phase; the batch belongs to the main thread while the phase is `posted`, else to the poster that
-/// holds the posting lock. The main thread is woken by an event of its loop, and only if it is `away`.
-class NotificationCenter::HandOff final : public QObject {
+/// It knows nothing of what is in a batch, only whose it is. All that both sides share is one atomic phase;
+/// the batch belongs to the main thread while the phase is `posted`, else to the poster whose turn it is.
+/// The main thread is woken by an event of its loop, and only if it is `away`. Make it on the main thread.
+class HandOff final : public QObject {
   public:
-    HandOff();
+    /// What the main thread does.
+    struct Handlers {
+        std::function<void()> posted;    ///< with the batch that was passed
+        std::function<void()> countsDue; ///< with the counts, some time after they were asked for
+    };
+
+    explicit HandOff(Handlers handlers);
     ~HandOff() override; ///< closes, and waits until no poster is inside any more
 
-    void setObserver(Observer observer) { m_observer = std::move(observer); }
-    void post(const WorkerEvent& event);
-    bool flush();
-    const Operation* handling() const { return m_handling; }
+    /// Counts a poster in for as long as it may touch the hand-off or a batch.
+    class Presence {
+      public:
+        explicit Presence(HandOff& handOff)
+            : m_posters(handOff.m_postersInside) {
+            m_posters.fetch_add(1, std::memory_order_acq_rel);
+        }
+        Presence(const Presence&) = delete;
+        Presence& operator=(const Presence&) = delete;
+        ~Presence() { m_posters.fetch_sub(1, std::memory_order_acq_rel); }
+
+      private:
+        std::atomic<int>& m_posters;
+    };
+
+    /// A poster that is present; one at a time. Returns when the batch was handled, false once closed.
+    bool pass();
+    /// A poster that is present. The counts are due within 50 ms.
+    void askForCounts();
+    /// Main thread. Nothing is handled any more, and nobody waits.
     void close();
+
+    bool isMainThread() const { return std::this_thread::get_id() == m_mainThread; }
+    bool isClosed() const { return m_phase.load(std::memory_order_acquire) == Phase::closed; }
 
   protected:
     void customEvent(QEvent* wakeUp) override;
@@ -43,40 +66,25 @@ class NotificationCenter::HandOff final : public QObject {
     };
 
     // Posting side
-    void postCount(const WorkerEvent& event);
-    bool postBatch(const WorkerEvent* last);
     bool passPhase();
     bool waitUntilHandled();
-    void takeCounts(std::vector<WorkerEvent>& into);
     void wakeMainThread();
 
     // Main thread
-    bool isMainThread() const { return std::this_thread::get_id() == m_mainThread; }
     bool isPosted() const { return m_phase.load(std::memory_order_acquire) == Phase::posted; }
-    bool isClosed() const { return m_phase.load(std::memory_order_acquire) == Phase::closed; }
     void startCountTimer();
     void handlePosted();
     void finishBatch(Phase next);
     bool watchForNext();
-    void handle(const std::vector<WorkerEvent>& events);
-    void handle(const WorkerEvent& event);
 
+    const Handlers m_handlers;
     const std::thread::id m_mainThread = std::this_thread::get_id();
     std::atomic<Phase> m_phase = Phase::away;
     std::atomic<int> m_postersInside = 0;
-
-    std::mutex m_posting; ///< held by a poster from building its batch until that was handled
-    std::vector<WorkerEvent> m_batch;
+    std::atomic<bool> m_countsAsked = false; ///< the main thread is to look after the counts
     Patience m_posterPatience;
-
-    std::mutex m_countsLock;
-    std::vector<WorkerEvent> m_counts; ///< posted, and waiting to ride along
-    bool m_countTimerAsked = false;    ///< the main thread was asked to look after the counts
-
-    Observer m_observer;
     Patience m_watchPatience;
     QBasicTimer m_countTimer;
-    const Operation* m_handling = nullptr;
     bool m_batchInHand = false;
 };
 

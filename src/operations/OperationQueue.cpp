@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "operations/OperationQueue.h"
 
-#include "operations/NotificationCenter.h"
+#include "operations/EventCenter.h"
 #include "operations/OperationRunner.h"
 
 #include <utility>
 
 namespace songsweep {
 
-OperationQueue::OperationQueue(NotificationCenter& center, Log& log)
+OperationQueue::OperationQueue(EventCenter& center, Log& log)
     : m_center(center)
     , m_runner(std::make_unique<Runner>(center, log)) {}
 

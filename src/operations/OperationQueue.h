@@ -9,7 +9,7 @@
 namespace songsweep {
 
 class Log;
-class NotificationCenter;
+class EventCenter;
 
 /// Runs operations on worker threads, each only when the one before it has returned, in the order added.
 ///
@@ -18,7 +18,7 @@ class NotificationCenter;
 /// said otherwise.
 class OperationQueue {
   public:
-    OperationQueue(NotificationCenter& center, Log& log);
+    OperationQueue(EventCenter& center, Log& log);
     OperationQueue(const OperationQueue&) = delete;
     OperationQueue& operator=(const OperationQueue&) = delete;
     ~OperationQueue(); ///< cancels all operations, closes the centre and waits until the last has returned
@@ -37,7 +37,7 @@ class OperationQueue {
 
   private:
     class Runner;
-    NotificationCenter& m_center;
+    EventCenter& m_center;
     std::unique_ptr<Runner> m_runner;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "operations/OperationRunner.h"
 
-#include "operations/NotificationCenter.h"
+#include "operations/EventCenter.h"
 #include "platform/Log.h"
 
 #include <QCoreApplication>
@@ -28,7 +28,7 @@ class OperationQueue::Runner::IdleReceiver final : public QObject {
     const Runner& m_runner;
 };
 
-OperationQueue::Runner::Runner(NotificationCenter& center, Log& log)
+OperationQueue::Runner::Runner(EventCenter& center, Log& log)
     : m_center(center)
     , m_log(log)
     , m_idleReceiver(std::make_unique<IdleReceiver>(*this)) {

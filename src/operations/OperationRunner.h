@@ -20,7 +20,7 @@ namespace songsweep {
 /// share is behind one lock, so that nothing relies on how the pool hands a task over.
 class OperationQueue::Runner final : public QRunnable {
   public:
-    Runner(NotificationCenter& center, Log& log);
+    Runner(EventCenter& center, Log& log);
     ~Runner() override;
 
     void add(std::unique_ptr<Operation> operation);
@@ -38,7 +38,7 @@ class OperationQueue::Runner final : public QRunnable {
     void letGo(bool isHandled);
     void tellIdle();
 
-    NotificationCenter& m_center;
+    EventCenter& m_center;
     Log& m_log;
     std::unique_ptr<IdleReceiver> m_idleReceiver;
 

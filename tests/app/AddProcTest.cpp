@@ -4,6 +4,7 @@
 #include "app/AddRecord.h"
 #include "app/FakeITunes.h"
 #include "library/ValueFormats.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "platform/Preferences.h"
@@ -53,7 +54,7 @@ class AddProcTest : public ::testing::Test {
         }
     }
 
-    NotificationCenter center;
+    NotificationCenter<WorkerEvent> center;
     FakeITunes iTunes;
     Files files;
     NoPreferences preferences;

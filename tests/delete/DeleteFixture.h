@@ -2,6 +2,7 @@
 #pragma once
 
 #include "delete/DeleteProc.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "support/RecordingAppleScript.h"
@@ -78,7 +79,7 @@ class DeleteFixture : public testing::Test {
     std::vector<std::string> m_journal;
     JournalLog m_log{m_journal};
     RecordingAppleScript m_scripts;
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     Hook m_hook;
     std::string m_failingEntry;
     std::string m_failure;

@@ -7,6 +7,7 @@
 #include "dupes/MarkingRules.h"
 #include "hosts/EmbeddedScripting.h"
 #include "library/SWXMLParser.h"
+#include "library/WorkerEvent.h"
 #include "libraryfile/LibraryFixture.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Desktop.h"
@@ -142,7 +143,7 @@ class EmbeddedDeletionTest : public testing::Test {
     Files m_files;
     test::RecordingLog m_log;
     NoSleep m_sleeper;
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     std::unique_ptr<EmbeddedScripting> m_scripts;
 
   private:

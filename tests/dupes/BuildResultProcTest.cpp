@@ -2,6 +2,7 @@
 #include "dupes/BuildResultProc.h"
 
 #include "library/CaseFolding.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 
 #include <gmock/gmock.h>
@@ -58,7 +59,7 @@ class BuildResultProcTest : public testing::Test {
         return found;
     }
 
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     std::shared_ptr<TrackList> m_list = std::make_shared<TrackList>();
     std::vector<std::string> m_events;
     std::vector<TrackRecord*> m_rows;

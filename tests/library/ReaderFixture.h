@@ -2,6 +2,7 @@
 #pragma once
 
 #include "library/SWXMLParser.h"
+#include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
@@ -99,7 +100,7 @@ class ReaderFixture : public testing::Test {
     QTemporaryDir m_folder;
     Trace m_trace;
     TraceLog m_log{m_trace};
-    NotificationCenter m_center;
+    NotificationCenter<WorkerEvent> m_center;
     Files m_files;
     FixedPreferences m_preferences;
     CountingSleeper m_sleeper;

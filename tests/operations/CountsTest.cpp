@@ -15,8 +15,10 @@
 namespace songsweep {
 namespace {
 
+using test::Kind;
 using test::operation;
 using test::runEventLoopUntil;
+using test::TestEvent;
 using test::TestOperation;
 using ::testing::Each;
 using ::testing::ElementsAre;
@@ -25,8 +27,8 @@ using ::testing::ElementsAre;
 class CountsTest : public ::testing::Test {
   protected:
     CountsTest() {
-        m_center.setObserver([this](const WorkerEvent& event) {
-            m_handled.push_back(event.name);
+        m_center.setObserver([this](const TestEvent& event) {
+            m_handled.push_back(event.kind);
             m_senders.push_back(m_center.handling());
             m_handledCount = m_handled.size();
         });
@@ -42,19 +44,19 @@ class CountsTest : public ::testing::Test {
         return runEventLoopUntil([this] { return m_queue.operationCount() == 0; });
     }
 
-    std::vector<EventName> m_handled;
+    std::vector<Kind> m_handled;
     std::vector<const Operation*> m_senders;
     std::atomic<std::size_t> m_handledCount = 0;
     std::atomic<bool> m_mayGoOn = false;
     test::RecordingLog m_log;
-    NotificationCenter m_center;
+    NotificationCenter<TestEvent> m_center;
     OperationQueue m_queue{m_center, m_log};
 };
 
 TEST_F(CountsTest, aCountIsNotWaitedFor) {
     std::atomic<bool> hasReturned = false;
     m_queue.add(operation([&](TestOperation& self) {
-        m_center.post(self.event(EventName::progress));
+        m_center.post(self.event(Kind::count));
         hasReturned = true;
         waitForLeave();
     }));
@@ -65,34 +67,32 @@ TEST_F(CountsTest, aCountIsNotWaitedFor) {
 
 TEST_F(CountsTest, countsRideAlongWithTheNextEventEachInItsPlace) {
     m_queue.add(operation([&](TestOperation& self) {
-        m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::step2));
-        m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::buildFinish));
+        m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::step));
+        m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::end));
     }));
     ASSERT_TRUE(runUntilIdle());
-    EXPECT_THAT(m_handled, ElementsAre(EventName::progress, EventName::progress, EventName::step2,
-                                       EventName::progress, EventName::buildFinish));
+    EXPECT_THAT(m_handled, ElementsAre(Kind::count, Kind::count, Kind::step, Kind::count, Kind::end));
 }
 
 TEST_F(CountsTest, bothKindsOfCountsKeepTheirOrder) {
     m_queue.add(operation([&](TestOperation& self) {
-        m_center.post(self.event(EventName::deleteAddCount));
-        m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::deleteAddCount));
-        m_center.post(self.event(EventName::deleteFinish));
+        m_center.post(self.event(Kind::otherCount));
+        m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::otherCount));
+        m_center.post(self.event(Kind::end));
     }));
     ASSERT_TRUE(runUntilIdle());
-    EXPECT_THAT(m_handled, ElementsAre(EventName::deleteAddCount, EventName::progress,
-                                       EventName::deleteAddCount, EventName::deleteFinish));
+    EXPECT_THAT(m_handled, ElementsAre(Kind::otherCount, Kind::count, Kind::otherCount, Kind::end));
 }
 
 TEST_F(CountsTest, everyCountCarriesItsSender) {
     auto counting = operation([&](TestOperation& self) {
-        m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::buildFinish));
+        m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::end));
     });
     const auto* sender = counting.get();
     m_queue.add(std::move(counting));
@@ -103,7 +103,7 @@ TEST_F(CountsTest, everyCountCarriesItsSender) {
 
 TEST_F(CountsTest, aCountWithoutAnEventAfterItIsHandledWhileTheWorkerGoesOn) {
     m_queue.add(operation([&](TestOperation& self) {
-        m_center.post(self.event(EventName::deleteAddCount));
+        m_center.post(self.event(Kind::otherCount));
         waitForLeave();
     }));
     EXPECT_TRUE(runEventLoopUntil([this] { return m_handled.size() == 1; }));
@@ -119,7 +119,7 @@ TEST_F(CountsTest, aCountIsHandledWithinFiftyMillisecondsOfAnIdleLoop) {
         Clock::duration time{};
         m_queue.add(operation([&](TestOperation& self) {
             const auto start = Clock::now();
-            m_center.post(self.event(EventName::deleteAddCount));
+            m_center.post(self.event(Kind::otherCount));
             while (m_handledCount == before)
                 std::this_thread::sleep_for(std::chrono::microseconds(200));
             time = Clock::now() - start;
@@ -134,7 +134,7 @@ TEST_F(CountsTest, countsOfAnOperationAreHandledBeforeTheNextBegins) {
     std::size_t handledBefore = 0;
     m_queue.add(operation([&](TestOperation& self) {
         for (int count = 0; count < 10; ++count)
-            m_center.post(self.event(EventName::progress));
+            m_center.post(self.event(Kind::count));
     }));
     m_queue.add(operation([&](TestOperation&) { handledBefore = m_handledCount; }));
     ASSERT_TRUE(runUntilIdle());
@@ -146,7 +146,7 @@ TEST_F(CountsTest, aMillionCountsWithoutAnyEventNeedBoundedRoomAndAllArrive) {
     std::size_t mostBehind = 0;
     m_queue.add(operation([&](TestOperation& self) {
         for (std::size_t count = 1; count <= many; ++count) {
-            m_center.post(self.event(EventName::progress));
+            m_center.post(self.event(Kind::count));
             mostBehind = std::max(mostBehind, count - m_handledCount);
         }
     }));
@@ -156,17 +156,17 @@ TEST_F(CountsTest, aMillionCountsWithoutAnyEventNeedBoundedRoomAndAllArrive) {
 }
 
 TEST_F(CountsTest, closeInTheMiddleOfABatchDropsTheRest) {
-    m_center.setObserver([this](const WorkerEvent& event) {
-        m_handled.push_back(event.name);
+    m_center.setObserver([this](const TestEvent& event) {
+        m_handled.push_back(event.kind);
         if (m_handled.size() == 2) m_center.close();
     });
     m_queue.add(operation([&](TestOperation& self) {
         for (int count = 0; count < 5; ++count)
-            m_center.post(self.event(EventName::progress));
-        m_center.post(self.event(EventName::buildFinish));
+            m_center.post(self.event(Kind::count));
+        m_center.post(self.event(Kind::end));
     }));
     ASSERT_TRUE(runUntilIdle());
-    EXPECT_THAT(m_handled, ElementsAre(EventName::progress, EventName::progress));
+    EXPECT_THAT(m_handled, ElementsAre(Kind::count, Kind::count));
 }
 
 } // namespace

@@ -16,11 +16,13 @@
 namespace songsweep {
 namespace {
 
+using test::Kind;
 using test::runEventLoopUntil;
+using test::TestEvent;
 using ::testing::ElementsAre;
 
-WorkerEvent units(int count) { return {EventName::progressx, ProgressUnits{count}, nullptr}; }
-int units(const WorkerEvent& event) { return std::get<ProgressUnits>(event.payload).prg; }
+TestEvent units(int count) { return {Kind::units, count, nullptr}; }
+int units(const TestEvent& event) { return event.units; }
 
 /// A thread that runs a function and says when that has returned.
 class Poster {
@@ -41,11 +43,11 @@ class Poster {
 };
 
 TEST(NotificationCenterTest, handlesEveryEventOnTheMainThreadInTheOrderPosted) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     const auto mainThread = std::this_thread::get_id();
     std::vector<int> handled;
     bool isOnMainThread = true;
-    center.setObserver([&](const WorkerEvent& event) {
+    center.setObserver([&](const TestEvent& event) {
         handled.push_back(units(event));
         isOnMainThread = isOnMainThread && std::this_thread::get_id() == mainThread;
     });
@@ -61,9 +63,9 @@ TEST(NotificationCenterTest, handlesEveryEventOnTheMainThreadInTheOrderPosted) {
 }
 
 TEST(NotificationCenterTest, postReturnsOnlyWhenTheEventWasHandled) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     int handled = 0; // plain: the hand-off itself is what orders its uses
-    center.setObserver([&handled](const WorkerEvent&) { ++handled; });
+    center.setObserver([&handled](const TestEvent&) { ++handled; });
     int wrong = 0;
     const Poster poster([&] {
         for (int number = 1; number <= 20000; ++number) {
@@ -76,9 +78,9 @@ TEST(NotificationCenterTest, postReturnsOnlyWhenTheEventWasHandled) {
 }
 
 TEST(NotificationCenterTest, aSlowHandlerIsWaitedFor) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     bool isHandled = false;
-    center.setObserver([&isHandled](const WorkerEvent&) {
+    center.setObserver([&isHandled](const TestEvent&) {
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
         isHandled = true;
     });
@@ -92,53 +94,53 @@ TEST(NotificationCenterTest, aSlowHandlerIsWaitedFor) {
 }
 
 TEST(NotificationCenterTest, handlesAPostFromTheMainThreadDirectly) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     int handled = 0;
-    center.setObserver([&handled](const WorkerEvent&) { ++handled; });
-    center.post({EventName::tableviewSpacebar, {}, nullptr});
+    center.setObserver([&handled](const TestEvent&) { ++handled; });
+    center.post({Kind::fromView, 0, nullptr});
     EXPECT_EQ(handled, 1);
-    center.post({EventName::progress, {}, nullptr});
+    center.post({Kind::count, 0, nullptr});
     EXPECT_EQ(handled, 2);
 }
 
 TEST(NotificationCenterTest, handlesAPostFromInsideAHandlerDirectly) {
-    NotificationCenter center;
-    std::vector<EventName> handled;
-    center.setObserver([&](const WorkerEvent& event) {
-        if (event.name == EventName::addFinish) center.post({EventName::tableviewSpacebar, {}, nullptr});
-        handled.push_back(event.name);
+    NotificationCenter<TestEvent> center;
+    std::vector<Kind> handled;
+    center.setObserver([&](const TestEvent& event) {
+        if (event.kind == Kind::finish) center.post({Kind::fromView, 0, nullptr});
+        handled.push_back(event.kind);
     });
-    const Poster poster([&center] { center.post({EventName::addFinish, {}, nullptr}); });
+    const Poster poster([&center] { center.post({Kind::finish, 0, nullptr}); });
     ASSERT_TRUE(runEventLoopUntil([&] { return poster.isDone(); }));
-    EXPECT_THAT(handled, ElementsAre(EventName::tableviewSpacebar, EventName::addFinish));
+    EXPECT_THAT(handled, ElementsAre(Kind::fromView, Kind::finish));
 }
 
 TEST(NotificationCenterTest, namesTheOperationWhoseEventIsInHand) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     const auto sender = test::operation([](test::TestOperation&) {});
     std::vector<const Operation*> handling;
-    center.setObserver([&](const WorkerEvent& event) {
-        if (event.sender != nullptr) center.post({EventName::tableviewSpacebar, {}, nullptr});
+    center.setObserver([&](const TestEvent& event) {
+        if (event.sender != nullptr) center.post({Kind::fromView, 0, nullptr});
         handling.push_back(center.handling());
     });
     EXPECT_EQ(center.handling(), nullptr);
-    const Poster poster([&] { center.post(sender->event(EventName::addCancel)); });
+    const Poster poster([&] { center.post(sender->event(Kind::cancel)); });
     ASSERT_TRUE(runEventLoopUntil([&] { return poster.isDone(); }));
     EXPECT_THAT(handling, ElementsAre(nullptr, sender.get()));
     EXPECT_EQ(center.handling(), nullptr);
 }
 
 TEST(NotificationCenterTest, withoutAnObserverEventsAreHandledByDoingNothing) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     const Poster poster([&center] { center.post(units(1)); });
     EXPECT_TRUE(runEventLoopUntil([&] { return poster.isDone(); }));
 }
 
 TEST(NotificationCenterTest, severalPostersEachKeepTheirOrder) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     std::vector<int> lastOfEach(4, -1);
     int wrong = 0;
-    center.setObserver([&](const WorkerEvent& event) {
+    center.setObserver([&](const TestEvent& event) {
         auto& last = lastOfEach[static_cast<std::size_t>(units(event) % 4)];
         if (units(event) / 4 != ++last) ++wrong;
     });
@@ -157,8 +159,8 @@ TEST(NotificationCenterTest, severalPostersEachKeepTheirOrder) {
 }
 
 TEST(NotificationCenterTest, timersRunWhileEventsCome) {
-    NotificationCenter center;
-    center.setObserver([](const WorkerEvent&) {});
+    NotificationCenter<TestEvent> center;
+    center.setObserver([](const TestEvent&) {});
     std::atomic<bool> stops = false;
     int ticks = 0;
     QTimer timer;
@@ -173,9 +175,9 @@ TEST(NotificationCenterTest, timersRunWhileEventsCome) {
 }
 
 TEST(NotificationCenterTest, closeReleasesAPosterWhoseEventNobodyHandles) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     int handled = 0;
-    center.setObserver([&handled](const WorkerEvent&) { ++handled; });
+    center.setObserver([&handled](const TestEvent&) { ++handled; });
     std::atomic<bool> isPosting = false;
     {
         const Poster poster([&] {
@@ -192,8 +194,8 @@ TEST(NotificationCenterTest, closeReleasesAPosterWhoseEventNobodyHandles) {
 }
 
 TEST(NotificationCenterTest, closeReleasesEveryPosterThatWaits) {
-    NotificationCenter center;
-    center.setObserver([](const WorkerEvent&) { FAIL() << "nothing is handled"; });
+    NotificationCenter<TestEvent> center;
+    center.setObserver([](const TestEvent&) { FAIL() << "nothing is handled"; });
     const auto post = [&center] { center.post(units(1)); };
     const Poster first(post);
     const Poster second(post);
@@ -205,10 +207,10 @@ TEST(NotificationCenterTest, closeReleasesEveryPosterThatWaits) {
 }
 
 TEST(NotificationCenterTest, closeInsideAHandlerReleasesThePosterAtOnce) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     std::atomic<bool> isReleased = false;
     bool wasReleasedInside = false;
-    center.setObserver([&](const WorkerEvent&) {
+    center.setObserver([&](const TestEvent&) {
         center.close();
         while (!isReleased)
             std::this_thread::yield();
@@ -223,13 +225,13 @@ TEST(NotificationCenterTest, closeInsideAHandlerReleasesThePosterAtOnce) {
 }
 
 TEST(NotificationCenterTest, dropsWhatIsPostedAfterClose) {
-    NotificationCenter center;
+    NotificationCenter<TestEvent> center;
     int handled = 0;
-    center.setObserver([&handled](const WorkerEvent&) { ++handled; });
+    center.setObserver([&handled](const TestEvent&) { ++handled; });
     center.close();
     const Poster poster([&center] {
         center.post(units(1));
-        center.post({EventName::progress, {}, nullptr});
+        center.post({Kind::count, 0, nullptr});
         EXPECT_FALSE(center.flush());
     });
     ASSERT_TRUE(runEventLoopUntil([&] { return poster.isDone(); }));
@@ -241,7 +243,7 @@ TEST(NotificationCenterTest, itsEndReleasesWhoeverWaits) {
     std::atomic<bool> isPosting = false;
     std::unique_ptr<Poster> poster;
     {
-        NotificationCenter center;
+        NotificationCenter<TestEvent> center;
         poster = std::make_unique<Poster>([&] {
             isPosting = true;
             center.post(units(1));

@@ -13,14 +13,16 @@
 namespace songsweep {
 namespace {
 
+using test::Kind;
 using test::operation;
+using test::TestEvent;
 using test::TestOperation;
 
 /// A search in small: a reader, then a grouping, each a chain of events that looks for its cancel.
 class Chain {
   public:
     Chain() {
-        m_center.setObserver([this](const WorkerEvent& event) { handle(event); });
+        m_center.setObserver([this](const TestEvent& event) { handle(event); });
     }
 
     void start() {
@@ -34,22 +36,22 @@ class Chain {
   private:
     void read(TestOperation& self) {
         for (int batch = 0; batch < 20 && !self.isCancelled(); ++batch) {
-            m_center.post(self.event(EventName::progressx, ProgressUnits{batch}));
+            m_center.post(self.event(Kind::units, batch));
         }
-        m_center.post(self.event(self.isCancelled() ? EventName::addCancel : EventName::addFinish));
+        m_center.post(self.event(self.isCancelled() ? Kind::cancel : Kind::finish));
     }
     void group(TestOperation& self) {
         for (int row = 0; row < 100 && !self.isCancelled(); ++row) {
-            m_center.post(self.event(EventName::progress));
-            if (row % 5 == 0) m_center.post(self.event(EventName::step2));
+            m_center.post(self.event(Kind::count));
+            if (row % 5 == 0) m_center.post(self.event(Kind::step));
         }
-        m_center.post(self.event(self.isCancelled() ? EventName::addCancel : EventName::buildFinish));
+        m_center.post(self.event(self.isCancelled() ? Kind::cancel : Kind::end));
     }
-    void handle(const WorkerEvent& event) {
+    void handle(const TestEvent& event) {
         m_isSound = m_isSound && m_ends == 0 && m_center.handling() == event.sender;
-        if (event.name == EventName::addFinish) {
+        if (event.kind == Kind::finish) {
             m_queue.add(operation([this](TestOperation& self) { group(self); }));
-        } else if (event.name == EventName::addCancel || event.name == EventName::buildFinish) {
+        } else if (event.kind == Kind::cancel || event.kind == Kind::end) {
             ++m_ends;
         }
     }
@@ -57,7 +59,7 @@ class Chain {
     int m_ends = 0;
     bool m_isSound = true;
     test::RecordingLog m_log;
-    NotificationCenter m_center;
+    NotificationCenter<TestEvent> m_center;
     OperationQueue m_queue{m_center, m_log};
 };
 

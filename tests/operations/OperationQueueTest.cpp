@@ -17,8 +17,10 @@
 namespace songsweep {
 namespace {
 
+using test::Kind;
 using test::operation;
 using test::runEventLoopUntil;
+using test::TestEvent;
 using test::TestOperation;
 using ::testing::ElementsAre;
 
@@ -29,7 +31,7 @@ class OperationQueueTest : public ::testing::Test {
     }
 
     test::RecordingLog m_log;
-    NotificationCenter m_center;
+    NotificationCenter<TestEvent> m_center;
     std::unique_ptr<OperationQueue> m_queue = std::make_unique<OperationQueue>(m_center, m_log);
 };
 
@@ -68,11 +70,11 @@ TEST_F(OperationQueueTest, neverRunsTwoAtOnce) {
 TEST_F(OperationQueueTest, anOperationAddedByAFinishingEventBeginsWhenTheFirstHasReturned) {
     std::atomic<bool> firstHasReturned = false;
     std::vector<bool> hadReturned;
-    m_center.setObserver([&](const WorkerEvent&) {
+    m_center.setObserver([&](const TestEvent&) {
         m_queue->add(operation([&](TestOperation&) { hadReturned.push_back(firstHasReturned); }));
     });
     m_queue->add(operation([&](TestOperation& self) {
-        m_center.post(self.event(EventName::addFinish));
+        m_center.post(self.event(Kind::finish));
         std::this_thread::sleep_for(std::chrono::milliseconds(5)); // the second waits for this
         firstHasReturned = true;
     }));
@@ -99,32 +101,32 @@ TEST_F(OperationQueueTest, cancelAllMarksTheRunningAndTheWaiting) {
 }
 
 TEST_F(OperationQueueTest, anOperationCancelledBeforeItStartedStillRunsItsMain) {
-    std::vector<EventName> handled;
-    m_center.setObserver([&](const WorkerEvent& event) { handled.push_back(event.name); });
+    std::vector<Kind> handled;
+    m_center.setObserver([&](const TestEvent& event) { handled.push_back(event.kind); });
     auto cancelled = operation([this](TestOperation& self) {
-        m_center.post(self.event(self.isCancelled() ? EventName::addCancel : EventName::addFinish));
+        m_center.post(self.event(self.isCancelled() ? Kind::cancel : Kind::finish));
     });
     cancelled->cancel();
     m_queue->add(std::move(cancelled));
     ASSERT_TRUE(runUntilIdle());
-    EXPECT_THAT(handled, ElementsAre(EventName::addCancel));
+    EXPECT_THAT(handled, ElementsAre(Kind::cancel));
 }
 
 TEST_F(OperationQueueTest, anOperationAddedByAnEventOfACancelledOneStartsCancelled) {
     bool isCancelled = false;
-    m_center.setObserver([&](const WorkerEvent& event) {
-        if (event.name != EventName::addFinish) return;
+    m_center.setObserver([&](const TestEvent& event) {
+        if (event.kind != Kind::finish) return;
         m_queue->cancelAllOperations(); // after the worker's last look at its flag
         m_queue->add(operation([&](TestOperation& self) { isCancelled = self.isCancelled(); }));
     });
-    m_queue->add(operation([this](TestOperation& self) { m_center.post(self.event(EventName::addFinish)); }));
+    m_queue->add(operation([this](TestOperation& self) { m_center.post(self.event(Kind::finish)); }));
     ASSERT_TRUE(runUntilIdle());
     EXPECT_TRUE(isCancelled);
 }
 
 TEST_F(OperationQueueTest, anOperationAddedAfterTheEventsOfACancelledOneStartsFresh) {
     bool isCancelled = true;
-    auto first = operation([this](TestOperation& self) { m_center.post(self.event(EventName::addCancel)); });
+    auto first = operation([this](TestOperation& self) { m_center.post(self.event(Kind::cancel)); });
     first->cancel();
     m_queue->add(std::move(first));
     ASSERT_TRUE(runUntilIdle());
@@ -181,8 +183,8 @@ TEST_F(OperationQueueTest, isNotIdleBetweenTheWorkersOfAChain) {
     int told = 0;
     int left = 5;
     m_queue->setIdleHandler([&told] { ++told; });
-    const auto posts = [this](TestOperation& self) { m_center.post(self.event(EventName::addFinish)); };
-    m_center.setObserver([&](const WorkerEvent&) {
+    const auto posts = [this](TestOperation& self) { m_center.post(self.event(Kind::finish)); };
+    m_center.setObserver([&](const TestEvent&) {
         if (--left > 0) m_queue->add(operation(posts));
     });
     m_queue->add(operation(posts));
@@ -204,7 +206,7 @@ TEST_F(OperationQueueTest, itsEndCancelsAndReleasesAWorkerThatWaitsForItsEvent) 
     bool sawCancel = false;
     m_queue->add(operation([&](TestOperation& self) {
         isPosting = true;
-        m_center.post(self.event(EventName::step2)); // the main thread's loop does not run
+        m_center.post(self.event(Kind::step)); // the main thread's loop does not run
         sawCancel = self.isCancelled();
     }));
     while (!isPosting)
@@ -224,13 +226,13 @@ TEST_F(OperationQueueTest, itsEndWaitsForEveryOperation) {
 
 TEST_F(OperationQueueTest, quittingInsideAHandlerReleasesTheWorkerAndKeepsItsOperation) {
     bool wasThere = false;
-    m_center.setObserver([&](const WorkerEvent& event) {
+    m_center.setObserver([&](const TestEvent& event) {
         m_queue->cancelAllOperations();
         m_center.close();
         m_queue->waitUntilAllOperationsAreFinished();
         wasThere = event.sender->isCancelled(); // would read freed memory
     });
-    m_queue->add(operation([this](TestOperation& self) { m_center.post(self.event(EventName::addFinish)); }));
+    m_queue->add(operation([this](TestOperation& self) { m_center.post(self.event(Kind::finish)); }));
     ASSERT_TRUE(runEventLoopUntil([&wasThere] { return wasThere; }));
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "operations/Operation.h"
-#include "operations/WorkerEvent.h"
+#include "operations/TestEvent.h"
 
 #include <functional>
 #include <memory>
@@ -18,7 +18,7 @@ class TestOperation final : public Operation {
         : m_work(std::move(work)) {}
     void main() override { m_work(*this); }
 
-    WorkerEvent event(EventName name, WorkerEventPayload payload = {}) const { return {name, payload, this}; }
+    TestEvent event(Kind kind, int units = 0) const { return {kind, units, this}; }
 
   private:
     Work m_work;

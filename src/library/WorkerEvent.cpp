@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "operations/WorkerEvent.h"
+#include "library/WorkerEvent.h"
 
 #include <array>
 

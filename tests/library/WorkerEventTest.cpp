@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "operations/WorkerEvent.h"
+#include "library/WorkerEvent.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace songsweep {
 namespace {
@@ -24,6 +27,15 @@ TEST(WorkerEventTest, everyEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::deleteFinish), "deleteFinish");
     EXPECT_EQ(text(EventName::deleteCancel), "deleteCancel");
     EXPECT_EQ(text(EventName::tableviewSpacebar), "tableviewSpacebar");
+}
+
+TEST(WorkerEventTest, theTwoCountsAreCountsAndNothingElseIs) {
+    std::vector<EventName> counts;
+    for (auto name = EventName::addFinish; name <= EventName::tableviewSpacebar;
+         name = static_cast<EventName>(static_cast<int>(name) + 1)) {
+        if (isCount(WorkerEvent{name, {}, nullptr})) counts.push_back(name);
+    }
+    EXPECT_THAT(counts, ::testing::ElementsAre(EventName::progress, EventName::deleteAddCount));
 }
 
 } // namespace

@@ -50,4 +50,9 @@ struct WorkerEvent {
     const Operation* sender = nullptr; ///< the worker; nothing where a view posted it
 };
 
+/// Whether the event counts a step, so that nobody waits for it: it rides along with the next one.
+inline bool isCount(const WorkerEvent& event) {
+    return event.name == EventName::progress || event.name == EventName::deleteAddCount;
+}
+
 } // namespace songsweep
