@@ -2,21 +2,12 @@
 #include "dupes/FileKind.h"
 
 #include "library/CaseFolding.h"
+#include "platform/Ascii.h"
 
 #include <algorithm>
 #include <unordered_set>
 
 namespace songsweep {
-
-namespace {
-
-bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
-char upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-} // namespace
 
 std::string_view fileExtension(std::string_view path) {
     for (std::size_t i = path.size(); i > 0 && path[i - 1] != '/'; --i)
@@ -31,7 +22,7 @@ bool isOfKind(std::string_view path, std::string_view kind) {
     if (!isAscii(extension)) return uppercase(extension) == kind;
     if (extension.size() != kind.size()) return false;
     return std::equal(extension.begin(), extension.end(), kind.begin(),
-                      [](char a, char b) { return upper(a) == b; });
+                      [](char a, char b) { return asciiUpper(a) == b; });
 }
 
 std::vector<std::string> kindsOf(const std::vector<TrackRecord*>& rows) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "library/CaseFolding.h"
 
+#include "platform/Ascii.h"
+
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
 #include <unicode/normalizer2.h>
@@ -14,14 +16,6 @@
 namespace songsweep {
 
 namespace {
-
-bool isAscii(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
-char asciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-char asciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
-
-bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return isAscii(c); });
-}
 
 void requireSuccess(UErrorCode status) {
     if (U_FAILURE(status)) throw std::runtime_error(std::string("Unicode data: ") + u_errorName(status));
@@ -83,7 +77,7 @@ void appendFoldedKey(std::string& key, std::string_view text) {
     const std::size_t start = key.size();
     key.append(text.substr(0, plain));
     std::transform(key.begin() + static_cast<std::ptrdiff_t>(start), key.end(),
-                   key.begin() + static_cast<std::ptrdiff_t>(start), asciiLower);
+                   key.begin() + static_cast<std::ptrdiff_t>(start), [](char c) { return asciiLower(c); });
     if (plain < text.size()) appendFoldedCharacters(key, decomposed(text.substr(plain)));
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "library/LocationUrl.h"
 
+#include "platform/Ascii.h"
+
 #include <unicode/utf8.h>
 
 #include <algorithm>
@@ -10,13 +12,6 @@
 namespace songsweep {
 
 namespace {
-
-constexpr int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-}
 
 constexpr bool isAlphanumeric(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');

@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "library/PersistentId.h"
 
+#include "platform/Ascii.h"
+
 namespace songsweep {
 
 namespace {
 
 constexpr std::size_t exactLength = 16;
 
-int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
 /// FNV-1a over the lower-cased bytes.
 std::uint64_t hashOf(std::string_view text) {
     std::uint64_t hash = 0xcbf29ce484222325;
     for (const char c : text) {
-        const char lower = c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
-        hash = (hash ^ static_cast<unsigned char>(lower)) * 0x100000001b3;
+        hash = (hash ^ static_cast<unsigned char>(asciiLower(c))) * 0x100000001b3;
     }
     return hash;
 }

@@ -2,6 +2,7 @@
 //
 // What stands before the first tag: byte order mark, XML declaration, document type.
 #include "libraryfile/TagScanner.h"
+#include "platform/Ascii.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,13 +12,6 @@ namespace songsweep {
 namespace {
 
 constexpr std::string_view entityMark = "<!ENTITY";
-
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return lower;
-}
 
 /// The value of `name = "value"` in a declaration; empty where there is none.
 std::string_view pseudoAttribute(std::string_view declaration, std::string_view name) {
@@ -52,7 +46,7 @@ bool TagScanner::start() {
 
 bool TagScanner::checkDeclaration(std::string_view declaration) {
     const std::string_view encoding = pseudoAttribute(declaration, "encoding");
-    const std::string lower = lowerCase(encoding);
+    const std::string lower = asciiLower(std::string(encoding));
     if (lower.empty() || lower == "utf-8" || lower == "utf8" || lower == "us-ascii" || lower == "ascii")
         return true;
     return fail("the encoding " + std::string(encoding) + " is not supported, only UTF-8");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Files.h"
 
+#include "platform/Ascii.h"
 #include "platform/NameForms.h"
 
 #include <sys/stat.h>
@@ -36,7 +37,7 @@ FileAttributes attributesOf(const struct stat& file) {
 std::optional<FileAttributes> attributesInAnyForm(const char* path) {
     struct stat file {};
     if (::stat(path, &file) == 0) return attributesOf(file);
-    if (isAscii(path)) return std::nullopt;
+    if (isAscii(path)) return std::nullopt; // such a path has but one form
     const std::optional<std::string> other = existingInOtherForm(path);
     if (!other || ::stat(other->c_str(), &file) != 0) return std::nullopt;
     return attributesOf(file);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/NameForms.h"
 
+#include "platform/Ascii.h"
+
 #include <sys/stat.h>
 #include <unicode/bytestream.h>
 #include <unicode/normalizer2.h>
@@ -46,11 +48,6 @@ bool appendExistingForm(std::string& path, std::string_view name) {
 }
 
 } // namespace
-
-bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char character) { return static_cast<unsigned char>(character) < 0x80; });
-}
 
 std::optional<std::string> existingInOtherForm(std::string_view path) {
     std::string found;

@@ -15,7 +15,4 @@ namespace songsweep {
 /// through combinations. Give it only paths that do not exist as written. Paths are UTF-8. Thread-safe.
 std::optional<std::string> existingInOtherForm(std::string_view path);
 
-/// Whether every byte is ASCII; such a path has but one form.
-bool isAscii(std::string_view text);
-
 } // namespace songsweep

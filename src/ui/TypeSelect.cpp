@@ -2,6 +2,7 @@
 #include "ui/TypeSelect.h"
 
 #include "library/CaseFolding.h"
+#include "platform/Ascii.h"
 
 #include <QApplication>
 
@@ -9,15 +10,11 @@ namespace songsweep {
 
 namespace {
 
-char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool isAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
-
 /// Whether a name begins with the text of the key. The first letters tell most names apart without any
 /// folding.
 bool begins(std::string_view name, std::string_view key) {
     if (name.empty()) return false;
-    if (isAscii(name.front()) && isAscii(key.front()) && lowerAscii(name.front()) != key.front())
+    if (isAscii(name.front()) && isAscii(key.front()) && asciiLower(name.front()) != key.front())
         return false;
     return foldedKey(name).starts_with(key);
 }

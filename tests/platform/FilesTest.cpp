@@ -144,11 +144,5 @@ TEST(NameForms, findNothingBelowAFolderThatIsMissing) {
     EXPECT_EQ(existingInOtherForm(""), std::nullopt);
 }
 
-TEST(NameForms, knowAsciiTexts) {
-    EXPECT_TRUE(isAscii(""));
-    EXPECT_TRUE(isAscii("a/b \x7f"));
-    EXPECT_FALSE(isAscii(composed));
-}
-
 } // namespace
 } // namespace songsweep

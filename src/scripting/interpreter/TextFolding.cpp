@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/interpreter/TextFolding.h"
 
+#include "platform/Ascii.h"
 #include "scripting/interpreter/Words.h"
 
 #include <unicode/bytestream.h>
@@ -11,10 +12,6 @@
 
 namespace songsweep::interpreter {
 namespace {
-
-bool isAscii(std::string_view text) {
-    return std::ranges::all_of(text, [](char letter) { return static_cast<unsigned char>(letter) < 0x80U; });
-}
 
 bool startsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 

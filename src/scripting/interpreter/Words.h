@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 #include <string>
 #include <string_view>
@@ -9,28 +11,18 @@ namespace songsweep::interpreter {
 
 /// Words of the language compare without regard to the case of the letters A to Z.
 
-constexpr char loweredLetter(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 inline bool isSameWord(std::string_view left, std::string_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return loweredLetter(a) == loweredLetter(b); });
+                      [](char a, char b) { return asciiLower(a) == asciiLower(b); });
 }
 
 inline bool isWordLess(std::string_view left, std::string_view right) {
-    return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
-                                        [](char a, char b) {
-                                            return static_cast<unsigned char>(loweredLetter(a)) <
-                                                   static_cast<unsigned char>(loweredLetter(b));
-                                        });
+    return std::lexicographical_compare(
+        left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) {
+            return static_cast<unsigned char>(asciiLower(a)) < static_cast<unsigned char>(asciiLower(b));
+        });
 }
 
-inline std::string loweredWord(std::string_view word) {
-    std::string lowered(word);
-    for (char& letter : lowered)
-        letter = loweredLetter(letter);
-    return lowered;
-}
+inline std::string loweredWord(std::string_view word) { return asciiLower(std::string(word)); }
 
 } // namespace songsweep::interpreter
