@@ -2,6 +2,7 @@
 #include "app/AddRecord.h"
 
 #include "library/ValueFormats.h"
+#include "platform/Epochs.h"
 #include "scripting/Descriptor.h"
 
 #include <cmath>
@@ -27,9 +28,6 @@ enum Item {
     locationItem,
     artworksItem,
 };
-
-constexpr std::int64_t secondsFrom1904To1970 = 2082844800;
-constexpr std::int64_t secondsFrom1970To2001 = 978307200;
 
 std::string textAt(const Descriptor& item, Item place) {
     const Descriptor* const value = item.descriptorAtIndex(place);
@@ -72,9 +70,10 @@ void setTexts(TrackRecord& record, TrackStorage& storage, const Descriptor& item
 } // namespace
 
 std::int64_t minuteOfLongDateTime(std::int64_t longDateTime) {
+    const std::int64_t reference = secondsSince1970(referenceDateEpoch);
     const std::int64_t sinceReference =
-        utcOfLocal(longDateTime - secondsFrom1904To1970) - secondsFrom1970To2001;
-    return std::llround(static_cast<double>(sinceReference) / 60.0) * 60 + secondsFrom1970To2001;
+        utcOfLocal(longDateTime + secondsSince1970(longDateTimeEpoch)) - reference;
+    return std::llround(static_cast<double>(sinceReference) / 60.0) * 60 + reference;
 }
 
 bool isDeadTrackItem(const Descriptor& item) { return textAt(item, locationItem) == missingLocation; }

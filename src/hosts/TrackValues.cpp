@@ -4,6 +4,7 @@
 #include "library/LocationUrl.h"
 #include "library/Trim.h"
 #include "library/ValueFormats.h"
+#include "platform/Epochs.h"
 #include "platform/Files.h"
 
 #include <algorithm>
@@ -15,8 +16,6 @@ namespace songsweep {
 namespace {
 
 using interpreter::Value;
-
-constexpr std::int64_t secondsFrom1904To1970 = 2'082'844'800;
 
 /// A number where its text is the one that the number would be written with; else the text, so that nothing
 /// of it is lost.
@@ -48,44 +47,46 @@ Value location(std::string_view url, const Files& files) {
 } // namespace
 
 std::optional<Value> trackValue(const TrackFields& fields, ITunesProperty property, const Files& files) {
-    const auto text = [&](std::string_view key) { return trimmed(fields.text(key)); };
+    const auto text = [&](LibraryKey key) { return trimmed(fields.text(key)); };
     switch (property) {
     case ITunesProperty::name:
-        return std::string(fields.text("name"));
+        return std::string(fields.text(LibraryKey::name));
     case ITunesProperty::artist:
-        return std::string(fields.text("artist"));
+        return std::string(fields.text(LibraryKey::artist));
     case ITunesProperty::album:
-        return std::string(fields.text("album"));
+        return std::string(fields.text(LibraryKey::album));
     case ITunesProperty::time:
-        return duration(text("total time"));
+        return duration(text(LibraryKey::totalTime));
     case ITunesProperty::bitRate:
-        return numberOrText(text("bit rate"));
+        return numberOrText(text(LibraryKey::bitRate));
     case ITunesProperty::size:
-        return numberOrText(text("size"));
+        return numberOrText(text(LibraryKey::size));
     case ITunesProperty::dateAdded:
-        return date(text("date added"));
+        return date(text(LibraryKey::dateAdded));
     case ITunesProperty::rating:
-        return std::int64_t{integerValue(text("rating"))};
+        return std::int64_t{integerValue(text(LibraryKey::rating))};
     case ITunesProperty::persistentId:
-        return std::string(text("persistent id").empty() ? "0" : text("persistent id"));
+        return std::string(text(LibraryKey::persistentId).empty() ? "0" : text(LibraryKey::persistentId));
     case ITunesProperty::playedCount:
-        return text("play count").empty() ? Value(std::int64_t{0}) : numberOrText(text("play count"));
+        return text(LibraryKey::playCount).empty() ? Value(std::int64_t{0})
+                                                   : numberOrText(text(LibraryKey::playCount));
     case ITunesProperty::location:
-        return location(text("location"), files);
+        return location(text(LibraryKey::location), files);
     default:
         return {};
     }
 }
 
 std::size_t artworkCount(const TrackFields& fields) {
-    return static_cast<std::size_t>(std::max(integerValue(trimmed(fields.text("artwork count"))), 0));
+    return static_cast<std::size_t>(
+        std::max(integerValue(trimmed(fields.text(LibraryKey::artworkCount))), 0));
 }
 
-std::int64_t longDateTime(std::int64_t secondsSince1970) {
-    const auto instant = static_cast<std::time_t>(secondsSince1970);
+std::int64_t longDateTime(std::int64_t utc) {
+    const auto instant = static_cast<std::time_t>(utc);
     std::tm local{};
     ::localtime_r(&instant, &local);
-    return secondsSince1970 + local.tm_gmtoff + secondsFrom1904To1970;
+    return utc + local.tm_gmtoff - secondsSince1970(longDateTimeEpoch);
 }
 
 } // namespace songsweep

@@ -2,6 +2,7 @@
 #include "library/LibraryKeys.h"
 
 #include "library/CaseFolding.h"
+#include "platform/Ascii.h"
 
 #include <algorithm>
 #include <array>
@@ -24,19 +25,27 @@ constexpr std::array namedKeys = {
     NamedKey{"album", LibraryKey::album},      // ( )
     NamedKey{"artist", LibraryKey::artist},    // Sigur Rós
     NamedKey{"rating", LibraryKey::rating},    // 80, of 100
+    NamedKey{"tracks", LibraryKey::tracks},    // no value, a dictionary follows
+    NamedKey{"master", LibraryKey::master},    // true, of the playlist that is the library
+    NamedKey{"folder", LibraryKey::folder},    // true, of a folder of playlists
+    NamedKey{"visible", LibraryKey::visible},  // false, mostly of the library
     NamedKey{"bit rate", LibraryKey::bitRate}, // 256
     NamedKey{"track id", LibraryKey::trackId}, // 1873
     // file://localhost/Users/ann/Music/iTunes/iTunes%20Music/Bj%C3%B6rk/Homogenic/01%20Hunter.mp3
     // file://localhost/C:/Documents%20and%20Settings/ann/My%20Music/R&#38;B/track.mp3
     // file:///Volumes/Music/a.m4a (version 11.1 and later); http://radio.example.com:8000/ of a stream
     NamedKey{"location", LibraryKey::location},
-    NamedKey{"playlists", LibraryKey::playlists},        // no value, an array follows
-    NamedKey{"total time", LibraryKey::totalTime},       // 187429, in milliseconds
-    NamedKey{"play count", LibraryKey::playCount},       // 12
-    NamedKey{"track type", LibraryKey::trackType},       // File; URL; Remote
-    NamedKey{"date added", LibraryKey::dateAdded},       // 2009-03-14T15:09:26Z
-    NamedKey{"persistent id", LibraryKey::persistentId}, // 6B0F3E1C22C4A9D7
-    NamedKey{"artwork count", LibraryKey::artworkCount}, // 1
+    NamedKey{"playlists", LibraryKey::playlists},                         // no value, an array follows
+    NamedKey{"total time", LibraryKey::totalTime},                        // 187429, in milliseconds
+    NamedKey{"play count", LibraryKey::playCount},                        // 12
+    NamedKey{"track type", LibraryKey::trackType},                        // File; URL; Remote
+    NamedKey{"date added", LibraryKey::dateAdded},                        // 2009-03-14T15:09:26Z
+    NamedKey{"smart info", LibraryKey::smartInfo},                        // data, of a smart playlist
+    NamedKey{"persistent id", LibraryKey::persistentId},                  // 6B0F3E1C22C4A9D7
+    NamedKey{"artwork count", LibraryKey::artworkCount},                  // 1
+    NamedKey{"playlist items", LibraryKey::playlistItems},                // no value, an array follows
+    NamedKey{"distinguished kind", LibraryKey::distinguishedKind},        // 4, of the music
+    NamedKey{"playlist persistent id", LibraryKey::playlistPersistentId}, // F2A4C9D1E87B6053
 };
 
 static_assert(std::is_sorted(namedKeys.begin(), namedKeys.end(), [](const NamedKey& a, const NamedKey& b) {
@@ -54,8 +63,6 @@ constexpr std::array<std::uint8_t, longestName + 2> firstOfLength = [] {
     return first;
 }();
 
-constexpr char asciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-
 bool isName(std::string_view text, std::string_view name) {
     return std::equal(text.begin(), text.end(), name.begin(),
                       [](char a, char b) { return asciiLower(a) == b; });
@@ -66,13 +73,6 @@ LibraryKey keyNamed(std::string_view text) {
     for (std::size_t i = firstOfLength[text.size()]; i < firstOfLength[text.size() + 1]; ++i)
         if (isName(text, namedKeys[i].name)) return namedKeys[i].key;
     return LibraryKey::other;
-}
-
-bool isAscii(std::string_view text) {
-    char highBits = 0;
-    for (const char c : text)
-        highBits = static_cast<char>(highBits | c);
-    return (highBits & 0x80) == 0;
 }
 
 } // namespace

@@ -52,9 +52,7 @@ void RecordFiller::store(TrackRecord& record, LibraryKey key, std::string_view t
     case LibraryKey::dateAdded:
         storeDate(record, text);
         return;
-    case LibraryKey::none:
-    case LibraryKey::other:
-    case LibraryKey::playlists:
+    default: // what a record does not keep
         return;
     }
 }

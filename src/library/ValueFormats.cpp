@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "library/ValueFormats.h"
 
+#include "library/Trim.h"
+
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -71,6 +74,14 @@ std::int32_t integerValue(std::string_view text) {
     if (negative || text.starts_with('+')) text.remove_prefix(1);
     const std::int64_t value = negatedDigits(text);
     return heldTo32Bits(negative ? value : -value);
+}
+
+std::optional<std::int64_t> wholeNumber(std::string_view text) {
+    text = trimmed(text);
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size()) return {};
+    return number;
 }
 
 std::string sizestring(std::int32_t bytes) {

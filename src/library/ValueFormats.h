@@ -21,6 +21,9 @@ std::int32_t TimestringToSec(std::string_view time);
 /// The leading decimal integer of a text, blanks before it skipped, held to 32 bits: "12abc" gives 12, "" 0.
 std::int32_t integerValue(std::string_view text);
 
+/// The number that a text is, blanks around it left out; nothing for any other text.
+std::optional<std::int64_t> wholeNumber(std::string_view text);
+
 /// A file size for display: "5.1 MB" of 5242880 bytes, one tenth above the truncated value.
 std::string sizestring(std::int32_t bytes);
 /// The record's size for display, "" where the library gave none.

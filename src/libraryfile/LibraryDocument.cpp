@@ -139,7 +139,8 @@ LibraryDocument::tracksWithPersistentId(std::string_view persistentId) {
         if (isDeleted(track)) continue;
         if (id.kind == PersistentId::Kind::hashed) {
             const auto values = fields(track);
-            if (!values || PersistentId::of(trimmed(values.value()->text("persistent id"))) != id) continue;
+            if (!values || PersistentId::of(trimmed(values.value()->text(LibraryKey::persistentId))) != id)
+                continue;
         }
         found.push_back(track);
     }

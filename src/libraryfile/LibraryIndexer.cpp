@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "library/LibraryKeys.h"
 #include "library/Trim.h"
+#include "library/ValueFormats.h"
 #include "libraryfile/LibraryIndex.h"
-#include "libraryfile/LibraryWords.h"
 #include "libraryfile/TagScanner.h"
 
 #include <algorithm>
@@ -11,6 +12,20 @@
 namespace songsweep {
 
 namespace {
+
+/// What an open element is to the library.
+enum class LibraryPlace : std::uint8_t {
+    plist,
+    top,
+    tracks,
+    track,
+    playlists,
+    playlist,
+    items,
+    item,
+    key,
+    value
+};
 
 bool needsDecoding(char c) { return c == '&' || c == '<' || c == '\r'; }
 
@@ -77,8 +92,8 @@ class Indexer {
             return dictionary ? LibraryPlace::playlist : LibraryPlace::value;
         case LibraryPlace::playlist:
             if (tag.element == Element::key) return LibraryPlace::key;
-            return tag.element == Element::array && m_key == LibraryKey::items ? LibraryPlace::items
-                                                                               : LibraryPlace::value;
+            return tag.element == Element::array && m_key == LibraryKey::playlistItems ? LibraryPlace::items
+                                                                                       : LibraryPlace::value;
         case LibraryPlace::items:
             return dictionary ? LibraryPlace::item : LibraryPlace::value;
         case LibraryPlace::track:
@@ -161,7 +176,7 @@ class Indexer {
         if (parent == LibraryPlace::tracks) {
             m_entryId = wholeNumber(decoded(text)).value_or(-1);
         } else if (parent != LibraryPlace::value) {
-            m_key = keyCalled(decoded(text), parent);
+            m_key = libraryKey(decoded(text));
         }
     }
 
@@ -188,14 +203,16 @@ class Indexer {
     void trackValue(std::string_view text) {
         if (m_key == LibraryKey::trackId) {
             if (const auto id = wholeNumber(decoded(text))) m_track.trackId = *id;
-        } else {
+        } else if (m_key == LibraryKey::persistentId) {
             const PersistentId id = PersistentId::of(trimmed(decoded(text)));
             m_track.persistentId = id.value;
             m_track.persistentIdKind = id.kind;
         }
     }
 
-    void itemValue(std::string_view text) { m_itemId = wholeNumber(decoded(text)).value_or(-1); }
+    void itemValue(std::string_view text) {
+        if (m_key == LibraryKey::trackId) m_itemId = wholeNumber(decoded(text)).value_or(-1);
+    }
 
     void playlistValue(Element element, std::string_view text) {
         PlaylistSlot& playlist = m_index.playlists.back();

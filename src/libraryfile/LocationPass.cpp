@@ -14,8 +14,8 @@ Result<void> LocationPass::run(const Callback& callback) const {
         const auto parsed = TrackFields::parse(window.view(track), m_entities);
         if (window.error()) return *window.error();
         if (!parsed) return busy();
-        const auto path = pathOfUrl(trimmed(parsed->text("location")));
-        if (path && !callback(trimmed(parsed->text("persistent id")), *path)) return {};
+        const auto path = pathOfUrl(trimmed(parsed->text(LibraryKey::location)));
+        if (path && !callback(trimmed(parsed->text(LibraryKey::persistentId)), *path)) return {};
     }
     const auto stamp = LibraryFile::stampOf(m_path);
     if (!stamp) return stamp.error();

@@ -65,12 +65,6 @@ class EntryTags {
     Kind m_kind = Kind::open;
 };
 
-std::string lowerCase(std::string text) {
-    for (char& c : text)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c | 0x20);
-    return text;
-}
-
 constexpr int entryDepth = 1; // inside the entry's dictionary
 
 } // namespace
@@ -78,7 +72,7 @@ constexpr int entryDepth = 1; // inside the entry's dictionary
 std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlEntities& entities) {
     TrackFields fields;
     EntryTags tags(entry);
-    std::string key;
+    LibraryKey key = LibraryKey::none;
     int depth = 0;
     bool leaf = false;
     while (tags.next()) {
@@ -94,10 +88,10 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
             auto value = decodeXmlText(empty ? std::string_view() : tags.text(), entities);
             if (!value) return {};
             if (tags.name() == "key") {
-                key = lowerCase(std::move(*value));
+                key = libraryKey(*value);
             } else if (tags.name() != "dict" && tags.name() != "array") {
-                fields.m_values.emplace_back(std::move(key), std::move(*value));
-                key.clear();
+                fields.keep(key, std::move(*value));
+                key = LibraryKey::none;
             }
         }
         leaf = false;
@@ -106,7 +100,12 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
     return fields;
 }
 
-const std::string* TrackFields::find(std::string_view key) const {
+void TrackFields::keep(LibraryKey key, std::string value) {
+    if (key == LibraryKey::none || key == LibraryKey::other) return;
+    m_values.emplace_back(key, std::move(value));
+}
+
+const std::string* TrackFields::find(LibraryKey key) const {
     const auto found = std::find_if(m_values.rbegin(), m_values.rend(),
                                     [&](const auto& value) { return value.first == key; });
     return found == m_values.rend() ? nullptr : &found->second;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/ValueTexts.h"
 
+#include "platform/Epochs.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -55,7 +57,7 @@ std::int64_t leadingInteger(std::string_view text) {
 
 std::string dateText(std::int64_t longDateTime) {
     using namespace std::chrono;
-    const sys_seconds moment = sys_days(year{1904} / January / 1) + seconds(longDateTime);
+    const sys_seconds moment = longDateTimeEpoch + seconds(longDateTime);
     const auto day = floor<days>(moment);
     const year_month_day date(day);
     const hh_mm_ss time(moment - day);

@@ -21,7 +21,15 @@ TEST(LibraryKeys, AreKnownInAnyCase) {
     EXPECT_EQ(libraryKey("Artwork Count"), LibraryKey::artworkCount);
     EXPECT_EQ(libraryKey("Track Type"), LibraryKey::trackType);
     EXPECT_EQ(libraryKey("Date Added"), LibraryKey::dateAdded);
+    EXPECT_EQ(libraryKey("Tracks"), LibraryKey::tracks);
     EXPECT_EQ(libraryKey("Playlists"), LibraryKey::playlists);
+    EXPECT_EQ(libraryKey("Playlist Persistent ID"), LibraryKey::playlistPersistentId);
+    EXPECT_EQ(libraryKey("Master"), LibraryKey::master);
+    EXPECT_EQ(libraryKey("Smart Info"), LibraryKey::smartInfo);
+    EXPECT_EQ(libraryKey("Folder"), LibraryKey::folder);
+    EXPECT_EQ(libraryKey("Visible"), LibraryKey::visible);
+    EXPECT_EQ(libraryKey("Distinguished Kind"), LibraryKey::distinguishedKind);
+    EXPECT_EQ(libraryKey("Playlist Items"), LibraryKey::playlistItems);
 }
 
 TEST(LibraryKeys, OthersAreNotTakenForThem) {

@@ -100,6 +100,14 @@ TEST(Sizestring, IsEmptyWithoutASize) {
     EXPECT_EQ(sizestring(TrackRecord{.size = "0"}), "0.1 MB");
 }
 
+TEST(WholeNumber, IsTheWholeTextButForBlanks) {
+    EXPECT_EQ(wholeNumber("1873"), 1873);
+    EXPECT_EQ(wholeNumber(" -7\n"), -7);
+    EXPECT_EQ(wholeNumber("007"), 7);
+    for (const char* const text : {"", " ", "12abc", "1 2", "+1", "9223372036854775808"})
+        EXPECT_EQ(wholeNumber(text), std::nullopt) << text;
+}
+
 TEST(LibraryDate, IsReadAsUniversalTime) {
     EXPECT_EQ(parseLibraryDate("1970-01-01T00:00:00Z"), 0);
     EXPECT_EQ(parseLibraryDate("2009-03-14T15:09:26Z"), 1237043366);

@@ -22,7 +22,7 @@ class LibraryDocumentTest : public testing::Test {
         return *m_library;
     }
 
-    std::string text(LibraryDocument::TrackPosition track, std::string_view key) {
+    std::string text(LibraryDocument::TrackPosition track, LibraryKey key) {
         return std::string(m_library->fields(track).value()->text(key));
     }
 
@@ -76,18 +76,19 @@ TEST_F(LibraryDocumentTest, ReadsTheValuesOfATrackAsTheyStand) {
     LibraryDocument& library = open(
         libraryXml({{1, "00A1B2C3D4E5F607",
                      "<key>Name</key><string> A &#38; B &lt;x&gt; <![CDATA[<&>]]><!-- no -->\r\n! </string>"
-                     "<key>Empty</key><string/><key>Disabled</key><true/><key>List</key><array><string>x</"
-                     "string></array>"
+                     "<key>Album</key><string/><key>Track Type</key><true/>"
+                     "<key>Location</key><array><string>x</string></array><key>Other</key><string>y</string>"
                      "<key>BIT rate</key><integer>192</integer>"}},
                    {}));
     const auto track = library.tracksWithPersistentId("00a1b2c3d4e5f607").at(0);
-    EXPECT_EQ(text(track, "name"), " A & B <x> <&>\n! ");
-    EXPECT_EQ(text(track, "persistent id"), "00A1B2C3D4E5F607");
-    EXPECT_EQ(text(track, "bit rate"), "192");
-    EXPECT_NE(library.fields(track).value()->find("empty"), nullptr);
-    EXPECT_NE(library.fields(track).value()->find("disabled"), nullptr);
-    EXPECT_EQ(library.fields(track).value()->find("list"), nullptr);
-    EXPECT_EQ(library.fields(track).value()->find("1"), nullptr);
+    EXPECT_EQ(text(track, LibraryKey::name), " A & B <x> <&>\n! ");
+    EXPECT_EQ(text(track, LibraryKey::persistentId), "00A1B2C3D4E5F607");
+    EXPECT_EQ(text(track, LibraryKey::bitRate), "192");
+    EXPECT_NE(library.fields(track).value()->find(LibraryKey::album), nullptr);
+    EXPECT_NE(library.fields(track).value()->find(LibraryKey::trackType), nullptr);
+    EXPECT_EQ(library.fields(track).value()->find(LibraryKey::location), nullptr);
+    EXPECT_EQ(library.fields(track).value()->find(LibraryKey::other), nullptr);
+    EXPECT_EQ(library.fields(track).value()->find(LibraryKey::none), nullptr);
 }
 
 TEST_F(LibraryDocumentTest, ReplacesDeclaredEntitiesWithinBounds) {
@@ -95,7 +96,7 @@ TEST_F(LibraryDocumentTest, ReplacesDeclaredEntitiesWithinBounds) {
     const std::string end = "PropertyList-1.0.dtd\"";
     text.insert(text.find(end) + end.size(), " [<!ENTITY who 'Ann &#38;amp; Bob'><!ENTITY deep '&who;'>]");
     open(text);
-    EXPECT_EQ(this->text(0, "name"), "Ann & Bob  Ann & Bob");
+    EXPECT_EQ(this->text(0, LibraryKey::name), "Ann & Bob  Ann & Bob");
 }
 
 TEST_F(LibraryDocumentTest, EntitiesThatGrowWithoutBoundGiveNoValue) {

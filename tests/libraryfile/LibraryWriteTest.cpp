@@ -62,7 +62,9 @@ TEST_F(LibraryWriteTest, TakesOutATrackAndItsItemsAndLeavesNoBlankLine) {
     EXPECT_EQ(m_library->pendingDeletions(), 0U);
     EXPECT_EQ(m_library->trackCount(), 1);
     EXPECT_EQ(m_library->playlists()[1].trackCount, 2);
-    EXPECT_EQ(m_library->fields(m_library->tracksWithPersistentId("A2")[0]).value()->text("track id"), "2");
+    EXPECT_EQ(
+        m_library->fields(m_library->tracksWithPersistentId("A2")[0]).value()->text(LibraryKey::trackId),
+        "2");
 }
 
 TEST_F(LibraryWriteTest, AThousandOfTenThousandLeaveTheOtherBytesUnchanged) {

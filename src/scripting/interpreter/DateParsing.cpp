@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "platform/Epochs.h"
 #include "scripting/interpreter/ValueProperties.h"
 #include "scripting/interpreter/Words.h"
 
@@ -119,8 +120,7 @@ std::optional<Date> dateIn(std::string_view text) {
     if (!day) return {};
     const std::optional<int> time = reader.atEnd() ? 0 : timeOfDay(reader);
     if (!time || !reader.atEnd()) return {};
-    const auto start = sys_days(year{1904} / January / 1);
-    return Date{duration_cast<seconds>(sys_days(*day) - start).count() + *time};
+    return Date{duration_cast<seconds>(sys_days(*day) - longDateTimeEpoch).count() + *time};
 }
 
 } // namespace songsweep::interpreter

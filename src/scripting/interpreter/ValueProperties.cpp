@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/interpreter/ValueProperties.h"
 
+#include "platform/Epochs.h"
 #include "scripting/interpreter/TextFolding.h"
 #include "scripting/interpreter/Words.h"
 
@@ -21,7 +22,7 @@ std::int64_t timeOfDay(Date date) {
 
 std::chrono::year_month_day calendarDay(Date date) {
     using namespace std::chrono;
-    const sys_seconds moment = sys_days(year{1904} / January / 1) + seconds(date.longDateTime);
+    const sys_seconds moment = longDateTimeEpoch + seconds(date.longDateTime);
     return floor<days>(moment);
 }
 
