@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Program.h"
 
-#include "library/LocationUrl.h"
+#include "library/RecentLibrary.h"
 #include "platform/GivenLibrary.h"
 #include "platform/Log.h"
 #include "platform/Native.h"
@@ -34,13 +34,6 @@ std::optional<IAppsDomain> ChosenLibraryPreferences::iAppsPropertyList(const std
 
 std::string ChosenLibraryPreferences::homeFolder() const { return present().homeFolder(); }
 
-std::string ChosenLibraryPreferences::libraryPath() const {
-    std::optional<IAppsDomain> domain = iAppsDomain();
-    if (!domain) domain = iAppsPropertyList(homeFolder() + "/Library/Preferences/com.apple.iApps.plist");
-    if (!domain || domain->iTunesRecentDatabases.empty()) return {};
-    return pathOfUrl(domain->iTunesRecentDatabases.front()).value_or(std::string());
-}
-
 Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> systemScripts)
     : m_options(std::move(options))
     , m_log(log)
@@ -55,7 +48,7 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
     }
     // Nothing is pending in a program that has just begun. The system's iTunes, too, has its files looked at
     // here.
-    (void)m_scripting.openLibrary(m_preferences.libraryPath());
+    (void)m_scripting.openLibrary(recentLibrary(m_preferences).path.value_or(""));
 }
 
 EmbeddedScripting::Options Program::scriptingOptions() {

@@ -43,9 +43,6 @@ class ChosenLibraryPreferences final : public Preferences {
     std::optional<IAppsDomain> iAppsPropertyList(const std::string& path) const override;
     std::string homeFolder() const override;
 
-    /// The path of the file that a reader would take; empty where there is none.
-    std::string libraryPath() const;
-
   private:
     const Preferences& present() const;
 

@@ -3,6 +3,7 @@
 
 #include "app/Program.h"
 #include "dupes/MarkingRules.h"
+#include "library/RecentLibrary.h"
 #include "platform/Native.h"
 
 #include <CLI/CLI.hpp>
@@ -121,7 +122,7 @@ void finishFindOptions(FindOptions& options, const Raw& raw) {
 /// The library file that the options lead to, named or not; empty where there is none.
 std::string libraryOf(const LibraryOptions& options) {
     if (!options.library.empty()) return options.library;
-    return ChosenLibraryPreferences(nativePreferences()).libraryPath();
+    return recentLibrary(*nativePreferences()).path.value_or("");
 }
 
 /// Two names of one file: one path, or two that links lead to one file.

@@ -1,37 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "library/LibraryFileFinder.h"
 
-#include "library/LocationUrl.h"
+#include "library/RecentLibrary.h"
 #include "operations/Operation.h"
 #include "platform/Log.h"
-#include "platform/Preferences.h"
 #include "platform/Sleeper.h"
+
+#include <utility>
 
 namespace songsweep {
 
-namespace {
-
-/// The domain, from the user's preferences or else straight from their file.
-std::optional<IAppsDomain> iAppsDomain(const ReaderServices& services) {
-    if (auto domain = services.preferences.iAppsDomain()) return domain;
-    std::string path = services.preferences.homeFolder();
-    if (path.ends_with('/')) path.pop_back();
-    path += "/Library/Preferences/com.apple.iApps.plist";
-    services.log.line("Home folder: " + path);
-    return services.preferences.iAppsPropertyList(path);
-}
-
-} // namespace
-
 std::optional<std::string> LibraryFileFinder::locate() const {
-    const std::optional<IAppsDomain> domain = iAppsDomain(m_services);
-    if (!domain || domain->iTunesRecentDatabases.empty()) {
+    RecentLibrary recent = recentLibrary(m_services.preferences);
+    if (!recent.propertyList.empty()) m_services.log.line("Home folder: " + recent.propertyList);
+    if (!recent.isNamed) {
         m_services.log.line("RecentDatabases !> 0");
         return {};
     }
-    std::optional<std::string> path = pathOfUrl(domain->iTunesRecentDatabases.front());
-    m_services.log.line("iTunes library file : " + path.value_or("(null)"));
-    if (path && m_files.exists(*path)) return path;
+    m_services.log.line("iTunes library file : " + recent.path.value_or("(null)"));
+    if (recent.path && m_files.exists(*recent.path)) return std::move(recent.path);
     m_services.log.line("Cannot locate iTunes XML");
     return {};
 }
