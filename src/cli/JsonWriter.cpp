@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 #include "cli/SearchReport.h"
+#include "library/Groups.h"
 #include "library/ValueFormats.h"
 
 #include <nlohmann/json.hpp>
@@ -47,16 +48,16 @@ void writeJson(Output& output, const SearchReport& report) {
     output.write("{\n  \"tracks\": " + std::to_string(report.tracks) +
                  ",\n  \"listed\": " + std::to_string(report.listed) +
                  ",\n  \"songs\": " + std::to_string(report.rows.size()) + ",\n  \"groups\": [");
-    forEachGroup(report.rows, [&](int first, int end) {
-        output.write(first == 0 ? "\n" : ",\n");
-        output.write("    {\"gid\": " + std::to_string(report.rows.at(first)->gid) + ", \"tracks\": [");
-        for (int row = first; row < end; ++row) {
+    for (const RowGroup group : groupsOf(report.rows)) {
+        output.write(group.first == 0 ? "\n" : ",\n");
+        output.write("    {\"gid\": " + std::to_string(report.rows.at(group.first)->gid) + ", \"tracks\": [");
+        for (std::size_t row = group.first; row < group.end; ++row) {
             Json track = trackObject(*report.rows.at(row));
-            if (report.reason) track["reason"] = report.reason(row);
-            output.write((row == first ? "\n      " : ",\n      ") + dump(track));
+            if (report.reason) track["reason"] = report.reason(static_cast<int>(row));
+            output.write((row == group.first ? "\n      " : ",\n      ") + dump(track));
         }
         output.write("\n    ]}");
-    });
+    }
     output.write(report.rows.empty() ? "]\n}\n" : "\n  ]\n}\n");
 }
 

@@ -2,6 +2,7 @@
 #include "cli/SearchReport.h"
 
 #include "library/DisplayedList.h"
+#include "library/Groups.h"
 
 #include <algorithm>
 
@@ -26,21 +27,10 @@ void writeReport(Output& output, const SearchReport& report, OutputFormat format
     }
 }
 
-void forEachGroup(const std::vector<TrackRecord*>& rows,
-                  const std::function<void(int first, int end)>& handle) {
-    const int count = static_cast<int>(rows.size());
-    for (int first = 0; first < count;) {
-        int end = first + 1;
-        while (end < count && rows.at(end)->gid == rows.at(first)->gid)
-            ++end;
-        handle(first, end);
-        first = end;
-    }
-}
-
 std::string summaryLine(const SearchReport& report) {
     int groups = 0;
-    forEachGroup(report.rows, [&](int, int) { ++groups; });
+    for ([[maybe_unused]] const RowGroup group : groupsOf(report.rows))
+        ++groups;
     const auto missing = static_cast<int>(std::count_if(
         report.rows.begin(), report.rows.end(), [](const TrackRecord* record) { return record->isdead; }));
     std::string line = counted(static_cast<int>(report.rows.size()), "song", "songs") + " in " +

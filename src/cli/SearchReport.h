@@ -36,8 +36,4 @@ void writeCsv(Output& output, const SearchReport& report);
 /// "12 songs in 5 groups, 3 files missing"; marked rows are counted where a rule was asked for.
 std::string summaryLine(const SearchReport& report);
 
-/// Calls `handle` with the first row of each group and the row behind its last.
-void forEachGroup(const std::vector<TrackRecord*>& rows,
-                  const std::function<void(int first, int end)>& handle);
-
 } // namespace songsweep::cli

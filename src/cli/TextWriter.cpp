@@ -2,6 +2,7 @@
 #include "cli/Output.h"
 #include "cli/SearchReport.h"
 #include "cli/TextTable.h"
+#include "library/Groups.h"
 #include "library/ValueFormats.h"
 
 #include <algorithm>
@@ -59,11 +60,11 @@ void writeText(Output& output, const SearchReport& report) {
     for (int row = 0; row < static_cast<int>(report.rows.size()); ++row)
         table.measure(cells(report, row));
     if (!report.rows.empty()) output.write(table.titles());
-    forEachGroup(report.rows, [&](int first, int end) {
+    for (const RowGroup group : groupsOf(report.rows)) {
         output.write("\n");
-        for (int row = first; row < end; ++row)
-            output.write(table.line(cells(report, row)));
-    });
+        for (std::size_t row = group.first; row < group.end; ++row)
+            output.write(table.line(cells(report, static_cast<int>(row))));
+    }
     output.write((report.rows.empty() ? "" : "\n") + summaryLine(report) + "\n");
 }
 

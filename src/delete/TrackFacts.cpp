@@ -3,14 +3,13 @@
 
 #include "delete/MarkedIds.h"
 #include "library/DisplayedList.h"
+#include "library/Groups.h"
 
 #include <algorithm>
 
 namespace songsweep {
 
 namespace {
-
-using Row = std::vector<TrackRecord*>::const_iterator;
 
 MarkedIds markedIds(const std::vector<TrackRecord*>& rows) {
     MarkedIds ids;
@@ -19,7 +18,9 @@ MarkedIds markedIds(const std::vector<TrackRecord*>& rows) {
     return ids;
 }
 
-bool losesEveryCopy(Row first, Row end, const MarkedIds& ids) {
+bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group, const MarkedIds& ids) {
+    const auto first = rows.begin() + static_cast<std::ptrdiff_t>(group.first);
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(group.end);
     const bool works = std::any_of(first, end, [](const TrackRecord* record) { return !record->isdead; });
     return std::all_of(first, end, [works, &ids](const TrackRecord* record) {
         return record->checkbox || (works && record->isdead) || ids.contains(record->pid);
@@ -38,12 +39,8 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
     const MarkedIds ids = markedIds(rows);
     int count = 0;
-    for (Row first = rows.begin(); first != rows.end();) {
-        const Row end = std::find_if(
-            first, rows.end(), [first](const TrackRecord* record) { return record->gid != (*first)->gid; });
-        count += losesEveryCopy(first, end, ids) ? 1 : 0;
-        first = end;
-    }
+    for (const RowGroup group : groupsOf(rows))
+        count += losesEveryCopy(rows, group, ids) ? 1 : 0;
     return count;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dupes/MarkRules.h"
+#include "library/Groups.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,14 +11,6 @@
 namespace songsweep {
 
 /// The walk over the groups that all rules share. The compiler makes one tight loop of walk and rule.
-
-/// The position behind the group that begins at `first`.
-inline std::size_t groupEnd(const TrackRows& rows, std::size_t first) {
-    std::size_t end = first + 1;
-    while (end < rows.size() && rows[end]->gid == rows[first]->gid)
-        ++end;
-    return end;
-}
 
 inline constexpr std::size_t noRow = static_cast<std::size_t>(-1);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "library/DisplayedList.h"
 
+#include "library/Groups.h"
 #include "library/KeySort.h"
 #include "library/ValueFormats.h"
 
@@ -55,21 +56,14 @@ void addColumnValue(SortKey& key, const TrackRecord& record, Column column) {
     }
 }
 
-using Row = std::vector<TrackRecord*>::iterator;
-
-Row endOfGroup(Row begin, Row end) {
-    return std::find_if(begin, end, [begin](const TrackRecord* row) { return row->gid != (*begin)->gid; });
-}
-
 } // namespace
 
 void realignShowID(std::vector<TrackRecord*>& rows) {
     bool band = false;
-    for (auto begin = rows.begin(); begin != rows.end();) {
+    for (const RowGroup group : groupsOf(rows)) {
         band = !band;
-        const auto end = endOfGroup(begin, rows.end());
-        std::for_each(begin, end, [band](TrackRecord* row) { row->showid = band; });
-        begin = end;
+        for (std::size_t row = group.first; row < group.end; ++row)
+            rows[row]->showid = band;
     }
 }
 
@@ -77,14 +71,14 @@ void sortInsideGroups(std::vector<TrackRecord*>& rows, Column column, bool ascen
     // One sort for all groups: the group's place decides first.
     KeySort sort(rows.size());
     SortKey key;
-    std::int64_t group = 0;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i > 0 && rows[i]->gid != rows[i - 1]->gid) ++group;
-        key.clear().number(group);
-        const std::size_t start = key.size();
-        addColumnValue(key, *rows[i], column);
-        if (!ascending) key.reverse(start);
-        sort.add(key.bytes());
+    for (const RowGroup group : groupsOf(rows)) {
+        for (std::size_t row = group.first; row < group.end; ++row) {
+            key.clear().number(static_cast<std::int64_t>(group.first));
+            const std::size_t start = key.size();
+            addColumnValue(key, *rows[row], column);
+            if (!ascending) key.reverse(start);
+            sort.add(key.bytes());
+        }
     }
 
     std::vector<TrackRecord*> sorted;
@@ -95,13 +89,13 @@ void sortInsideGroups(std::vector<TrackRecord*>& rows, Column column, bool ascen
 }
 
 void removeBrokenGroups(std::vector<TrackRecord*>& rows) {
-    auto kept = rows.begin();
-    for (auto begin = rows.begin(); begin != rows.end();) {
-        const auto end = endOfGroup(begin, rows.end());
-        if (end - begin > 1) kept = std::move(begin, end, kept);
-        begin = end;
+    std::size_t kept = 0;
+    for (const RowGroup group : groupsOf(rows)) {
+        if (group.size() < 2) continue;
+        for (std::size_t row = group.first; row < group.end; ++row)
+            rows[kept++] = rows[row];
     }
-    rows.erase(kept, rows.end());
+    rows.resize(kept);
 }
 
 int checkedCount(const std::vector<TrackRecord*>& rows) {

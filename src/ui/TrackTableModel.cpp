@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/TrackTableModel.h"
 
+#include "library/Groups.h"
 #include "ui/CellTexts.h"
 #include "ui/ColumnLook.h"
 
@@ -14,8 +15,8 @@ namespace {
 /// The first row of every group.
 std::vector<int> groupStarts(const std::vector<TrackRecord*>& rows) {
     std::vector<int> starts;
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        if (row == 0 || rows[row]->gid != rows[row - 1]->gid) starts.push_back(static_cast<int>(row));
+    for (const RowGroup group : groupsOf(rows))
+        starts.push_back(static_cast<int>(group.first));
     return starts;
 }
 
