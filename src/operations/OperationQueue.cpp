@@ -10,7 +10,7 @@ namespace songsweep {
 
 OperationQueue::OperationQueue(EventCenter& center, Log& log)
     : m_center(center)
-    , m_runner(std::make_unique<Runner>(center, log)) {}
+    , m_runner(std::make_unique<OperationRunner>(center, log)) {}
 
 OperationQueue::~OperationQueue() {
     cancelAllOperations();

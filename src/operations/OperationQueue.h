@@ -9,6 +9,7 @@
 namespace songsweep {
 
 class Log;
+class OperationRunner;
 class EventCenter;
 
 /// Runs operations on worker threads, each only when the one before it has returned, in the order added.
@@ -36,9 +37,8 @@ class OperationQueue {
     void waitUntilAllOperationsAreFinished();
 
   private:
-    class Runner;
     EventCenter& m_center;
-    std::unique_ptr<Runner> m_runner;
+    std::unique_ptr<OperationRunner> m_runner;
 };
 
 } // namespace songsweep

@@ -13,9 +13,9 @@
 namespace songsweep {
 
 /// Stands on the main thread and is told, by an event of its loop, that the last operation has returned.
-class OperationQueue::Runner::IdleReceiver final : public QObject {
+class OperationRunner::IdleReceiver final : public QObject {
   public:
-    explicit IdleReceiver(const Runner& runner)
+    explicit IdleReceiver(const OperationRunner& runner)
         : m_runner(runner) {}
     std::function<void()> handler;
 
@@ -25,10 +25,10 @@ class OperationQueue::Runner::IdleReceiver final : public QObject {
     }
 
   private:
-    const Runner& m_runner;
+    const OperationRunner& m_runner;
 };
 
-OperationQueue::Runner::Runner(EventCenter& center, Log& log)
+OperationRunner::OperationRunner(EventCenter& center, Log& log)
     : m_center(center)
     , m_log(log)
     , m_idleReceiver(std::make_unique<IdleReceiver>(*this)) {
@@ -36,43 +36,43 @@ OperationQueue::Runner::Runner(EventCenter& center, Log& log)
     m_pool.setMaxThreadCount(1);
 }
 
-OperationQueue::Runner::~Runner() { m_pool.waitForDone(); }
+OperationRunner::~OperationRunner() { m_pool.waitForDone(); }
 
-void OperationQueue::Runner::add(std::unique_ptr<Operation> operation) {
+void OperationRunner::add(std::unique_ptr<Operation> operation) {
     const std::lock_guard lock(m_lock);
     m_waiting.push_back(std::move(operation));
     if (!std::exchange(m_isActive, true)) m_pool.start(this);
 }
 
-void OperationQueue::Runner::cancelAll() {
+void OperationRunner::cancelAll() {
     const std::lock_guard lock(m_lock);
     for (auto& operation : m_waiting)
         operation->cancel();
     if (m_running) m_running->cancel();
 }
 
-int OperationQueue::Runner::count() const {
+int OperationRunner::count() const {
     const std::lock_guard lock(m_lock);
     return static_cast<int>(m_waiting.size()) + (m_running ? 1 : 0);
 }
 
-void OperationQueue::Runner::setIdleHandler(std::function<void()> handler) {
+void OperationRunner::setIdleHandler(std::function<void()> handler) {
     m_idleReceiver->handler = std::move(handler);
 }
 
-void OperationQueue::Runner::waitUntilIdle() {
+void OperationRunner::waitUntilIdle() {
     std::unique_lock lock(m_lock);
     m_becameIdle.wait(lock, [this] { return !m_isActive; });
 }
 
-void OperationQueue::Runner::run() {
+void OperationRunner::run() {
     while (auto* operation = takeNext()) {
         runMain(*operation);
         letGo(m_center.flush());
     }
 }
 
-Operation* OperationQueue::Runner::takeNext() {
+Operation* OperationRunner::takeNext() {
     const std::lock_guard lock(m_lock);
     if (m_waiting.empty()) {
         m_isActive = false;
@@ -85,7 +85,7 @@ Operation* OperationQueue::Runner::takeNext() {
     return m_running.get();
 }
 
-void OperationQueue::Runner::runMain(Operation& operation) {
+void OperationRunner::runMain(Operation& operation) {
     try {
         operation.main();
     } catch (const std::exception& exception) {
@@ -95,7 +95,7 @@ void OperationQueue::Runner::runMain(Operation& operation) {
     }
 }
 
-void OperationQueue::Runner::letGo(bool isHandled) {
+void OperationRunner::letGo(bool isHandled) {
     std::unique_ptr<Operation> done;
     const std::lock_guard lock(m_lock);
     if (isHandled) {
@@ -105,7 +105,7 @@ void OperationQueue::Runner::letGo(bool isHandled) {
     }
 }
 
-void OperationQueue::Runner::tellIdle() {
+void OperationRunner::tellIdle() {
     QCoreApplication::postEvent(m_idleReceiver.get(), new QEvent(QEvent::User));
 }
 

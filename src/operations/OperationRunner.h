@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "operations/OperationQueue.h"
+#include "operations/Operation.h"
 
 #include <QObject>
 #include <QRunnable>
@@ -9,19 +9,24 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
+#include <memory>
 #include <mutex>
 #include <vector>
 
 namespace songsweep {
 
+class EventCenter;
+class Log;
+
 /// The queue's task: runs the waiting operations one after another on the queue's own pool of one thread.
 ///
 /// It is one long-lived runnable, started again whenever operations wait and none runs. All that the threads
 /// share is behind one lock, so that nothing relies on how the pool hands a task over.
-class OperationQueue::Runner final : public QRunnable {
+class OperationRunner final : public QRunnable {
   public:
-    Runner(EventCenter& center, Log& log);
-    ~Runner() override;
+    OperationRunner(EventCenter& center, Log& log);
+    ~OperationRunner() override;
 
     void add(std::unique_ptr<Operation> operation);
     void cancelAll();
