@@ -17,8 +17,8 @@ constexpr auto mainThreadWatch = std::chrono::microseconds(30);
 
 HandOff::HandOff(Handlers handlers)
     : m_handlers(std::move(handlers))
-    , m_posterPatience(posterSpin)
-    , m_watchPatience(mainThreadWatch) {}
+    , m_posterWait(posterSpin)
+    , m_watchWait(mainThreadWatch) {}
 
 HandOff::~HandOff() {
     close();
@@ -49,7 +49,7 @@ bool HandOff::passPhase() {
 }
 
 bool HandOff::waitUntilHandled() {
-    if (!m_posterPatience.spinUntil([this] { return !isPosted(); })) {
+    if (!m_posterWait.spinUntil([this] { return !isPosted(); })) {
         m_phase.wait(Phase::posted, std::memory_order_acquire);
     }
     return !isClosed();

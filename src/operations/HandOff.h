@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "operations/Patience.h"
+#include "operations/SpinThenPark.h"
 
 #include <QBasicTimer>
 #include <QObject>
@@ -82,8 +82,8 @@ class HandOff final : public QObject {
     std::atomic<Phase> m_phase = Phase::away;
     std::atomic<int> m_postersInside = 0;
     std::atomic<bool> m_countsAsked = false; ///< the main thread is to look after the counts
-    Patience m_posterPatience;
-    Patience m_watchPatience;
+    SpinThenPark m_posterWait;
+    SpinThenPark m_watchWait;
     QBasicTimer m_countTimer;
     bool m_batchInHand = false;
 };

@@ -42,7 +42,7 @@ void HandOff::handlePosted() {
             const Scoped inHand(m_batchInHand, true);
             m_handlers.posted();
         }
-        const bool watches = std::chrono::steady_clock::now() < sliceEnd && !m_watchPatience.isSpent();
+        const bool watches = std::chrono::steady_clock::now() < sliceEnd && !m_watchWait.parksAtOnce();
         finishBatch(watches ? Phase::watching : Phase::away);
         hasNext = watches && watchForNext();
     }
@@ -55,7 +55,7 @@ void HandOff::finishBatch(Phase next) {
 }
 
 bool HandOff::watchForNext() {
-    if (m_watchPatience.spinUntil([this] { return isPosted() || isClosed(); })) return isPosted();
+    if (m_watchWait.spinUntil([this] { return isPosted() || isClosed(); })) return isPosted();
     auto expected = Phase::watching;
     return !m_phase.compare_exchange_strong(expected, Phase::away, std::memory_order_acq_rel) &&
            expected == Phase::posted;

@@ -12,13 +12,13 @@ namespace songsweep {
 /// A wake-up across cores costs many times what a few yields cost, so a short wait is best spent yielding.
 /// On a busy machine a single yield can give away a whole time slice: once one turned out slow, the next
 /// waits do not spin at all, each time for longer. One object for each waiting side; not thread-safe.
-class Patience {
+class SpinThenPark {
   public:
-    explicit Patience(std::chrono::microseconds limit)
+    explicit SpinThenPark(std::chrono::microseconds limit)
         : m_limit(limit) {}
 
     /// Whether the next wait would spin at all. Counts as one wait where it would not.
-    bool isSpent() {
+    bool parksAtOnce() {
         if (m_rest == 0) return false;
         --m_rest;
         return true;
@@ -27,7 +27,7 @@ class Patience {
     /// Yields until ready() is true, the limit is over or a yield was slow. Returns what ready() says last.
     template <typename Ready>
     bool spinUntil(Ready ready) {
-        if (isSpent()) return ready();
+        if (parksAtOnce()) return ready();
         auto before = Clock::now();
         const auto end = before + m_limit;
         while (!ready()) {
