@@ -10,7 +10,7 @@
 #include "libraryfile/FileCopy.h"
 #include "libraryfile/LibraryDocument.h"
 #include "libraryfile/LibraryIndex.h"
-#include "libraryfile/LibraryJudge.h"
+#include "libraryfile/WellFormedness.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "sample-library/BulkLibrary.h"
@@ -195,12 +195,12 @@ void measureRewrite(const std::string& path, const std::vector<std::string>& ids
             if (!copyWithoutRanges(file.value(), ranges, copy)) stop("cannot copy");
         },
         [&] { std::filesystem::remove(copy); });
-    const double judge = best([&] {
-        if (!judgeWellFormed(file.value())) stop("not well formed");
+    const double check = best([&] {
+        if (!checkWellFormedness(file.value())) stop("not well formed");
     });
     std::printf("copying but the gaps  %8.1f ms, %.2f of a copy's %.1f ms\n", copyingPart * 1e3,
                 copyingPart / copying, copying * 1e3);
-    std::printf("the full parser       %8.1f ms, once a file\n", judge * 1e3);
+    std::printf("the full parser       %8.1f ms, once a file\n", check * 1e3);
     std::printf("the first rewrite     %8.1f ms, %.2f of a copy's %.1f ms, the full parser included\n",
                 first * 1e3, first / copying, copying * 1e3);
     std::printf("a later rewrite       %8.1f ms, %.2f of a copy, read back and compared\n", second * 1e3,

@@ -19,11 +19,11 @@ constexpr std::chrono::milliseconds pause{20};
 
 } // namespace
 
-Result<FolderLock> FolderLock::acquire(const std::string& folder, std::chrono::milliseconds patience) {
+Result<FolderLock> FolderLock::acquire(const std::string& folder, std::chrono::milliseconds timeout) {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0) return systemError(errno, "open", folder);
     FolderLock lock(descriptor);
-    const auto last = std::chrono::steady_clock::now() + patience;
+    const auto last = std::chrono::steady_clock::now() + timeout;
     while (::flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR) break;
         if (std::chrono::steady_clock::now() >= last)

@@ -14,8 +14,8 @@ namespace songsweep {
 /// the file system knows no such locks, the lock is held in name only. Moves, does not copy.
 class FolderLock {
   public:
-    /// Waits up to `patience` for the lock; an error `busy` after that.
-    static Result<FolderLock> acquire(const std::string& folder, std::chrono::milliseconds patience);
+    /// Waits up to `timeout` for the lock; an error `busy` after that.
+    static Result<FolderLock> acquire(const std::string& folder, std::chrono::milliseconds timeout);
 
     FolderLock(FolderLock&& other) noexcept;
     FolderLock& operator=(FolderLock&& other) noexcept;

@@ -48,7 +48,7 @@ class LibraryDocument {
     using TrackPosition = std::uint32_t;
 
     struct Options {
-        std::chrono::milliseconds lockPatience{5000}; ///< how long a write waits for another program's
+        std::chrono::milliseconds lockTimeout{5000}; ///< how long a write waits for another program's
     };
 
     /// Indexes the file. A folder, a missing file, one without permission, one that is not well formed, cut
@@ -109,7 +109,7 @@ class LibraryDocument {
     ///
     /// All other bytes stay as they are. They go to a temporary file beside the library, which is flushed,
     /// read back, compared, and renamed over it, so that at any moment the old version or the new one is
-    /// there, complete. Before the first write a full parser judges the whole file; the first write of a run
+    /// there, complete. Before the first write a full parser checks the whole file; the first write of a run
     /// keeps the old version under a dated name. On an error (no space, no permission, not well formed, held
     /// by another program) the library is as it was and the deletions are still pending.
     Result<void> flush();
@@ -118,8 +118,8 @@ class LibraryDocument {
     const std::optional<Error>& lastWriteError() const { return m_lastWriteError; }
 
     /// The next write keeps a backup again. A document begins with a run. Tries everything that a write does
-    /// but for its bytes (the parser's judgement, the lock, a file beside the library), so that nobody begins
-    /// what cannot be written; an error says why, and nothing is changed. Costs what the judgement costs.
+    /// but for its bytes (the check of well-formedness, the lock, a file beside the library), so that nobody
+    /// begins what cannot be written; an error says why, and nothing is changed. Costs what the check costs.
     Result<void> beginDeletionRun();
     /// The backup of this run, "" while there is none.
     const std::string& backup() const { return m_backup; }
@@ -135,7 +135,7 @@ class LibraryDocument {
     void forgetLists();
     Result<void> write();
     Result<void> replaceLibrary(const std::string& target, int folderDescriptor);
-    Result<void> judgeOnce();
+    Result<void> checkWellFormednessOnce();
     std::vector<TrackPosition> libraryTracks() const;
 
     std::string m_path;
@@ -149,7 +149,7 @@ class LibraryDocument {
     std::array<Cached, 16> m_cache;
     std::size_t m_deletedCount = 0;
     DeletionMemory m_memory;
-    FileStamp m_judged; // the version of the file that the full parser has accepted
+    FileStamp m_wellFormed; // the version of the file that the full parser has accepted
     std::string m_backup;
     std::optional<Error> m_lastWriteError;
 };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/FolderLock.h"
 #include "libraryfile/LibraryDocument.h"
-#include "libraryfile/LibraryJudge.h"
 #include "libraryfile/LibraryRewrite.h"
+#include "libraryfile/WellFormedness.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -27,10 +27,10 @@ struct LockedTarget {
     FolderLock lock;
 };
 
-Result<LockedTarget> lockTarget(const std::string& path, std::chrono::milliseconds patience) {
+Result<LockedTarget> lockTarget(const std::string& path, std::chrono::milliseconds timeout) {
     auto target = realPath(path);
     if (!target) return target.error();
-    auto lock = FolderLock::acquire(target.value().substr(0, target.value().rfind('/') + 1), patience);
+    auto lock = FolderLock::acquire(target.value().substr(0, target.value().rfind('/') + 1), timeout);
     if (!lock) return lock.error();
     return LockedTarget{std::move(target).value(), std::move(lock).value()};
 }
@@ -40,8 +40,8 @@ Result<LockedTarget> lockTarget(const std::string& path, std::chrono::millisecon
 Result<void> LibraryDocument::beginDeletionRun() {
     m_backup.clear();
     if (auto refreshed = refresh(); !refreshed) return refreshed;
-    if (auto judged = judgeOnce(); !judged) return judged;
-    const auto target = lockTarget(m_path, m_options.lockPatience);
+    if (auto checked = checkWellFormednessOnce(); !checked) return checked;
+    const auto target = lockTarget(m_path, m_options.lockTimeout);
     if (!target) return target.error();
     return RewrittenLibrary::tryToWrite(*m_file, target.value().path);
 }
@@ -55,24 +55,24 @@ Result<void> LibraryDocument::flush() {
 }
 
 Result<void> LibraryDocument::write() {
-    const auto target = lockTarget(m_path, m_options.lockPatience);
+    const auto target = lockTarget(m_path, m_options.lockTimeout);
     if (!target) return target.error();
     Result<void> replaced;
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         // Under the lock, as another program may have written while this one waited.
         if (auto refreshed = refresh(); !refreshed) return refreshed;
         if (m_deletedCount == 0) return {};
-        if (auto judged = judgeOnce(); !judged) return judged;
+        if (auto checked = checkWellFormednessOnce(); !checked) return checked;
         replaced = replaceLibrary(target.value().path, target.value().lock.descriptor());
         if (replaced || replaced.error().code != Error::Code::busy) break;
     }
     return replaced;
 }
 
-Result<void> LibraryDocument::judgeOnce() {
-    if (m_judged == m_index.stamp) return {};
-    if (auto judged = judgeWellFormed(*m_file); !judged) return judged;
-    m_judged = m_index.stamp;
+Result<void> LibraryDocument::checkWellFormednessOnce() {
+    if (m_wellFormed == m_index.stamp) return {};
+    if (auto checked = checkWellFormedness(*m_file); !checked) return checked;
+    m_wellFormed = m_index.stamp;
     return {};
 }
 
@@ -92,9 +92,9 @@ Result<void> LibraryDocument::replaceLibrary(const std::string& target, int fold
     // The deletions are on disk; whatever happens to the file from here on is a change like any other.
     m_deletedCount = 0;
     m_memory = {};
-    m_judged = rewritten.value().index().stamp;
+    m_wellFormed = rewritten.value().index().stamp;
     auto file = LibraryFile::open(m_path);
-    if (!file || file.value().stamp() != m_judged) return refresh();
+    if (!file || file.value().stamp() != m_wellFormed) return refresh();
     LibraryIndex index = std::move(rewritten.value().index());
     PersistentIdTable table;
     table.build(index.tracks);

@@ -29,7 +29,7 @@ struct Tag {
 ///
 /// It looks for "<" only and hands over names and byte offsets, which makes it several times faster than a
 /// parser. It sees that tags match, that nothing ends too early and that there is one root; it does not look
-/// into attributes and does not check characters: a parser must judge the file before anything is built on
+/// into attributes and does not check characters: a parser must check the file before anything is built on
 /// that. Comments, processing instructions and CDATA sections are part of the text between tags. Entities
 /// that the document type declares are collected; one that holds markup is refused, as the tags inside would
 /// go unseen.

@@ -3,7 +3,7 @@
 #include "ProgramRun.h"
 #include "libraryfile/LibraryFile.h"
 #include "libraryfile/LibraryFixture.h"
-#include "libraryfile/LibraryJudge.h"
+#include "libraryfile/WellFormedness.h"
 #include "platform/FileUrl.h"
 
 #include <gmock/gmock.h>
@@ -96,7 +96,7 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
     void checkLibrary() {
         const auto file = LibraryFile::open(path("Library.xml"));
         ASSERT_TRUE(file) << file.error().message;
-        EXPECT_TRUE(judgeWellFormed(file.value()));
+        EXPECT_TRUE(checkWellFormedness(file.value()));
         const std::string text = m_folder.read("Library.xml");
         m_gone.clear();
         for (const int id : m_marked)

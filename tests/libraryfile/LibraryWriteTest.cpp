@@ -30,7 +30,7 @@ class LibraryWriteTest : public testing::Test {
   protected:
     LibraryDocument& open(const std::string& path) {
         LibraryDocument::Options options;
-        options.lockPatience = std::chrono::milliseconds(60);
+        options.lockTimeout = std::chrono::milliseconds(60);
         auto opened = LibraryDocument::open(path, options);
         EXPECT_TRUE(opened) << opened.error().message;
         m_library = std::move(opened).value();

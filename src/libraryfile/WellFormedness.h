@@ -9,6 +9,6 @@ namespace songsweep {
 /// that only looks so to the fast scan. Not well formed is an error with its line. Expansion of entities is
 /// bounded. For a file that was indexed: it is taken for UTF-8, whatever name it gives that. A file of 150 MB
 /// costs about a second.
-Result<void> judgeWellFormed(const LibraryFile& file);
+Result<void> checkWellFormedness(const LibraryFile& file);
 
 } // namespace songsweep

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "libraryfile/LibraryJudge.h"
+#include "libraryfile/WellFormedness.h"
 
 #include <expat.h>
 
@@ -18,7 +18,7 @@ Error parserError(XML_Parser parser) {
 
 } // namespace
 
-Result<void> judgeWellFormed(const LibraryFile& file) {
+Result<void> checkWellFormedness(const LibraryFile& file) {
     // The index was read from this file, so what it declares is UTF-8 or ASCII, by a name that this parser
     // might not know ("utf8").
     const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
