@@ -1,0 +1,3 @@
+// SPDX-License-Identifier: MIT
+#include "library/One.h"
+#include "platform/Log.h"
