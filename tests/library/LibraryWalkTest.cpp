@@ -261,6 +261,15 @@ TEST_F(LibraryWalkTest, TrackValuesAfterTheTracksAreNotStored) {
     EXPECT_THAT(names(), ElementsAre("One"));
 }
 
+TEST_F(LibraryWalkTest, AFirstDictionaryWithoutAChildDoesNotEndTheTracks) {
+    open("plist");
+    open("dict");
+    close("dict");
+    openTracks();
+    track("1", "One");
+    EXPECT_THAT(names(), ElementsAre("One"));
+}
+
 TEST_F(LibraryWalkTest, ALibraryWithoutTracksHasPlaylists) {
     openTracks();
     openPlaylists();

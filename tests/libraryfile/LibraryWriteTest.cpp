@@ -253,6 +253,16 @@ TEST_F(LibraryWriteTest, OneOfTwoTracksOfAnIdIsKnownAgainByItsBytes) {
     EXPECT_EQ(content(), libraryXml({{1, "A1", ""}, {3, "", ""}, {5, "A5", ""}}, {}));
 }
 
+TEST_F(LibraryWriteTest, AnIdenticalEntryThatNobodyDeletedStays) {
+    openText(libraryXml({{3, "", ""}, {3, "", ""}}, {}));
+    ASSERT_TRUE(m_library->remove(0));
+    m_folder.write("library.xml", libraryXml({{3, "", ""}, {3, "", ""}, {5, "A5", ""}}, {}));
+    ASSERT_TRUE(m_library->refresh());
+    EXPECT_EQ(m_library->pendingDeletions(), 1U);
+    ASSERT_TRUE(m_library->flush());
+    EXPECT_EQ(content(), libraryXml({{3, "", ""}, {5, "A5", ""}}, {}));
+}
+
 TEST_F(LibraryWriteTest, ATrackThatCannotBeKnownAgainStays) {
     openText(libraryXml({{1, "", ""}, {2, "", ""}}, {}));
     ASSERT_TRUE(m_library->remove(0));
