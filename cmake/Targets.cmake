@@ -32,8 +32,6 @@ function(songsweep_test name)
     if(ARG_MOC)
         set_target_properties(${name} PROPERTIES AUTOMOC ON)
     endif()
-    target_compile_definitions(${name} PRIVATE
-        SONGSWEEP_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
         PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()

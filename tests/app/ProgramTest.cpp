@@ -7,6 +7,7 @@
 #include "support/RecordingAppleScript.h"
 #include "support/RecordingLog.h"
 #include "support/TemporaryFolder.h"
+#include "support/TestData.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -53,7 +54,7 @@ class ProgramTest : public ::testing::Test {
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    const std::string library = std::string(SONGSWEEP_TEST_DATA) + "/library/five-tracks.xml";
+    const std::string library = testData("library/five-tracks.xml");
     RecordingLog log;
     RecordingAppleScript* system = nullptr;
 

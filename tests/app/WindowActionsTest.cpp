@@ -2,6 +2,7 @@
 #include "WindowsFixture.h"
 #include "dupes/MarkingRules.h"
 #include "support/EventLoop.h"
+#include "support/TestData.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
@@ -248,7 +249,7 @@ TEST_F(WindowActionsTest, ADeletionTakesTracksOutOfLibraryAndTable) {
 
 TEST_F(WindowActionsTest, ASearchWithoutAResultShowsTheEmptyTableAndTheAlert) {
     QApplication::setActiveWindow(&window());
-    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
     search();
     EXPECT_TRUE(rows().empty());
     ASSERT_NE(alert(), nullptr);
@@ -260,7 +261,7 @@ TEST_F(WindowActionsTest, ASearchWithoutAResultShowsTheEmptyTableAndTheAlert) {
 
 TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
     search();
-    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
     EXPECT_TRUE(rows().empty());
     EXPECT_EQ(page(), QStringLiteral("emptyPage"));
     EXPECT_EQ(alert(), nullptr);
@@ -268,7 +269,7 @@ TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
 
 TEST_F(WindowActionsTest, AnotherLibraryClosesTheParametersDialogOfTheOld) {
     press("searchButton");
-    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
     EXPECT_FALSE(view.paramWindow().isVisible());
     press("searchButton");
     EXPECT_EQ(view.paramWindow().parameters().playlist, "Library");
@@ -286,7 +287,7 @@ TEST_F(WindowActionsTest, ALibraryThatHasToStayKeepsItsResults) {
     ASSERT_TRUE(program->scripting().run("tell application \"iTunes\" to delete track 1 of playlist 1"));
     std::filesystem::remove(library);
     const std::vector<TrackRecord*> before = rows();
-    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
     ASSERT_NE(alert(), nullptr);
     EXPECT_EQ(alert()->text(), QStringLiteral("Can't open the library."));
     EXPECT_EQ(program->scripting().libraryPath(), library);
@@ -298,7 +299,7 @@ TEST_F(WindowActionsTest, ALibraryIsNotOpenedWhileAWorkerRuns) {
     startSearch();
     window().findChild<QAction*>(QStringLiteral("openLibraryMenuitem"))->trigger();
     EXPECT_EQ(window().findChild<QFileDialog*>(), nullptr);
-    Q_EMIT window().openLibrary(QStringLiteral(SONGSWEEP_TEST_DATA "/library/five-tracks.xml"));
+    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
     EXPECT_EQ(program->scripting().libraryPath(), library);
     ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }));
 }

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "cli/TextTable.h"
 
-#include "cli/Csv.h"
-
 #include <gtest/gtest.h>
 
 namespace songsweep::cli {
 namespace {
 
-TEST(TextTable, countsThePlacesOfWideAndCombiningCharacters) {
+TEST(TextTable, CountsThePlacesOfWideAndCombiningCharacters) {
     EXPECT_EQ(displayWidth(""), 0);
     EXPECT_EQ(displayWidth("abc"), 3);
     EXPECT_EQ(displayWidth("Bj\u00f6rk"), 5);
@@ -20,7 +18,7 @@ TEST(TextTable, countsThePlacesOfWideAndCombiningCharacters) {
 
 TextTable twoColumns() { return TextTable({{"Name", Alignment::left, 10}, {"Plays", Alignment::right, 10}}); }
 
-TEST(TextTable, alignsCellsUnderTheirTitles) {
+TEST(TextTable, AlignsCellsUnderTheirTitles) {
     TextTable table = twoColumns();
     table.measure({"\u65e5\u672c\u8a9e", "7"});
     table.measure({"a", "1234567"});
@@ -29,29 +27,21 @@ TEST(TextTable, alignsCellsUnderTheirTitles) {
     EXPECT_EQ(table.line({"a", "1234567"}), "a       1234567\n");
 }
 
-TEST(TextTable, cutsWhatIsTooLongForItsColumn) {
+TEST(TextTable, CutsWhatIsTooLongForItsColumn) {
     TextTable table = twoColumns();
     table.measure({"abcdefghijklm", ""});
     EXPECT_EQ(table.line({"abcdefghijklm", "1"}), "abcdefg...      1\n");
 }
 
-TEST(TextTable, keepsALineInOneLine) {
+TEST(TextTable, KeepsALineInOneLine) {
     TextTable table = twoColumns();
     table.measure({"a\nb\tc", ""});
     EXPECT_EQ(table.line({"a\nb\tc", "1"}), "a b c      1\n");
 }
 
-TEST(TextTable, endsNoLineWithBlanks) {
+TEST(TextTable, EndsNoLineWithBlanks) {
     const TextTable table({{"Name", Alignment::left, 10}});
     EXPECT_EQ(table.line({"a"}), "a\n");
-}
-
-TEST(Csv, quotesFieldsThatHoldSeparators) {
-    EXPECT_EQ(csvField("plain text"), "plain text");
-    EXPECT_EQ(csvField(""), "");
-    EXPECT_EQ(csvField("a,b"), "\"a,b\"");
-    EXPECT_EQ(csvField("say \"a\""), "\"say \"\"a\"\"\"");
-    EXPECT_EQ(csvField("a\r\nb"), "\"a\r\nb\"");
 }
 
 } // namespace

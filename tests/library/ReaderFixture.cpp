@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "library/ReaderFixture.h"
 
+#include "support/TestData.h"
+
 #include <fstream>
 #include <sstream>
 
@@ -41,7 +43,7 @@ void ReaderFixture::write(const std::string& name, const std::string& contents) 
 }
 
 void ReaderFixture::useLibrary(const std::string& name) {
-    std::string contents = contentsOf(std::string(SONGSWEEP_TEST_DATA) + "/library/" + name);
+    std::string contents = contentsOf(testData("library/" + name));
     ASSERT_FALSE(contents.empty()) << name;
     replaceAll(contents, "@FOLDER@", m_folder.path().toStdString());
     useLibraryText(contents);
