@@ -70,7 +70,7 @@ class InterruptedDeletion : public test::ProgramTest {
     std::string m_said; ///< on standard error
 };
 
-TEST_F(InterruptedDeletion, deletesNothingWhenItHasNotBegun) {
+TEST_F(InterruptedDeletion, DeletesNothingWhenItHasNotBegun) {
     ASSERT_EQ(::mkfifo(path("report").c_str(), 0600), 0);
     start({"--log", path("log"), "--output", path("report")});
     // The program waits for a reader of its report then.
@@ -89,7 +89,7 @@ TEST_F(InterruptedDeletion, deletesNothingWhenItHasNotBegun) {
     EXPECT_TRUE(fs::exists(path("1.mp3")));
 }
 
-TEST_F(InterruptedDeletion, stopsBeforeTheNextTrack) {
+TEST_F(InterruptedDeletion, StopsBeforeTheNextTrack) {
     hold("1");
     start();
     waitForSound("1\n");
@@ -104,7 +104,7 @@ TEST_F(InterruptedDeletion, stopsBeforeTheNextTrack) {
     EXPECT_EQ(m_folder.read("sound"), "1\n0\n");
 }
 
-TEST_F(InterruptedDeletion, stopsWhenItsTerminalCloses) {
+TEST_F(InterruptedDeletion, StopsWhenItsTerminalCloses) {
     hold("1");
     start();
     waitForSound("1\n");
@@ -116,7 +116,7 @@ TEST_F(InterruptedDeletion, stopsWhenItsTerminalCloses) {
     EXPECT_EQ(m_folder.read("sound"), "1\n0\n");
 }
 
-TEST_F(InterruptedDeletion, writesAndUnmutesWhenInterruptedTwice) {
+TEST_F(InterruptedDeletion, WritesAndUnmutesWhenInterruptedTwice) {
     hold("0");
     start();
     waitForSound("1\n0\n"); // the file is in the Trash, and its track still in the library
@@ -130,7 +130,7 @@ TEST_F(InterruptedDeletion, writesAndUnmutesWhenInterruptedTwice) {
     EXPECT_THAT(m_folder.read("sound"), ::testing::EndsWith("0\n"));
 }
 
-TEST_F(InterruptedDeletion, endsAtOnceWhenInterruptedThreeTimes) {
+TEST_F(InterruptedDeletion, EndsAtOnceWhenInterruptedThreeTimes) {
     hold("0");
     start();
     waitForSound("1\n0\n");
@@ -140,7 +140,7 @@ TEST_F(InterruptedDeletion, endsAtOnceWhenInterruptedThreeTimes) {
     EXPECT_EQ(m_folder.read("sound"), "1\n0\n");
 }
 
-TEST_F(InterruptedDeletion, isDoneWhenTheLastTrackWasDealtWith) {
+TEST_F(InterruptedDeletion, IsDoneWhenTheLastTrackWasDealtWith) {
     hold("0");
     start();
     waitForSound("1\n0\n");

@@ -81,7 +81,7 @@ class Find : public test::ProgramTest {
     std::string m_library;
 };
 
-TEST_F(Find, printsGroupsAsATableWithASummary) {
+TEST_F(Find, PrintsGroupsAsATableWithASummary) {
     const RunResult result = find({});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.errors, "");
@@ -90,7 +90,7 @@ TEST_F(Find, printsGroupsAsATableWithASummary) {
     EXPECT_THAT(result.output, ::testing::Not(HasSubstr("Other")));
 }
 
-TEST_F(Find, alignsTheColumnsOfTheTable) {
+TEST_F(Find, AlignsTheColumnsOfTheTable) {
     std::istringstream lines(find({}).output);
     std::vector<std::string> artistLines;
     for (std::string line; std::getline(lines, line);)
@@ -101,7 +101,7 @@ TEST_F(Find, alignsTheColumnsOfTheTable) {
     EXPECT_EQ(artistLines[0].find("128"), artistLines[1].find("320"));
 }
 
-TEST_F(Find, givesExactlyTheKeysOfARecordInJson) {
+TEST_F(Find, GivesExactlyTheKeysOfARecordInJson) {
     const ordered_json result = json({});
     std::vector<std::string> outer;
     for (const auto& item : result.items())
@@ -141,7 +141,7 @@ TEST_F(Find, givesExactlyTheKeysOfARecordInJson) {
     EXPECT_EQ(track, expected) << track.dump(1);
 }
 
-TEST_F(Find, keepsTheFirstValuesOfWhatTheLibraryLacks) {
+TEST_F(Find, KeepsTheFirstValuesOfWhatTheLibraryLacks) {
     const ordered_json track = json({}).at("groups").at(1).at("tracks").at(1);
     EXPECT_EQ(track.at("size"), "");
     EXPECT_EQ(track.at("sizestring"), "");
@@ -151,39 +151,39 @@ TEST_F(Find, keepsTheFirstValuesOfWhatTheLibraryLacks) {
     EXPECT_EQ(track.at("dateadded"), "");
 }
 
-TEST_F(Find, groupsWithoutRegardToCase) {
+TEST_F(Find, GroupsWithoutRegardToCase) {
     EXPECT_THAT(namesOf(json({})), ElementsAre(ElementsAre("Gone", "gone"), ElementsAre("Song", "song")));
 }
 
-TEST_F(Find, flagsMissingFilesOrLeavesThemOut) {
+TEST_F(Find, FlagsMissingFilesOrLeavesThemOut) {
     EXPECT_EQ(json({}).at("groups").at(0).at("tracks").at(0).at("isdead"), true);
     const ordered_json result = json({"--ignore-missing"});
     EXPECT_EQ(result.at("listed"), 4);
     EXPECT_THAT(namesOf(result), ElementsAre(ElementsAre("Song", "song")));
 }
 
-TEST_F(Find, searchesThePlaylistThatIsNamed) {
+TEST_F(Find, SearchesThePlaylistThatIsNamed) {
     EXPECT_THAT(namesOf(json({"--playlist", "Few"})), ElementsAre(ElementsAre("Song", "song")));
 }
 
-TEST_F(Find, takesTheFirstOfTwoPlaylistsOfOneNameWhateverItsCase) {
+TEST_F(Find, TakesTheFirstOfTwoPlaylistsOfOneNameWhateverItsCase) {
     EXPECT_THAT(namesOf(json({"--playlist", "FEW"})), ElementsAre(ElementsAre("Song", "song")));
 }
 
-TEST_F(Find, comparesTheFieldsThatAreNamed) {
+TEST_F(Find, ComparesTheFieldsThatAreNamed) {
     EXPECT_EQ(json({"--same", "name,artist,album"}).at("songs"), 2);
     EXPECT_EQ(json({"--same", "name,artist,time"}).at("songs"), 2)
         << "tracks without a time are no duplicates";
     EXPECT_EQ(json({"--same", "artist"}).at("songs"), 5);
 }
 
-TEST_F(Find, putsAllTracksIntoOneGroupWhereNothingIsCompared) {
+TEST_F(Find, PutsAllTracksIntoOneGroupWhereNothingIsCompared) {
     const ordered_json result = json({"--same", "none"});
     EXPECT_EQ(result.at("groups").size(), 1U);
     EXPECT_EQ(result.at("songs"), 5);
 }
 
-TEST_F(Find, listsNothingWhereThereAreNoPlaylists) {
+TEST_F(Find, ListsNothingWhereThereAreNoPlaylists) {
     m_library = m_folder.write("Library.xml", libraryText(sampleTracks(), {}));
     const ordered_json result = json({});
     EXPECT_EQ(result.at("tracks"), 6);
@@ -191,14 +191,14 @@ TEST_F(Find, listsNothingWhereThereAreNoPlaylists) {
     EXPECT_EQ(result.at("groups"), ordered_json::array());
 }
 
-TEST_F(Find, saysThatThereAreNoDuplicates) {
+TEST_F(Find, SaysThatThereAreNoDuplicates) {
     m_library = m_folder.write("Library.xml", libraryText({}));
     const RunResult result = find({});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "0 songs in 0 groups\n");
 }
 
-TEST_F(Find, writesOneCsvRowATrack) {
+TEST_F(Find, WritesOneCsvRowATrack) {
     const RunResult result = find({"--format", "csv"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_THAT(
@@ -209,21 +209,21 @@ TEST_F(Find, writesOneCsvRowATrack) {
     EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 5);
 }
 
-TEST_F(Find, quotesCsvFieldsThatNeedIt) {
+TEST_F(Find, QuotesCsvFieldsThatNeedIt) {
     const std::string name = "One, \"two\"\n& <three>";
     m_library = m_folder.write("Library.xml", libraryText({{.id = 1, .name = name, .artist = "A"},
                                                            {.id = 2, .name = name, .artist = "A"}}));
     EXPECT_THAT(find({"--format", "csv"}).output, HasSubstr(",\"One, \"\"two\"\"\n& <three>\",A,"));
 }
 
-TEST_F(Find, writesTheResultToAFile) {
+TEST_F(Find, WritesTheResultToAFile) {
     const RunResult result = find({"--format", "json", "--output", path("result.json")});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(ordered_json::parse(m_folder.read("result.json")), json({}));
 }
 
-TEST_F(Find, replacesAFormerResultAsAWhole) {
+TEST_F(Find, ReplacesAFormerResultAsAWhole) {
     m_folder.write("result", "old");
     ASSERT_EQ(find({"--output", path("result")}).exitCode, 0);
     EXPECT_EQ(m_folder.read("result"), find({}).output);
@@ -231,7 +231,7 @@ TEST_F(Find, replacesAFormerResultAsAWhole) {
         EXPECT_FALSE(entry.path().filename().string().starts_with("result.")) << entry.path();
 }
 
-TEST_F(Find, writesTheLogToTheFileThatIsNamed) {
+TEST_F(Find, WritesTheLogToTheFileThatIsNamed) {
     ASSERT_EQ(find({"--log", path("log")}).exitCode, 0);
     const std::string log = m_folder.read("log");
     for (const char* line :
@@ -239,13 +239,13 @@ TEST_F(Find, writesTheLogToTheFileThatIsNamed) {
         EXPECT_THAT(log, HasSubstr(line));
 }
 
-TEST_F(Find, neverTouchesTheLogInTheDocumentsFolder) {
+TEST_F(Find, NeverTouchesTheLogInTheDocumentsFolder) {
     m_folder.write("home/Documents/songsweep-log.txt", "kept");
     ASSERT_EQ(find({}).exitCode, 0);
     EXPECT_EQ(m_folder.read("home/Documents/songsweep-log.txt"), "kept");
 }
 
-TEST_F(Find, looksForFilesWhereAMapPoints) {
+TEST_F(Find, LooksForFilesWhereAMapPoints) {
     m_folder.write("here/a.mp3", "x");
     m_library = m_folder.write(
         "Library.xml", libraryText({{.id = 1, .name = "A", .artist = "B", .path = "/C:/Music/a.mp3"},
@@ -256,7 +256,7 @@ TEST_F(Find, looksForFilesWhereAMapPoints) {
     EXPECT_EQ(tracks.at(1).at("isdead"), true);
 }
 
-TEST_F(Find, readsByScriptsWhereITunesIsOld) {
+TEST_F(Find, ReadsByScriptsWhereITunesIsOld) {
     const ordered_json result = json({"--itunes-version", "9.2.1"});
     EXPECT_EQ(result.at("songs"), 5) << "streams count too";
     const ordered_json track = result.at("groups").at(1).at("tracks").at(0);
@@ -265,7 +265,7 @@ TEST_F(Find, readsByScriptsWhereITunesIsOld) {
     EXPECT_EQ(track.at("dateaddedv"), 1237043340) << "kept to the minute";
 }
 
-TEST_F(Find, leavesTheLibraryAsItIs) {
+TEST_F(Find, LeavesTheLibraryAsItIs) {
     const std::string before = m_folder.read("Library.xml");
     ASSERT_EQ(find({}).exitCode, 0);
     EXPECT_EQ(m_folder.read("Library.xml"), before);

@@ -69,7 +69,7 @@ class Interrupted : public test::ProgramTest {
     int m_log = -1;
 };
 
-TEST_F(Interrupted, searchEndsCleanly) {
+TEST_F(Interrupted, SearchEndsCleanly) {
     sendSignal(m_process, SIGINT);
     readToTheEnd();
     const RunResult result = test::resultOf(m_process);
@@ -78,7 +78,7 @@ TEST_F(Interrupted, searchEndsCleanly) {
     EXPECT_THAT(m_read, HasSubstr("End XML Finally")) << "the worker came to its end";
 }
 
-TEST_F(Interrupted, searchEndsAtOnceWhenItIsInterruptedTwice) {
+TEST_F(Interrupted, SearchEndsAtOnceWhenItIsInterruptedTwice) {
     sendSignal(m_process, SIGINT);
     sendSignal(m_process, SIGINT);
     const RunResult result = test::resultOf(m_process);
@@ -96,14 +96,14 @@ class Console : public test::ProgramTest {
     }
 };
 
-TEST_F(Console, thatClosesThePipeEndsTheProgramQuietly) {
+TEST_F(Console, ThatClosesThePipeEndsTheProgramQuietly) {
     const RunResult result = runInShell("{ \"$0\" \"$@\"; echo \"exit $?\" >&2; } | head -n 1",
                                         {"find", "--library", manyDuplicates(), "--format", "csv"});
     EXPECT_THAT(result.output, ::testing::StartsWith("checkbox,"));
     EXPECT_EQ(result.errors, "exit 0\n");
 }
 
-TEST_F(Console, showsPhaseAndPercentageOnATerminal) {
+TEST_F(Console, ShowsPhaseAndPercentageOnATerminal) {
     const int terminal = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
     ASSERT_GE(terminal, 0);
     ASSERT_EQ(::grantpt(terminal), 0);

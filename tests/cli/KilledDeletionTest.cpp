@@ -159,7 +159,7 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
     int m_trashed = 0;    ///< files in the Trash, when it was last looked at
 };
 
-TEST_P(KilledDeletion, losesNeitherTracksNorFilesAndCanBeCompleted) {
+TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
     std::mt19937 random(GetParam());
     const microseconds duration = durationOfARun();
     std::uniform_int_distribution<int> moment(0, static_cast<int>(duration.count()));

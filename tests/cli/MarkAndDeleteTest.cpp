@@ -61,7 +61,7 @@ class MarkAndDelete : public test::ProgramTest {
     std::string m_library;
 };
 
-TEST_F(MarkAndDelete, marksWhatARuleLosesAndSaysWhy) {
+TEST_F(MarkAndDelete, MarksWhatARuleLosesAndSaysWhy) {
     const auto before = tree();
     const RunResult result = command("mark", {"--rule", "highest-bitrate", "--format", "json"});
     ASSERT_EQ(result.exitCode, 0) << result.errors;
@@ -76,7 +76,7 @@ TEST_F(MarkAndDelete, marksWhatARuleLosesAndSaysWhy) {
     EXPECT_EQ(tree(), before) << "nothing is changed";
 }
 
-TEST_F(MarkAndDelete, deletesNothingWhereTheLibraryCannotBeWritten) {
+TEST_F(MarkAndDelete, DeletesNothingWhereTheLibraryCannotBeWritten) {
     fs::create_directory(path("closed"));
     fs::rename(m_library, path("closed/Library.xml"));
     m_library = path("closed/Library.xml");
@@ -100,7 +100,7 @@ TEST_F(MarkAndDelete, deletesNothingWhereTheLibraryCannotBeWritten) {
     EXPECT_EQ(outcomes, 2);
 }
 
-TEST_F(MarkAndDelete, marksEveryCopyButOne) {
+TEST_F(MarkAndDelete, MarksEveryCopyButOne) {
     const RunResult result =
         command("mark", {"--rule", "highest-bitrate", "--except-one", "--format", "json"});
     int marked = 0;
@@ -111,12 +111,12 @@ TEST_F(MarkAndDelete, marksEveryCopyButOne) {
     EXPECT_EQ(marked, 3);
 }
 
-TEST_F(MarkAndDelete, countsTheMarksInTheSummary) {
+TEST_F(MarkAndDelete, CountsTheMarksInTheSummary) {
     EXPECT_THAT(command("mark", {"--rule", "highest-bitrate"}).output,
                 HasSubstr("5 songs in 2 groups, 2 marked\n"));
 }
 
-TEST_F(MarkAndDelete, knowsEveryRule) {
+TEST_F(MarkAndDelete, KnowsEveryRule) {
     for (const char* rule : {"highest-bitrate", "lowest-bitrate", "longest", "shortest", "largest",
                              "smallest", "earliest-added", "latest-added", "with-artwork", "without-artwork",
                              "highest-rating", "lowest-rating", "most-played", "least-played"})
@@ -126,7 +126,7 @@ TEST_F(MarkAndDelete, knowsEveryRule) {
                 HasSubstr("5 marked"));
 }
 
-TEST_F(MarkAndDelete, foretellsADeletionAndTouchesNothing) {
+TEST_F(MarkAndDelete, ForetellsADeletionAndTouchesNothing) {
     const auto before = tree();
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--dry-run"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
@@ -135,7 +135,7 @@ TEST_F(MarkAndDelete, foretellsADeletionAndTouchesNothing) {
     EXPECT_EQ(tree(), before);
 }
 
-TEST_F(MarkAndDelete, deletesTheMarkedTracksFromTheLibrary) {
+TEST_F(MarkAndDelete, DeletesTheMarkedTracksFromTheLibrary) {
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--yes"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     EXPECT_THAT(result.output, HasSubstr("Deleted 2 of 2 tracks"));
@@ -144,7 +144,7 @@ TEST_F(MarkAndDelete, deletesTheMarkedTracksFromTheLibrary) {
         EXPECT_TRUE(hasFile(id)) << id;
 }
 
-TEST_F(MarkAndDelete, deletesNothingWhoseOutcomeCannotBeTold) {
+TEST_F(MarkAndDelete, DeletesNothingWhoseOutcomeCannotBeTold) {
     const auto before = tree();
     const RunResult result = command(
         "delete", {"--rule", "highest-bitrate", "--files", "--yes", "--output", path("missing/result")});
@@ -153,7 +153,7 @@ TEST_F(MarkAndDelete, deletesNothingWhoseOutcomeCannotBeTold) {
     EXPECT_EQ(tree(), before);
 }
 
-TEST_F(MarkAndDelete, movesTheFilesToTheTrashWhenAsked) {
+TEST_F(MarkAndDelete, MovesTheFilesToTheTrashWhenAsked) {
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
     EXPECT_EQ(result.exitCode, 0) << result.errors << result.output;
     EXPECT_FALSE(hasFile(1));
@@ -163,7 +163,7 @@ TEST_F(MarkAndDelete, movesTheFilesToTheTrashWhenAsked) {
     EXPECT_EQ(m_folder.read("home/data/Trash/files/3.mp3"), "music");
 }
 
-TEST_F(MarkAndDelete, keepsABackupOfTheLibrary) {
+TEST_F(MarkAndDelete, KeepsABackupOfTheLibrary) {
     const std::string before = m_folder.read("Library.xml");
     ASSERT_EQ(command("delete", {"--rule", "highest-bitrate", "--yes"}).exitCode, 0);
     int backups = 0;
@@ -173,7 +173,7 @@ TEST_F(MarkAndDelete, keepsABackupOfTheLibrary) {
     EXPECT_EQ(backups, 1);
 }
 
-TEST_F(MarkAndDelete, refusesToDeleteEveryCopyOfASong) {
+TEST_F(MarkAndDelete, RefusesToDeleteEveryCopyOfASong) {
     const auto before = tree();
     const std::vector<std::string> everything = {"--rule", "kind", "--kind", "MP3", "--yes"};
     const RunResult refused = command("delete", everything);
@@ -188,7 +188,7 @@ TEST_F(MarkAndDelete, refusesToDeleteEveryCopyOfASong) {
               libraryText({}, {{.name = "Library", .items = {}, .master = true}}));
 }
 
-TEST_F(MarkAndDelete, failsWhereAFileWasKept) {
+TEST_F(MarkAndDelete, FailsWhereAFileWasKept) {
     fs::create_directories(path("home/data"));
     m_folder.write("home/data/Trash", "in the way of the Trash");
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
@@ -198,7 +198,7 @@ TEST_F(MarkAndDelete, failsWhereAFileWasKept) {
     EXPECT_TRUE(hasFile(3));
 }
 
-TEST_F(MarkAndDelete, leavesAFileThatAStayingTrackUses) {
+TEST_F(MarkAndDelete, LeavesAFileThatAStayingTrackUses) {
     std::vector<SampleTrack> shared = tracks({1, 2});
     shared[0].path = shared[1].path;
     m_library = m_folder.write("Library.xml", libraryText(shared));
@@ -208,7 +208,7 @@ TEST_F(MarkAndDelete, leavesAFileThatAStayingTrackUses) {
     EXPECT_TRUE(hasFile(2));
 }
 
-TEST_F(MarkAndDelete, trashesASharedFileWhenTold) {
+TEST_F(MarkAndDelete, TrashesASharedFileWhenTold) {
     std::vector<SampleTrack> shared = tracks({1, 2});
     shared[0].path = shared[1].path;
     m_library = m_folder.write("Library.xml", libraryText(shared));
@@ -217,12 +217,12 @@ TEST_F(MarkAndDelete, trashesASharedFileWhenTold) {
     EXPECT_FALSE(hasFile(2));
 }
 
-TEST_F(MarkAndDelete, findsTheGroupsGoneAfterwards) {
+TEST_F(MarkAndDelete, FindsTheGroupsGoneAfterwards) {
     ASSERT_EQ(command("delete", {"--rule", "highest-bitrate", "--except-one", "--yes"}).exitCode, 0);
     EXPECT_EQ(command("find", {}).output, "0 songs in 0 groups\n");
 }
 
-TEST_F(MarkAndDelete, tellsOutcomesInJsonAndCsv) {
+TEST_F(MarkAndDelete, TellsOutcomesInJsonAndCsv) {
     const json outcomes =
         json::parse(command("delete", {"--rule", "highest-bitrate", "--dry-run", "--format", "json"}).output);
     EXPECT_EQ(outcomes.at("outcomes").size(), 2U);

@@ -23,14 +23,14 @@ class ScriptCommand : public test::ProgramTest {
     RunResult script(const std::string& text) { return run({"script", "--library", library(), "-"}, text); }
 };
 
-TEST_F(ScriptCommand, printsResultsInSourceNotation) {
+TEST_F(ScriptCommand, PrintsResultsInSourceNotation) {
     EXPECT_EQ(script("1 + 2").output, "3\n");
     EXPECT_EQ(script("{1, \"a\", {}, true, missing value}").output, "{1, \"a\", {}, true, missing value}\n");
     EXPECT_EQ(script("tell application \"iTunes\" to get name of track 1 of playlist 1").output,
               "\"A \\\"b\\\" \\\\\"\n");
 }
 
-TEST_F(ScriptCommand, runsAFile) {
+TEST_F(ScriptCommand, RunsAFile) {
     const std::string file = m_folder.write("count", "tell application \"iTunes\" \nget count of tracks of "
                                                      "playlist 1 \nend tell");
     const RunResult result = run({"script", "--library", library(), file});
@@ -38,33 +38,33 @@ TEST_F(ScriptCommand, runsAFile) {
     EXPECT_EQ(result.exitCode, 0);
 }
 
-TEST_F(ScriptCommand, tellsTheVersionOfTheEmbeddedITunes) {
+TEST_F(ScriptCommand, TellsTheVersionOfTheEmbeddedITunes) {
     const std::string text = "tell application \"iTunes\" to get version";
     EXPECT_EQ(script(text).output, "\"12.0\"\n");
     EXPECT_EQ(run({"script", "--library", library(), "--itunes-version", "9.2.1", "-"}, text).output,
               "\"9.2.1\"\n");
 }
 
-TEST_F(ScriptCommand, printsNothingWithoutAResult) {
+TEST_F(ScriptCommand, PrintsNothingWithoutAResult) {
     const RunResult result = script("");
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.exitCode, 0);
 }
 
-TEST_F(ScriptCommand, tellsPositionAndReasonOfAnError) {
+TEST_F(ScriptCommand, TellsPositionAndReasonOfAnError) {
     const RunResult result = script("set a to 1\nset b to (2 +");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.output, "");
     EXPECT_THAT(result.errors, HasSubstr("line 2"));
 }
 
-TEST_F(ScriptCommand, endsAnEndlessLoop) {
+TEST_F(ScriptCommand, EndsAnEndlessLoop) {
     const RunResult result = script("repeat while true\nend repeat");
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_NE(result.errors, "");
 }
 
-TEST_F(ScriptCommand, writesTheLibraryBeforeItEnds) {
+TEST_F(ScriptCommand, WritesTheLibraryBeforeItEnds) {
     const RunResult result = script("tell application \"iTunes\" to delete (tracks whose persistent ID is "
                                     "\"0000000000000002\")");
     EXPECT_EQ(result.exitCode, 0) << result.errors;
@@ -72,7 +72,7 @@ TEST_F(ScriptCommand, writesTheLibraryBeforeItEnds) {
               libraryText({{.id = 1, .name = "A \"b\" \\", .artist = "C", .path = path("a.mp3")}}));
 }
 
-TEST_F(ScriptCommand, refusesALibraryThatIsCutOff) {
+TEST_F(ScriptCommand, RefusesALibraryThatIsCutOff) {
     const std::string cut =
         m_folder.write("cut.xml", libraryText({{.id = 1, .name = "A", .artist = "B"}}).substr(0, 250));
     const RunResult result = run({"script", "--library", cut, "-"},
@@ -82,7 +82,7 @@ TEST_F(ScriptCommand, refusesALibraryThatIsCutOff) {
     EXPECT_THAT(result.errors, HasSubstr("line"));
 }
 
-TEST_F(ScriptCommand, saysThatItsFileIsMissing) {
+TEST_F(ScriptCommand, SaysThatItsFileIsMissing) {
     const RunResult result = run({"script", path("missing")});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.errors, HasSubstr(path("missing")));

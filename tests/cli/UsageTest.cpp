@@ -23,13 +23,13 @@ class Usage : public test::ProgramTest {
     std::string library() const { return m_folder.write("Library.xml", test::libraryText({})); }
 };
 
-TEST_F(Usage, tellsTheVersion) {
+TEST_F(Usage, TellsTheVersion) {
     const RunResult result = run({"--version"});
     EXPECT_EQ(result.exitCode, 0);
     EXPECT_EQ(result.output, "Songsweep " SONGSWEEP_VERSION "\n");
 }
 
-TEST_F(Usage, tellsEveryCommandAndOption) {
+TEST_F(Usage, TellsEveryCommandAndOption) {
     const RunResult result = run({"--help"});
     EXPECT_EQ(result.exitCode, 0);
     for (const char* word : {"find", "mark", "delete", "script"})
@@ -40,7 +40,7 @@ TEST_F(Usage, tellsEveryCommandAndOption) {
         EXPECT_THAT(help, HasSubstr(word));
 }
 
-TEST_F(Usage, refusesWhatItDoesNotKnow) {
+TEST_F(Usage, RefusesWhatItDoesNotKnow) {
     expectRefusal({"seek"});
     expectRefusal({"find", "--library", library(), "--colour", "red"});
     expectRefusal({"find", "--library", library(), "extra"});
@@ -50,7 +50,7 @@ TEST_F(Usage, refusesWhatItDoesNotKnow) {
     expectRefusal({"mark", "--library", library(), "--rule", "loudest"});
 }
 
-TEST_F(Usage, refusesCommandsThatLackSomething) {
+TEST_F(Usage, RefusesCommandsThatLackSomething) {
     expectRefusal({"find"});
     expectRefusal({"find", "--library"});
     expectRefusal({"mark", "--library", library()});
@@ -59,12 +59,12 @@ TEST_F(Usage, refusesCommandsThatLackSomething) {
     expectRefusal({"script"});
 }
 
-TEST_F(Usage, refusesAMapWithoutTwoSides) {
+TEST_F(Usage, RefusesAMapWithoutTwoSides) {
     expectRefusal({"find", "--library", library(), "--map", "/C:/Music"});
     expectRefusal({"find", "--library", library(), "--map", "=/music"});
 }
 
-TEST_F(Usage, refusesToWriteOverTheLibrary) {
+TEST_F(Usage, RefusesToWriteOverTheLibrary) {
     const std::string file = library();
     const std::string text = m_folder.read("Library.xml");
     std::filesystem::create_hard_link(file, path("hard.xml"));
@@ -82,7 +82,7 @@ TEST_F(Usage, refusesToWriteOverTheLibrary) {
     EXPECT_EQ(m_folder.read("Library.xml"), text);
 }
 
-TEST_F(Usage, refusesToWriteOverALibraryThatIsNotNamed) {
+TEST_F(Usage, RefusesToWriteOverALibraryThatIsNotNamed) {
     std::filesystem::create_directories(path("home/Music"));
     const std::string file = m_folder.write("home/Music/Library.xml", "a library");
     expectRefusal({"script", "--log", file, "-"});
@@ -90,12 +90,12 @@ TEST_F(Usage, refusesToWriteOverALibraryThatIsNotNamed) {
     EXPECT_EQ(m_folder.read("home/Music/Library.xml"), "a library");
 }
 
-TEST_F(Usage, makesNoLogInThePlaceOfAMissingLibrary) {
+TEST_F(Usage, MakesNoLogInThePlaceOfAMissingLibrary) {
     expectRefusal({"find", "--library", path("missing.xml"), "--log", "./missing.xml"});
     EXPECT_FALSE(std::filesystem::exists(path("missing.xml")));
 }
 
-TEST_F(Usage, refusesADeletionThatIsNeitherTriedNorConfirmed) {
+TEST_F(Usage, RefusesADeletionThatIsNeitherTriedNorConfirmed) {
     expectRefusal({"delete", "--library", library(), "--rule", "longest"});
     expectRefusal({"delete", "--library", library(), "--rule", "longest", "--dry-run", "--yes"});
 }

@@ -26,28 +26,28 @@ class Mac : public ::testing::Test {
     std::unique_ptr<Preferences> m_preferences = nativePreferences();
 };
 
-TEST_F(Mac, opensAnAddressByTheWorkspace) {
+TEST_F(Mac, OpensAnAddressByTheWorkspace) {
     ASSERT_TRUE(m_desktop->openUrl("https://songsweep.example/faq.php#cant-access-itunes"));
     EXPECT_THAT(fakeMac().calls, ElementsAre("open https://songsweep.example/faq.php#cant-access-itunes"));
 }
 
-TEST_F(Mac, selectsAFileInTheFinderWithoutARoot) {
+TEST_F(Mac, SelectsAFileInTheFinderWithoutARoot) {
     ASSERT_TRUE(m_desktop->showInFileManager("/Music/caf\u00e9 \"1\".mp3"));
     EXPECT_THAT(fakeMac().calls, ElementsAre("select /Music/caf\u00e9 \"1\".mp3 below \"\""));
 }
 
-TEST_F(Mac, playsAFileByItsUrl) {
+TEST_F(Mac, PlaysAFileByItsUrl) {
     ASSERT_TRUE(m_desktop->play("/Music/a b.mp3"));
     EXPECT_THAT(fakeMac().calls, ElementsAre("open file:///Music/a%20b.mp3"));
     EXPECT_TRUE(m_desktop->stopPlaying());
 }
 
-TEST_F(Mac, movesAFileToTheTrash) {
+TEST_F(Mac, MovesAFileToTheTrash) {
     ASSERT_TRUE(m_desktop->moveToTrash("/Music/a b.mp3"));
     EXPECT_THAT(fakeMac().calls, ElementsAre("trash /Music/a b.mp3"));
 }
 
-TEST_F(Mac, saysWhyTheTrashRefuses) {
+TEST_F(Mac, SaysWhyTheTrashRefuses) {
     fakeMac().succeeds = false;
     const Result<void> result = m_desktop->moveToTrash("/Music/a.mp3");
     ASSERT_FALSE(result);
@@ -55,14 +55,14 @@ TEST_F(Mac, saysWhyTheTrashRefuses) {
     EXPECT_FALSE(m_desktop->moveToTrash("a.mp3"));
 }
 
-TEST_F(Mac, mutesAndUnmutesByAScript) {
+TEST_F(Mac, MutesAndUnmutesByAScript) {
     ASSERT_TRUE(m_desktop->setOutputMuted(true));
     ASSERT_TRUE(m_desktop->setOutputMuted(false));
     EXPECT_THAT(fakeMac().calls,
                 ElementsAre("script set volume with output muted", "script set volume without output muted"));
 }
 
-TEST_F(Mac, tellsWhatFailed) {
+TEST_F(Mac, TellsWhatFailed) {
     fakeMac().succeeds = false;
     for (const Result<void>& result :
          {m_desktop->openUrl("https://songsweep.example/"), m_desktop->showInFileManager("/a.mp3"),
@@ -72,12 +72,12 @@ TEST_F(Mac, tellsWhatFailed) {
     }
 }
 
-TEST_F(Mac, worksFromAWorkersThread) {
+TEST_F(Mac, WorksFromAWorkersThread) {
     std::thread([this] { EXPECT_TRUE(m_desktop->moveToTrash("/a.mp3")); }).join();
     EXPECT_THAT(fakeMac().calls, ElementsAre("trash /a.mp3"));
 }
 
-TEST_F(Mac, readsTheDomainOfTheUser) {
+TEST_F(Mac, ReadsTheDomainOfTheUser) {
     fakeMac().recentDatabases = {"file://localhost/a%20b.xml", "file:///2.xml"};
     const std::optional<IAppsDomain> domain = m_preferences->iAppsDomain();
     ASSERT_TRUE(domain);
@@ -85,18 +85,18 @@ TEST_F(Mac, readsTheDomainOfTheUser) {
     EXPECT_THAT(fakeMac().calls, ElementsAre("domain com.apple.iApps"));
 }
 
-TEST_F(Mac, keepsThePlaceOfAnEntryThatIsNoText) {
+TEST_F(Mac, KeepsThePlaceOfAnEntryThatIsNoText) {
     fakeMac().recentDatabases = {"(number)", "file:///2.xml"};
     EXPECT_THAT(m_preferences->iAppsDomain()->iTunesRecentDatabases, ElementsAre("", "file:///2.xml"));
 }
 
-TEST_F(Mac, tellsAMissingDomainFromAnEmptyOne) {
+TEST_F(Mac, TellsAMissingDomainFromAnEmptyOne) {
     EXPECT_THAT(m_preferences->iAppsDomain()->iTunesRecentDatabases, IsEmpty());
     fakeMac().hasDomain = false;
     EXPECT_FALSE(m_preferences->iAppsDomain());
 }
 
-TEST_F(Mac, readsAPropertyListFile) {
+TEST_F(Mac, ReadsAPropertyListFile) {
     const TemporaryFolder folder;
     const std::string path = folder.write(
         "com.apple.iApps.plist",
@@ -109,17 +109,17 @@ TEST_F(Mac, readsAPropertyListFile) {
     EXPECT_THAT(domain->iTunesRecentDatabases, ElementsAre("file:///caf\u00e9.xml"));
 }
 
-TEST_F(Mac, hasNothingWhereThePropertyListCannotBeRead) {
+TEST_F(Mac, HasNothingWhereThePropertyListCannotBeRead) {
     const TemporaryFolder folder;
     EXPECT_FALSE(m_preferences->iAppsPropertyList(folder.path() + "/missing"));
     EXPECT_FALSE(m_preferences->iAppsPropertyList(folder.write("list", "\x01\x02")));
 }
 
-TEST_F(Mac, takesTheHomeFolderFromThePasswordDatabase) {
+TEST_F(Mac, TakesTheHomeFolderFromThePasswordDatabase) {
     EXPECT_EQ(m_preferences->homeFolder(), passwordHomeFolder());
 }
 
-TEST_F(Mac, writesPathsInHfsNotationAndReadsThem) {
+TEST_F(Mac, WritesPathsInHfsNotationAndReadsThem) {
     for (const char* path : {"/Users/ann/a.mp3", "/Users/ann/a:b.mp3", "/caf\u00e9/it's \"x\"\\.mp3"}) {
         const std::optional<std::string> hfs = hfsPath(path);
         ASSERT_TRUE(hfs) << path;

@@ -31,13 +31,13 @@ class MacScript : public ::testing::Test {
     NSAppleScriptRunner m_scripts;
 };
 
-TEST_F(MacScript, isHandedOverAsItIs) {
+TEST_F(MacScript, IsHandedOverAsItIs) {
     const std::string text = "tell application \"iTunes\" \nplay \"Macintosh HD:caf\u00e9\" \nend tell";
     EXPECT_TRUE(m_scripts.executeAndReturnError(text));
     EXPECT_THAT(fakeMac().calls, ElementsAre("script " + text));
 }
 
-TEST_F(MacScript, givesTextsAndNumbers) {
+TEST_F(MacScript, GivesTextsAndNumbers) {
     EXPECT_EQ(resultOf({"utxt", "caf\u00e9", {}}), Descriptor::text("caf\u00e9"));
     EXPECT_EQ(resultOf({"long", bytesOf<std::int32_t>(-7), {}}), Descriptor::integer(-7));
     EXPECT_EQ(resultOf({"comp", bytesOf<std::int64_t>(5'000'000'000), {}}),
@@ -45,35 +45,35 @@ TEST_F(MacScript, givesTextsAndNumbers) {
     EXPECT_EQ(resultOf({"doub", bytesOf(1.5), {}}), Descriptor(Descriptor::Value(1.5)));
 }
 
-TEST_F(MacScript, givesTruthValues) {
+TEST_F(MacScript, GivesTruthValues) {
     EXPECT_EQ(resultOf({"true", "", {}}), Descriptor(Descriptor::Value(true)));
     EXPECT_EQ(resultOf({"fals", "", {}}), Descriptor(Descriptor::Value(false)));
     EXPECT_EQ(resultOf({"bool", std::string(1, '\1'), {}}), Descriptor(Descriptor::Value(true)));
 }
 
-TEST_F(MacScript, givesDatesByTheirLongDateTime) {
+TEST_F(MacScript, GivesDatesByTheirLongDateTime) {
     EXPECT_EQ(resultOf({"ldt ", bytesOf<std::int64_t>(3'000'000'000), {}}),
               Descriptor(Descriptor::Value(Descriptor::Date{3'000'000'000})));
 }
 
-TEST_F(MacScript, givesFilesByTheirPath) {
+TEST_F(MacScript, GivesFilesByTheirPath) {
     EXPECT_EQ(resultOf({"furl", "file:///Music/a%20b.mp3", {}}),
               Descriptor(Descriptor::Value(Descriptor::Alias{"/Music/a b.mp3"})));
 }
 
-TEST_F(MacScript, givesListsInOrder) {
+TEST_F(MacScript, GivesListsInOrder) {
     const FakeDescriptor list{
         "list", "", {{"utxt", "one", {}}, {"list", "", {}}, {"long", bytesOf<std::int32_t>(3), {}}}};
     EXPECT_EQ(resultOf(list),
               Descriptor::list({Descriptor::text("one"), Descriptor::list({}), Descriptor::integer(3)}));
 }
 
-TEST_F(MacScript, tellsTheMissingValueFromOtherConstants) {
+TEST_F(MacScript, TellsTheMissingValueFromOtherConstants) {
     EXPECT_EQ(resultOf({"type", "msng", {}}), Descriptor());
     EXPECT_EQ(resultOf({"null", "", {}}), Descriptor());
 }
 
-TEST_F(MacScript, saysWhyItFailed) {
+TEST_F(MacScript, SaysWhyItFailed) {
     fakeMac().succeeds = false;
     fakeMac().scriptError = "iTunes got an error: Application isn't running.";
     EXPECT_EQ(m_scripts.executeAndReturnError("get version").error().message,
@@ -82,7 +82,7 @@ TEST_F(MacScript, saysWhyItFailed) {
     EXPECT_FALSE(m_scripts.executeAndReturnError("get version").error().message.empty());
 }
 
-TEST_F(MacScript, isRefusedWhereItIsNoText) {
+TEST_F(MacScript, IsRefusedWhereItIsNoText) {
     EXPECT_EQ(m_scripts.executeAndReturnError("\xff\xfe").error().code, Error::Code::invalid);
     EXPECT_TRUE(fakeMac().calls.empty());
 }

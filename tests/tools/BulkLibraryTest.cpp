@@ -29,7 +29,7 @@ class BulkLibraryTest : public ::testing::Test {
     QTemporaryDir m_folder;
 };
 
-TEST_F(BulkLibraryTest, anIndependentParserReadsEveryTrack) {
+TEST_F(BulkLibraryTest, AnIndependentParserReadsEveryTrack) {
     ASSERT_TRUE(makeBulkLibrary(options(2000)));
     const auto library = test::ParsedLibrary::read(options(0).file);
     EXPECT_EQ(library.tracks().size(), 2000U);
@@ -39,7 +39,7 @@ TEST_F(BulkLibraryTest, anIndependentParserReadsEveryTrack) {
     EXPECT_EQ(library.playlists()[3].items, 40U);
 }
 
-TEST_F(BulkLibraryTest, oneTrackOfTenIsADuplicate) {
+TEST_F(BulkLibraryTest, OneTrackOfTenIsADuplicate) {
     ASSERT_TRUE(makeBulkLibrary(options(2000)));
     const auto library = test::ParsedLibrary::read(options(0).file);
     std::set<std::pair<std::string, std::string>> different;
@@ -48,7 +48,7 @@ TEST_F(BulkLibraryTest, oneTrackOfTenIsADuplicate) {
     EXPECT_EQ(different.size(), 1800U);
 }
 
-TEST_F(BulkLibraryTest, nineFilesOfTenExistBehindAHandfulOfRealOnes) {
+TEST_F(BulkLibraryTest, NineFilesOfTenExistBehindAHandfulOfRealOnes) {
     ASSERT_TRUE(makeBulkLibrary(options(2000)));
     const auto library = test::ParsedLibrary::read(options(0).file);
     const auto exists = [](const auto& track) { return std::filesystem::exists(track.path); };
@@ -60,7 +60,7 @@ TEST_F(BulkLibraryTest, nineFilesOfTenExistBehindAHandfulOfRealOnes) {
     EXPECT_EQ(realFiles, 90U);
 }
 
-TEST_F(BulkLibraryTest, allFilesExistWhereAllAreAskedFor) {
+TEST_F(BulkLibraryTest, AllFilesExistWhereAllAreAskedFor) {
     BulkOptions whole = options(2000);
     whole.files = BulkFiles::all;
     ASSERT_TRUE(makeBulkLibrary(whole));
@@ -69,7 +69,7 @@ TEST_F(BulkLibraryTest, allFilesExistWhereAllAreAskedFor) {
     EXPECT_TRUE(std::all_of(library.tracks().begin(), library.tracks().end(), exists));
 }
 
-TEST_F(BulkLibraryTest, everyTrackHasAnIdAndAPathOfItsOwn) {
+TEST_F(BulkLibraryTest, EveryTrackHasAnIdAndAPathOfItsOwn) {
     ASSERT_TRUE(makeBulkLibrary(options(2000)));
     const auto library = test::ParsedLibrary::read(options(0).file);
     std::set<std::string> ids;
@@ -82,7 +82,7 @@ TEST_F(BulkLibraryTest, everyTrackHasAnIdAndAPathOfItsOwn) {
     EXPECT_EQ(paths.size(), 2000U);
 }
 
-TEST_F(BulkLibraryTest, oneSeedMakesOneLibrary) {
+TEST_F(BulkLibraryTest, OneSeedMakesOneLibrary) {
     auto other = options(500, "other.xml");
     other.seed = 8;
     ASSERT_TRUE(makeBulkLibrary(options(500, "first.xml")));
@@ -94,14 +94,14 @@ TEST_F(BulkLibraryTest, oneSeedMakesOneLibrary) {
     EXPECT_NE(first, bytes(other.file));
 }
 
-TEST_F(BulkLibraryTest, withoutFilesNothingButTheLibraryIsMade) {
+TEST_F(BulkLibraryTest, WithoutFilesNothingButTheLibraryIsMade) {
     auto bare = options(100);
     bare.files = BulkFiles::none;
     ASSERT_TRUE(makeBulkLibrary(bare));
     EXPECT_FALSE(std::filesystem::exists(bare.musicFolder));
 }
 
-TEST_F(BulkLibraryTest, saysWhatCannotBeWritten) {
+TEST_F(BulkLibraryTest, SaysWhatCannotBeWritten) {
     auto nowhere = options(10, "no/such/folder/library.xml");
     const auto made = makeBulkLibrary(nowhere);
     ASSERT_FALSE(made);

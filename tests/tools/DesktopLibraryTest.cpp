@@ -34,7 +34,7 @@ class DesktopLibraryTest : public ::testing::Test {
     test::ParsedLibrary m_library;
 };
 
-TEST_F(DesktopLibraryTest, mostFilesAreThereAndSomeAreMissing) {
+TEST_F(DesktopLibraryTest, MostFilesAreThereAndSomeAreMissing) {
     EXPECT_GT(count([](const Track& track) { return std::filesystem::exists(track.path); }), 150);
     const auto isMissing = [](const Track& track) {
         return track.type == "File" && !std::filesystem::exists(track.path);
@@ -42,7 +42,7 @@ TEST_F(DesktopLibraryTest, mostFilesAreThereAndSomeAreMissing) {
     EXPECT_GT(count(isMissing), 10);
 }
 
-TEST_F(DesktopLibraryTest, twoEntriesMayShareAFileByPathOrByLink) {
+TEST_F(DesktopLibraryTest, TwoEntriesMayShareAFileByPathOrByLink) {
     std::map<std::string, int> users;
     for (const auto& track : m_library.tracks())
         ++users[track.path];
@@ -54,17 +54,17 @@ TEST_F(DesktopLibraryTest, twoEntriesMayShareAFileByPathOrByLink) {
     EXPECT_GT(count(isLinked), 1);
 }
 
-TEST_F(DesktopLibraryTest, namesKeepTheirEntitiesAndScripts) {
+TEST_F(DesktopLibraryTest, NamesKeepTheirEntitiesAndScripts) {
     for (const auto* name : {"Five < Six", "Stone & Feather", "終着駅", "أغنية البحر", "Balloon 🎈 Animal"}) {
         EXPECT_GT(count([name](const Track& track) { return track.name == name; }), 0) << name;
     }
 }
 
-TEST_F(DesktopLibraryTest, someTracksAreStreams) {
+TEST_F(DesktopLibraryTest, SomeTracksAreStreams) {
     EXPECT_EQ(count([](const Track& track) { return track.type == "URL"; }), 2);
 }
 
-TEST_F(DesktopLibraryTest, waveFilesSayTheirOwnLength) {
+TEST_F(DesktopLibraryTest, WaveFilesSayTheirOwnLength) {
     int looked = 0;
     for (const auto& track : m_library.tracks()) {
         QFile file(QString::fromStdString(track.path));
@@ -79,7 +79,7 @@ TEST_F(DesktopLibraryTest, waveFilesSayTheirOwnLength) {
     EXPECT_GT(looked, 100);
 }
 
-TEST_F(DesktopLibraryTest, aiffFilesSayTheirOwnLength) {
+TEST_F(DesktopLibraryTest, AiffFilesSayTheirOwnLength) {
     int looked = 0;
     for (const auto& track : m_library.tracks()) {
         QFile file(QString::fromStdString(track.path));
@@ -94,11 +94,11 @@ TEST_F(DesktopLibraryTest, aiffFilesSayTheirOwnLength) {
     EXPECT_GT(looked, 20);
 }
 
-TEST_F(DesktopLibraryTest, makingItAgainOverwritesItself) {
+TEST_F(DesktopLibraryTest, MakingItAgainOverwritesItself) {
     EXPECT_TRUE(makeDesktopLibrary(m_folder.path().toStdString()));
 }
 
-TEST_F(DesktopLibraryTest, hasPlaylistsOfEveryKind) {
+TEST_F(DesktopLibraryTest, HasPlaylistsOfEveryKind) {
     std::vector<std::string> names;
     for (const auto& playlist : m_library.playlists())
         names.push_back(playlist.name);
