@@ -157,7 +157,7 @@ class EmbeddedDeletionTest : public testing::Test {
     }
 };
 
-TEST_F(EmbeddedDeletionTest, theLosingCopiesLeaveTheLibraryAndAllElseStays) {
+TEST_F(EmbeddedDeletionTest, TheLosingCopiesLeaveTheLibraryAndAllElseStays) {
     writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
     DisplayedList list = search(4);
     ASSERT_THAT(list.rows, SizeIs(4));
@@ -174,7 +174,7 @@ TEST_F(EmbeddedDeletionTest, theLosingCopiesLeaveTheLibraryAndAllElseStays) {
     EXPECT_THAT(search(2).rows, IsEmpty());
 }
 
-TEST_F(EmbeddedDeletionTest, anEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
+TEST_F(EmbeddedDeletionTest, AnEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
     writeLibrary({"a.mp3", "a2.mp3"});
     replaceAll("a2.mp3", "a.mp3");
     replaceAll(test::persistentIdOf(101), test::persistentIdOf(100));
@@ -187,7 +187,7 @@ TEST_F(EmbeddedDeletionTest, anEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
 }
 
-TEST_F(EmbeddedDeletionTest, whiteSpaceAroundALocationHidesNoSharedFile) {
+TEST_F(EmbeddedDeletionTest, WhiteSpaceAroundALocationHidesNoSharedFile) {
     writeLibrary({"a.mp3", "a2.mp3", "a.mp3"});
     replaceLast("<string>file://", "<string>\n\tfile://");
     DisplayedList list = search(3);
@@ -197,7 +197,7 @@ TEST_F(EmbeddedDeletionTest, whiteSpaceAroundALocationHidesNoSharedFile) {
     EXPECT_EQ(m_desktop.trashed, 0);
 }
 
-TEST_F(EmbeddedDeletionTest, awkwardNamesGoToTheTrashOrStay) {
+TEST_F(EmbeddedDeletionTest, AwkwardNamesGoToTheTrashOrStay) {
     const std::string longName(255, 'n');
     writeLibrary({"colon : slash.mp3", "kept", "line\nbreak.mp3", "kept2", "été – 歌.mp3", "kept3", longName,
                   "kept4", "say \"hi\".mp3", "kept5", "back\\nslash.mp3", "kept6"});
@@ -216,7 +216,7 @@ TEST_F(EmbeddedDeletionTest, awkwardNamesGoToTheTrashOrStay) {
     EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102, 104, 106, 108, 110}));
 }
 
-TEST_F(EmbeddedDeletionTest, aTrashThatRefusesLeavesTheFileAndSaysWhy) {
+TEST_F(EmbeddedDeletionTest, ATrashThatRefusesLeavesTheFileAndSaysWhy) {
     writeLibrary({"a.mp3", "a2.mp3"});
     m_desktop.refuses = true;
     DisplayedList list = search(2);

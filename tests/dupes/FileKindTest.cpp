@@ -13,7 +13,7 @@ using test::MarkRows;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(FileKindTest, theExtensionFollowsTheLastDotOfTheLastComponent) {
+TEST(FileKindTest, TheExtensionFollowsTheLastDotOfTheLastComponent) {
     EXPECT_EQ(fileKind("/a/song.mp3"), "MP3");
     EXPECT_EQ(fileKind("/a/b.c/song"), "");
     EXPECT_EQ(fileKind("/a/song.tar.gz"), "GZ");
@@ -23,7 +23,7 @@ TEST(FileKindTest, theExtensionFollowsTheLastDotOfTheLastComponent) {
     EXPECT_EQ(fileKind("/a/song.éß"), "ÉSS");
 }
 
-TEST(FileKindTest, aKindIsComparedInUpperCase) {
+TEST(FileKindTest, AKindIsComparedInUpperCase) {
     EXPECT_TRUE(isOfKind("/a/song.Mp3", "MP3"));
     EXPECT_FALSE(isOfKind("/a/song.mp3", "mp3"));
     EXPECT_FALSE(isOfKind("/a/song.mp", "MP3"));
@@ -32,14 +32,14 @@ TEST(FileKindTest, aKindIsComparedInUpperCase) {
     EXPECT_TRUE(isOfKind("/a/song", ""));
 }
 
-TEST(FileKindTest, kindsStandInTheOrderOfTheirFirstAppearance) {
+TEST(FileKindTest, KindsStandInTheOrderOfTheirFirstAppearance) {
     MarkRows rows;
     for (const char* const location : {"song.mp3", "a.m4a", "b.MP3", "plain", "c.M4A", "d.aiff"})
         rows.add(1, {.location = location});
     EXPECT_THAT(kindsOf(rows.rows()), ElementsAre("MP3", "M4A", "AIFF"));
 }
 
-TEST(FileKindTest, noRowsGiveNoKinds) { EXPECT_THAT(kindsOf({}), IsEmpty()); }
+TEST(FileKindTest, NoRowsGiveNoKinds) { EXPECT_THAT(kindsOf({}), IsEmpty()); }
 
 } // namespace
 } // namespace songsweep

@@ -25,7 +25,7 @@ std::vector<std::string> reasons(std::initializer_list<TrackRecord> records, con
     return texts;
 }
 
-TEST(MarkReasonsTest, aLosingValueIsHeldAgainstTheKeptOne) {
+TEST(MarkReasonsTest, ALosingValueIsHeldAgainstTheKeptOne) {
     EXPECT_THAT(reasons({{.bitrate = "128"}, {.bitrate = "320"}}, {markType::highestBitrate, false, ""}),
                 ElementsAre("lower bit rate than the kept copy: 128 against 320", ""));
     EXPECT_THAT(reasons({{.time = "3:07", .timev = 187}, {.time = "3:45", .timev = 225}},
@@ -35,17 +35,17 @@ TEST(MarkReasonsTest, aLosingValueIsHeldAgainstTheKeptOne) {
                 ElementsAre("played less than the kept copy: 2 against 11", ""));
 }
 
-TEST(MarkReasonsTest, aCopyWithAnEqualValueGoesBecauseAnotherStays) {
+TEST(MarkReasonsTest, ACopyWithAnEqualValueGoesBecauseAnotherStays) {
     EXPECT_THAT(reasons({{.bitrate = "320"}, {.bitrate = "320"}}, {markType::highestBitrate, true, ""}),
                 ElementsAre("", "same bit rate as the kept copy: 320"));
 }
 
-TEST(MarkReasonsTest, aMissingFileIsReasonEnough) {
+TEST(MarkReasonsTest, AMissingFileIsReasonEnough) {
     EXPECT_THAT(reasons({{.isdead = true}, {}}, {markType::longest, false, ""}),
                 ElementsAre("file missing", ""));
 }
 
-TEST(MarkReasonsTest, kindFolderAndArtworkSpeakForThemselves) {
+TEST(MarkReasonsTest, KindFolderAndArtworkSpeakForThemselves) {
     EXPECT_THAT(
         reasons({{.location = "/Music/Old/a.mp3"}, {.location = "/b.m4a"}}, {markType::kind, false, "MP3"}),
         ElementsAre("of the kind MP3", ""));
@@ -56,19 +56,19 @@ TEST(MarkReasonsTest, kindFolderAndArtworkSpeakForThemselves) {
                 ElementsAre("no artwork", "another copy with artwork is kept", ""));
 }
 
-TEST(MarkReasonsTest, aCopyThatDoesNotLoseByKindGoesBecauseAnotherStays) {
+TEST(MarkReasonsTest, ACopyThatDoesNotLoseByKindGoesBecauseAnotherStays) {
     EXPECT_THAT(reasons({{.location = "/a.m4a"}, {.location = "/b.m4a"}}, {markType::kind, true, "MP3"}),
                 ElementsAre("another copy is kept", ""));
 }
 
-TEST(MarkReasonsTest, sizesThatReadAlikeAreToldInBytes) {
+TEST(MarkReasonsTest, SizesThatReadAlikeAreToldInBytes) {
     EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "5242990"}}, {markType::largest, false, ""}),
                 ElementsAre("smaller than the kept copy: 5242880 bytes against 5242990 bytes", ""));
     EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "10485760"}}, {markType::largest, false, ""}),
                 ElementsAre("smaller than the kept copy: 5.1 MB against 10.1 MB", ""));
 }
 
-TEST(MarkReasonsTest, rowsMayBeAskedInAnyOrder) {
+TEST(MarkReasonsTest, RowsMayBeAskedInAnyOrder) {
     MarkRows rows;
     for (int gid = 1; gid <= 3; ++gid) {
         rows.add(gid, {.timev = 1});

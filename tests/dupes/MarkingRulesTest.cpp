@@ -29,44 +29,44 @@ std::string marks(const MarkRows& rows, std::int32_t type, bool exceptOneCopy = 
     return rows.checks();
 }
 
-TEST(MarkingRulesTest, theHighestBitRateLeavesEqualCopiesUnchecked) {
+TEST(MarkingRulesTest, TheHighestBitRateLeavesEqualCopiesUnchecked) {
     EXPECT_EQ(marks(bitRates(), markType::highestBitrate), "x--");
 }
 
-TEST(MarkingRulesTest, theHighestBitRateExceptOneKeepsTheFirstOfEqualCopies) {
+TEST(MarkingRulesTest, TheHighestBitRateExceptOneKeepsTheFirstOfEqualCopies) {
     EXPECT_EQ(marks(bitRates(), markType::highestBitrate, exceptOne), "x-x");
 }
 
-TEST(MarkingRulesTest, theLowestBitRateExceptOneKeepsTheLowest) {
+TEST(MarkingRulesTest, TheLowestBitRateExceptOneKeepsTheLowest) {
     EXPECT_EQ(marks(bitRates(), markType::lowestBitrate, exceptOne), "-xx");
 }
 
-TEST(MarkingRulesTest, theBestOfTheLiveCopiesIsKeptWhereTheBestOfAllIsMissing) {
+TEST(MarkingRulesTest, TheBestOfTheLiveCopiesIsKeptWhereTheBestOfAllIsMissing) {
     const MarkRows rows = group({{.bitrate = "128"}, {.bitrate = "320", .isdead = true}, {.bitrate = "256"}});
     EXPECT_EQ(marks(rows, markType::highestBitrate), "xx-");
     EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "xx-");
 }
 
-TEST(MarkingRulesTest, aGroupOfMissingFilesKeepsItsFirstTrackWithExceptOne) {
+TEST(MarkingRulesTest, AGroupOfMissingFilesKeepsItsFirstTrackWithExceptOne) {
     const MarkRows rows = group({{.isdead = true}, {.isdead = true}, {.isdead = true}});
     EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "-xx");
     EXPECT_EQ(marks(rows, markType::highestBitrate), "xxx");
 }
 
-TEST(MarkingRulesTest, withArtworkChecksAllOfAGroupWithoutAny) {
+TEST(MarkingRulesTest, WithArtworkChecksAllOfAGroupWithoutAny) {
     const MarkRows rows = group({{}, {}, {}});
     EXPECT_EQ(marks(rows, markType::withArtwork), "xxx");
     EXPECT_EQ(marks(rows, markType::withArtwork, exceptOne), "-xx");
 }
 
-TEST(MarkingRulesTest, theLastCopyWithArtworkIsTheKeptOne) {
+TEST(MarkingRulesTest, TheLastCopyWithArtworkIsTheKeptOne) {
     const MarkRows rows = group({{.hasartwork = true}, {.hasartwork = true}, {}});
     EXPECT_EQ(marks(rows, markType::withArtwork, exceptOne), "x-x");
     EXPECT_EQ(marks(rows, markType::withoutArtwork, exceptOne), "xx-");
     EXPECT_EQ(marks(rows, markType::withoutArtwork), "xx-");
 }
 
-TEST(MarkingRulesTest, theKindRuleKeepsTheLastTrackOfAnotherKind) {
+TEST(MarkingRulesTest, TheKindRuleKeepsTheLastTrackOfAnotherKind) {
     const MarkRows rows = group({{.location = "/a.mp3"}, {.location = "/b.m4a"}, {.location = "/c.M4A"}});
     markItemsByKind(rows.rows(), "MP3", exceptOne);
     EXPECT_EQ(rows.checks(), "xx-");
@@ -74,19 +74,19 @@ TEST(MarkingRulesTest, theKindRuleKeepsTheLastTrackOfAnotherKind) {
     EXPECT_EQ(rows.checks(), "x--");
 }
 
-TEST(MarkingRulesTest, aKindInLowerCaseMatchesNothing) {
+TEST(MarkingRulesTest, AKindInLowerCaseMatchesNothing) {
     const MarkRows rows = group({{.location = "/a.mp3"}, {.location = "/b.mp3"}});
     markItemsByKind(rows.rows(), "mp3", !exceptOne);
     EXPECT_EQ(rows.checks(), "--");
 }
 
-TEST(MarkingRulesTest, anEmptyKindChecksTheFilesWithoutExtension) {
+TEST(MarkingRulesTest, AnEmptyKindChecksTheFilesWithoutExtension) {
     const MarkRows rows = group({{.location = "/a"}, {.location = "/b.mp3"}, {.location = "/c.d/e"}});
     markItemsByKind(rows.rows(), "", !exceptOne);
     EXPECT_EQ(rows.checks(), "x-x");
 }
 
-TEST(MarkingRulesTest, theFolderRuleTakesNoFolderOfALongerName) {
+TEST(MarkingRulesTest, TheFolderRuleTakesNoFolderOfALongerName) {
     const MarkRows rows = group({{.location = "/Music/Old/x.mp3"}, {.location = "/Music/Older/y.mp3"}});
     markItemsByFolder(rows.rows(), "/Music/Old", !exceptOne);
     EXPECT_EQ(rows.checks(), "x-");
@@ -94,41 +94,41 @@ TEST(MarkingRulesTest, theFolderRuleTakesNoFolderOfALongerName) {
     EXPECT_FALSE(isSubfolder("/Music/Old", "/Music/Older/y.mp3"));
 }
 
-TEST(MarkingRulesTest, aFolderHoldsItselfAndMindsTheCase) {
+TEST(MarkingRulesTest, AFolderHoldsItselfAndMindsTheCase) {
     EXPECT_TRUE(isSubfolder("/Music/Old", "/Music/Old"));
     EXPECT_FALSE(isSubfolder("/Music/Old", "/music/old/x.mp3"));
 }
 
-TEST(MarkingRulesTest, aFolderThatEndsWithASlashHoldsNoFile) {
+TEST(MarkingRulesTest, AFolderThatEndsWithASlashHoldsNoFile) {
     EXPECT_FALSE(isSubfolder("/", "/x.mp3"));
     EXPECT_FALSE(isSubfolder("/", "/Music/x.mp3"));
     EXPECT_FALSE(isSubfolder("/Music/", "/Music/x.mp3"));
     EXPECT_TRUE(isSubfolder("/", "/"));
 }
 
-TEST(MarkingRulesTest, anEmptyFolderHoldsOnlyTheEmptyPath) {
+TEST(MarkingRulesTest, AnEmptyFolderHoldsOnlyTheEmptyPath) {
     EXPECT_FALSE(isSubfolder("", "/Music/x.mp3"));
     EXPECT_TRUE(isSubfolder("", ""));
 }
 
-TEST(MarkingRulesTest, theEarliestAddedLeavesATrackWithoutADateBeforeADatedOne) {
+TEST(MarkingRulesTest, TheEarliestAddedLeavesATrackWithoutADateBeforeADatedOne) {
     const MarkRows rows = group({{.dateaddedv = 0}, {.dateaddedv = 1237043366}});
     EXPECT_EQ(marks(rows, markType::earliestAdded), "--");
     EXPECT_EQ(marks(rows, markType::earliestAdded, exceptOne), "--");
 }
 
-TEST(MarkingRulesTest, theLatestAddedChecksATrackWithoutADate) {
+TEST(MarkingRulesTest, TheLatestAddedChecksATrackWithoutADate) {
     const MarkRows rows = group({{.dateaddedv = 0}, {.dateaddedv = 1237043366}});
     EXPECT_EQ(marks(rows, markType::latestAdded), "x-");
     EXPECT_EQ(marks(rows, markType::latestAdded, exceptOne), "x-");
 }
 
-TEST(MarkingRulesTest, aGroupWithoutALoserLosesItsEarlierMarks) {
+TEST(MarkingRulesTest, AGroupWithoutALoserLosesItsEarlierMarks) {
     const MarkRows rows = group({{.timev = 200, .checkbox = true}, {.timev = 200, .checkbox = true}});
     EXPECT_EQ(marks(rows, markType::longest), "--");
 }
 
-TEST(MarkingRulesTest, eachValueRuleReadsItsOwnField) {
+TEST(MarkingRulesTest, EachValueRuleReadsItsOwnField) {
     const MarkRows rows = group({{.size = "10", .playcount = "5", .dateaddedv = 5, .timev = 1, .rating = 2},
                                  {.size = "9", .playcount = "6", .dateaddedv = 4, .timev = 2, .rating = 1}});
     EXPECT_EQ(marks(rows, markType::longest), "x-");
@@ -143,12 +143,12 @@ TEST(MarkingRulesTest, eachValueRuleReadsItsOwnField) {
     EXPECT_EQ(marks(rows, markType::leastPlayed), "-x");
 }
 
-TEST(MarkingRulesTest, aSizeBeyond32BitsCountsAsTheLargestOfThem) {
+TEST(MarkingRulesTest, ASizeBeyond32BitsCountsAsTheLargestOfThem) {
     const MarkRows rows = group({{.size = "4294967296"}, {.size = "2147483647"}});
     EXPECT_EQ(marks(rows, markType::largest), "--");
 }
 
-TEST(MarkingRulesTest, anUnknownMarkTypeChecksOnlyMissingFiles) {
+TEST(MarkingRulesTest, AnUnknownMarkTypeChecksOnlyMissingFiles) {
     const MarkRows rows = group({{.checkbox = true}, {.isdead = true}, {}});
     EXPECT_EQ(marks(rows, markType::none), "-x-");
     EXPECT_EQ(marks(rows, 14), "-x-");
@@ -156,7 +156,7 @@ TEST(MarkingRulesTest, anUnknownMarkTypeChecksOnlyMissingFiles) {
     EXPECT_EQ(marks(rows, markType::folder, exceptOne), "-x-");
 }
 
-TEST(MarkingRulesTest, aGroupThatWasSplitCountsAsTwo) {
+TEST(MarkingRulesTest, AGroupThatWasSplitCountsAsTwo) {
     MarkRows rows;
     rows.add(1, {.bitrate = "128"});
     rows.add(2, {.bitrate = "64"});
@@ -164,12 +164,12 @@ TEST(MarkingRulesTest, aGroupThatWasSplitCountsAsTwo) {
     EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "---");
 }
 
-TEST(MarkingRulesTest, anEmptyListStaysEmpty) {
+TEST(MarkingRulesTest, AnEmptyListStaysEmpty) {
     const MarkRows rows;
     EXPECT_EQ(marks(rows, markType::highestBitrate, exceptOne), "");
 }
 
-TEST(MarkingRulesTest, lookingAtTheEffectMarksNothing) {
+TEST(MarkingRulesTest, LookingAtTheEffectMarksNothing) {
     const MarkRows rows = bitRates();
     const MarkChoice choice = {markType::highestBitrate, exceptOne, ""};
     EXPECT_EQ(markEffect(rows.rows(), choice).marked, 2);
@@ -180,7 +180,7 @@ TEST(MarkingRulesTest, lookingAtTheEffectMarksNothing) {
     EXPECT_TRUE(markEffect(rows.rows(), choice).inForce);
 }
 
-TEST(MarkingRulesTest, everyRuleHasANameForTheCommandLine) {
+TEST(MarkingRulesTest, EveryRuleHasANameForTheCommandLine) {
     const std::vector<std::string> names = {
         "highest-bitrate", "lowest-bitrate",  "longest",        "shortest",
         "largest",         "smallest",        "earliest-added", "latest-added",

@@ -9,7 +9,7 @@
 namespace songsweep {
 namespace {
 
-TEST(WorkerEventTest, everyEventHasTheTextThatTheLogShows) {
+TEST(WorkerEventTest, EveryEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::addFinish), "addFinish");
     EXPECT_EQ(text(EventName::xmlDoneParsing), "xmlDoneParsing");
     EXPECT_EQ(text(EventName::xmlErrorParsing), "xmlErrorParsing");
@@ -29,7 +29,7 @@ TEST(WorkerEventTest, everyEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::tableviewSpacebar), "tableviewSpacebar");
 }
 
-TEST(WorkerEventTest, theTwoCountsAreCountsAndNothingElseIs) {
+TEST(WorkerEventTest, TheTwoCountsAreCountsAndNothingElseIs) {
     std::vector<EventName> counts;
     for (auto name = EventName::addFinish; name <= EventName::tableviewSpacebar;
          name = static_cast<EventName>(static_cast<int>(name) + 1)) {

@@ -42,7 +42,7 @@ class Poster {
     std::thread m_thread;
 };
 
-TEST(NotificationCenterTest, handlesEveryEventOnTheMainThreadInTheOrderPosted) {
+TEST(NotificationCenterTest, HandlesEveryEventOnTheMainThreadInTheOrderPosted) {
     NotificationCenter<TestEvent> center;
     const auto mainThread = std::this_thread::get_id();
     std::vector<int> handled;
@@ -62,7 +62,7 @@ TEST(NotificationCenterTest, handlesEveryEventOnTheMainThreadInTheOrderPosted) {
         ASSERT_EQ(handled[static_cast<std::size_t>(number)], number);
 }
 
-TEST(NotificationCenterTest, postReturnsOnlyWhenTheEventWasHandled) {
+TEST(NotificationCenterTest, PostReturnsOnlyWhenTheEventWasHandled) {
     NotificationCenter<TestEvent> center;
     int handled = 0; // plain: the hand-off itself is what orders its uses
     center.setObserver([&handled](const TestEvent&) { ++handled; });
@@ -77,7 +77,7 @@ TEST(NotificationCenterTest, postReturnsOnlyWhenTheEventWasHandled) {
     EXPECT_EQ(wrong, 0);
 }
 
-TEST(NotificationCenterTest, aSlowHandlerIsWaitedFor) {
+TEST(NotificationCenterTest, ASlowHandlerIsWaitedFor) {
     NotificationCenter<TestEvent> center;
     bool isHandled = false;
     center.setObserver([&isHandled](const TestEvent&) {
@@ -93,7 +93,7 @@ TEST(NotificationCenterTest, aSlowHandlerIsWaitedFor) {
     EXPECT_TRUE(wasHandled);
 }
 
-TEST(NotificationCenterTest, handlesAPostFromTheMainThreadDirectly) {
+TEST(NotificationCenterTest, HandlesAPostFromTheMainThreadDirectly) {
     NotificationCenter<TestEvent> center;
     int handled = 0;
     center.setObserver([&handled](const TestEvent&) { ++handled; });
@@ -103,7 +103,7 @@ TEST(NotificationCenterTest, handlesAPostFromTheMainThreadDirectly) {
     EXPECT_EQ(handled, 2);
 }
 
-TEST(NotificationCenterTest, handlesAPostFromInsideAHandlerDirectly) {
+TEST(NotificationCenterTest, HandlesAPostFromInsideAHandlerDirectly) {
     NotificationCenter<TestEvent> center;
     std::vector<Kind> handled;
     center.setObserver([&](const TestEvent& event) {
@@ -115,7 +115,7 @@ TEST(NotificationCenterTest, handlesAPostFromInsideAHandlerDirectly) {
     EXPECT_THAT(handled, ElementsAre(Kind::fromView, Kind::finish));
 }
 
-TEST(NotificationCenterTest, namesTheOperationWhoseEventIsInHand) {
+TEST(NotificationCenterTest, NamesTheOperationWhoseEventIsInHand) {
     NotificationCenter<TestEvent> center;
     const auto sender = test::operation([](test::TestOperation&) {});
     std::vector<const Operation*> handling;
@@ -130,13 +130,13 @@ TEST(NotificationCenterTest, namesTheOperationWhoseEventIsInHand) {
     EXPECT_EQ(center.handling(), nullptr);
 }
 
-TEST(NotificationCenterTest, withoutAnObserverEventsAreHandledByDoingNothing) {
+TEST(NotificationCenterTest, WithoutAnObserverEventsAreHandledByDoingNothing) {
     NotificationCenter<TestEvent> center;
     const Poster poster([&center] { center.post(units(1)); });
     EXPECT_TRUE(runEventLoopUntil([&] { return poster.isDone(); }));
 }
 
-TEST(NotificationCenterTest, severalPostersEachKeepTheirOrder) {
+TEST(NotificationCenterTest, SeveralPostersEachKeepTheirOrder) {
     NotificationCenter<TestEvent> center;
     std::vector<int> lastOfEach(4, -1);
     int wrong = 0;
@@ -158,7 +158,7 @@ TEST(NotificationCenterTest, severalPostersEachKeepTheirOrder) {
     EXPECT_THAT(lastOfEach, ElementsAre(1999, 1999, 1999, 1999));
 }
 
-TEST(NotificationCenterTest, timersRunWhileEventsCome) {
+TEST(NotificationCenterTest, TimersRunWhileEventsCome) {
     NotificationCenter<TestEvent> center;
     center.setObserver([](const TestEvent&) {});
     std::atomic<bool> stops = false;
@@ -174,7 +174,7 @@ TEST(NotificationCenterTest, timersRunWhileEventsCome) {
     stops = true;
 }
 
-TEST(NotificationCenterTest, closeReleasesAPosterWhoseEventNobodyHandles) {
+TEST(NotificationCenterTest, CloseReleasesAPosterWhoseEventNobodyHandles) {
     NotificationCenter<TestEvent> center;
     int handled = 0;
     center.setObserver([&handled](const TestEvent&) { ++handled; });
@@ -193,7 +193,7 @@ TEST(NotificationCenterTest, closeReleasesAPosterWhoseEventNobodyHandles) {
     EXPECT_EQ(handled, 0);
 }
 
-TEST(NotificationCenterTest, closeReleasesEveryPosterThatWaits) {
+TEST(NotificationCenterTest, CloseReleasesEveryPosterThatWaits) {
     NotificationCenter<TestEvent> center;
     center.setObserver([](const TestEvent&) { FAIL() << "nothing is handled"; });
     const auto post = [&center] { center.post(units(1)); };
@@ -206,7 +206,7 @@ TEST(NotificationCenterTest, closeReleasesEveryPosterThatWaits) {
     test::handleWaitingEvents();
 }
 
-TEST(NotificationCenterTest, closeInsideAHandlerReleasesThePosterAtOnce) {
+TEST(NotificationCenterTest, CloseInsideAHandlerReleasesThePosterAtOnce) {
     NotificationCenter<TestEvent> center;
     std::atomic<bool> isReleased = false;
     bool wasReleasedInside = false;
@@ -224,7 +224,7 @@ TEST(NotificationCenterTest, closeInsideAHandlerReleasesThePosterAtOnce) {
     EXPECT_TRUE(wasReleasedInside);
 }
 
-TEST(NotificationCenterTest, dropsWhatIsPostedAfterClose) {
+TEST(NotificationCenterTest, DropsWhatIsPostedAfterClose) {
     NotificationCenter<TestEvent> center;
     int handled = 0;
     center.setObserver([&handled](const TestEvent&) { ++handled; });
@@ -239,7 +239,7 @@ TEST(NotificationCenterTest, dropsWhatIsPostedAfterClose) {
     EXPECT_EQ(handled, 0);
 }
 
-TEST(NotificationCenterTest, itsEndReleasesWhoeverWaits) {
+TEST(NotificationCenterTest, ItsEndReleasesWhoeverWaits) {
     std::atomic<bool> isPosting = false;
     std::unique_ptr<Poster> poster;
     {

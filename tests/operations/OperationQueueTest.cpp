@@ -35,7 +35,7 @@ class OperationQueueTest : public ::testing::Test {
     std::unique_ptr<OperationQueue> m_queue = std::make_unique<OperationQueue>(m_center, m_log);
 };
 
-TEST_F(OperationQueueTest, runsOperationsInTheOrderAdded) {
+TEST_F(OperationQueueTest, RunsOperationsInTheOrderAdded) {
     std::vector<int> ran;
     for (int number = 0; number < 500; ++number) {
         m_queue->add(operation([&ran, number](TestOperation&) { ran.push_back(number); }));
@@ -45,7 +45,7 @@ TEST_F(OperationQueueTest, runsOperationsInTheOrderAdded) {
     EXPECT_TRUE(std::is_sorted(ran.begin(), ran.end()));
 }
 
-TEST_F(OperationQueueTest, runsThemOffTheMainThread) {
+TEST_F(OperationQueueTest, RunsThemOffTheMainThread) {
     std::thread::id thread;
     m_queue->add(operation([&thread](TestOperation&) { thread = std::this_thread::get_id(); }));
     ASSERT_TRUE(runUntilIdle());
@@ -53,7 +53,7 @@ TEST_F(OperationQueueTest, runsThemOffTheMainThread) {
     EXPECT_NE(thread, std::this_thread::get_id());
 }
 
-TEST_F(OperationQueueTest, neverRunsTwoAtOnce) {
+TEST_F(OperationQueueTest, NeverRunsTwoAtOnce) {
     std::atomic<int> running = 0;
     std::atomic<int> most = 0;
     for (int number = 0; number < 200; ++number) {
@@ -67,7 +67,7 @@ TEST_F(OperationQueueTest, neverRunsTwoAtOnce) {
     EXPECT_EQ(most, 1);
 }
 
-TEST_F(OperationQueueTest, anOperationAddedByAFinishingEventBeginsWhenTheFirstHasReturned) {
+TEST_F(OperationQueueTest, AnOperationAddedByAFinishingEventBeginsWhenTheFirstHasReturned) {
     std::atomic<bool> firstHasReturned = false;
     std::vector<bool> hadReturned;
     m_center.setObserver([&](const TestEvent&) {
@@ -82,7 +82,7 @@ TEST_F(OperationQueueTest, anOperationAddedByAFinishingEventBeginsWhenTheFirstHa
     EXPECT_THAT(hadReturned, ElementsAre(true));
 }
 
-TEST_F(OperationQueueTest, cancelAllMarksTheRunningAndTheWaiting) {
+TEST_F(OperationQueueTest, CancelAllMarksTheRunningAndTheWaiting) {
     std::atomic<bool> isRunning = false;
     std::vector<bool> cancelled;
     m_queue->add(operation([&](TestOperation& self) {
@@ -100,7 +100,7 @@ TEST_F(OperationQueueTest, cancelAllMarksTheRunningAndTheWaiting) {
     EXPECT_THAT(cancelled, ElementsAre(true, true, false));
 }
 
-TEST_F(OperationQueueTest, anOperationCancelledBeforeItStartedStillRunsItsMain) {
+TEST_F(OperationQueueTest, AnOperationCancelledBeforeItStartedStillRunsItsMain) {
     std::vector<Kind> handled;
     m_center.setObserver([&](const TestEvent& event) { handled.push_back(event.kind); });
     auto cancelled = operation([this](TestOperation& self) {
@@ -112,7 +112,7 @@ TEST_F(OperationQueueTest, anOperationCancelledBeforeItStartedStillRunsItsMain) 
     EXPECT_THAT(handled, ElementsAre(Kind::cancel));
 }
 
-TEST_F(OperationQueueTest, anOperationAddedByAnEventOfACancelledOneStartsCancelled) {
+TEST_F(OperationQueueTest, AnOperationAddedByAnEventOfACancelledOneStartsCancelled) {
     bool isCancelled = false;
     m_center.setObserver([&](const TestEvent& event) {
         if (event.kind != Kind::finish) return;
@@ -124,7 +124,7 @@ TEST_F(OperationQueueTest, anOperationAddedByAnEventOfACancelledOneStartsCancell
     EXPECT_TRUE(isCancelled);
 }
 
-TEST_F(OperationQueueTest, anOperationAddedAfterTheEventsOfACancelledOneStartsFresh) {
+TEST_F(OperationQueueTest, AnOperationAddedAfterTheEventsOfACancelledOneStartsFresh) {
     bool isCancelled = true;
     auto first = operation([this](TestOperation& self) { m_center.post(self.event(Kind::cancel)); });
     first->cancel();
@@ -135,7 +135,7 @@ TEST_F(OperationQueueTest, anOperationAddedAfterTheEventsOfACancelledOneStartsFr
     EXPECT_FALSE(isCancelled);
 }
 
-TEST_F(OperationQueueTest, logsAnExceptionWithItsTextAndGoesOn) {
+TEST_F(OperationQueueTest, LogsAnExceptionWithItsTextAndGoesOn) {
     bool nextRan = false;
     m_queue->add(operation([](TestOperation&) { throw std::runtime_error("the disk is on fire"); }));
     m_queue->add(operation([&nextRan](TestOperation&) { nextRan = true; }));
@@ -144,13 +144,13 @@ TEST_F(OperationQueueTest, logsAnExceptionWithItsTextAndGoesOn) {
     EXPECT_TRUE(nextRan);
 }
 
-TEST_F(OperationQueueTest, logsWhatIsThrownAndIsNoException) {
+TEST_F(OperationQueueTest, LogsWhatIsThrownAndIsNoException) {
     m_queue->add(operation([](TestOperation&) { throw 42; })); // NOLINT(hicpp-exception-baseclass)
     ASSERT_TRUE(runUntilIdle());
     EXPECT_THAT(m_log.lines(), ElementsAre("Exception in an operation: of unknown type"));
 }
 
-TEST_F(OperationQueueTest, countsTheWaitingAndTheRunning) {
+TEST_F(OperationQueueTest, CountsTheWaitingAndTheRunning) {
     std::atomic<bool> mayGoOn = false;
     const auto waits = [&mayGoOn](TestOperation&) {
         while (!mayGoOn)
@@ -164,7 +164,7 @@ TEST_F(OperationQueueTest, countsTheWaitingAndTheRunning) {
     EXPECT_TRUE(runUntilIdle());
 }
 
-TEST_F(OperationQueueTest, tellsOnTheMainThreadEachTimeTheLastHasReturned) {
+TEST_F(OperationQueueTest, TellsOnTheMainThreadEachTimeTheLastHasReturned) {
     int told = 0;
     bool isOnMainThread = true;
     const auto mainThread = std::this_thread::get_id();
@@ -179,7 +179,7 @@ TEST_F(OperationQueueTest, tellsOnTheMainThreadEachTimeTheLastHasReturned) {
     EXPECT_TRUE(isOnMainThread);
 }
 
-TEST_F(OperationQueueTest, isNotIdleBetweenTheWorkersOfAChain) {
+TEST_F(OperationQueueTest, IsNotIdleBetweenTheWorkersOfAChain) {
     int told = 0;
     int left = 5;
     m_queue->setIdleHandler([&told] { ++told; });
@@ -194,14 +194,14 @@ TEST_F(OperationQueueTest, isNotIdleBetweenTheWorkersOfAChain) {
     EXPECT_EQ(told, 1);
 }
 
-TEST_F(OperationQueueTest, anOperationIsDestroyedOnceItHasReturned) {
+TEST_F(OperationQueueTest, AnOperationIsDestroyedOnceItHasReturned) {
     auto tracked = std::make_shared<int>(1);
     const std::weak_ptr<int> watch = tracked;
     m_queue->add(operation([tracked = std::move(tracked)](TestOperation&) {}));
     EXPECT_TRUE(runEventLoopUntil([&watch] { return watch.expired(); }));
 }
 
-TEST_F(OperationQueueTest, itsEndCancelsAndReleasesAWorkerThatWaitsForItsEvent) {
+TEST_F(OperationQueueTest, ItsEndCancelsAndReleasesAWorkerThatWaitsForItsEvent) {
     std::atomic<bool> isPosting = false;
     bool sawCancel = false;
     m_queue->add(operation([&](TestOperation& self) {
@@ -216,7 +216,7 @@ TEST_F(OperationQueueTest, itsEndCancelsAndReleasesAWorkerThatWaitsForItsEvent) 
     EXPECT_TRUE(sawCancel);
 }
 
-TEST_F(OperationQueueTest, itsEndWaitsForEveryOperation) {
+TEST_F(OperationQueueTest, ItsEndWaitsForEveryOperation) {
     int ran = 0;
     for (int number = 0; number < 20; ++number)
         m_queue->add(operation([&ran](TestOperation&) { ++ran; }));
@@ -224,7 +224,7 @@ TEST_F(OperationQueueTest, itsEndWaitsForEveryOperation) {
     EXPECT_EQ(ran, 20);
 }
 
-TEST_F(OperationQueueTest, quittingInsideAHandlerReleasesTheWorkerAndKeepsItsOperation) {
+TEST_F(OperationQueueTest, QuittingInsideAHandlerReleasesTheWorkerAndKeepsItsOperation) {
     bool wasThere = false;
     m_center.setObserver([&](const TestEvent& event) {
         m_queue->cancelAllOperations();

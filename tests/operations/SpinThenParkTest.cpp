@@ -15,23 +15,23 @@ bool waitForASlowMachine(SpinThenPark& wait) {
     });
 }
 
-TEST(SpinThenParkTest, saysAtOnceThatWhatIsReadyIsReady) {
+TEST(SpinThenParkTest, SaysAtOnceThatWhatIsReadyIsReady) {
     SpinThenPark wait{std::chrono::microseconds(30)};
     EXPECT_TRUE(wait.spinUntil([] { return true; }));
 }
 
-TEST(SpinThenParkTest, givesUpWhenTheLimitIsOver) {
+TEST(SpinThenParkTest, GivesUpWhenTheLimitIsOver) {
     SpinThenPark wait{std::chrono::microseconds(30)};
     EXPECT_FALSE(wait.spinUntil([] { return false; }));
 }
 
-TEST(SpinThenParkTest, looksOnceMoreAfterTheLimit) {
+TEST(SpinThenParkTest, LooksOnceMoreAfterTheLimit) {
     SpinThenPark wait{std::chrono::microseconds(0)};
     int looks = 0;
     EXPECT_TRUE(wait.spinUntil([&looks] { return ++looks > 1; }));
 }
 
-TEST(SpinThenParkTest, looksOnlyOnceWhileItRestsAfterASlowYield) {
+TEST(SpinThenParkTest, LooksOnlyOnceWhileItRestsAfterASlowYield) {
     SpinThenPark wait{std::chrono::seconds(10)};
     EXPECT_FALSE(waitForASlowMachine(wait));
     ASSERT_TRUE(wait.parksAtOnce());
@@ -41,7 +41,7 @@ TEST(SpinThenParkTest, looksOnlyOnceWhileItRestsAfterASlowYield) {
     EXPECT_EQ(looks, 1);
 }
 
-TEST(SpinThenParkTest, spinsAgainAfterItsRest) {
+TEST(SpinThenParkTest, SpinsAgainAfterItsRest) {
     SpinThenPark wait{std::chrono::seconds(10)};
     while (!wait.parksAtOnce())
         waitForASlowMachine(wait);
@@ -53,7 +53,7 @@ TEST(SpinThenParkTest, spinsAgainAfterItsRest) {
     EXPECT_TRUE(wait.spinUntil([&looks] { return ++looks > 1; }));
 }
 
-TEST(SpinThenParkTest, restsLongerEachTimeTheMachineIsStillBusy) {
+TEST(SpinThenParkTest, RestsLongerEachTimeTheMachineIsStillBusy) {
     SpinThenPark wait{std::chrono::seconds(10)};
     int last = 0;
     for (int time = 0; time < 3; ++time) {

@@ -74,34 +74,34 @@ class DefaultPrograms : public ::testing::Test {
     QByteArray m_formerPath;
 };
 
-TEST_F(DefaultPrograms, openAWebAddress) {
+TEST_F(DefaultPrograms, OpenAWebAddress) {
     setDefault("x-scheme-handler/https", "browser", "%u");
     ASSERT_TRUE(m_desktop.openUrl("https://songsweep.example/faq.php#cant-access-itunes"));
     EXPECT_EQ(told(), "browser https://songsweep.example/faq.php#cant-access-itunes");
 }
 
-TEST_F(DefaultPrograms, openTheFolderWhereNoFileManagerAnswers) {
+TEST_F(DefaultPrograms, OpenTheFolderWhereNoFileManagerAnswers) {
     setDefault("inode/directory", "files", "%f");
     m_folder.write("Abba/a b.mp3", "x");
     ASSERT_TRUE(m_desktop.showInFileManager(m_folder.path() + "/Abba/a b.mp3"));
     EXPECT_EQ(told(), "files " + m_folder.path() + "/Abba");
 }
 
-TEST_F(DefaultPrograms, playAFileWhereNoPlayerRuns) {
+TEST_F(DefaultPrograms, PlayAFileWhereNoPlayerRuns) {
     setDefault("text/plain", "player", "%f");
     const std::string path = m_folder.write("a.txt", "x");
     ASSERT_TRUE(m_desktop.play(path));
     EXPECT_EQ(told(), "player " + path);
 }
 
-TEST_F(DefaultPrograms, giveWayToXdgOpenWhereNoneIsKnown) {
+TEST_F(DefaultPrograms, GiveWayToXdgOpenWhereNoneIsKnown) {
     writeProgram(m_folder.path() + "/bin/xdg-open", tellingScript("xdg-open"));
     qputenv("PATH", QByteArray::fromStdString(m_folder.path() + "/bin:") + qgetenv("PATH"));
     ASSERT_TRUE(m_desktop.openUrl("https://songsweep.example/"));
     EXPECT_EQ(told(), "xdg-open https://songsweep.example/");
 }
 
-TEST_F(DefaultPrograms, thatAreMissingAreAnError) {
+TEST_F(DefaultPrograms, ThatAreMissingAreAnError) {
     qputenv("PATH", "/nonexistent");
     const Result<void> result = m_desktop.openUrl("https://songsweep.example/");
     ASSERT_FALSE(result);

@@ -74,20 +74,20 @@ class RunningPlayer : public ::testing::Test {
     LinuxDesktop m_desktop;
 };
 
-TEST_F(RunningPlayer, playsAFileByItsUrl) {
+TEST_F(RunningPlayer, PlaysAFileByItsUrl) {
     ASSERT_FALSE(m_bus.address().isEmpty());
     const Player player(m_bus, QStringLiteral("one"), {stopped});
     ASSERT_TRUE(m_desktop.play("/Music/caf\u00e9 #1?.mp3"));
     EXPECT_EQ(player.opened(), QStringList{QStringLiteral("file:///Music/caf%C3%A9%20%231%3F.mp3")});
 }
 
-TEST_F(RunningPlayer, stops) {
+TEST_F(RunningPlayer, Stops) {
     const Player player(m_bus, QStringLiteral("one"), {playing});
     ASSERT_TRUE(m_desktop.stopPlaying());
     EXPECT_EQ(player.stops(), 1U);
 }
 
-TEST_F(RunningPlayer, isTheOneThatPlays) {
+TEST_F(RunningPlayer, IsTheOneThatPlays) {
     const Player idle(m_bus, QStringLiteral("a"), {stopped});
     const Player resting(m_bus, QStringLiteral("b"), {paused});
     const Player active(m_bus, QStringLiteral("c"), {playing});
@@ -99,7 +99,7 @@ TEST_F(RunningPlayer, isTheOneThatPlays) {
     EXPECT_EQ(idle.stops() + resting.stops(), 0U);
 }
 
-TEST_F(RunningPlayer, isAPausedOneRatherThanAStoppedOne) {
+TEST_F(RunningPlayer, IsAPausedOneRatherThanAStoppedOne) {
     const Player idle(m_bus, QStringLiteral("a"), {stopped});
     const Player resting(m_bus, QStringLiteral("b"), {paused});
     ASSERT_TRUE(m_desktop.play("/a.mp3"));
@@ -107,7 +107,7 @@ TEST_F(RunningPlayer, isAPausedOneRatherThanAStoppedOne) {
     EXPECT_TRUE(idle.opened().isEmpty());
 }
 
-TEST_F(RunningPlayer, isNotABrowserThatOpensNoFiles) {
+TEST_F(RunningPlayer, IsNotABrowserThatOpensNoFiles) {
     const Player browser(m_bus, QStringLiteral("a"), {playing, QStringList{QStringLiteral("https")}});
     const Player player(m_bus, QStringLiteral("b"), {stopped, QStringList{QStringLiteral("file")}});
     ASSERT_TRUE(m_desktop.play("/a.mp3"));
@@ -115,7 +115,7 @@ TEST_F(RunningPlayer, isNotABrowserThatOpensNoFiles) {
     EXPECT_EQ(player.opened().size(), 1);
 }
 
-TEST_F(RunningPlayer, isTheNextWhenOneRefuses) {
+TEST_F(RunningPlayer, IsTheNextWhenOneRefuses) {
     const Player refusing(m_bus, QStringLiteral("a"), {playing, std::nullopt, false});
     const Player player(m_bus, QStringLiteral("b"), {stopped});
     ASSERT_TRUE(m_desktop.play("/a.mp3"));
@@ -123,7 +123,7 @@ TEST_F(RunningPlayer, isTheNextWhenOneRefuses) {
     EXPECT_EQ(player.opened().size(), 1);
 }
 
-TEST_F(RunningPlayer, thatTellsNothingIsAskedAllTheSame) {
+TEST_F(RunningPlayer, ThatTellsNothingIsAskedAllTheSame) {
     const Player player(m_bus, QStringLiteral("one"), PlayerState{});
     ASSERT_TRUE(m_desktop.play("/a.mp3"));
     ASSERT_TRUE(m_desktop.stopPlaying());
@@ -131,7 +131,7 @@ TEST_F(RunningPlayer, thatTellsNothingIsAskedAllTheSame) {
     EXPECT_EQ(player.stops(), 1U);
 }
 
-TEST_F(RunningPlayer, thatHangsIsLeftOut) {
+TEST_F(RunningPlayer, ThatHangsIsLeftOut) {
     std::binary_semaphore goOn(0);
     {
         const Player hanging(m_bus, QStringLiteral("a"), BusService::Answer([&goOn](const QDBusMessage&) {
@@ -145,7 +145,7 @@ TEST_F(RunningPlayer, thatHangsIsLeftOut) {
     }
 }
 
-TEST_F(RunningPlayer, isReachedFromAWorkersThread) {
+TEST_F(RunningPlayer, IsReachedFromAWorkersThread) {
     const Player player(m_bus, QStringLiteral("one"), {playing});
     std::thread([this] {
         EXPECT_TRUE(m_desktop.play("/a.mp3"));
@@ -155,11 +155,11 @@ TEST_F(RunningPlayer, isReachedFromAWorkersThread) {
     EXPECT_EQ(player.stops(), 1U);
 }
 
-TEST_F(RunningPlayer, needNotBeThereToBeStopped) { EXPECT_TRUE(m_desktop.stopPlaying()); }
+TEST_F(RunningPlayer, NeedNotBeThereToBeStopped) { EXPECT_TRUE(m_desktop.stopPlaying()); }
 
-TEST(NoBus, isNoReasonToFailAtStopping) { EXPECT_TRUE(LinuxDesktop().stopPlaying()); }
+TEST(NoBus, IsNoReasonToFailAtStopping) { EXPECT_TRUE(LinuxDesktop().stopPlaying()); }
 
-TEST(NoBus, leavesTheErrorOfTheMissingPlayer) {
+TEST(NoBus, LeavesTheErrorOfTheMissingPlayer) {
     const Result<void> result = LinuxDesktop().play("/nonexistent/a.mp3");
     ASSERT_FALSE(result);
     EXPECT_FALSE(result.error().message.empty());
@@ -176,7 +176,7 @@ class FileManager : public ::testing::Test {
     const QString m_path = QStringLiteral("/org/freedesktop/FileManager1");
 };
 
-TEST_F(FileManager, showsTheFileByItsUrl) {
+TEST_F(FileManager, ShowsTheFileByItsUrl) {
     const BusService service(m_bus, m_name, m_path, answer(true));
     ASSERT_TRUE(m_desktop.showInFileManager("/Music/100% \"caf\u00e9\"\n;#.mp3"));
     const auto calls = service.callsOf(QStringLiteral("ShowItems"));
@@ -186,13 +186,13 @@ TEST_F(FileManager, showsTheFileByItsUrl) {
     EXPECT_EQ(calls[0].value(1).toString(), QString());
 }
 
-TEST_F(FileManager, isReachedFromAWorkersThread) {
+TEST_F(FileManager, IsReachedFromAWorkersThread) {
     const BusService service(m_bus, m_name, m_path, answer(true));
     std::thread([this] { EXPECT_TRUE(m_desktop.showInFileManager("/a.mp3")); }).join();
     EXPECT_EQ(service.callsOf(QStringLiteral("ShowItems")).size(), 1U);
 }
 
-TEST_F(FileManager, isNotAskedForARelativePath) {
+TEST_F(FileManager, IsNotAskedForARelativePath) {
     const BusService service(m_bus, m_name, m_path, answer(true));
     EXPECT_FALSE(m_desktop.showInFileManager("a.mp3"));
     EXPECT_TRUE(service.callsOf(QStringLiteral("ShowItems")).empty());

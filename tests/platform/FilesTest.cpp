@@ -19,7 +19,7 @@ using test::TemporaryFolder;
 const std::string composed = "Beyonc\u00e9";
 const std::string decomposed = "Beyonce\u0301";
 
-TEST(Files, knowsWhetherAnythingExistsAtAPath) {
+TEST(Files, KnowsWhetherAnythingExistsAtAPath) {
     const TemporaryFolder folder;
     const std::string file = folder.write("a.mp3", "x");
     const Files files;
@@ -30,7 +30,7 @@ TEST(Files, knowsWhetherAnythingExistsAtAPath) {
     EXPECT_FALSE(files.exists(""));
 }
 
-TEST(Files, followsSymbolicLinks) {
+TEST(Files, FollowsSymbolicLinks) {
     const TemporaryFolder folder;
     const std::string file = folder.write("a.mp3", "four");
     std::filesystem::create_symlink(file, folder.path() + "/link");
@@ -40,7 +40,7 @@ TEST(Files, followsSymbolicLinks) {
     EXPECT_FALSE(files.exists(folder.path() + "/dangling"));
 }
 
-TEST(Files, tellsFilesFromFoldersAndOtherThings) {
+TEST(Files, TellsFilesFromFoldersAndOtherThings) {
     const TemporaryFolder folder;
     const std::string pipe = folder.path() + "/pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
@@ -51,7 +51,7 @@ TEST(Files, tellsFilesFromFoldersAndOtherThings) {
     EXPECT_EQ(files.attributes(pipe)->kind, FileAttributes::Kind::other);
 }
 
-TEST(Files, tellsTheAttributesOfAFile) {
+TEST(Files, TellsTheAttributesOfAFile) {
     const TemporaryFolder folder;
     const std::string file = folder.write("a.mp3", "four");
     ASSERT_EQ(::link(file.c_str(), (folder.path() + "/b.mp3").c_str()), 0);
@@ -70,12 +70,12 @@ TEST(Files, tellsTheAttributesOfAFile) {
     EXPECT_EQ(attributes->linkCount, 2U);
 }
 
-TEST(Files, hasNoAttributesOfWhatDoesNotExist) {
+TEST(Files, HasNoAttributesOfWhatDoesNotExist) {
     const TemporaryFolder folder;
     EXPECT_EQ(Files().attributes(folder.path() + "/b.mp3"), std::nullopt);
 }
 
-TEST(Files, looksWhereThePathMapPoints) {
+TEST(Files, LooksWhereThePathMapPoints) {
     const TemporaryFolder folder;
     folder.write("Abba/SOS.mp3", "x");
     PathMap map;
@@ -87,13 +87,13 @@ TEST(Files, looksWhereThePathMapPoints) {
     EXPECT_FALSE(files.exists("/C:/Musical/Abba/SOS.mp3"));
 }
 
-TEST(Files, namesTheMappedPathOfWhatDoesNotExist) {
+TEST(Files, NamesTheMappedPathOfWhatDoesNotExist) {
     PathMap map;
     map.add("/C:/Music", "/no such folder");
     EXPECT_EQ(Files(map).localPath("/C:/Music/" + composed), "/no such folder/" + composed);
 }
 
-TEST(Files, findsAComposedNameOnDiskByItsDecomposedForm) {
+TEST(Files, FindsAComposedNameOnDiskByItsDecomposedForm) {
     const TemporaryFolder folder;
     const std::string file = folder.write(composed + ".mp3", "x");
     const std::string asked = folder.path() + "/" + decomposed + ".mp3";
@@ -102,13 +102,13 @@ TEST(Files, findsAComposedNameOnDiskByItsDecomposedForm) {
     EXPECT_EQ(Files().localPath(asked), file);
 }
 
-TEST(Files, findsADecomposedNameOnDiskByItsComposedForm) {
+TEST(Files, FindsADecomposedNameOnDiskByItsComposedForm) {
     const TemporaryFolder folder;
     const std::string file = folder.write(decomposed + ".mp3", "x");
     EXPECT_EQ(Files().localPath(folder.path() + "/" + composed + ".mp3"), file);
 }
 
-TEST(Files, findsAFolderAndAFileInDifferentForms) {
+TEST(Files, FindsAFolderAndAFileInDifferentForms) {
     const TemporaryFolder folder;
     const std::string file = folder.write(composed + "/plain/" + decomposed, "x");
     for (const std::string& first : {composed, decomposed})
@@ -116,7 +116,7 @@ TEST(Files, findsAFolderAndAFileInDifferentForms) {
             EXPECT_EQ(Files().localPath(folder.path() + "/" + first + "/plain/" + second), file);
 }
 
-TEST(Files, prefersTheNameAsWritten) {
+TEST(Files, PrefersTheNameAsWritten) {
     const TemporaryFolder folder;
     const std::string one = folder.write(composed, "x");
     const std::string other = folder.write(decomposed, "yy");
@@ -125,20 +125,20 @@ TEST(Files, prefersTheNameAsWritten) {
     EXPECT_EQ(Files().attributes(other)->size, 2U);
 }
 
-TEST(Files, takesAccentsForDistinct) {
+TEST(Files, TakesAccentsForDistinct) {
     const TemporaryFolder folder;
     folder.write("Beyonce", "x");
     EXPECT_FALSE(Files().exists(folder.path() + "/" + composed));
 }
 
-TEST(Files, findsANameThatIsNoValidText) {
+TEST(Files, FindsANameThatIsNoValidText) {
     const TemporaryFolder folder;
     const std::string file = folder.write("caf\xe9", "x");
     EXPECT_TRUE(Files().exists(file));
     EXPECT_FALSE(Files().exists(folder.path() + "/caf\xe8"));
 }
 
-TEST(NameForms, findNothingBelowAFolderThatIsMissing) {
+TEST(NameForms, FindNothingBelowAFolderThatIsMissing) {
     const TemporaryFolder folder;
     EXPECT_EQ(existingInOtherForm(folder.path() + "/" + composed + "/a.mp3"), std::nullopt);
     EXPECT_EQ(existingInOtherForm(""), std::nullopt);

@@ -8,21 +8,21 @@
 namespace songsweep {
 namespace {
 
-TEST(HfsPath, startsWithTheVolumeAndSeparatesByColons) {
+TEST(HfsPath, StartsWithTheVolumeAndSeparatesByColons) {
     EXPECT_EQ(hfsPath("/Users/ann/Music/a.mp3"), "Macintosh HD:Users:ann:Music:a.mp3");
 }
 
-TEST(HfsPath, writesAColonInANameAsASlash) {
+TEST(HfsPath, WritesAColonInANameAsASlash) {
     EXPECT_EQ(hfsPath("/Users/ann/a:b.mp3"), "Macintosh HD:Users:ann:a/b.mp3");
     EXPECT_EQ(posixPath("Macintosh HD:Users:ann:a/b.mp3"), "/Users/ann/a:b.mp3");
 }
 
-TEST(HfsPath, hasNoneForARelativeOrEmptyPath) {
+TEST(HfsPath, HasNoneForARelativeOrEmptyPath) {
     EXPECT_EQ(hfsPath(""), std::nullopt);
     EXPECT_EQ(hfsPath("a.mp3"), std::nullopt);
 }
 
-TEST(HfsPath, knowsItsOwnVolumeOnly) {
+TEST(HfsPath, KnowsItsOwnVolumeOnly) {
     EXPECT_EQ(posixPath("Backup:Users:ann"), std::nullopt);
     EXPECT_EQ(posixPath("Macintosh HD 2:Users:ann"), std::nullopt);
     EXPECT_EQ(posixPath("Macintosh HD"), std::nullopt);
@@ -30,7 +30,7 @@ TEST(HfsPath, knowsItsOwnVolumeOnly) {
     EXPECT_EQ(posixPath("/Users/ann"), std::nullopt);
 }
 
-TEST(HfsPath, keepsEveryNameOnTheWayThereAndBack) {
+TEST(HfsPath, KeepsEveryNameOnTheWayThereAndBack) {
     const std::vector<std::string> paths = {
         "/",           "//",           "/a/",         "/a//b",     "/ leading",     "/trailing ", "/it's",
         "/\"quoted\"", "/back\\slash", "/line\nfeed", "/return\r", "/Macintosh HD", "/tab\t",     "/::",
@@ -42,7 +42,7 @@ TEST(HfsPath, keepsEveryNameOnTheWayThereAndBack) {
     }
 }
 
-TEST(HfsPath, keepsRandomPathsOnTheWayThereAndBack) {
+TEST(HfsPath, KeepsRandomPathsOnTheWayThereAndBack) {
     std::mt19937 random(7);
     constexpr std::string_view letters = "/:\\\"' \nab\xc3\xa9";
     std::uniform_int_distribution<std::size_t> letter(0, letters.size() - 1);

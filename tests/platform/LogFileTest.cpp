@@ -37,7 +37,7 @@ class DescriptorGuard {
     int m_saved;
 };
 
-TEST(LogFile, receivesWhatGoesToStandardError) {
+TEST(LogFile, ReceivesWhatGoesToStandardError) {
     const TemporaryFolder folder;
     const DescriptorGuard guard(2);
     RecordingLog log;
@@ -47,7 +47,7 @@ TEST(LogFile, receivesWhatGoesToStandardError) {
     EXPECT_EQ(folder.read("songsweep-log.txt"), "one\ntwo\n");
 }
 
-TEST(LogFile, isNamedInTheLogBeforeTheRedirection) {
+TEST(LogFile, IsNamedInTheLogBeforeTheRedirection) {
     const TemporaryFolder folder;
     const DescriptorGuard guard(2);
     RecordingLog log;
@@ -56,7 +56,7 @@ TEST(LogFile, isNamedInTheLogBeforeTheRedirection) {
     EXPECT_EQ(folder.read("songsweep-log.txt"), "");
 }
 
-TEST(LogFile, holdsTheLinesOfTheSecondStartOnly) {
+TEST(LogFile, HoldsTheLinesOfTheSecondStartOnly) {
     const TemporaryFolder folder;
     const DescriptorGuard guard(2);
     RecordingLog log;
@@ -67,13 +67,13 @@ TEST(LogFile, holdsTheLinesOfTheSecondStartOnly) {
     EXPECT_EQ(folder.read("songsweep-log.txt"), "second\n");
 }
 
-TEST(LogFile, isNotMadeWithoutADocumentsFolder) {
+TEST(LogFile, IsNotMadeWithoutADocumentsFolder) {
     RecordingLog log;
     EXPECT_FALSE(redirectStandardError(std::nullopt, log));
     EXPECT_TRUE(log.lines().empty());
 }
 
-TEST(LogFile, thatCannotBeOpenedLeavesTheConsole) {
+TEST(LogFile, ThatCannotBeOpenedLeavesTheConsole) {
     const TemporaryFolder folder;
     const std::string missing = folder.path() + "/Documents";
     RecordingLog log;
@@ -81,7 +81,7 @@ TEST(LogFile, thatCannotBeOpenedLeavesTheConsole) {
     EXPECT_THAT(log.lines(), ElementsAre(missing + "/songsweep-log.txt", "Opening log failed"));
 }
 
-TEST(LogFile, thatIsAFolderCannotBeOpened) {
+TEST(LogFile, ThatIsAFolderCannotBeOpened) {
     const TemporaryFolder folder;
     folder.write("songsweep-log.txt/inside", "");
     RecordingLog log;
@@ -89,13 +89,13 @@ TEST(LogFile, thatIsAFolderCannotBeOpened) {
     EXPECT_EQ(log.lines().back(), "Opening log failed");
 }
 
-TEST(LogFile, countsAFailedDuplicationAsSuccess) {
+TEST(LogFile, CountsAFailedDuplicationAsSuccess) {
     const TemporaryFolder folder;
     RecordingLog log;
     EXPECT_TRUE(redirectStandardError(folder.path(), log, -1));
 }
 
-TEST(LogFile, countsADuplicationThatAnswersZeroAsFailure) {
+TEST(LogFile, CountsADuplicationThatAnswersZeroAsFailure) {
     const TemporaryFolder folder;
     const DescriptorGuard guard(0);
     RecordingLog log;
@@ -103,7 +103,7 @@ TEST(LogFile, countsADuplicationThatAnswersZeroAsFailure) {
     EXPECT_THAT(log.lines(), ElementsAre(folder.path() + "/songsweep-log.txt", "Couldn't redirect stderr"));
 }
 
-TEST(LogFile, ofTheCommandLineIsEmptiedAndWritten) {
+TEST(LogFile, OfTheCommandLineIsEmptiedAndWritten) {
     const TemporaryFolder folder;
     const std::string path = folder.write("log", "old lines");
     Result<std::unique_ptr<Log>> log = openLogFile(path);
@@ -113,14 +113,14 @@ TEST(LogFile, ofTheCommandLineIsEmptiedAndWritten) {
     EXPECT_EQ(folder.read("log"), "one\ntwo\n");
 }
 
-TEST(LogFile, ofTheCommandLineSaysWhyItCannotBeOpened) {
+TEST(LogFile, OfTheCommandLineSaysWhyItCannotBeOpened) {
     const TemporaryFolder folder;
     const Result<std::unique_ptr<Log>> log = openLogFile(folder.path());
     ASSERT_FALSE(log);
     EXPECT_EQ(log.error().message, "cannot write " + folder.path() + ": Is a directory");
 }
 
-TEST(Log, writesNoTornLineFromAnyThread) {
+TEST(Log, WritesNoTornLineFromAnyThread) {
     const TemporaryFolder folder;
     const std::string path = folder.path() + "/log";
     const Result<std::unique_ptr<Log>> log = openLogFile(path);

@@ -13,24 +13,24 @@ PathMap mapOf(std::initializer_list<std::pair<const char*, const char*>> rules) 
     return map;
 }
 
-TEST(PathMap, leavesAPathThatNoRuleCovers) {
+TEST(PathMap, LeavesAPathThatNoRuleCovers) {
     EXPECT_EQ(PathMap().map("/Users/ann/a.mp3"), "/Users/ann/a.mp3");
     EXPECT_EQ(mapOf({{"/Volumes", "/media"}}).map("/Users/ann/a.mp3"), "/Users/ann/a.mp3");
 }
 
-TEST(PathMap, replacesTheBeginning) {
+TEST(PathMap, ReplacesTheBeginning) {
     const PathMap map = mapOf({{"/C:/Music", "/media/music"}});
     EXPECT_EQ(map.map("/C:/Music/Abba/SOS.mp3"), "/media/music/Abba/SOS.mp3");
     EXPECT_EQ(map.map("/C:/Music"), "/media/music");
 }
 
-TEST(PathMap, appliesAtAComponentsEndOnly) {
+TEST(PathMap, AppliesAtAComponentsEndOnly) {
     const PathMap map = mapOf({{"/C:/Music", "/media/music"}});
     EXPECT_EQ(map.map("/C:/Music2/a.mp3"), "/C:/Music2/a.mp3");
     EXPECT_EQ(map.map("/C:/Musi"), "/C:/Musi");
 }
 
-TEST(PathMap, prefersTheLongestRuleWhateverTheirOrder) {
+TEST(PathMap, PrefersTheLongestRuleWhateverTheirOrder) {
     const PathMap shortFirst = mapOf({{"/a", "/1"}, {"/a/b", "/2"}});
     const PathMap longFirst = mapOf({{"/a/b", "/2"}, {"/a", "/1"}});
     for (const PathMap* map : {&shortFirst, &longFirst}) {
@@ -39,19 +39,19 @@ TEST(PathMap, prefersTheLongestRuleWhateverTheirOrder) {
     }
 }
 
-TEST(PathMap, prefersTheLaterOfTwoRulesForOneBeginning) {
+TEST(PathMap, PrefersTheLaterOfTwoRulesForOneBeginning) {
     EXPECT_EQ(mapOf({{"/a", "/1"}, {"/a/", "/2"}}).map("/a/b"), "/2/b");
 }
 
-TEST(PathMap, dropsATrailingSlashOfEitherSide) { EXPECT_EQ(mapOf({{"/a/", "/b/"}}).map("/a/c"), "/b/c"); }
+TEST(PathMap, DropsATrailingSlashOfEitherSide) { EXPECT_EQ(mapOf({{"/a/", "/b/"}}).map("/a/c"), "/b/c"); }
 
-TEST(PathMap, mapsTheRoot) {
+TEST(PathMap, MapsTheRoot) {
     EXPECT_EQ(mapOf({{"/", "/mnt/mac"}}).map("/Users/ann"), "/mnt/mac/Users/ann");
     EXPECT_EQ(mapOf({{"/mnt/mac", "/"}}).map("/mnt/mac/Users/ann"), "/Users/ann");
     EXPECT_EQ(mapOf({{"/mnt/mac", "/"}}).map("/mnt/mac"), "/");
 }
 
-TEST(PathMap, doesNotMapWhatItHasMapped) {
+TEST(PathMap, DoesNotMapWhatItHasMapped) {
     EXPECT_EQ(mapOf({{"/a", "/b"}, {"/b", "/c"}}).map("/a/x"), "/b/x");
 }
 

@@ -45,16 +45,16 @@ class PreferencesOnLinux : public ::testing::Test {
         {m_folder.path(), {m_folder.path() + "/Musik", m_folder.path() + "/Music"}}};
 };
 
-TEST_F(PreferencesOnLinux, haveNoDomainWhereThereIsNoLibrary) { EXPECT_FALSE(m_preferences.iAppsDomain()); }
+TEST_F(PreferencesOnLinux, HaveNoDomainWhereThereIsNoLibrary) { EXPECT_FALSE(m_preferences.iAppsDomain()); }
 
-TEST_F(PreferencesOnLinux, findALibraryInTheMusicFolder) {
+TEST_F(PreferencesOnLinux, FindALibraryInTheMusicFolder) {
     m_folder.write("Musik/iTunes/iTunes Library.xml", "");
     ASSERT_TRUE(m_preferences.iAppsDomain());
     EXPECT_THAT(m_preferences.iAppsDomain()->iTunesRecentDatabases,
                 ElementsAre("file://" + music() + "/iTunes/iTunes%20Library.xml"));
 }
 
-TEST_F(PreferencesOnLinux, findTheFileThatITunesItselfKeepsFirst) {
+TEST_F(PreferencesOnLinux, FindTheFileThatITunesItselfKeepsFirst) {
     m_folder.write("Music/Music Library.xml", "");
     m_folder.write("Musik/Music/Music Library.xml", "");
     m_folder.write("Musik/iTunes/iTunes Music Library.xml", "");
@@ -62,7 +62,7 @@ TEST_F(PreferencesOnLinux, findTheFileThatITunesItselfKeepsFirst) {
                 ElementsAre("file://" + music() + "/iTunes/iTunes%20Music%20Library.xml"));
 }
 
-TEST_F(PreferencesOnLinux, findALibraryInAnyUsualPlace) {
+TEST_F(PreferencesOnLinux, FindALibraryInAnyUsualPlace) {
     for (const char* name : {"Musik/iTunes/iTunes Music Library.xml", "Musik/iTunes Library.xml",
                              "Musik/Music/Library.xml", "Musik/Music Library.xml", "Music/Library.xml"}) {
         const std::string path = m_folder.write(name, "");
@@ -71,18 +71,18 @@ TEST_F(PreferencesOnLinux, findALibraryInAnyUsualPlace) {
     }
 }
 
-TEST_F(PreferencesOnLinux, takeNoFolderForALibrary) {
+TEST_F(PreferencesOnLinux, TakeNoFolderForALibrary) {
     std::filesystem::create_directories(music() + "/iTunes/iTunes Library.xml");
     EXPECT_FALSE(m_preferences.iAppsDomain());
 }
 
-TEST_F(PreferencesOnLinux, leaveTheAnswerToThePropertyListFile) {
+TEST_F(PreferencesOnLinux, LeaveTheAnswerToThePropertyListFile) {
     m_folder.write("Musik/iTunes/iTunes Library.xml", "");
     m_folder.write(plistName, domainXml("<string>file:///a.xml</string>"));
     EXPECT_FALSE(m_preferences.iAppsDomain());
 }
 
-TEST_F(PreferencesOnLinux, readAnXmlPropertyList) {
+TEST_F(PreferencesOnLinux, ReadAnXmlPropertyList) {
     const std::string path = m_folder.write(
         plistName, domainXml("<string>file://localhost/a%20&amp;b.xml</string><string>file:///2</string>"));
     const std::optional<IAppsDomain> domain = m_preferences.iAppsPropertyList(path);
@@ -90,7 +90,7 @@ TEST_F(PreferencesOnLinux, readAnXmlPropertyList) {
     EXPECT_THAT(domain->iTunesRecentDatabases, ElementsAre("file://localhost/a%20&b.xml", "file:///2"));
 }
 
-TEST_F(PreferencesOnLinux, readABinaryPropertyList) {
+TEST_F(PreferencesOnLinux, ReadABinaryPropertyList) {
     const std::string path = m_folder.write(
         plistName, binaryOf(domainXml("<string>file:///caf\u00e9.xml</string><string>b</string>")));
     const std::optional<IAppsDomain> domain = m_preferences.iAppsPropertyList(path);
@@ -98,7 +98,7 @@ TEST_F(PreferencesOnLinux, readABinaryPropertyList) {
     EXPECT_THAT(domain->iTunesRecentDatabases, ElementsAre("file:///caf\u00e9.xml", "b"));
 }
 
-TEST_F(PreferencesOnLinux, haveNoEntriesWhereTheListNamesNone) {
+TEST_F(PreferencesOnLinux, HaveNoEntriesWhereTheListNamesNone) {
     const std::string texts[] = {
         plistHead + "<dict></dict></plist>", domainXml(""),
         plistHead + "<dict><key>iTunesRecentDatabases</key><string>x</string></dict></plist>"};
@@ -110,12 +110,12 @@ TEST_F(PreferencesOnLinux, haveNoEntriesWhereTheListNamesNone) {
     }
 }
 
-TEST_F(PreferencesOnLinux, keepThePlaceOfAnEntryThatIsNoText) {
+TEST_F(PreferencesOnLinux, KeepThePlaceOfAnEntryThatIsNoText) {
     const std::string path = m_folder.write("list", domainXml("<integer>1</integer><string>b</string>"));
     EXPECT_THAT(m_preferences.iAppsPropertyList(path)->iTunesRecentDatabases, ElementsAre("", "b"));
 }
 
-TEST_F(PreferencesOnLinux, haveNothingWhereTheListCannotBeRead) {
+TEST_F(PreferencesOnLinux, HaveNothingWhereTheListCannotBeRead) {
     EXPECT_FALSE(m_preferences.iAppsPropertyList(m_folder.path() + "/missing"));
     EXPECT_FALSE(m_preferences.iAppsPropertyList(m_folder.path()));
     for (const char* text : {"", "no list", "<plist><dict>", "bplist00", "bplist00\xff\xff\xff\xff",
@@ -123,7 +123,7 @@ TEST_F(PreferencesOnLinux, haveNothingWhereTheListCannotBeRead) {
         EXPECT_FALSE(m_preferences.iAppsPropertyList(m_folder.write("list", text))) << text;
 }
 
-TEST_F(PreferencesOnLinux, knowTheHomeFolderOfThePasswordDatabase) {
+TEST_F(PreferencesOnLinux, KnowTheHomeFolderOfThePasswordDatabase) {
     const passwd* entry = ::getpwuid(::getuid());
     ASSERT_NE(entry, nullptr);
     const LinuxPreferences::Folders folders = LinuxPreferences::userFolders();
@@ -132,13 +132,13 @@ TEST_F(PreferencesOnLinux, knowTheHomeFolderOfThePasswordDatabase) {
     EXPECT_EQ(folders.music.back(), std::string(entry->pw_dir) + "/Music");
 }
 
-TEST(GivenLibraryTest, isTheOnlyRecentDatabase) {
+TEST(GivenLibraryTest, IsTheOnlyRecentDatabase) {
     const GivenLibrary preferences("/Music/a b?.xml");
     ASSERT_TRUE(preferences.iAppsDomain());
     EXPECT_THAT(preferences.iAppsDomain()->iTunesRecentDatabases, ElementsAre("file:///Music/a%20b%3F.xml"));
 }
 
-TEST(GivenLibraryTest, readsNoPropertyList) {
+TEST(GivenLibraryTest, ReadsNoPropertyList) {
     const TemporaryFolder folder;
     const std::string path = folder.write("list", domainXml("<string>file:///a.xml</string>"));
     EXPECT_FALSE(GivenLibrary("/a.xml").iAppsPropertyList(path));

@@ -34,7 +34,7 @@ class SoundServer : public ::testing::Test {
     QByteArray m_formerPath;
 };
 
-TEST_F(SoundServer, mutesAndUnmutesByWpctl) {
+TEST_F(SoundServer, MutesAndUnmutesByWpctl) {
     addTool("wpctl");
     addTool("pactl");
     ASSERT_TRUE(m_desktop.setOutputMuted(true));
@@ -42,41 +42,41 @@ TEST_F(SoundServer, mutesAndUnmutesByWpctl) {
     EXPECT_EQ(calls(), "wpctl set-mute @DEFAULT_AUDIO_SINK@ 1\nwpctl set-mute @DEFAULT_AUDIO_SINK@ 0\n");
 }
 
-TEST_F(SoundServer, mutesByPactlWhereThereIsNoWpctl) {
+TEST_F(SoundServer, MutesByPactlWhereThereIsNoWpctl) {
     addTool("pactl");
     ASSERT_TRUE(m_desktop.setOutputMuted(true));
     EXPECT_EQ(calls(), "pactl set-sink-mute @DEFAULT_SINK@ 1\n");
 }
 
-TEST_F(SoundServer, triesPactlWhereWpctlFails) {
+TEST_F(SoundServer, TriesPactlWhereWpctlFails) {
     addTool("wpctl", "exit 1");
     addTool("pactl");
     ASSERT_TRUE(m_desktop.setOutputMuted(false));
     EXPECT_EQ(calls(), "wpctl set-mute @DEFAULT_AUDIO_SINK@ 0\npactl set-sink-mute @DEFAULT_SINK@ 0\n");
 }
 
-TEST_F(SoundServer, runsItsToolOutOfTheReachOfCtrlC) {
+TEST_F(SoundServer, RunsItsToolOutOfTheReachOfCtrlC) {
     addTool("wpctl", "read -r stat < /proc/$$/stat; set -- $stat; echo $5 > '" + m_folder.path() + "/group'");
     ASSERT_TRUE(m_desktop.setOutputMuted(false));
     ASSERT_NE(m_folder.read("group"), "");
     EXPECT_NE(std::stoi(m_folder.read("group")), ::getpgrp());
 }
 
-TEST_F(SoundServer, saysWhyItsToolFailed) {
+TEST_F(SoundServer, SaysWhyItsToolFailed) {
     addTool("pactl", "echo 'Connection refused' >&2; exit 1");
     const Result<void> result = m_desktop.setOutputMuted(true);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().message, "pactl: Connection refused");
 }
 
-TEST_F(SoundServer, neverHoldsTheCallerUpForLong) {
+TEST_F(SoundServer, NeverHoldsTheCallerUpForLong) {
     addTool("pactl", "exec /bin/sleep 1000");
     const Result<void> result = m_desktop.setOutputMuted(true);
     ASSERT_FALSE(result);
     EXPECT_NE(result.error().message.find("timed out"), std::string::npos) << result.error().message;
 }
 
-TEST_F(SoundServer, needNotBeThere) {
+TEST_F(SoundServer, NeedNotBeThere) {
     EXPECT_TRUE(m_desktop.setOutputMuted(true));
     EXPECT_TRUE(m_desktop.setOutputMuted(false));
 }

@@ -66,7 +66,7 @@ class Trash : public ::testing::Test {
     LinuxDesktop m_desktop;
 };
 
-TEST_F(Trash, listsAFileAndRestoresIt) {
+TEST_F(Trash, ListsAFileAndRestoresIt) {
     const std::string path = m_folder.write("Abba/SOS.mp3", "music");
     ASSERT_TRUE(m_desktop.moveToTrash(path));
     EXPECT_FALSE(fs::exists(path));
@@ -82,7 +82,7 @@ TEST_F(Trash, listsAFileAndRestoresIt) {
     EXPECT_EQ(m_folder.read("Abba/SOS.mp3"), "music");
 }
 
-TEST_F(Trash, keepsTheNameOfEveryFile) {
+TEST_F(Trash, KeepsTheNameOfEveryFile) {
     const std::string names[] = {"100%25.mp3",   "a b.mp3",   "it's \"it\".mp3", "back\\slash",
                                  "line\nfeed",   "a:b;c#d?e", "caf\u00e9.mp3",   "cafe\u0301.mp3",
                                  "no text \xff", " blanks "};
@@ -97,7 +97,7 @@ TEST_F(Trash, keepsTheNameOfEveryFile) {
     }
 }
 
-TEST_F(Trash, keepsTwoFilesOfOneName) {
+TEST_F(Trash, KeepsTwoFilesOfOneName) {
     ASSERT_TRUE(m_desktop.moveToTrash(m_folder.write("one/a.mp3", "1")));
     ASSERT_TRUE(m_desktop.moveToTrash(m_folder.write("two/a.mp3", "2")));
     std::set<std::string> contents;
@@ -106,7 +106,7 @@ TEST_F(Trash, keepsTwoFilesOfOneName) {
     EXPECT_EQ(contents, (std::set<std::string>{"1", "2"}));
 }
 
-TEST_F(Trash, takesALinkAndLeavesItsTarget) {
+TEST_F(Trash, TakesALinkAndLeavesItsTarget) {
     const std::string target = m_folder.write("a.mp3", "music");
     const std::string link = m_folder.path() + "/link";
     fs::create_symlink(target, link);
@@ -116,7 +116,7 @@ TEST_F(Trash, takesALinkAndLeavesItsTarget) {
     EXPECT_EQ(list().size(), 1U);
 }
 
-TEST_F(Trash, saysThatAFileIsMissing) {
+TEST_F(Trash, SaysThatAFileIsMissing) {
     const Result<void> result = m_desktop.moveToTrash(m_folder.path() + "/missing.mp3");
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().code, Error::Code::notFound);
@@ -124,12 +124,12 @@ TEST_F(Trash, saysThatAFileIsMissing) {
     EXPECT_TRUE(list().empty());
 }
 
-TEST_F(Trash, refusesARelativePath) {
+TEST_F(Trash, RefusesARelativePath) {
     EXPECT_FALSE(m_desktop.moveToTrash("a.mp3"));
     EXPECT_FALSE(m_desktop.moveToTrash(""));
 }
 
-TEST_F(Trash, leavesAFileWhoseRecordWouldHaveTooLongAName) {
+TEST_F(Trash, LeavesAFileWhoseRecordWouldHaveTooLongAName) {
     const std::string path = m_folder.write(std::string(255, 'a'), "music");
     const Result<void> result = m_desktop.moveToTrash(path);
     ASSERT_FALSE(result);
@@ -138,7 +138,7 @@ TEST_F(Trash, leavesAFileWhoseRecordWouldHaveTooLongAName) {
     EXPECT_TRUE(list().empty());
 }
 
-TEST_F(Trash, leavesTheFileWhereTheTrashCannotBeMade) {
+TEST_F(Trash, LeavesTheFileWhereTheTrashCannotBeMade) {
     const std::string path = m_folder.write("a.mp3", "music");
     std::ofstream(m_trash) << "no folder";
     const Result<void> result = m_desktop.moveToTrash(path);
@@ -146,7 +146,7 @@ TEST_F(Trash, leavesTheFileWhereTheTrashCannotBeMade) {
     EXPECT_EQ(m_folder.read("a.mp3"), "music");
 }
 
-TEST_F(Trash, takesFilesFromManyThreads) {
+TEST_F(Trash, TakesFilesFromManyThreads) {
     std::vector<std::thread> threads;
     threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
@@ -185,7 +185,7 @@ class Mount {
     bool m_mounted = false;
 };
 
-TEST_F(Trash, leavesAFileOnAMountThatHasNone) {
+TEST_F(Trash, LeavesAFileOnAMountThatHasNone) {
     const Mount mount(m_folder.path() + "/mount",
                       {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("tmpfs")});
     if (!mount) GTEST_SKIP() << "mounting is not permitted";
@@ -197,7 +197,7 @@ TEST_F(Trash, leavesAFileOnAMountThatHasNone) {
     EXPECT_TRUE(list().empty());
 }
 
-TEST_F(Trash, ofAnotherMountIsOnThatMount) {
+TEST_F(Trash, OfAnotherMountIsOnThatMount) {
     const std::string image = m_folder.write("image", std::string(4 << 20, '\0'));
     if (QProcess::execute(QStringLiteral("mkfs.ext4"),
                           {QStringLiteral("-q"), QString::fromStdString(image)}) != 0)

@@ -35,12 +35,12 @@ class DeleteProcTest : public test::DeleteFixture {
     }
 };
 
-TEST_F(DeleteProcTest, anEmptyListRunsNoScriptAndPostsOnlyTheEnd) {
+TEST_F(DeleteProcTest, AnEmptyListRunsNoScriptAndPostsOnlyTheEnd) {
     run(withFiles);
     EXPECT_THAT(wholeJournal(), ElementsAre("event deleteFinish"));
 }
 
-TEST_F(DeleteProcTest, withNothingMarkedTheSoundGoesOffAndOnAndTheRowsAreVisited) {
+TEST_F(DeleteProcTest, WithNothingMarkedTheSoundGoesOffAndOnAndTheRowsAreVisited) {
     add(1, "A", false);
     add(1, "B", false);
     run(withFiles);
@@ -48,7 +48,7 @@ TEST_F(DeleteProcTest, withNothingMarkedTheSoundGoesOffAndOnAndTheRowsAreVisited
     EXPECT_THAT(pidsLeft(), ElementsAre("A", "B"));
 }
 
-TEST_F(DeleteProcTest, eachMarkedTrackIsDeletedAndCounted) {
+TEST_F(DeleteProcTest, EachMarkedTrackIsDeletedAndCounted) {
     add(1, "A", true);
     add(1, "B", false);
     add(2, "C", true);
@@ -60,7 +60,7 @@ TEST_F(DeleteProcTest, eachMarkedTrackIsDeletedAndCounted) {
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted", "C: deleted"));
 }
 
-TEST_F(DeleteProcTest, aFileFollowsItsTrack) {
+TEST_F(DeleteProcTest, AFileFollowsItsTrack) {
     addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");
     run(withFiles);
@@ -72,14 +72,14 @@ TEST_F(DeleteProcTest, aFileFollowsItsTrack) {
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, withoutTheFileOptionFilesStay) {
+TEST_F(DeleteProcTest, WithoutTheFileOptionFilesStay) {
     addFile("A", true, "a.mp3");
     run(withoutFiles);
     EXPECT_TRUE(exists("a.mp3"));
     EXPECT_THAT(journal("file"), IsEmpty());
 }
 
-TEST_F(DeleteProcTest, outcomesAreLoggedAfterTheFinalEvent) {
+TEST_F(DeleteProcTest, OutcomesAreLoggedAfterTheFinalEvent) {
     addFile("A", true, "a.mp3");
     run(withFiles);
     const auto& entries = wholeJournal();
@@ -87,7 +87,7 @@ TEST_F(DeleteProcTest, outcomesAreLoggedAfterTheFinalEvent) {
     EXPECT_EQ(entries.back(), "log Track Song by Artist (A) deleted, file trashed, " + path("a.mp3"));
 }
 
-TEST_F(DeleteProcTest, aPathWithColonsOrOtherLettersGoesInHfsNotation) {
+TEST_F(DeleteProcTest, APathWithColonsOrOtherLettersGoesInHfsNotation) {
     addFile("A", true, "a:b – été 歌.mp3");
     run(withFiles);
     std::string folder = hfsPath(m_folder.path()).value();
@@ -95,7 +95,7 @@ TEST_F(DeleteProcTest, aPathWithColonsOrOtherLettersGoesInHfsNotation) {
     EXPECT_EQ(trashedCount(), 1);
 }
 
-TEST_F(DeleteProcTest, aNameOf255BytesWithALineBreakIsDeleted) {
+TEST_F(DeleteProcTest, ANameOf255BytesWithALineBreakIsDeleted) {
     const std::string name = std::string(100, 'n') + "\n" + std::string(154, 'm');
     addFile("A", true, name);
     run(withFiles);
@@ -105,7 +105,7 @@ TEST_F(DeleteProcTest, aNameOf255BytesWithALineBreakIsDeleted) {
 
 class UnspeakableNameTest : public DeleteProcTest, public testing::WithParamInterface<const char*> {};
 
-TEST_P(UnspeakableNameTest, theFileStaysAndNoTextIsSent) {
+TEST_P(UnspeakableNameTest, TheFileStaysAndNoTextIsSent) {
     addFile("A", true, GetParam());
     run(withFiles);
     EXPECT_THAT(journal("file"), IsEmpty());
@@ -118,7 +118,7 @@ TEST_P(UnspeakableNameTest, theFileStaysAndNoTextIsSent) {
 INSTANTIATE_TEST_SUITE_P(names, UnspeakableNameTest,
                          testing::Values("say \"hi\".mp3", "back\\slash.mp3", "tab\\t.mp3", "\\", "\""));
 
-TEST_F(DeleteProcTest, aFolderStaysWithAllThatIsInIt) {
+TEST_F(DeleteProcTest, AFolderStaysWithAllThatIsInIt) {
     addFile("B", false, "Album/3.mp3");
     add(1, "A", true, path("Album"));
     run(withFiles);
@@ -128,7 +128,7 @@ TEST_F(DeleteProcTest, aFolderStaysWithAllThatIsInIt) {
     EXPECT_FALSE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aFolderInThePlaceOfAPlannedFileStays) {
+TEST_F(DeleteProcTest, AFolderInThePlaceOfAPlannedFileStays) {
     addFile("A", true, "a.mp3");
     const DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
     std::filesystem::remove(path("a.mp3"));
@@ -138,7 +138,7 @@ TEST_F(DeleteProcTest, aFolderInThePlaceOfAPlannedFileStays) {
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: it is a folder"));
 }
 
-TEST_F(DeleteProcTest, aMissingFileIsNotToldToFinder) {
+TEST_F(DeleteProcTest, AMissingFileIsNotToldToFinder) {
     add(1, "A", true, path("gone.mp3"));
     add(1, "B", true, "");
     add(1, "C", true, "msng");
@@ -149,7 +149,7 @@ TEST_F(DeleteProcTest, aMissingFileIsNotToldToFinder) {
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aFailedScriptStillTakesTheRowAwayAndCounts) {
+TEST_F(DeleteProcTest, AFailedScriptStillTakesTheRowAwayAndCounts) {
     addFile("A", true, "a.mp3");
     failAt("track A", "iTunes got an error");
     run(withFiles);
@@ -161,7 +161,7 @@ TEST_F(DeleteProcTest, aFailedScriptStillTakesTheRowAwayAndCounts) {
     EXPECT_FALSE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aFileThatFinderLeavesIsReportedWithTheReason) {
+TEST_F(DeleteProcTest, AFileThatFinderLeavesIsReportedWithTheReason) {
     addFile("A", true, "a.mp3");
     failAt(fileEntry("a.mp3"), "the Trash refuses it");
     run(withFiles);
@@ -170,7 +170,7 @@ TEST_F(DeleteProcTest, aFileThatFinderLeavesIsReportedWithTheReason) {
     EXPECT_THAT(pidsLeft(), IsEmpty());
 }
 
-TEST_F(DeleteProcTest, anIdThatCouldEndItsLiteralIsNotSent) {
+TEST_F(DeleteProcTest, AnIdThatCouldEndItsLiteralIsNotSent) {
     add(1, "A\" or \"1\" is \"1", true);
     run(withoutFiles);
     EXPECT_THAT(journal("track"), IsEmpty());
@@ -178,7 +178,7 @@ TEST_F(DeleteProcTest, anIdThatCouldEndItsLiteralIsNotSent) {
     EXPECT_FALSE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aTrackWhoseIdIsNotSentKeepsItsFile) {
+TEST_F(DeleteProcTest, ATrackWhoseIdIsNotSentKeepsItsFile) {
     addFile("AA\"1", true, "a.mp3");
     run(withFiles);
     EXPECT_THAT(journal("file"), IsEmpty());
@@ -187,7 +187,7 @@ TEST_F(DeleteProcTest, aTrackWhoseIdIsNotSentKeepsItsFile) {
                 ElementsAre("AA\"1: failed, file kept: its persistent ID cannot be told to iTunes"));
 }
 
-TEST_F(DeleteProcTest, aTrackWithoutAnIdStaysAndSoDoesItsFile) {
+TEST_F(DeleteProcTest, ATrackWithoutAnIdStaysAndSoDoesItsFile) {
     addFile("0", true, "a.mp3");
     add(1, "", true);
     run(withFiles);
@@ -200,7 +200,7 @@ TEST_F(DeleteProcTest, aTrackWithoutAnIdStaysAndSoDoesItsFile) {
     EXPECT_THAT(pidsLeft(), IsEmpty());
 }
 
-TEST_F(DeleteProcTest, aCancelInTheMiddleStopsBeforeTheNextRow) {
+TEST_F(DeleteProcTest, ACancelInTheMiddleStopsBeforeTheNextRow) {
     add(1, "A", true);
     add(1, "B", true);
     add(1, "C", false);
@@ -213,7 +213,7 @@ TEST_F(DeleteProcTest, aCancelInTheMiddleStopsBeforeTheNextRow) {
     EXPECT_FALSE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aCancelWhileMutingDeletesNothing) {
+TEST_F(DeleteProcTest, ACancelWhileMutingDeletesNothing) {
     add(1, "A", true);
     cancelAt("mute");
     run(withoutFiles);
@@ -221,7 +221,7 @@ TEST_F(DeleteProcTest, aCancelWhileMutingDeletesNothing) {
     EXPECT_THAT(pidsLeft(), ElementsAre("A"));
 }
 
-TEST_F(DeleteProcTest, aCancelAfterTheLastRowPostsBothEvents) {
+TEST_F(DeleteProcTest, ACancelAfterTheLastRowPostsBothEvents) {
     add(1, "A", true);
     cancelAt("event deleteAddCount");
     run(withoutFiles);
@@ -229,7 +229,7 @@ TEST_F(DeleteProcTest, aCancelAfterTheLastRowPostsBothEvents) {
                 ElementsAre("event deleteAddCount", "event deleteValidity", "event deleteCancel"));
 }
 
-TEST_F(DeleteProcTest, anExceptionEndsTheLoopUnmutesAndComesOut) {
+TEST_F(DeleteProcTest, AnExceptionEndsTheLoopUnmutesAndComesOut) {
     add(1, "A", true);
     add(1, "B", true);
     add(1, "C", false);
@@ -241,7 +241,7 @@ TEST_F(DeleteProcTest, anExceptionEndsTheLoopUnmutesAndComesOut) {
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted", "B: not attempted"));
 }
 
-TEST_F(DeleteProcTest, anExceptionWhileDeletingAFileIsSwallowed) {
+TEST_F(DeleteProcTest, AnExceptionWhileDeletingAFileIsSwallowed) {
     addFile("A", true, "a.mp3");
     add(1, "B", true);
     throwAt(fileEntry("a.mp3"), std::runtime_error("the disk is gone"));
@@ -252,7 +252,7 @@ TEST_F(DeleteProcTest, anExceptionWhileDeletingAFileIsSwallowed) {
                 ElementsAre("A: deleted, file kept: the disk is gone", "B: deleted, file missing"));
 }
 
-TEST_F(DeleteProcTest, anExceptionOfAnotherKindWhileDeletingAFileEndsTheLoop) {
+TEST_F(DeleteProcTest, AnExceptionOfAnotherKindWhileDeletingAFileEndsTheLoop) {
     addFile("A", true, "a.mp3");
     throwAt(fileEntry("a.mp3"), 42);
     EXPECT_THROW(run(withFiles), int);
@@ -261,7 +261,7 @@ TEST_F(DeleteProcTest, anExceptionOfAnotherKindWhileDeletingAFileEndsTheLoop) {
     EXPECT_THAT(pidsLeft(), ElementsAre("A"));
 }
 
-TEST_F(DeleteProcTest, anExceptionAfterACancelPostsTheCancel) {
+TEST_F(DeleteProcTest, AnExceptionAfterACancelPostsTheCancel) {
     add(1, "A", true);
     setHook([this](const std::string& entry) {
         if (entry != "track A") return;
@@ -272,14 +272,14 @@ TEST_F(DeleteProcTest, anExceptionAfterACancelPostsTheCancel) {
     EXPECT_THAT(journal("event"), ElementsAre("event deleteCancel"));
 }
 
-TEST_F(DeleteProcTest, anExceptionWhileMutingUnmutesAndEnds) {
+TEST_F(DeleteProcTest, AnExceptionWhileMutingUnmutesAndEnds) {
     add(1, "A", true);
     throwAt("mute", std::runtime_error("no sound"));
     EXPECT_THROW(run(withoutFiles), std::runtime_error);
     EXPECT_THAT(journal(), ElementsAre("mute", "unmute", "event deleteFinish"));
 }
 
-TEST_F(DeleteProcTest, anExceptionWhileUnmutingStillEnds) {
+TEST_F(DeleteProcTest, AnExceptionWhileUnmutingStillEnds) {
     add(1, "A", true);
     throwAt("unmute", std::runtime_error("no sound"));
     EXPECT_THROW(run(withoutFiles), std::runtime_error);
@@ -287,7 +287,7 @@ TEST_F(DeleteProcTest, anExceptionWhileUnmutingStillEnds) {
                 ElementsAre("event deleteAddCount", "event deleteValidity", "event deleteFinish"));
 }
 
-TEST_F(DeleteProcTest, copiesThatShareAFileAreTrashedOnceAndBothDealtWith) {
+TEST_F(DeleteProcTest, CopiesThatShareAFileAreTrashedOnceAndBothDealtWith) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("a.mp3"));
     run(withFiles);
@@ -296,7 +296,7 @@ TEST_F(DeleteProcTest, copiesThatShareAFileAreTrashedOnceAndBothDealtWith) {
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, copiesThatShareAFileByALinkedFolderAreTrashedOnce) {
+TEST_F(DeleteProcTest, CopiesThatShareAFileByALinkedFolderAreTrashedOnce) {
     addFile("A", true, "real/a.mp3");
     std::filesystem::create_directory_symlink(path("real"), path("linked"));
     add(1, "B", true, path("linked/a.mp3"));
@@ -305,7 +305,7 @@ TEST_F(DeleteProcTest, copiesThatShareAFileByALinkedFolderAreTrashedOnce) {
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
 }
 
-TEST_F(DeleteProcTest, theOtherFormOfANameIsAnotherFile) {
+TEST_F(DeleteProcTest, TheOtherFormOfANameIsAnotherFile) {
     const std::string composed = "\u00e9.mp3";
     const std::string decomposed = "e\u0301.mp3";
     addFile("A", true, decomposed);
@@ -317,7 +317,7 @@ TEST_F(DeleteProcTest, theOtherFormOfANameIsAnotherFile) {
     EXPECT_TRUE(exists(composed));
 }
 
-TEST_F(DeleteProcTest, aFileThatIsNotTheOneOfThePlanStays) {
+TEST_F(DeleteProcTest, AFileThatIsNotTheOneOfThePlanStays) {
     addFile("A", true, "linked/a.mp3");
     add(1, "B", true, path("new.mp3"));
     const DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
@@ -332,7 +332,7 @@ TEST_F(DeleteProcTest, aFileThatIsNotTheOneOfThePlanStays) {
     EXPECT_FALSE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aLinkAndTheFileThatItLeadsToBothGo) {
+TEST_F(DeleteProcTest, ALinkAndTheFileThatItLeadsToBothGo) {
     addFile("A", true, "a.mp3");
     std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
     TrackRecord& link = add(1, "B", true, path("link.mp3"));
@@ -343,7 +343,7 @@ TEST_F(DeleteProcTest, aLinkAndTheFileThatItLeadsToBothGo) {
     EXPECT_THAT(outcomes(), ElementsAre("B: deleted, file trashed", "A: deleted, file trashed"));
 }
 
-TEST_F(DeleteProcTest, aLinkWhoseFileWasTrashedBeforeIsDealtWith) {
+TEST_F(DeleteProcTest, ALinkWhoseFileWasTrashedBeforeIsDealtWith) {
     addFile("A", true, "a.mp3");
     std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
     add(1, "B", true, path("link.mp3"));
@@ -352,7 +352,7 @@ TEST_F(DeleteProcTest, aLinkWhoseFileWasTrashedBeforeIsDealtWith) {
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aFileThatATrackUsesThatStaysIsLeft) {
+TEST_F(DeleteProcTest, AFileThatATrackUsesThatStaysIsLeft) {
     addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
     run(withFiles);
@@ -362,7 +362,7 @@ TEST_F(DeleteProcTest, aFileThatATrackUsesThatStaysIsLeft) {
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
-TEST_F(DeleteProcTest, aSharedFileGoesWhereTheUserWantsIt) {
+TEST_F(DeleteProcTest, ASharedFileGoesWhereTheUserWantsIt) {
     addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
     DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "delete/FileSurvey.h"
+
 #include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
@@ -42,7 +43,7 @@ class FileSurveyTest : public testing::Test {
     std::shared_ptr<FileSurvey::Answer> m_answer;
 };
 
-TEST_F(FileSurveyTest, answersWithThePlanAndTheCompletedFacts) {
+TEST_F(FileSurveyTest, AnswersWithThePlanAndTheCompletedFacts) {
     const auto made = survey();
     made->main();
     ASSERT_TRUE(m_answer);
@@ -51,14 +52,14 @@ TEST_F(FileSurveyTest, answersWithThePlanAndTheCompletedFacts) {
     EXPECT_EQ(m_answer->plan.files.size(), 1U);
 }
 
-TEST_F(FileSurveyTest, saysNothingOnceItIsCancelled) {
+TEST_F(FileSurveyTest, SaysNothingOnceItIsCancelled) {
     const auto made = survey();
     made->cancel();
     made->main();
     EXPECT_FALSE(m_answer);
 }
 
-TEST_F(FileSurveyTest, stopsVisitingTheLibraryOnceItIsCancelled) {
+TEST_F(FileSurveyTest, StopsVisitingTheLibraryOnceItIsCancelled) {
     FileSurvey* running = nullptr;
     bool wantsMore = true;
     const auto made = survey([&](const LocationVisitor& visit) {
@@ -72,7 +73,7 @@ TEST_F(FileSurveyTest, stopsVisitingTheLibraryOnceItIsCancelled) {
     EXPECT_FALSE(m_answer);
 }
 
-TEST_F(FileSurveyTest, isOfTheMarksAsTheyWereWhenItWasMadeAndKeepsTheirTexts) {
+TEST_F(FileSurveyTest, IsOfTheMarksAsTheyWereWhenItWasMadeAndKeepsTheirTexts) {
     const TrackRecord* const marked = m_list.rows.front();
     const std::string shared = marked->location.string();
     const auto made = survey([&](const LocationVisitor& visit) { return visit("X", shared); });

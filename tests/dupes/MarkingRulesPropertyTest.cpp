@@ -82,9 +82,9 @@ std::vector<bool> checks(const MarkRows& rows) {
     return checks;
 }
 
-class MarkingPropertyTest : public testing::TestWithParam<std::uint32_t> {};
+class MarkingRulesPropertyTest : public testing::TestWithParam<std::uint32_t> {};
 
-TEST_P(MarkingPropertyTest, everyRuleAgreesWithThePlainOne) {
+TEST_P(MarkingRulesPropertyTest, EveryRuleAgreesWithThePlainOne) {
     RandomGroups random(GetParam());
     for (int round = 0; round < 60; ++round) {
         const MarkRows rows = random.rows();
@@ -97,7 +97,7 @@ TEST_P(MarkingPropertyTest, everyRuleAgreesWithThePlainOne) {
     }
 }
 
-TEST_P(MarkingPropertyTest, theEffectIsWhatMarkingDoesAndLookingChangesNothing) {
+TEST_P(MarkingRulesPropertyTest, TheEffectIsWhatMarkingDoesAndLookingChangesNothing) {
     RandomGroups random(GetParam());
     for (int round = 0; round < 20; ++round) {
         const MarkRows rows = random.rows();
@@ -112,7 +112,7 @@ TEST_P(MarkingPropertyTest, theEffectIsWhatMarkingDoesAndLookingChangesNothing) 
     }
 }
 
-TEST_P(MarkingPropertyTest, exactlyTheCheckedRowsHaveAReason) {
+TEST_P(MarkingRulesPropertyTest, ExactlyTheCheckedRowsHaveAReason) {
     RandomGroups random(GetParam());
     for (int round = 0; round < 20; ++round) {
         const MarkRows rows = random.rows();
@@ -125,7 +125,7 @@ TEST_P(MarkingPropertyTest, exactlyTheCheckedRowsHaveAReason) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(seeds, MarkingPropertyTest, testing::Values(1U, 2U, 3U, 20261121U));
+INSTANTIATE_TEST_SUITE_P(seeds, MarkingRulesPropertyTest, testing::Values(1U, 2U, 3U, 20261121U));
 
 } // namespace
 } // namespace songsweep

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "delete/DeleteReport.h"
 #include "delete/DeleteTexts.h"
+
+#include "delete/DeleteReport.h"
 #include "platform/HfsPath.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@
 namespace songsweep {
 namespace {
 
-TEST(DeleteTextsTest, theTextsStandAsWritten) {
+TEST(DeleteTextsTest, TheTextsStandAsWritten) {
     EXPECT_STREQ(deleteTexts::mute, "tell application \"Finder\" \nset volume with output muted \nend tell");
     EXPECT_STREQ(deleteTexts::unmute,
                  "tell application \"Finder\" \nset volume without output muted \nend tell");
@@ -19,7 +20,7 @@ TEST(DeleteTextsTest, theTextsStandAsWritten) {
               "set locked of file_to_delete to false \ndelete file_to_delete \nend tell");
 }
 
-TEST(DeleteTextsTest, onlyNamesThatReadBackAreSent) {
+TEST(DeleteTextsTest, OnlyNamesThatReadBackAreSent) {
     for (const char* const path :
          {"/a.mp3", "/a:b/c d.mp3", "/été/歌.mp3", "/line\nbreak\r.mp3", "/it's.mp3"})
         EXPECT_EQ(nameableHfsPath(path), hfsPath(path)) << path;
@@ -27,7 +28,7 @@ TEST(DeleteTextsTest, onlyNamesThatReadBackAreSent) {
         EXPECT_FALSE(canNameFile(path)) << path;
 }
 
-TEST(DeleteReportTest, anOutcomeSaysWhatBecameOfTrackAndFile) {
+TEST(DeleteReportTest, AnOutcomeSaysWhatBecameOfTrackAndFile) {
     using Track = DeleteOutcome::Track;
     using File = DeleteOutcome::File;
     const auto text = [](Track track, File file, const char* reason) {
@@ -45,14 +46,14 @@ TEST(DeleteReportTest, anOutcomeSaysWhatBecameOfTrackAndFile) {
     EXPECT_EQ(text(Track::notAttempted, File::notAsked, ""), "not attempted");
 }
 
-TEST(DeleteReportTest, aLineBreakInANameDoesNotBreakTheLogLine) {
+TEST(DeleteReportTest, ALineBreakInANameDoesNotBreakTheLogLine) {
     DeleteOutcome outcome;
     outcome.name = "two\nlines";
     outcome.artist = "A\rB";
     EXPECT_EQ(outcomeLine(outcome), "Track two lines by A B () not attempted");
 }
 
-TEST(DeleteReportTest, allIsDealtWithOnlyIfEachTrackIs) {
+TEST(DeleteReportTest, AllIsDealtWithOnlyIfEachTrackIs) {
     DeleteReport report;
     EXPECT_TRUE(report.allDealtWith());
     report.outcomes.resize(2);

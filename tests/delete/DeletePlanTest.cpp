@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "delete/DeletePlan.h"
+
 #include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeleteFixture.h"
-#include "delete/DeletePlan.h"
 #include "support/BindMount.h"
 
 #include <gmock/gmock.h>
@@ -60,37 +61,37 @@ class OneNumberFiles final : public Files {
     }
 };
 
-TEST_F(DeletePlanTest, aMarkedTrackDoesNotShareWithItselfOrAnotherMarkedOne) {
+TEST_F(DeletePlanTest, AMarkedTrackDoesNotShareWithItselfOrAnotherMarkedOne) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("a.mp3"));
     EXPECT_THAT(plan().shared, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, aTrackOutsideOfTheResultsCanShareAFile) {
+TEST_F(DeletePlanTest, ATrackOutsideOfTheResultsCanShareAFile) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     addFile("B", true, "b.mp3");
     EXPECT_THAT(plan({{"X", path("a.mp3")}, {"Y", path("c.mp3")}}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, aLinkedFolderLeadsToTheSameFile) {
+TEST_F(DeletePlanTest, ALinkedFolderLeadsToTheSameFile) {
     const TrackRecord& a = addFile("A", true, "real/a.mp3");
     std::filesystem::create_directory_symlink(path("real"), path("linked"));
     EXPECT_THAT(plan({{"X", path("linked/../linked/a.mp3")}}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, aLinkedFileIsTheFileItLeadsTo) {
+TEST_F(DeletePlanTest, ALinkedFileIsTheFileItLeadsTo) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
     EXPECT_THAT(plan({{"X", path("link.mp3")}}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, aHardLinkIsTheSameFile) {
+TEST_F(DeletePlanTest, AHardLinkIsTheSameFile) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     std::filesystem::create_hard_link(path("a.mp3"), path("other.mp3"));
     EXPECT_THAT(plan({{"X", path("other.mp3")}}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, anEqualFileNumberAloneIsNoSharing) {
+TEST_F(DeletePlanTest, AnEqualFileNumberAloneIsNoSharing) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     addFile("B", true, "another.mp3");
     addFile("C", false, "a third one.mp3");
@@ -99,7 +100,7 @@ TEST_F(DeletePlanTest, anEqualFileNumberAloneIsNoSharing) {
     EXPECT_THAT(plan({{"X", path("a.mp3")}}, files).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, theSameFileUnderAnotherMountIsShared) {
+TEST_F(DeletePlanTest, TheSameFileUnderAnotherMountIsShared) {
     const TrackRecord& a = addFile("A", true, "music/a.mp3");
     addFile("B", true, "music/b.mp3");
     const test::BindMount mount(path("music"), path("mounted"));
@@ -107,7 +108,7 @@ TEST_F(DeletePlanTest, theSameFileUnderAnotherMountIsShared) {
     EXPECT_THAT(plan({{"X", path("mounted/a.mp3")}}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, aFileOfEqualNumberSizeAndTimeIsTakenForTheSame) {
+TEST_F(DeletePlanTest, AFileOfEqualNumberSizeAndTimeIsTakenForTheSame) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");
     const auto time = std::filesystem::last_write_time(path("a.mp3"));
@@ -118,7 +119,7 @@ TEST_F(DeletePlanTest, aFileOfEqualNumberSizeAndTimeIsTakenForTheSame) {
     EXPECT_THAT(plan({}, files).shared, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, aMarkedTrackThatCannotBeDeletedKeepsItsFile) {
+TEST_F(DeletePlanTest, AMarkedTrackThatCannotBeDeletedKeepsItsFile) {
     const TrackRecord& a = addFile("0", true, "a.mp3");
     const TrackRecord& b = add(1, "B", true, path("a.mp3"));
     const TrackRecord& c = addFile("C\"", true, "c.mp3");
@@ -127,14 +128,14 @@ TEST_F(DeletePlanTest, aMarkedTrackThatCannotBeDeletedKeepsItsFile) {
     EXPECT_EQ(facts(), (DeleteConfirmationFacts{.sharedFiles = 1, .sharedBytes = 5})) << "c stays anyway";
 }
 
-TEST_F(DeletePlanTest, anEntryOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
+TEST_F(DeletePlanTest, AnEntryOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     addFile("B", true, "b.mp3");
     add(2, "B", true, path("b.mp3"));
     EXPECT_THAT(plan({{"A", path("a.mp3")}}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, aRowOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
+TEST_F(DeletePlanTest, ARowOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     add(1, "A", false, path("a.mp3"));
     const LibraryLocations oneEntry = [this](const LocationVisitor& visit) {
@@ -143,13 +144,13 @@ TEST_F(DeletePlanTest, aRowOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
     EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, anEntryOfAMarkedIdElsewhereIsNotTheMarkedOne) {
+TEST_F(DeletePlanTest, AnEntryOfAMarkedIdElsewhereIsNotTheMarkedOne) {
     addFile("A", true, "a.mp3");
     m_folder.write("b.mp3", "b");
     EXPECT_THAT(plan({{"A", path("b.mp3")}}).shared, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, anEntryIsTheMarkedOneUnderAnotherNameOfItsFile) {
+TEST_F(DeletePlanTest, AnEntryIsTheMarkedOneUnderAnotherNameOfItsFile) {
     addFile("A", true, "real/a.mp3");
     std::filesystem::create_directory_symlink(path("real"), path("linked"));
     const LibraryLocations oneEntry = [this](const LocationVisitor& visit) {
@@ -158,7 +159,7 @@ TEST_F(DeletePlanTest, anEntryIsTheMarkedOneUnderAnotherNameOfItsFile) {
     EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, aLibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWanted) {
+TEST_F(DeletePlanTest, ALibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWanted) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     add(1, "B", true, path("gone.mp3"));
     DeleteConfirmationFacts facts;
@@ -171,19 +172,19 @@ TEST_F(DeletePlanTest, aLibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWante
     EXPECT_THAT(made->shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, withoutALibraryTheUnmarkedRowsStandForIt) {
+TEST_F(DeletePlanTest, WithoutALibraryTheUnmarkedRowsStandForIt) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
     EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a));
 }
 
-TEST_F(DeletePlanTest, aLocationThatIsNoPathIsNoFile) {
+TEST_F(DeletePlanTest, ALocationThatIsNoPathIsNoFile) {
     add(1, "A", true, "msng");
     add(1, "B", true, "");
     EXPECT_THAT(plan({{"X", "msng"}, {"Y", ""}}).files, IsEmpty());
 }
 
-TEST_F(DeletePlanTest, theFactsCountFilesBytesAndWhatIsShared) {
+TEST_F(DeletePlanTest, TheFactsCountFilesBytesAndWhatIsShared) {
     addFile("A", true, "four");        // 4 bytes
     addFile("B", true, "sixsix");      // 6 bytes
     add(2, "C", true, path("sixsix")); // the file of B once more
@@ -195,31 +196,31 @@ TEST_F(DeletePlanTest, theFactsCountFilesBytesAndWhatIsShared) {
     EXPECT_EQ(facts({{"X", path("shared9")}}), expected);
 }
 
-TEST_F(DeletePlanTest, theNamesOfOneFileCountItsBytesOnce) {
+TEST_F(DeletePlanTest, TheNamesOfOneFileCountItsBytesOnce) {
     addFile("A", true, "four");
     std::filesystem::create_hard_link(path("four"), path("other name"));
     add(1, "B", true, path("other name"));
     EXPECT_EQ(facts(), (DeleteConfirmationFacts{.filesToTrash = 2, .bytesToTrash = 4}));
 }
 
-TEST_F(DeletePlanTest, aLinkToAMarkedFileIsNoFileOfItsOwn) {
+TEST_F(DeletePlanTest, ALinkToAMarkedFileIsNoFileOfItsOwn) {
     addFile("A", true, "four");
     std::filesystem::create_symlink(path("four"), path("link"));
     add(1, "B", true, path("link"));
     EXPECT_EQ(facts(), (DeleteConfirmationFacts{.filesToTrash = 1, .bytesToTrash = 4}));
 }
 
-TEST_F(DeletePlanTest, aFileThatCannotBeNamedIsNotCountedAsGoing) {
+TEST_F(DeletePlanTest, AFileThatCannotBeNamedIsNotCountedAsGoing) {
     addFile("A", true, "say \"hi\".mp3");
     EXPECT_EQ(facts(), DeleteConfirmationFacts());
 }
 
-TEST_F(DeletePlanTest, aFolderIsNotCountedAsGoingOrMissing) {
+TEST_F(DeletePlanTest, AFolderIsNotCountedAsGoingOrMissing) {
     add(1, "A", true, m_folder.path());
     EXPECT_EQ(facts(), DeleteConfirmationFacts());
 }
 
-TEST_F(DeletePlanTest, aSurveyThatIsStoppedHasNoPlan) {
+TEST_F(DeletePlanTest, ASurveyThatIsStoppedHasNoPlan) {
     addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");
     for (int turn = 1; turn <= 4; ++turn) // one for each row, one for each of the library's, at the end

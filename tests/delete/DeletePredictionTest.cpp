@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "delete/DeleteFixture.h"
 #include "delete/DeletePrediction.h"
+
+#include "delete/DeleteFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ class DeletePredictionTest : public test::DeleteFixture {
     }
 };
 
-TEST_F(DeletePredictionTest, tellsWhatBecomesOfTheFilesInEarnest) {
+TEST_F(DeletePredictionTest, TellsWhatBecomesOfTheFilesInEarnest) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("a.mp3"));
     addFile("C", true, "c.mp3");
@@ -36,14 +37,14 @@ TEST_F(DeletePredictionTest, tellsWhatBecomesOfTheFilesInEarnest) {
     expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
 }
 
-TEST_F(DeletePredictionTest, tellsWhichTracksStayInEarnest) {
+TEST_F(DeletePredictionTest, TellsWhichTracksStayInEarnest) {
     addFile("AA\"1", true, "a.mp3");
     addFile("0", true, "b.mp3");
     add(1, "", true, path("gone.mp3"));
     expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
 }
 
-TEST_F(DeletePredictionTest, tellsThatFilesStayOfALibraryThatCannotBeLookedAt) {
+TEST_F(DeletePredictionTest, TellsThatFilesStayOfALibraryThatCannotBeLookedAt) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("gone.mp3"));
     expectTheSameInEarnest(

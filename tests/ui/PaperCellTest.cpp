@@ -15,7 +15,7 @@ namespace songsweep::test {
 
 namespace {
 
-using CellColorsTest = TableFixture;
+using PaperCellTest = TableFixture;
 
 /// A cell whose making fails, as one does that gets no memory.
 template <typename Cell>
@@ -25,7 +25,7 @@ struct FailingCell : Cell {
 
 } // namespace
 
-TEST_F(CellColorsTest, BandsAlternateFromGroupToGroupUnderEveryColumn) {
+TEST_F(PaperCellTest, BandsAlternateFromGroupToGroupUnderEveryColumn) {
     for (const Column column : allColumns) {
         EXPECT_EQ(background(0, column), QColor(237, 243, 254)) << identifier(column);
         EXPECT_EQ(background(2, column), QColor(255, 255, 255)) << identifier(column);
@@ -33,7 +33,7 @@ TEST_F(CellColorsTest, BandsAlternateFromGroupToGroupUnderEveryColumn) {
     }
 }
 
-TEST_F(CellColorsTest, BandsReachFromEdgeToEdgeWithoutAGap) {
+TEST_F(PaperCellTest, BandsReachFromEdgeToEdgeWithoutAGap) {
     const QImage rows = picture();
     const int height = view.rowHeight(0);
     for (int x = 0; x < rows.width(); ++x) {
@@ -43,7 +43,7 @@ TEST_F(CellColorsTest, BandsReachFromEdgeToEdgeWithoutAGap) {
     }
 }
 
-TEST_F(CellColorsTest, ASelectedRowHasOneColourOverItsWholeWidth) {
+TEST_F(PaperCellTest, ASelectedRowHasOneColourOverItsWholeWidth) {
     select(4, 4);
     for (const Column column : allColumns)
         EXPECT_EQ(background(4, column), selectedBand) << identifier(column);
@@ -52,7 +52,7 @@ TEST_F(CellColorsTest, ASelectedRowHasOneColourOverItsWholeWidth) {
     EXPECT_EQ(background(4, Column::rating), tintedBand);
 }
 
-TEST_F(CellColorsTest, TheSelectionTurnsGreyWhenTheWindowIsNotTheKeyWindow) {
+TEST_F(PaperCellTest, TheSelectionTurnsGreyWhenTheWindowIsNotTheKeyWindow) {
     select(4, 4);
     QWidget other;
     other.show();
@@ -63,7 +63,7 @@ TEST_F(CellColorsTest, TheSelectionTurnsGreyWhenTheWindowIsNotTheKeyWindow) {
     EXPECT_EQ(background(4, Column::name), selectedBand);
 }
 
-TEST_F(CellColorsTest, RowsKeepTheirColoursInADarkTheme) {
+TEST_F(PaperCellTest, RowsKeepTheirColoursInADarkTheme) {
     const QImage light = picture();
     view.setPalette(themePalette(ThemeKind::dark));
     const QImage dark = picture();
@@ -72,7 +72,7 @@ TEST_F(CellColorsTest, RowsKeepTheirColoursInADarkTheme) {
     EXPECT_EQ(dark.pixelColor(5, rowsEnd + 5), themeColors(ThemeKind::dark).content);
 }
 
-TEST_F(CellColorsTest, TextsOfATrackWithoutItsFileAreSecondary) {
+TEST_F(PaperCellTest, TextsOfATrackWithoutItsFileAreSecondary) {
     const auto hasPixel = [this](int row, Column column, const QColor& color) {
         const QImage text = picture().copy(view.visualRect(cell(row, column)));
         for (int y = 0; y < text.height(); ++y)
@@ -88,7 +88,7 @@ TEST_F(CellColorsTest, TextsOfATrackWithoutItsFileAreSecondary) {
     EXPECT_FALSE(hasPixel(6, Column::name, rowColors(RowState::plain).text));
 }
 
-TEST_F(CellColorsTest, StarsStandForTheRatingAndDotsForWhatItLacks) {
+TEST_F(PaperCellTest, StarsStandForTheRatingAndDotsForWhatItLacks) {
     const auto colorAt = [this](int row, int place) {
         const QRect frame = view.visualRect(cell(row, Column::rating));
         const QPoint middle(frame.left() + 8 + 14 * place + 6, frame.top() + 12);
@@ -101,7 +101,7 @@ TEST_F(CellColorsTest, StarsStandForTheRatingAndDotsForWhatItLacks) {
     EXPECT_EQ(colorAt(1, 0), tintedBand) << "a track that is not rated shows nothing";
 }
 
-TEST_F(CellColorsTest, TheCurrentRowHasAnOutlineWhileTheTableHasTheFocus) {
+TEST_F(PaperCellTest, TheCurrentRowHasAnOutlineWhileTheTableHasTheFocus) {
     view.selectionModel()->setCurrentIndex(cell(2, Column::name), QItemSelectionModel::NoUpdate);
     const int top = 2 * view.rowHeight(0);
     EXPECT_EQ(picture().pixelColor(300, top), rowColors(RowState::plain).currentOutline);
@@ -112,17 +112,17 @@ TEST_F(CellColorsTest, TheCurrentRowHasAnOutlineWhileTheTableHasTheFocus) {
     EXPECT_EQ(picture().pixelColor(300, top), selectedBand);
 }
 
-TEST_F(CellColorsTest, AnImageCellWhoseMakingFailsLogsOnceAndIsNotMade) {
+TEST_F(PaperCellTest, AnImageCellWhoseMakingFailsLogsOnceAndIsNotMade) {
     EXPECT_EQ(makeCell<FailingCell<SWImageCell>>(log), nullptr);
     EXPECT_EQ(log.lines(), std::vector<std::string>{"Could not initalize!"});
 }
 
-TEST_F(CellColorsTest, ALevelIndicatorCellWhoseMakingFailsLogsOnceAndIsNotMade) {
+TEST_F(PaperCellTest, ALevelIndicatorCellWhoseMakingFailsLogsOnceAndIsNotMade) {
     EXPECT_EQ(makeCell<FailingCell<SWLevelIndicatorCell>>(log), nullptr);
     EXPECT_EQ(log.lines(), std::vector<std::string>{"Could not initalize!"});
 }
 
-TEST_F(CellColorsTest, ACellThatIsMadeLogsNothing) {
+TEST_F(PaperCellTest, ACellThatIsMadeLogsNothing) {
     EXPECT_NE(makeCell<SWImageCell>(log), nullptr);
     EXPECT_TRUE(log.lines().empty());
 }

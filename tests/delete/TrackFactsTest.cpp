@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "delete/DeleteFixture.h"
 #include "delete/TrackFacts.h"
+
+#include "delete/DeleteFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ class TrackFactsTest : public test::DeleteFixture {
     int lost() const { return groupsLosingEveryCopy(m_list.rows); }
 };
 
-TEST_F(TrackFactsTest, aGroupWithEveryRowMarkedLosesEveryCopy) {
+TEST_F(TrackFactsTest, AGroupWithEveryRowMarkedLosesEveryCopy) {
     add(1, "A", true);
     add(1, "B", true);
     add(2, "C", true);
@@ -23,20 +24,20 @@ TEST_F(TrackFactsTest, aGroupWithEveryRowMarkedLosesEveryCopy) {
     EXPECT_EQ(lost(), 2);
 }
 
-TEST_F(TrackFactsTest, anEntryWithoutItsFileIsNoCopyThatIsLeft) {
+TEST_F(TrackFactsTest, AnEntryWithoutItsFileIsNoCopyThatIsLeft) {
     add(1, "A", true);
     addDead(1, "B", false);
     EXPECT_EQ(lost(), 1);
 }
 
-TEST_F(TrackFactsTest, aWorkingCopyThatStaysIsEnough) {
+TEST_F(TrackFactsTest, AWorkingCopyThatStaysIsEnough) {
     addDead(1, "A", true);
     add(1, "B", false);
     addDead(1, "C", false);
     EXPECT_EQ(lost(), 0);
 }
 
-TEST_F(TrackFactsTest, whereNoCopyWorksAnyEntryThatStaysIsEnough) {
+TEST_F(TrackFactsTest, WhereNoCopyWorksAnyEntryThatStaysIsEnough) {
     addDead(1, "A", true);
     addDead(1, "B", false);
     addDead(2, "C", true);
@@ -44,7 +45,7 @@ TEST_F(TrackFactsTest, whereNoCopyWorksAnyEntryThatStaysIsEnough) {
     EXPECT_EQ(lost(), 1);
 }
 
-TEST_F(TrackFactsTest, anEntryThatIsDeletedWithAMarkedOneIsNoCopyThatIsLeft) {
+TEST_F(TrackFactsTest, AnEntryThatIsDeletedWithAMarkedOneIsNoCopyThatIsLeft) {
     add(1, "00A1B2C3D4E5F607", true);
     add(1, "00a1b2c3d4e5f607", false);
     add(2, "0", true);
@@ -52,7 +53,7 @@ TEST_F(TrackFactsTest, anEntryThatIsDeletedWithAMarkedOneIsNoCopyThatIsLeft) {
     EXPECT_EQ(lost(), 1) << "without an ID nothing is deleted";
 }
 
-TEST_F(TrackFactsTest, theFactsCountMarkedTracksAndLostGroupsAndNoFiles) {
+TEST_F(TrackFactsTest, TheFactsCountMarkedTracksAndLostGroupsAndNoFiles) {
     addFile("A", true, "a.mp3");
     addFile("B", true, "b.mp3");
     add(2, "C", true);

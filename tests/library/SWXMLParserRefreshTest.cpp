@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class LocationRefreshTest : public test::ReaderFixture {
+class SWXMLParserRefreshTest : public test::ReaderFixture {
   protected:
     /// One track in the playlist, with what the location element holds ("" leaves it out).
     void useTrack(const std::string& location) {
@@ -36,7 +36,7 @@ class LocationRefreshTest : public test::ReaderFixture {
     }
 };
 
-TEST_F(LocationRefreshTest, SendsThisText) {
+TEST_F(SWXMLParserRefreshTest, SendsThisText) {
     refreshed("/old");
     EXPECT_THAT(m_scripts.sources,
                 ElementsAre("tell application \"iTunes\" \n"
@@ -50,7 +50,7 @@ TEST_F(LocationRefreshTest, SendsThisText) {
                             "end tell"));
 }
 
-TEST_F(LocationRefreshTest, AnIdThatWouldEndItsLiteralIsNotSent) {
+TEST_F(SWXMLParserRefreshTest, AnIdThatWouldEndItsLiteralIsNotSent) {
     answer(Descriptor::text("/new"));
     SWXMLParser parser(m_services);
     TrackRecord record{.pid = "0\") \ndelete tracks of playlist 1 \nset q to (tracks whose name is \"",
@@ -60,14 +60,14 @@ TEST_F(LocationRefreshTest, AnIdThatWouldEndItsLiteralIsNotSent) {
     EXPECT_EQ(record.location, "/old");
 }
 
-TEST_F(LocationRefreshTest, TakesTheAnswerAsItComes) {
+TEST_F(SWXMLParserRefreshTest, TakesTheAnswerAsItComes) {
     answer(Descriptor::list({Descriptor::text("/New/Place.MP3")}));
     EXPECT_EQ(refreshed("/old"), "/New/Place.MP3");
     answer(Descriptor::text(""));
     EXPECT_EQ(refreshed("/old"), "");
 }
 
-TEST_F(LocationRefreshTest, TheMissingValueInAnyCaseChangesNothing) {
+TEST_F(SWXMLParserRefreshTest, TheMissingValueInAnyCaseChangesNothing) {
     for (const char* text : {"msng", "MSNG", "mSnG"}) {
         answer(Descriptor::text(text));
         EXPECT_EQ(refreshed("/old"), "/old");
@@ -76,18 +76,18 @@ TEST_F(LocationRefreshTest, TheMissingValueInAnyCaseChangesNothing) {
     EXPECT_EQ(refreshed("/old"), "/old");
 }
 
-TEST_F(LocationRefreshTest, NoAnswerChangesNothing) {
+TEST_F(SWXMLParserRefreshTest, NoAnswerChangesNothing) {
     EXPECT_EQ(refreshed("/old"), "/old");
     answer(Descriptor::list({}));
     EXPECT_EQ(refreshed("/old"), "/old");
 }
 
-TEST_F(LocationRefreshTest, AnExceptionIsIgnored) {
+TEST_F(SWXMLParserRefreshTest, AnExceptionIsIgnored) {
     m_scripts.answer = [](std::string_view) -> Result<Descriptor> { throw std::runtime_error("lost"); };
     EXPECT_EQ(refreshed("/old"), "/old");
 }
 
-TEST_F(LocationRefreshTest, AnExceptionOfAnotherKindEndsTheProcessing) {
+TEST_F(SWXMLParserRefreshTest, AnExceptionOfAnotherKindEndsTheProcessing) {
     useTrack("file:///gone.mp3");
     m_scripts.answer = [](std::string_view) -> Result<Descriptor> { throw 1; };
     run({.playlist = "All"}, 1);
@@ -95,7 +95,7 @@ TEST_F(LocationRefreshTest, AnExceptionOfAnotherKindEndsTheProcessing) {
     EXPECT_THAT(m_list->records, IsEmpty());
 }
 
-TEST_F(LocationRefreshTest, AFileThatExistsIsNotAskedFor) {
+TEST_F(SWXMLParserRefreshTest, AFileThatExistsIsNotAskedFor) {
     write("a b.mp3", "x");
     useTrack("file://localhost" + path("a%20b.mp3"));
     run({.playlist = "All"}, 1);
@@ -103,7 +103,7 @@ TEST_F(LocationRefreshTest, AFileThatExistsIsNotAskedFor) {
     EXPECT_FALSE(m_list->records.at(0)->isdead);
 }
 
-TEST_F(LocationRefreshTest, AFileThatMovedIsFoundAndLogged) {
+TEST_F(SWXMLParserRefreshTest, AFileThatMovedIsFoundAndLogged) {
     write("moved.mp3", "x");
     useTrack("file:///gone.mp3");
     answer(Descriptor::text(path("moved.mp3")));
@@ -113,7 +113,7 @@ TEST_F(LocationRefreshTest, AFileThatMovedIsFoundAndLogged) {
     EXPECT_THAT(m_trace, testing::Contains(path("moved.mp3")));
 }
 
-TEST_F(LocationRefreshTest, AFileThatMovedIsKeptWhereMissingOnesAreIgnored) {
+TEST_F(SWXMLParserRefreshTest, AFileThatMovedIsKeptWhereMissingOnesAreIgnored) {
     write("moved.mp3", "x");
     useTrack("file:///gone.mp3");
     answer(Descriptor::text(path("moved.mp3")));
@@ -123,7 +123,7 @@ TEST_F(LocationRefreshTest, AFileThatMovedIsKeptWhereMissingOnesAreIgnored) {
     EXPECT_THAT(m_trace, testing::Not(testing::Contains(path("moved.mp3"))));
 }
 
-TEST_F(LocationRefreshTest, ATrackWithoutALocationIsAskedForAndDead) {
+TEST_F(SWXMLParserRefreshTest, ATrackWithoutALocationIsAskedForAndDead) {
     useTrack("");
     run({.playlist = "All"}, 1);
     EXPECT_EQ(m_scripts.sources.size(), 1U);
@@ -132,7 +132,7 @@ TEST_F(LocationRefreshTest, ATrackWithoutALocationIsAskedForAndDead) {
     EXPECT_THAT(m_trace, testing::Contains(""));
 }
 
-TEST_F(LocationRefreshTest, ATrackThatITunesNoLongerKnowsKeepsItsLocation) {
+TEST_F(SWXMLParserRefreshTest, ATrackThatITunesNoLongerKnowsKeepsItsLocation) {
     useTrack("file:///gone.mp3");
     run({.playlist = "All"}, 1);
     EXPECT_EQ(m_list->records.at(0)->location, "/gone.mp3");

@@ -63,7 +63,7 @@ class Chain {
     OperationQueue m_queue{m_center, m_log};
 };
 
-TEST(OperationChainTest, aThousandRandomCancelsEachEndTheChainOnce) {
+TEST(OperationQueueChainTest, AThousandRandomCancelsEachEndTheChainOnce) {
     std::mt19937 random(20261121);
     std::uniform_int_distribution<int> rounds(0, 12);
     for (int search = 0; search < 1000; ++search) {
@@ -79,7 +79,7 @@ TEST(OperationChainTest, aThousandRandomCancelsEachEndTheChainOnce) {
     }
 }
 
-TEST(OperationChainTest, quittingAtAThousandRandomMomentsLeavesNobodyWaiting) {
+TEST(OperationQueueChainTest, QuittingAtAThousandRandomMomentsLeavesNobodyWaiting) {
     std::mt19937 random(11211962);
     std::uniform_int_distribution<int> rounds(0, 12);
     for (int search = 0; search < 1000; ++search) {
@@ -90,7 +90,7 @@ TEST(OperationChainTest, quittingAtAThousandRandomMomentsLeavesNobodyWaiting) {
     } // the end of each would hang here
 }
 
-TEST(OperationChainTest, anUndisturbedChainEndsOnce) {
+TEST(OperationQueueChainTest, AnUndisturbedChainEndsOnce) {
     Chain chain;
     chain.start();
     ASSERT_TRUE(test::runEventLoopUntil([&chain] { return chain.hasEnded(); }));

@@ -13,8 +13,8 @@ namespace {
 /// How a deletion of random rows ends after some tracks.
 enum class End { completed, cancelled, thrown };
 
-class DeleteListTest : public test::DeleteFixture,
-                       public testing::WithParamInterface<std::tuple<std::uint32_t, End>> {
+class DeleteProcPropertyTest : public test::DeleteFixture,
+                               public testing::WithParamInterface<std::tuple<std::uint32_t, End>> {
   protected:
     void addRandomRows(std::mt19937& random) {
         std::bernoulli_distribution marked(0.4);
@@ -38,7 +38,7 @@ class DeleteListTest : public test::DeleteFixture,
     }
 };
 
-TEST_P(DeleteListTest, theListIsWholeHoweverTheLoopEnds) {
+TEST_P(DeleteProcPropertyTest, TheListIsWholeHoweverTheLoopEnds) {
     const auto [seed, end] = GetParam();
     std::mt19937 random(seed);
     addRandomRows(random);
@@ -59,7 +59,7 @@ TEST_P(DeleteListTest, theListIsWholeHoweverTheLoopEnds) {
     EXPECT_EQ(m_list.rows, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(seeds, DeleteListTest,
+INSTANTIATE_TEST_SUITE_P(seeds, DeleteProcPropertyTest,
                          testing::Combine(testing::Range(0U, 20U),
                                           testing::Values(End::completed, End::cancelled, End::thrown)));
 

@@ -7,7 +7,7 @@ namespace songsweep::test {
 
 namespace {
 
-class TableAccessibilityTest : public TableFixture {
+class SWTableViewAccessibilityTest : public TableFixture {
   protected:
     QAccessibleTableInterface* table() {
         QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&view);
@@ -20,7 +20,7 @@ class TableAccessibilityTest : public TableFixture {
 
 } // namespace
 
-TEST_F(TableAccessibilityTest, TheTableSaysWhatItIs) {
+TEST_F(SWTableViewAccessibilityTest, TheTableSaysWhatItIs) {
     view.setAccessibleName(QStringLiteral("Duplicate tracks"));
     QAccessibleInterface* whole = QAccessible::queryAccessibleInterface(&view);
     ASSERT_NE(whole, nullptr);
@@ -31,7 +31,7 @@ TEST_F(TableAccessibilityTest, TheTableSaysWhatItIs) {
     EXPECT_EQ(table()->columnCount(), 13);
 }
 
-TEST_F(TableAccessibilityTest, CellsAreCells) {
+TEST_F(SWTableViewAccessibilityTest, CellsAreCells) {
     EXPECT_EQ(table()->cellAt(0, 2)->role(), QAccessible::Cell);
     EXPECT_EQ(name(0, Column::bitrate), QStringLiteral("Bit rate: 320"));
     EXPECT_EQ(name(2, Column::rating), QStringLiteral("Rating: 3 of 5 stars"));
@@ -39,19 +39,19 @@ TEST_F(TableAccessibilityTest, CellsAreCells) {
     EXPECT_EQ(name(1, Column::checkbox), QStringLiteral("Marked"));
 }
 
-TEST_F(TableAccessibilityTest, CellsSayWhereTheirRowStands) {
+TEST_F(SWTableViewAccessibilityTest, CellsSayWhereTheirRowStands) {
     EXPECT_EQ(table()->cellAt(5, 2)->text(QAccessible::Description),
               QStringLiteral("Group 3 of 5, copy 2 of 3"));
 }
 
-TEST_F(TableAccessibilityTest, SelectedCellsSaySo) {
+TEST_F(SWTableViewAccessibilityTest, SelectedCellsSaySo) {
     select(4, 5);
     EXPECT_TRUE(table()->cellAt(4, 2)->state().selected);
     EXPECT_FALSE(table()->cellAt(6, 2)->state().selected);
     EXPECT_EQ(table()->selectedRowCount(), 2);
 }
 
-TEST_F(TableAccessibilityTest, TheDrawnColumnsHaveTitlesToo) {
+TEST_F(SWTableViewAccessibilityTest, TheDrawnColumnsHaveTitlesToo) {
     EXPECT_EQ(table()->columnDescription(static_cast<int>(Column::rating)), QStringLiteral("Rating"));
     EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::AccessibleTextRole),
               QStringLiteral("Marked for deletion"));

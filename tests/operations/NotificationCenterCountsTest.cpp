@@ -24,16 +24,16 @@ using ::testing::Each;
 using ::testing::ElementsAre;
 
 /// Workers that post counts, and what was handled of them.
-class CountsTest : public ::testing::Test {
+class NotificationCenterCountsTest : public ::testing::Test {
   protected:
-    CountsTest() {
+    NotificationCenterCountsTest() {
         m_center.setObserver([this](const TestEvent& event) {
             m_handled.push_back(event.kind);
             m_senders.push_back(m_center.handling());
             m_handledCount = m_handled.size();
         });
     }
-    ~CountsTest() override {
+    ~NotificationCenterCountsTest() override {
         m_mayGoOn = true; // a worker never outlives its test
     }
     void waitForLeave() const {
@@ -53,7 +53,7 @@ class CountsTest : public ::testing::Test {
     OperationQueue m_queue{m_center, m_log};
 };
 
-TEST_F(CountsTest, aCountIsNotWaitedFor) {
+TEST_F(NotificationCenterCountsTest, ACountIsNotWaitedFor) {
     std::atomic<bool> hasReturned = false;
     m_queue.add(operation([&](TestOperation& self) {
         m_center.post(self.event(Kind::count));
@@ -65,7 +65,7 @@ TEST_F(CountsTest, aCountIsNotWaitedFor) {
     EXPECT_EQ(m_handled.size(), 0U);
 }
 
-TEST_F(CountsTest, countsRideAlongWithTheNextEventEachInItsPlace) {
+TEST_F(NotificationCenterCountsTest, CountsRideAlongWithTheNextEventEachInItsPlace) {
     m_queue.add(operation([&](TestOperation& self) {
         m_center.post(self.event(Kind::count));
         m_center.post(self.event(Kind::count));
@@ -77,7 +77,7 @@ TEST_F(CountsTest, countsRideAlongWithTheNextEventEachInItsPlace) {
     EXPECT_THAT(m_handled, ElementsAre(Kind::count, Kind::count, Kind::step, Kind::count, Kind::end));
 }
 
-TEST_F(CountsTest, bothKindsOfCountsKeepTheirOrder) {
+TEST_F(NotificationCenterCountsTest, BothKindsOfCountsKeepTheirOrder) {
     m_queue.add(operation([&](TestOperation& self) {
         m_center.post(self.event(Kind::otherCount));
         m_center.post(self.event(Kind::count));
@@ -88,7 +88,7 @@ TEST_F(CountsTest, bothKindsOfCountsKeepTheirOrder) {
     EXPECT_THAT(m_handled, ElementsAre(Kind::otherCount, Kind::count, Kind::otherCount, Kind::end));
 }
 
-TEST_F(CountsTest, everyCountCarriesItsSender) {
+TEST_F(NotificationCenterCountsTest, EveryCountCarriesItsSender) {
     auto counting = operation([&](TestOperation& self) {
         m_center.post(self.event(Kind::count));
         m_center.post(self.event(Kind::count));
@@ -101,7 +101,7 @@ TEST_F(CountsTest, everyCountCarriesItsSender) {
     EXPECT_THAT(m_senders, Each(sender));
 }
 
-TEST_F(CountsTest, aCountWithoutAnEventAfterItIsHandledWhileTheWorkerGoesOn) {
+TEST_F(NotificationCenterCountsTest, ACountWithoutAnEventAfterItIsHandledWhileTheWorkerGoesOn) {
     m_queue.add(operation([&](TestOperation& self) {
         m_center.post(self.event(Kind::otherCount));
         waitForLeave();
@@ -110,7 +110,7 @@ TEST_F(CountsTest, aCountWithoutAnEventAfterItIsHandledWhileTheWorkerGoesOn) {
     EXPECT_FALSE(m_mayGoOn);
 }
 
-TEST_F(CountsTest, aCountIsHandledWithinFiftyMillisecondsOfAnIdleLoop) {
+TEST_F(NotificationCenterCountsTest, ACountIsHandledWithinFiftyMillisecondsOfAnIdleLoop) {
     using Clock = std::chrono::steady_clock;
     // The best of several tries: a busy machine may delay any of them, a wrong delay delays all.
     auto best = Clock::duration::max();
@@ -130,7 +130,7 @@ TEST_F(CountsTest, aCountIsHandledWithinFiftyMillisecondsOfAnIdleLoop) {
     EXPECT_LE(best, std::chrono::milliseconds(50));
 }
 
-TEST_F(CountsTest, countsOfAnOperationAreHandledBeforeTheNextBegins) {
+TEST_F(NotificationCenterCountsTest, CountsOfAnOperationAreHandledBeforeTheNextBegins) {
     std::size_t handledBefore = 0;
     m_queue.add(operation([&](TestOperation& self) {
         for (int count = 0; count < 10; ++count)
@@ -141,7 +141,7 @@ TEST_F(CountsTest, countsOfAnOperationAreHandledBeforeTheNextBegins) {
     EXPECT_EQ(handledBefore, 10U);
 }
 
-TEST_F(CountsTest, aMillionCountsWithoutAnyEventNeedBoundedRoomAndAllArrive) {
+TEST_F(NotificationCenterCountsTest, AMillionCountsWithoutAnyEventNeedBoundedRoomAndAllArrive) {
     constexpr std::size_t many = 1000000;
     std::size_t mostBehind = 0;
     m_queue.add(operation([&](TestOperation& self) {
@@ -155,7 +155,7 @@ TEST_F(CountsTest, aMillionCountsWithoutAnyEventNeedBoundedRoomAndAllArrive) {
     EXPECT_LE(mostBehind, 10000U);
 }
 
-TEST_F(CountsTest, closeInTheMiddleOfABatchDropsTheRest) {
+TEST_F(NotificationCenterCountsTest, CloseInTheMiddleOfABatchDropsTheRest) {
     m_center.setObserver([this](const TestEvent& event) {
         m_handled.push_back(event.kind);
         if (m_handled.size() == 2) m_center.close();
