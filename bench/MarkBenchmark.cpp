@@ -68,8 +68,8 @@ BENCHMARK(lookAtEachRow)->Unit(benchmark::kMillisecond);
 
 void mark(benchmark::State& state) {
     const TrackRows& rows = millionRows();
-    const MarkChoice choice = {static_cast<std::int32_t>(state.range(0)), state.range(1) == 1,
-                               state.range(0) == markType::kind ? "MP3" : "/Users/ann/Music/iTunes"};
+    const MarkChoice choice = {static_cast<MarkType>(state.range(0)), state.range(1) == 1,
+                               state.range(0) == 100 ? "MP3" : "/Users/ann/Music/iTunes"};
     for (auto _ : state)
         applyMarkChoice(rows, choice);
 }

@@ -77,7 +77,7 @@ int measure(const std::string& folder) {
     controller.awakeFromNib();
     controller.paramOkButtonClick({.issamename = true, .issameartist = true, .playlist = "Library"});
     waitUntilIdle(controller);
-    controller.markOkButtonClick({.markType = markType::highestBitrate, .text = {}});
+    controller.markOkButtonClick({.markType = MarkType::highestBitrate, .text = {}});
 
     const double floor = passOverRows(controller);
     QElapsedTimer timer;

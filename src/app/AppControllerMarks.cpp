@@ -23,7 +23,7 @@ void AppController::markFolderButtonClick() {
 
 void AppController::markOkButtonClick(const MarkChoice& choice) {
     if (m_tableDataSource.rows.empty() || !mayChangeMarks()) return;
-    m_services.log.line("markTyp = " + std::to_string(choice.markType));
+    m_services.log.line("markTyp = " + std::to_string(static_cast<std::int32_t>(choice.markType)));
     applyMarkChoice(m_tableDataSource.rows, choice);
     m_lastMark = choice;
     m_view.reloadTable();

@@ -3,7 +3,7 @@
 
 #include "app/AppController.h"
 #include "app/WindowedView.h"
-#include "dupes/MarkReasons.h"
+#include "dupes/MarkVerdicts.h"
 #include "ui/TrackTableModel.h"
 
 #include <QApplication>
@@ -75,7 +75,7 @@ QString WindowActions::markReason(int row) const {
     const std::vector<TrackRecord*>& rows = m_view.mainWindow().tableModel().rows();
     const auto index = static_cast<std::size_t>(row);
     if (!choice || !rows.at(index)->checkbox) return {};
-    return QString::fromStdString(MarkReasons(rows, *choice).of(index));
+    return QString::fromStdString(MarkVerdicts(rows, *choice).of(index).reason);
 }
 
 void WindowActions::connectParametersDialog() {

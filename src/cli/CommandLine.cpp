@@ -2,7 +2,7 @@
 #include "cli/CommandLine.h"
 
 #include "app/Program.h"
-#include "dupes/MarkingRules.h"
+#include "dupes/MarkRule.h"
 #include "library/RecentLibrary.h"
 #include "platform/Native.h"
 
@@ -79,11 +79,18 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
     command.add_option("--output", options.output, "Write the result to a file")->type_name("FILE");
 }
 
+std::vector<std::string> ruleNames() {
+    std::vector<std::string> names;
+    for (const MarkRule& rule : markRules())
+        names.emplace_back(rule.name);
+    return names;
+}
+
 void addMarkOptions(CLI::App& command, MarkOptions& options, Raw& raw) {
     addFindOptions(command, options, raw);
     command.add_option("--rule", options.rule, "The copy that is kept in each group, or kind, or folder")
         ->required()
-        ->check(CLI::IsMember(markRuleNames()))
+        ->check(CLI::IsMember(ruleNames()))
         ->type_name("RULE");
     command.add_flag("--except-one", options.exceptOne, "Mark every copy but one");
     command.add_option("--kind", options.kind, "The kind that the rule 'kind' marks, as in MP3")

@@ -2,8 +2,7 @@
 #include "cli/Commands.h"
 
 #include "cli/LibrarySearch.h"
-#include "dupes/MarkReasons.h"
-#include "dupes/MarkingRules.h"
+#include "dupes/MarkVerdicts.h"
 
 #include <cstdio>
 
@@ -16,10 +15,10 @@ ExitCode fail(const std::string& message) {
 
 MarkChoice choiceOf(const MarkOptions& options) {
     MarkChoice choice;
-    choice.markType = markTypeOfRule(options.rule).value_or(markType::none);
+    if (const MarkRule* const rule = markRuleNamed(options.rule)) choice.markType = rule->type;
     choice.exceptOne = options.exceptOne;
-    if (choice.markType == markType::kind) choice.text = options.kind;
-    if (choice.markType == markType::folder) choice.text = options.folder;
+    if (choice.markType == MarkType::kind) choice.text = options.kind;
+    if (choice.markType == MarkType::folder) choice.text = options.folder;
     return choice;
 }
 
@@ -35,8 +34,8 @@ ExitCode runMark(const MarkOptions& options, const std::string& version) {
     const MarkChoice choice = choiceOf(options);
     search.controller().markOkButtonClick(choice);
     SearchReport report = search.report();
-    MarkReasons reasons(report.rows, choice);
-    report.reason = [&](int row) { return reasons.of(static_cast<std::size_t>(row)); };
+    MarkVerdicts verdicts(report.rows, choice);
+    report.reason = [&](int row) { return verdicts.of(static_cast<std::size_t>(row)).reason; };
     return writeResult(options, report).value_or(ExitCode::done);
 }
 

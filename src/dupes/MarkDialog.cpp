@@ -16,37 +16,42 @@ namespace songsweep {
 
 namespace {
 
-/// The values of the radio buttons, in their order from the top.
-enum class RadioTag { bitrate, time, size, rating, playCount, dateAdded, artwork, kind, folder };
-
-/// The mark types of a value rule: for the first item of its combo box and for any other.
-struct ValueRule {
-    RadioTag tag;
+/// The controls of a field that has one rule for the first item of its list and one for any other.
+struct FieldControls {
+    MarkField field;
     QRadioButton* Ui::MarkDialog::*radio;
     QComboBox* Ui::MarkDialog::*combo;
-    std::int32_t ofFirstItem;
-    std::int32_t ofOtherItem;
 };
 
-constexpr std::array valueRules = {
-    ValueRule{RadioTag::bitrate, &Ui::MarkDialog::markBitrateRB, &Ui::MarkDialog::markBitrateCMB,
-              markType::highestBitrate, markType::lowestBitrate},
-    ValueRule{RadioTag::time, &Ui::MarkDialog::markTimeRB, &Ui::MarkDialog::markTimeCMB, markType::longest,
-              markType::shortest},
-    ValueRule{RadioTag::size, &Ui::MarkDialog::markSizeRB, &Ui::MarkDialog::markSizeCMB, markType::largest,
-              markType::smallest},
-    ValueRule{RadioTag::rating, &Ui::MarkDialog::markRatingRB, &Ui::MarkDialog::markRatingCMB,
-              markType::highestRating, markType::lowestRating},
-    ValueRule{RadioTag::playCount, &Ui::MarkDialog::markPlayCountRB, &Ui::MarkDialog::markPlayCountCMB,
-              markType::mostPlayed, markType::leastPlayed},
-    ValueRule{RadioTag::dateAdded, &Ui::MarkDialog::markDateAddedRB, &Ui::MarkDialog::markDateAddedCMB,
-              markType::earliestAdded, markType::latestAdded},
-    ValueRule{RadioTag::artwork, &Ui::MarkDialog::markArtworkRB, &Ui::MarkDialog::markArtworkCMB,
-              markType::withArtwork, markType::withoutArtwork},
+constexpr std::array fieldControls = {
+    FieldControls{MarkField::bitrate, &Ui::MarkDialog::markBitrateRB, &Ui::MarkDialog::markBitrateCMB},
+    FieldControls{MarkField::time, &Ui::MarkDialog::markTimeRB, &Ui::MarkDialog::markTimeCMB},
+    FieldControls{MarkField::size, &Ui::MarkDialog::markSizeRB, &Ui::MarkDialog::markSizeCMB},
+    FieldControls{MarkField::rating, &Ui::MarkDialog::markRatingRB, &Ui::MarkDialog::markRatingCMB},
+    FieldControls{MarkField::playCount, &Ui::MarkDialog::markPlayCountRB, &Ui::MarkDialog::markPlayCountCMB},
+    FieldControls{MarkField::dateAdded, &Ui::MarkDialog::markDateAddedRB, &Ui::MarkDialog::markDateAddedCMB},
+    FieldControls{MarkField::artwork, &Ui::MarkDialog::markArtworkRB, &Ui::MarkDialog::markArtworkCMB},
 };
 
-void setTag(const Ui::MarkDialog& ui, QRadioButton* radio, RadioTag tag) {
-    ui.markRadioGroup->setId(radio, static_cast<int>(tag));
+void addItems(QComboBox* combo, MarkField field) {
+    for (const MarkRule& rule : markRules())
+        if (rule.field == field) combo->addItem(QString::fromUtf8(rule.item));
+}
+
+/// The rule of a field that the item of its list stands for: the first for the first item, the last for any
+/// other and for none.
+MarkType ruleOfItem(MarkField field, int item) {
+    MarkType type = MarkType::none;
+    for (const MarkRule& rule : markRules()) {
+        if (rule.field != field) continue;
+        type = rule.type;
+        if (item == 0) break;
+    }
+    return type;
+}
+
+void setTag(const Ui::MarkDialog& ui, QRadioButton* radio, MarkField field) {
+    ui.markRadioGroup->setId(radio, static_cast<int>(field));
 }
 
 QString previewText(const MarkPreview& preview) {
@@ -55,9 +60,9 @@ QString previewText(const MarkPreview& preview) {
     return (preview.inForce ? QStringLiteral("Marked") : QStringLiteral("Would mark")) + counts;
 }
 
-QString helperText(int markType, bool exceptOne) {
+QString helperText(MarkType markType, bool exceptOne) {
     if (exceptOne) return QStringLiteral("One copy of each song stays, a working one if there is one.");
-    if (markType >= markType::kind)
+    if (markType >= MarkType::kind)
         return QStringLiteral("A song can lose every copy. Missing files are marked too.");
     return QStringLiteral("Copies that tie all stay. Missing files are marked too.");
 }
@@ -68,9 +73,10 @@ MarkDialog::MarkDialog(QWidget* parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::MarkDialog>()) {
     m_ui->setupUi(this);
-    for (const ValueRule& rule : valueRules) {
-        setTag(*m_ui, (*m_ui).*rule.radio, rule.tag);
-        connectRule((*m_ui).*rule.radio, (*m_ui).*rule.combo);
+    for (const auto& [field, radio, combo] : fieldControls) {
+        addItems((*m_ui).*combo, field);
+        setTag(*m_ui, (*m_ui).*radio, field);
+        connectRule((*m_ui).*radio, (*m_ui).*combo);
     }
     connectKind();
     connectFolder();
@@ -87,25 +93,19 @@ MarkDialog::~MarkDialog() = default;
 MarkChoice MarkDialog::choice() const {
     MarkChoice choice;
     choice.exceptOne = m_ui->markExceptOneCK->checkState() != Qt::Unchecked;
-    const int checked = m_ui->markRadioGroup->checkedId();
-    for (const ValueRule& rule : valueRules) {
-        if (checked != static_cast<int>(rule.tag)) continue;
-        const bool first = ((*m_ui).*rule.combo)->currentIndex() == 0;
-        choice.markType = first ? rule.ofFirstItem : rule.ofOtherItem;
-    }
-    if (checked == static_cast<int>(RadioTag::kind)) {
-        choice.markType = markType::kind;
-        choice.text = m_ui->markKindCMB->currentText().toStdString();
-    } else if (checked == static_cast<int>(RadioTag::folder)) {
-        choice.markType = markType::folder;
-        choice.text = m_ui->markFolderTF->text().toStdString();
-    }
+    const auto checked = static_cast<MarkField>(m_ui->markRadioGroup->checkedId());
+    int item = 0;
+    for (const FieldControls& controls : fieldControls)
+        if (controls.field == checked) item = ((*m_ui).*controls.combo)->currentIndex();
+    choice.markType = ruleOfItem(checked, item);
+    if (choice.markType == MarkType::kind) choice.text = m_ui->markKindCMB->currentText().toStdString();
+    if (choice.markType == MarkType::folder) choice.text = m_ui->markFolderTF->text().toStdString();
     return choice;
 }
 
 void MarkDialog::selectMissingItems() {
-    for (const ValueRule& rule : valueRules) {
-        QComboBox* combo = (*m_ui).*rule.combo;
+    for (const FieldControls& controls : fieldControls) {
+        QComboBox* combo = (*m_ui).*controls.combo;
         if (combo->currentIndex() < 0) combo->setCurrentIndex(0);
     }
 }
@@ -146,7 +146,7 @@ void MarkDialog::connectRule(QRadioButton* radio, QComboBox* combo) {
 }
 
 void MarkDialog::connectKind() {
-    setTag(*m_ui, m_ui->markKindRB, RadioTag::kind);
+    setTag(*m_ui, m_ui->markKindRB, MarkField::kind);
     connectRule(m_ui->markKindRB, m_ui->markKindCMB);
     m_ui->markKindCMB->setCompleter(nullptr); // it would finish kinds that nobody typed
     m_ui->markKindCMB->setValidator(new UpperCaseValidator(this));
@@ -157,7 +157,7 @@ void MarkDialog::connectKind() {
 }
 
 void MarkDialog::connectFolder() {
-    setTag(*m_ui, m_ui->markFolderRB, RadioTag::folder);
+    setTag(*m_ui, m_ui->markFolderRB, MarkField::folder);
     connect(m_ui->markFolderTF, &QLineEdit::textEdited, this, [this](const QString& folder) {
         m_ui->markFolderTF->setToolTip(folder);
         m_ui->markFolderRB->setChecked(true);

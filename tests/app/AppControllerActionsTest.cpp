@@ -33,7 +33,7 @@ TEST_F(AppControllerActionsTest, TheMarkDialogListsTheKindsOfItsFirstOpeningAlon
 
 TEST_F(AppControllerActionsTest, MarkingWithoutResultsLogsAndChangesNothing) {
     const std::size_t lines = log.lines().size();
-    controller->markOkButtonClick({markType::latestAdded, true, ""});
+    controller->markOkButtonClick({MarkType::latestAdded, true, ""});
     EXPECT_THAT(view.calls, IsEmpty());
     EXPECT_EQ(log.lines().size(), lines);
 }
@@ -43,7 +43,7 @@ TEST_F(AppControllerActionsTest, ARuleIsLoggedByItsNumberAndItsDialogStaysOpen) 
     records[0]->dateaddedv = 100;
     records[1]->dateaddedv = 200;
     view.calls.clear();
-    controller->markOkButtonClick({markType::latestAdded, true, ""});
+    controller->markOkButtonClick({MarkType::latestAdded, true, ""});
     EXPECT_EQ(log.lines().back(), "markTyp = 7");
     EXPECT_TRUE(records[0]->checkbox);
     EXPECT_FALSE(records[1]->checkbox);

@@ -182,7 +182,7 @@ TEST_F(AppControllerSearchTest, MarksAndStatusStandStillUntilTheWorkersHaveRetur
         view.calls.clear();
         controller->markMenuClick(0);
         controller->markMenuClick(2);
-        controller->markOkButtonClick({.markType = 0, .exceptOne = true, .text = {}});
+        controller->markOkButtonClick({.markType = MarkType::highestBitrate, .exceptOne = true, .text = {}});
         controller->setObjectValue(true, Column::checkbox, 0);
         controller->tableviewSpacebar();
         controller->didClickTableColumn(Column::name);

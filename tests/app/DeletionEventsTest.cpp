@@ -65,7 +65,7 @@ class DeletionEventsTest : public ControllerFixture {
         view.selection = {0, 1};
         controller->startButtonClick();
         controller->paramOkButtonClick({});
-        controller->markOkButtonClick({.markType = 0, .exceptOne = true, .text = {}});
+        controller->markOkButtonClick({.markType = MarkType::highestBitrate, .exceptOne = true, .text = {}});
         controller->markNone();
         for (const int tag : {0, 1, 2, 3})
             controller->markMenuClick(tag);

@@ -174,7 +174,7 @@ TEST_F(WindowActionsTest, AFolderToMarkIsChosenInAChooser) {
     ASSERT_NE(chooser, nullptr);
     Q_EMIT chooser->fileSelected(QStringLiteral("/music/Old"));
     chooser->close();
-    EXPECT_EQ(view.markWindow().choice(), (MarkChoice{markType::folder, true, "/music/Old"}));
+    EXPECT_EQ(view.markWindow().choice(), (MarkChoice{MarkType::folder, true, "/music/Old"}));
 }
 
 TEST_F(WindowActionsTest, AMarkByARuleSaysWhy) {

@@ -161,7 +161,7 @@ TEST_F(EmbeddedDeletionTest, TheLosingCopiesLeaveTheLibraryAndAllElseStays) {
     writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
     DisplayedList list = search(4);
     ASSERT_THAT(list.rows, SizeIs(4));
-    markItems(list.rows, markType::highestBitrate, true);
+    markItems(list.rows, MarkType::highestBitrate, true);
     const DeleteReport report = deleteMarked(list);
 
     EXPECT_TRUE(report.allDealtWith());
@@ -179,7 +179,7 @@ TEST_F(EmbeddedDeletionTest, AnEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
     replaceAll("a2.mp3", "a.mp3");
     replaceAll(test::persistentIdOf(101), test::persistentIdOf(100));
     DisplayedList list = search(2);
-    markItems(list.rows, markType::highestBitrate, true);
+    markItems(list.rows, MarkType::highestBitrate, true);
     EXPECT_EQ(groupsLosingEveryCopy(list.rows), 1);
     const DeleteReport report = deleteMarked(list);
     ASSERT_THAT(report.outcomes, SizeIs(1));
@@ -191,7 +191,7 @@ TEST_F(EmbeddedDeletionTest, WhiteSpaceAroundALocationHidesNoSharedFile) {
     writeLibrary({"a.mp3", "a2.mp3", "a.mp3"});
     replaceLast("<string>file://", "<string>\n\tfile://");
     DisplayedList list = search(3);
-    markItems(list.rows, markType::highestBitrate, true);
+    markItems(list.rows, MarkType::highestBitrate, true);
     deleteMarked(list);
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
     EXPECT_EQ(m_desktop.trashed, 0);
@@ -203,7 +203,7 @@ TEST_F(EmbeddedDeletionTest, AwkwardNamesGoToTheTrashOrStay) {
                   "kept4", "say \"hi\".mp3", "kept5", "back\\nslash.mp3", "kept6"});
     DisplayedList list = search(12);
     ASSERT_THAT(list.rows, SizeIs(12));
-    markItems(list.rows, markType::highestBitrate, true);
+    markItems(list.rows, MarkType::highestBitrate, true);
     const DeleteReport report = deleteMarked(list);
 
     ASSERT_THAT(report.outcomes, SizeIs(6));
@@ -220,7 +220,7 @@ TEST_F(EmbeddedDeletionTest, ATrashThatRefusesLeavesTheFileAndSaysWhy) {
     writeLibrary({"a.mp3", "a2.mp3"});
     m_desktop.refuses = true;
     DisplayedList list = search(2);
-    markItems(list.rows, markType::highestBitrate, true);
+    markItems(list.rows, MarkType::highestBitrate, true);
     const DeleteReport report = deleteMarked(list);
     ASSERT_THAT(report.outcomes, SizeIs(1));
     EXPECT_THAT(outcomeText(report.outcomes[0]), testing::HasSubstr("deleted, file kept: "));

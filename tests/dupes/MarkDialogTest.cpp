@@ -38,12 +38,12 @@ TEST_P(MarkDialogRules, GiveOneTypeForTheFirstItemAndOneForAnyOther) {
     MarkDialog dialog;
     dialog.selectMissingItems();
     child<QRadioButton>(dialog, GetParam().radio).click();
-    EXPECT_EQ(dialog.choice().markType, GetParam().first);
+    EXPECT_EQ(static_cast<int>(dialog.choice().markType), GetParam().first);
     auto& combo = child<QComboBox>(dialog, GetParam().combo);
     combo.setCurrentIndex(1);
-    EXPECT_EQ(dialog.choice().markType, GetParam().other);
+    EXPECT_EQ(static_cast<int>(dialog.choice().markType), GetParam().other);
     combo.setCurrentIndex(-1);
-    EXPECT_EQ(dialog.choice().markType, GetParam().other);
+    EXPECT_EQ(static_cast<int>(dialog.choice().markType), GetParam().other);
     EXPECT_TRUE(dialog.choice().text.empty());
 }
 
@@ -59,7 +59,7 @@ INSTANTIATE_TEST_SUITE_P(, MarkDialogRules,
 TEST_F(MarkDialogTest, StartsWithTheHighestBitRateAndEveryCopyButOne) {
     MarkDialog dialog;
     dialog.selectMissingItems();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::highestBitrate, true, ""}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::highestBitrate, true, ""}));
 }
 
 TEST_F(MarkDialogTest, GivesTheTextsOfTheKindAndTheFolderRule) {
@@ -67,17 +67,17 @@ TEST_F(MarkDialogTest, GivesTheTextsOfTheKindAndTheFolderRule) {
     dialog.fillKinds({"MP3"});
     child<QLineEdit>(dialog, "markFolderTF").setText(QStringLiteral("/media/Old"));
     child<QRadioButton>(dialog, "markKindRB").click();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::kind, true, "MP3"}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::kind, true, "MP3"}));
     child<QRadioButton>(dialog, "markFolderRB").click();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::folder, true, "/media/Old"}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::folder, true, "/media/Old"}));
 }
 
 TEST_F(MarkDialogTest, PassesEmptyTextsOnAsTheyAre) {
     MarkDialog dialog;
     child<QRadioButton>(dialog, "markKindRB").click();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::kind, true, ""}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::kind, true, ""}));
     child<QRadioButton>(dialog, "markFolderRB").click();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::folder, true, ""}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::folder, true, ""}));
 }
 
 TEST_F(MarkDialogTest, GivesNoRuleWhereNoneIsChosen) {
@@ -85,7 +85,7 @@ TEST_F(MarkDialogTest, GivesNoRuleWhereNoneIsChosen) {
     auto& radio = child<QRadioButton>(dialog, "markBitrateRB");
     radio.group()->setExclusive(false);
     radio.setChecked(false);
-    EXPECT_EQ(dialog.choice().markType, markType::none);
+    EXPECT_EQ(dialog.choice().markType, MarkType::none);
 }
 
 TEST_F(MarkDialogTest, TakesAMixedExceptOneSwitchForOn) {
@@ -140,7 +140,7 @@ TEST_F(MarkDialogTest, TurnsATypedKindIntoUpperCaseAndChoosesItsRule) {
     kind.setFocus();
     QTest::keyClicks(&kind, QStringLiteral("m4a"));
     EXPECT_EQ(kind.currentText(), QStringLiteral("M4A"));
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::kind, true, "M4A"}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::kind, true, "M4A"}));
 }
 
 TEST_F(MarkDialogTest, ChoosesTheRuleOfAComboBoxThatIsUsed) {
@@ -149,7 +149,7 @@ TEST_F(MarkDialogTest, ChoosesTheRuleOfAComboBoxThatIsUsed) {
     auto& time = child<QComboBox>(dialog, "markTimeCMB");
     EXPECT_TRUE(time.isEnabled());
     QTest::keyClick(&time, Qt::Key_Down);
-    EXPECT_EQ(dialog.choice().markType, markType::shortest);
+    EXPECT_EQ(dialog.choice().markType, MarkType::shortest);
 }
 
 TEST_F(MarkDialogTest, ChoosesTheFolderRuleWhenAFolderIsTypedOrSet) {
@@ -157,7 +157,7 @@ TEST_F(MarkDialogTest, ChoosesTheFolderRuleWhenAFolderIsTypedOrSet) {
     test::open(dialog);
     auto& field = child<QLineEdit>(dialog, "markFolderTF");
     QTest::keyClicks(&field, QStringLiteral("/a"));
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::folder, true, "/a"}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::folder, true, "/a"}));
     dialog.setFolder(QStringLiteral("/music/Ölüm"));
     EXPECT_EQ(dialog.choice().text, "/music/Ölüm");
     EXPECT_EQ(field.toolTip(), QStringLiteral("/music/Ölüm"));
@@ -246,7 +246,7 @@ TEST_F(MarkDialogTest, HasTheRulesInOneTabStopBeforeTheirComboBox) {
     test::open(dialog);
     EXPECT_EQ(dialog.focusWidget(), &child<QRadioButton>(dialog, "markBitrateRB"));
     test::press(dialog, Qt::Key_Down);
-    EXPECT_EQ(dialog.choice().markType, markType::longest);
+    EXPECT_EQ(dialog.choice().markType, MarkType::longest);
     test::press(dialog, Qt::Key_Tab);
     EXPECT_EQ(dialog.focusWidget(), &child<QComboBox>(dialog, "markTimeCMB"));
     child<QRadioButton>(dialog, "markBitrateRB").click();
@@ -302,7 +302,7 @@ TEST_F(MarkDialogTest, OpensAChooserForOneFolderAndTakesItsAnswer) {
     EXPECT_EQ(chooser->fileMode(), QFileDialog::Directory);
     Q_EMIT chooser->fileSelected(QStringLiteral("/media/Old"));
     chooser->close();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{markType::folder, true, "/media/Old"}));
+    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::folder, true, "/media/Old"}));
 }
 
 TEST_F(MarkDialogTest, ChangesNothingWhenTheChooserIsCancelled) {
@@ -313,7 +313,7 @@ TEST_F(MarkDialogTest, ChangesNothingWhenTheChooserIsCancelled) {
     auto* chooser = dialog.findChild<QFileDialog*>();
     ASSERT_NE(chooser, nullptr);
     chooser->reject();
-    EXPECT_EQ(dialog.choice().markType, markType::highestBitrate);
+    EXPECT_EQ(dialog.choice().markType, MarkType::highestBitrate);
     EXPECT_TRUE(child<QLineEdit>(dialog, "markFolderTF").text().isEmpty());
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "dupes/MarkReasons.h"
 #include "dupes/MarkRows.h"
+#include "dupes/MarkVerdicts.h"
 #include "dupes/MarkingRules.h"
 #include "dupes/NaiveMarking.h"
 
@@ -66,11 +66,11 @@ std::vector<MarkChoice> everyChoice() {
     std::vector<MarkChoice> choices;
     for (const bool exceptOne : {false, true}) {
         for (int type = -2; type <= 14; ++type)
-            choices.push_back({type, exceptOne, ""});
+            choices.push_back({static_cast<MarkType>(type), exceptOne, ""});
         for (const char* const kind : {"MP3", "mp3", "M4A", ""})
-            choices.push_back({markType::kind, exceptOne, kind});
+            choices.push_back({MarkType::kind, exceptOne, kind});
         for (const char* const folder : {"/Music/Old", "/Music/Old/", "/Music", "/", ""})
-            choices.push_back({markType::folder, exceptOne, folder});
+            choices.push_back({MarkType::folder, exceptOne, folder});
     }
     return choices;
 }
@@ -91,8 +91,8 @@ TEST_P(MarkingRulesPropertyTest, EveryRuleAgreesWithThePlainOne) {
         for (const MarkChoice& choice : everyChoice()) {
             const std::vector<bool> expected = test::naiveMarks(rows.rows(), choice);
             applyMarkChoice(rows.rows(), choice);
-            ASSERT_EQ(checks(rows), expected)
-                << "type " << choice.markType << ", except one " << choice.exceptOne << ", " << choice.text;
+            ASSERT_EQ(checks(rows), expected) << "type " << static_cast<int>(choice.markType)
+                                              << ", except one " << choice.exceptOne << ", " << choice.text;
         }
     }
 }
@@ -118,9 +118,10 @@ TEST_P(MarkingRulesPropertyTest, ExactlyTheCheckedRowsHaveAReason) {
         const MarkRows rows = random.rows();
         for (const MarkChoice& choice : everyChoice()) {
             const std::vector<bool> marks = test::naiveMarks(rows.rows(), choice);
-            MarkReasons reasons(rows.rows(), choice);
+            MarkVerdicts verdicts(rows.rows(), choice);
             for (std::size_t row = 0; row < marks.size(); ++row)
-                ASSERT_EQ(!reasons.of(row).empty(), marks[row]) << "type " << choice.markType;
+                ASSERT_EQ(!verdicts.of(row).reason.empty(), marks[row])
+                    << "type " << static_cast<int>(choice.markType);
         }
     }
 }

@@ -39,6 +39,7 @@ class Machine {
     Machine(const std::vector<TrackRecord*>& rows, const MarkChoice& choice)
         : m_rows(rows)
         , m_choice(choice)
+        , m_type(static_cast<int>(choice.markType))
         , m_marks(rows.size()) {}
 
     std::vector<bool> run() {
@@ -59,10 +60,10 @@ class Machine {
     }
 
   private:
-    bool isDate() const { return m_choice.markType == 6 || m_choice.markType == 7; }
+    bool isDate() const { return m_type == 6 || m_type == 7; }
 
     std::int64_t value(const TrackRecord& record) const {
-        const int type = m_choice.markType;
+        const int type = m_type;
         if (type == 0 || type == 1) return number(record.bitrate);
         if (type == 2 || type == 3) return record.timev;
         if (type == 4 || type == 5) return number(record.size);
@@ -72,19 +73,19 @@ class Machine {
     }
 
     bool keepsHighest() const {
-        const int type = m_choice.markType;
+        const int type = m_type;
         return type == 0 || type == 2 || type == 4 || type == 7 || type == 10 || type == 12;
     }
     bool keepsLowest() const {
-        const int type = m_choice.markType;
+        const int type = m_type;
         return type == 1 || type == 3 || type == 5 || type == 6 || type == 11 || type == 13;
     }
 
     bool becomesKept(const TrackRecord& record) {
-        if (m_choice.markType == 8) return record.hasartwork;
-        if (m_choice.markType == 9) return !record.hasartwork;
-        if (m_choice.markType == 100) return upperExtension(record.location.string()) != m_choice.text;
-        if (m_choice.markType == 200) return !lies(m_choice.text, record.location.string());
+        if (m_type == 8) return record.hasartwork;
+        if (m_type == 9) return !record.hasartwork;
+        if (m_type == 100) return upperExtension(record.location.string()) != m_choice.text;
+        if (m_type == 200) return !lies(m_choice.text, record.location.string());
         bool better = false;
         if (keepsHighest()) better = value(record) > m_best;
         if (keepsLowest()) {
@@ -108,10 +109,10 @@ class Machine {
 
     bool test(const TrackRecord& record) const {
         const bool all = m_choice.exceptOne;
-        if (m_choice.markType == 8) return all || !record.hasartwork;
-        if (m_choice.markType == 9) return all || record.hasartwork;
-        if (m_choice.markType == 100) return all || upperExtension(record.location.string()) == m_choice.text;
-        if (m_choice.markType == 200) return all || lies(m_choice.text, record.location.string());
+        if (m_type == 8) return all || !record.hasartwork;
+        if (m_type == 9) return all || record.hasartwork;
+        if (m_type == 100) return all || upperExtension(record.location.string()) == m_choice.text;
+        if (m_type == 200) return all || lies(m_choice.text, record.location.string());
         if (keepsHighest()) return all ? !(value(record) > m_best) : value(record) < m_best;
         if (keepsLowest()) return all ? !(value(record) < m_best) : value(record) > m_best;
         return false;
@@ -125,6 +126,7 @@ class Machine {
 
     const std::vector<TrackRecord*>& m_rows;
     MarkChoice m_choice;
+    int m_type;
     std::vector<bool> m_marks;
     int m_group = -1;
     int m_start = 0;

@@ -2,31 +2,33 @@
 #pragma once
 
 #include "dupes/FileKind.h"
+#include "dupes/MarkChoice.h"
 #include "dupes/MarkingRules.h"
 #include "library/ValueFormats.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace songsweep {
 
-/// The rules as small types, of which the walk over the groups is made (MarkRuleWalk.h).
+/// How the rules compare, as small types, of which the walk over the groups is made (MarkWalk.h).
 ///
-/// A rule reads one value off each live record, once: `valueOf`. begin() forgets the group before,
+/// A comparison reads one value off each live record, once: `valueOf`. begin() forgets the group before,
 /// chooses(value) says whether the record becomes the kept copy, and checks(value) says, when the group is
 /// complete, whether the record loses. `textOf` is the text behind the value, or null, so that the walk can
-/// ask for its memory ahead.
+/// ask for its memory ahead. One that is made lives no longer than the choice it was made for.
 
 /// What a rule prefers.
 enum class Preference { highest, lowest };
 
 /// Keeps the highest or lowest of a number. `Field` reads it off a record.
 template <class Field, Preference preference>
-class NumberRule {
+class NumberComparison {
   public:
     using Value = std::int32_t;
 
-    explicit NumberRule(bool exceptOne)
-        : m_exceptOne(exceptOne) {}
+    explicit NumberComparison(const MarkChoice& choice)
+        : m_exceptOne(choice.exceptOne) {}
 
     static Value valueOf(const TrackRecord& record) { return Field::of(record); }
     static const char* textOf(const TrackRecord& record) { return Field::textOf(record); }
@@ -53,12 +55,12 @@ class NumberRule {
 /// Keeps the earliest or latest date. A track without a date stands at the unset moment, which the next date
 /// replaces whatever it is; so with the earliest such a track may stay unchecked.
 template <Preference preference>
-class DateRule {
+class DateComparison {
   public:
     using Value = std::int64_t;
 
-    explicit DateRule(bool exceptOne)
-        : m_exceptOne(exceptOne) {}
+    explicit DateComparison(const MarkChoice& choice)
+        : m_exceptOne(choice.exceptOne) {}
 
     static Value valueOf(const TrackRecord& record) { return record.dateaddedv; }
     static const char* textOf(const TrackRecord&) { return nullptr; }
@@ -83,20 +85,20 @@ class DateRule {
     bool m_exceptOne;
 };
 
-/// What a copy of which something is true loses by; keeps the last of which it is not.
+/// Whether a copy loses, where no values are compared.
 enum class Loss : std::uint8_t { no, yes };
 
-/// Checks the tracks of which something is true.
-template <class Loses>
-class TruthRule {
+/// Checks the copies that have a property; keeps the last that has it not.
+template <class Property>
+class PropertyComparison {
   public:
     using Value = Loss;
 
-    TruthRule(Loses loses, bool exceptOne)
-        : m_loses(loses)
-        , m_exceptOne(exceptOne) {}
+    explicit PropertyComparison(const MarkChoice& choice)
+        : m_property{choice.text}
+        , m_exceptOne(choice.exceptOne) {}
 
-    Value valueOf(const TrackRecord& record) const { return m_loses(record) ? Loss::yes : Loss::no; }
+    Value valueOf(const TrackRecord& record) const { return m_property.isOf(record) ? Loss::yes : Loss::no; }
     static const char* textOf(const TrackRecord& record) { return record.location.c_str(); }
 
     void begin() {}
@@ -104,14 +106,16 @@ class TruthRule {
     bool checks(Value loss) const { return m_exceptOne || loss == Loss::yes; }
 
   private:
-    Loses m_loses;
+    Property m_property;
     bool m_exceptOne;
 };
 
 /// No rule: only tracks whose files are missing are checked.
-class NoRule {
+class NoComparison {
   public:
     using Value = Loss;
+
+    explicit NoComparison(const MarkChoice& /*choice*/) {}
 
     static Value valueOf(const TrackRecord&) { return Loss::no; }
     static const char* textOf(const TrackRecord&) { return nullptr; }
@@ -140,48 +144,21 @@ using SizeField = TextField<&TrackRecord::size>;
 using RatingField = NumberField<&TrackRecord::rating>;
 using PlayCountField = TextField<&TrackRecord::playcount>;
 
-/// Calls `use` with the rule that belongs to a choice.
-template <class Use>
-auto withRule(const MarkChoice& choice, Use use) {
-    const bool exceptOne = choice.exceptOne;
-    switch (choice.markType) {
-    case markType::highestBitrate:
-        return use(NumberRule<BitrateField, Preference::highest>(exceptOne));
-    case markType::lowestBitrate:
-        return use(NumberRule<BitrateField, Preference::lowest>(exceptOne));
-    case markType::longest:
-        return use(NumberRule<TimeField, Preference::highest>(exceptOne));
-    case markType::shortest:
-        return use(NumberRule<TimeField, Preference::lowest>(exceptOne));
-    case markType::largest:
-        return use(NumberRule<SizeField, Preference::highest>(exceptOne));
-    case markType::smallest:
-        return use(NumberRule<SizeField, Preference::lowest>(exceptOne));
-    case markType::earliestAdded:
-        return use(DateRule<Preference::lowest>(exceptOne));
-    case markType::latestAdded:
-        return use(DateRule<Preference::highest>(exceptOne));
-    case markType::withArtwork:
-        return use(TruthRule([](const TrackRecord& record) { return !record.hasartwork; }, exceptOne));
-    case markType::withoutArtwork:
-        return use(TruthRule([](const TrackRecord& record) { return record.hasartwork; }, exceptOne));
-    case markType::highestRating:
-        return use(NumberRule<RatingField, Preference::highest>(exceptOne));
-    case markType::lowestRating:
-        return use(NumberRule<RatingField, Preference::lowest>(exceptOne));
-    case markType::mostPlayed:
-        return use(NumberRule<PlayCountField, Preference::highest>(exceptOne));
-    case markType::leastPlayed:
-        return use(NumberRule<PlayCountField, Preference::lowest>(exceptOne));
-    case markType::kind:
-        return use(TruthRule(
-            [&](const TrackRecord& record) { return isOfKind(record.location, choice.text); }, exceptOne));
-    case markType::folder:
-        return use(TruthRule(
-            [&](const TrackRecord& record) { return isSubfolder(choice.text, record.location); }, exceptOne));
-    default:
-        return use(NoRule());
-    }
-}
+/// Whether a track has artwork, or has none.
+template <bool artwork>
+struct ArtworkProperty {
+    std::string_view text;
+    static bool isOf(const TrackRecord& record) { return record.hasartwork == artwork; }
+};
+
+struct KindProperty {
+    std::string_view kind;
+    bool isOf(const TrackRecord& record) const { return isOfKind(record.location, kind); }
+};
+
+struct FolderProperty {
+    std::string_view folder;
+    bool isOf(const TrackRecord& record) const { return isSubfolder(folder, record.location); }
+};
 
 } // namespace songsweep

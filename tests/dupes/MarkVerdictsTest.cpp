@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "dupes/MarkReasons.h"
+#include "dupes/MarkVerdicts.h"
 
 #include "dupes/MarkRows.h"
 
@@ -18,67 +18,67 @@ std::vector<std::string> reasons(std::initializer_list<TrackRecord> records, con
     MarkRows rows;
     for (const TrackRecord& record : records)
         rows.add(1, record);
-    MarkReasons reasons(rows.rows(), choice);
+    MarkVerdicts verdicts(rows.rows(), choice);
     std::vector<std::string> texts;
     for (std::size_t row = 0; row < rows.rows().size(); ++row)
-        texts.push_back(reasons.of(row));
+        texts.push_back(verdicts.of(row).reason);
     return texts;
 }
 
-TEST(MarkReasonsTest, ALosingValueIsHeldAgainstTheKeptOne) {
-    EXPECT_THAT(reasons({{.bitrate = "128"}, {.bitrate = "320"}}, {markType::highestBitrate, false, ""}),
+TEST(MarkVerdictsTest, ALosingValueIsHeldAgainstTheKeptOne) {
+    EXPECT_THAT(reasons({{.bitrate = "128"}, {.bitrate = "320"}}, {MarkType::highestBitrate, false, ""}),
                 ElementsAre("lower bit rate than the kept copy: 128 against 320", ""));
     EXPECT_THAT(reasons({{.time = "3:07", .timev = 187}, {.time = "3:45", .timev = 225}},
-                        {markType::shortest, false, ""}),
+                        {MarkType::shortest, false, ""}),
                 ElementsAre("", "longer than the kept copy: 3:45 against 3:07"));
-    EXPECT_THAT(reasons({{.playcount = "2"}, {.playcount = "11"}}, {markType::mostPlayed, false, ""}),
+    EXPECT_THAT(reasons({{.playcount = "2"}, {.playcount = "11"}}, {MarkType::mostPlayed, false, ""}),
                 ElementsAre("played less than the kept copy: 2 against 11", ""));
 }
 
-TEST(MarkReasonsTest, ACopyWithAnEqualValueGoesBecauseAnotherStays) {
-    EXPECT_THAT(reasons({{.bitrate = "320"}, {.bitrate = "320"}}, {markType::highestBitrate, true, ""}),
+TEST(MarkVerdictsTest, ACopyWithAnEqualValueGoesBecauseAnotherStays) {
+    EXPECT_THAT(reasons({{.bitrate = "320"}, {.bitrate = "320"}}, {MarkType::highestBitrate, true, ""}),
                 ElementsAre("", "same bit rate as the kept copy: 320"));
 }
 
-TEST(MarkReasonsTest, AMissingFileIsReasonEnough) {
-    EXPECT_THAT(reasons({{.isdead = true}, {}}, {markType::longest, false, ""}),
+TEST(MarkVerdictsTest, AMissingFileIsReasonEnough) {
+    EXPECT_THAT(reasons({{.isdead = true}, {}}, {MarkType::longest, false, ""}),
                 ElementsAre("file missing", ""));
 }
 
-TEST(MarkReasonsTest, KindFolderAndArtworkSpeakForThemselves) {
+TEST(MarkVerdictsTest, KindFolderAndArtworkSpeakForThemselves) {
     EXPECT_THAT(
-        reasons({{.location = "/Music/Old/a.mp3"}, {.location = "/b.m4a"}}, {markType::kind, false, "MP3"}),
+        reasons({{.location = "/Music/Old/a.mp3"}, {.location = "/b.m4a"}}, {MarkType::kind, false, "MP3"}),
         ElementsAre("of the kind MP3", ""));
     EXPECT_THAT(reasons({{.location = "/Music/Old/a.mp3"}, {.location = "/b.m4a"}},
-                        {markType::folder, false, "/Music/Old"}),
+                        {MarkType::folder, false, "/Music/Old"}),
                 ElementsAre("in the folder /Music/Old", ""));
-    EXPECT_THAT(reasons({{}, {.hasartwork = true}, {.hasartwork = true}}, {markType::withArtwork, true, ""}),
+    EXPECT_THAT(reasons({{}, {.hasartwork = true}, {.hasartwork = true}}, {MarkType::withArtwork, true, ""}),
                 ElementsAre("no artwork", "another copy with artwork is kept", ""));
 }
 
-TEST(MarkReasonsTest, ACopyThatDoesNotLoseByKindGoesBecauseAnotherStays) {
-    EXPECT_THAT(reasons({{.location = "/a.m4a"}, {.location = "/b.m4a"}}, {markType::kind, true, "MP3"}),
+TEST(MarkVerdictsTest, ACopyThatDoesNotLoseByKindGoesBecauseAnotherStays) {
+    EXPECT_THAT(reasons({{.location = "/a.m4a"}, {.location = "/b.m4a"}}, {MarkType::kind, true, "MP3"}),
                 ElementsAre("another copy is kept", ""));
 }
 
-TEST(MarkReasonsTest, SizesThatReadAlikeAreToldInBytes) {
-    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "5242990"}}, {markType::largest, false, ""}),
+TEST(MarkVerdictsTest, SizesThatReadAlikeAreToldInBytes) {
+    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "5242990"}}, {MarkType::largest, false, ""}),
                 ElementsAre("smaller than the kept copy: 5242880 bytes against 5242990 bytes", ""));
-    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "10485760"}}, {markType::largest, false, ""}),
+    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "10485760"}}, {MarkType::largest, false, ""}),
                 ElementsAre("smaller than the kept copy: 5.1 MB against 10.1 MB", ""));
 }
 
-TEST(MarkReasonsTest, RowsMayBeAskedInAnyOrder) {
+TEST(MarkVerdictsTest, RowsMayBeAskedInAnyOrder) {
     MarkRows rows;
     for (int gid = 1; gid <= 3; ++gid) {
         rows.add(gid, {.timev = 1});
         rows.add(gid, {.timev = 2});
     }
-    MarkReasons reasons(rows.rows(), {markType::longest, false, ""});
+    MarkVerdicts verdicts(rows.rows(), {MarkType::longest, false, ""});
     for (const std::size_t row : {4U, 0U, 2U})
-        EXPECT_FALSE(reasons.of(row).empty()) << row;
+        EXPECT_FALSE(verdicts.of(row).reason.empty()) << row;
     for (const std::size_t row : {5U, 3U, 1U})
-        EXPECT_TRUE(reasons.of(row).empty()) << row;
+        EXPECT_TRUE(verdicts.of(row).reason.empty()) << row;
 }
 
 } // namespace

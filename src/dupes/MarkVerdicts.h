@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dupes/MarkingRules.h"
+
+#include <cstddef>
+#include <string>
+
+namespace songsweep {
+
+/// What a choice says of rows: the verdict, and its reason in words, "lower bit rate than the kept copy: 128
+/// against 320".
+///
+/// Evaluated when somebody looks, a group at a time; the group looked at last is remembered, so that asking
+/// for every row in turn is linear. The rows outlive it and do not change meanwhile.
+class MarkVerdicts {
+  public:
+    MarkVerdicts(const TrackRows& rows, MarkChoice choice);
+
+    MarkVerdict of(std::size_t row);
+
+  private:
+    void evaluateGroupOf(std::size_t row);
+    std::string reason(std::size_t row) const;
+
+    const TrackRows& m_rows;
+    MarkChoice m_choice;
+    const MarkRule& m_rule;
+    std::size_t m_first = 0;
+    std::size_t m_end = 0;
+    GroupMarks m_marks;  // of the rows from m_first to m_end
+    GroupMarks m_losers; // the same without except-one, which tells who loses from who makes way
+};
+
+} // namespace songsweep
