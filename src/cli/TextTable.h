@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/Columns.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace songsweep::cli {
-
-enum class Alignment { left, right };
 
 /// The places that a text takes in a terminal: two for East Asian wide characters, none for combining marks.
 int displayWidth(std::string_view text);

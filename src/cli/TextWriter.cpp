@@ -2,8 +2,8 @@
 #include "cli/Output.h"
 #include "cli/SearchReport.h"
 #include "cli/TextTable.h"
+#include "library/Columns.h"
 #include "library/Groups.h"
-#include "library/ValueFormats.h"
 
 #include <algorithm>
 #include <limits>
@@ -14,15 +14,38 @@ namespace {
 
 constexpr int anyWidth = std::numeric_limits<int>::max();
 
+/// The columns of the results table that people read in a terminal, and the places they may take.
+struct ShownColumn {
+    Column column;
+    int widest;
+};
+
+constexpr ShownColumn shownColumns[] = {
+    {Column::name, 40},         {Column::artist, 30},          {Column::album, 30},
+    {Column::time, anyWidth},   {Column::bitrate, anyWidth},   {Column::sizestring, anyWidth},
+    {Column::rating, anyWidth}, {Column::playcount, anyWidth}, {Column::dateadded, anyWidth},
+    {Column::dtrack, anyWidth}, {Column::location, anyWidth},
+};
+
+/// What the window draws is written out.
+std::string cell(const TrackRecord& record, Column column) {
+    if (column == Column::rating)
+        return std::string(static_cast<std::size_t>(std::clamp(record.rating, 0, 5)), '*');
+    if (column == Column::dtrack) return record.isdead ? "missing" : "";
+    std::string made;
+    return std::string(columnInfo(column).text(record, made));
+}
+
+TextTable::ColumnTitle titleOf(const ShownColumn& shown) {
+    if (shown.column == Column::dtrack) return {"File", Alignment::left, shown.widest};
+    const ColumnInfo& info = columnInfo(shown.column);
+    return {std::string(info.title), info.alignment, shown.widest};
+}
+
 TextTable makeTable(bool withReasons) {
-    std::vector<TextTable::ColumnTitle> columns = {
-        {"Group", Alignment::right, anyWidth}, {"Name", Alignment::left, 40},
-        {"Artist", Alignment::left, 30},       {"Album", Alignment::left, 30},
-        {"Time", Alignment::right, anyWidth},  {"Bit rate", Alignment::right, anyWidth},
-        {"Size", Alignment::right, anyWidth},  {"Rating", Alignment::left, anyWidth},
-        {"Plays", Alignment::right, anyWidth}, {"Date added", Alignment::left, anyWidth},
-        {"File", Alignment::left, anyWidth},   {"Location", Alignment::left, anyWidth},
-    };
+    std::vector<TextTable::ColumnTitle> columns = {{"Group", Alignment::right, anyWidth}};
+    for (const ShownColumn& shown : shownColumns)
+        columns.push_back(titleOf(shown));
     if (withReasons) {
         columns.insert(columns.begin(), {"Mark", Alignment::left, anyWidth});
         columns.push_back({"Reason", Alignment::left, anyWidth});
@@ -32,20 +55,9 @@ TextTable makeTable(bool withReasons) {
 
 std::vector<std::string> cells(const SearchReport& report, int row) {
     const TrackRecord& record = *report.rows.at(row);
-    std::vector<std::string> texts = {
-        std::to_string(record.gid),
-        record.name.string(),
-        record.artist.string(),
-        record.album.string(),
-        record.time.string(),
-        record.bitrate.string(),
-        sizestring(record),
-        std::string(static_cast<std::size_t>(std::clamp(record.rating, 0, 5)), '*'),
-        record.playcount.string(),
-        dateadded(record),
-        record.isdead ? "missing" : "",
-        record.location.string(),
-    };
+    std::vector<std::string> texts = {std::to_string(record.gid)};
+    for (const ShownColumn& shown : shownColumns)
+        texts.push_back(cell(record, shown.column));
     if (report.reason) {
         texts.insert(texts.begin(), record.checkbox ? "x" : "");
         texts.push_back(report.reason(row));

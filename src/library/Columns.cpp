@@ -1,14 +1,107 @@
 // SPDX-License-Identifier: MIT
 #include "library/Columns.h"
 
+#include "library/Groups.h"
+#include "library/KeySort.h"
+#include "library/ValueFormats.h"
+
 namespace songsweep {
 
-std::string_view identifier(Column column) {
-    static constexpr std::array<std::string_view, allColumns.size()> identifiers = {
-        "checkbox",   "dtrack", "name",      "artist",    "album",      "time",     "bitrate",
-        "sizestring", "rating", "playcount", "dateadded", "hasartwork", "location",
-    };
-    return identifiers.at(static_cast<std::size_t>(column));
+namespace {
+
+template <Text TrackRecord::*field>
+std::string_view textOf(const TrackRecord& record, std::string& /*made*/) {
+    return record.*field;
 }
+
+template <std::string (*format)(const TrackRecord& record)>
+std::string_view made(const TrackRecord& record, std::string& made) {
+    made = format(record);
+    return made;
+}
+
+std::string_view yesOrNo(const TrackRecord& record, std::string& /*made*/) {
+    return record.hasartwork ? "Yes" : "No";
+}
+
+/// What a column puts into a row's key, behind the group's place.
+using AddValue = void(SortKey& key, const TrackRecord& record);
+
+template <Text TrackRecord::*field>
+void addText(SortKey& key, const TrackRecord& record) {
+    key.text(record.*field);
+}
+
+template <auto field>
+void addNumber(SortKey& key, const TrackRecord& record) {
+    key.number(record.*field);
+}
+
+template <Text TrackRecord::*field>
+void addInteger(SortKey& key, const TrackRecord& record) {
+    key.number(integerValue(record.*field));
+}
+
+void addNothing(SortKey& /*key*/, const TrackRecord& /*record*/) {}
+
+template <AddValue addValue>
+void addKeys(KeySort& sort, const std::vector<TrackRecord*>& rows, bool ascending) {
+    SortKey key;
+    for (const RowGroup group : groupsOf(rows)) {
+        for (std::size_t row = group.first; row < group.end; ++row) {
+            key.clear().number(static_cast<std::int64_t>(group.first));
+            const std::size_t start = key.size();
+            addValue(key, *rows[row]);
+            if (!ascending) key.reverse(start);
+            sort.add(key.bytes());
+        }
+    }
+}
+
+using enum CellKind;
+using enum Alignment;
+using enum Elision;
+
+// The size is a text and is compared as one: "9" stands behind "10". The missing files' pictures have no
+// order.
+constexpr std::array<ColumnInfo, allColumns.size()> columns = {{
+    {Column::checkbox, "checkbox", "", "Marked for deletion", "Marked for deletion", checkBox, 32, centre,
+     end, nullptr, addKeys<addNumber<&TrackRecord::checkbox>>},
+    {Column::dtrack, "dtrack", "", "File missing", "", image, 28, centre, end, nullptr, addKeys<addNothing>},
+    {Column::name, "name", "Name", "Name", "", text, 184, left, end, textOf<&TrackRecord::name>,
+     addKeys<addText<&TrackRecord::name>>},
+    {Column::artist, "artist", "Artist", "Artist", "", text, 144, left, end, textOf<&TrackRecord::artist>,
+     addKeys<addText<&TrackRecord::artist>>},
+    {Column::album, "album", "Album", "Album", "", text, 148, left, end, textOf<&TrackRecord::album>,
+     addKeys<addText<&TrackRecord::album>>},
+    {Column::time, "time", "Time", "Time", "", text, 64, right, end, textOf<&TrackRecord::time>,
+     addKeys<addNumber<&TrackRecord::timev>>},
+    {Column::bitrate, "bitrate", "Bit rate", "Bit rate", "kbit/s", text, 76, right, end,
+     textOf<&TrackRecord::bitrate>, addKeys<addInteger<&TrackRecord::bitrate>>},
+    {Column::sizestring, "sizestring", "Size", "Size", "", text, 76, right, end, made<sizestring>,
+     addKeys<addText<&TrackRecord::size>>},
+    {Column::rating, "rating", "Rating", "Rating", "", stars, 88, left, end, nullptr,
+     addKeys<addNumber<&TrackRecord::rating>>},
+    {Column::playcount, "playcount", "Plays", "Plays", "", text, 56, right, end,
+     textOf<&TrackRecord::playcount>, addKeys<addInteger<&TrackRecord::playcount>>},
+    {Column::dateadded, "dateadded", "Date added", "Date added", "", text, 128, left, end, made<dateadded>,
+     addKeys<addNumber<&TrackRecord::dateaddedv>>},
+    {Column::hasartwork, "hasartwork", "Artwork", "Artwork", "", text, 64, centre, end, yesOrNo,
+     addKeys<addNumber<&TrackRecord::hasartwork>>},
+    {Column::location, "location", "Location", "Location", "", text, 360, left, middle,
+     textOf<&TrackRecord::location>, addKeys<addText<&TrackRecord::location>>},
+}};
+
+constexpr bool rowsStandAtTheirColumns() {
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        if (columns[i].column != allColumns[i] || static_cast<std::size_t>(columns[i].column) != i)
+            return false;
+    return true;
+}
+static_assert(rowsStandAtTheirColumns());
+
+} // namespace
+
+const ColumnInfo& columnInfo(Column column) { return columns.at(static_cast<std::size_t>(column)); }
 
 } // namespace songsweep

@@ -3,60 +3,10 @@
 
 #include "library/Groups.h"
 #include "library/KeySort.h"
-#include "library/ValueFormats.h"
 
 #include <algorithm>
 
 namespace songsweep {
-
-namespace {
-
-/// Puts what the column's rows are ordered by into the key.
-void addColumnValue(SortKey& key, const TrackRecord& record, Column column) {
-    switch (column) {
-    case Column::name:
-        key.text(record.name);
-        return;
-    case Column::artist:
-        key.text(record.artist);
-        return;
-    case Column::album:
-        key.text(record.album);
-        return;
-    case Column::location:
-        key.text(record.location);
-        return;
-    // The size is a text and is compared as one: "9" stands behind "10".
-    case Column::sizestring:
-        key.text(record.size);
-        return;
-    case Column::bitrate:
-        key.number(integerValue(record.bitrate));
-        return;
-    case Column::playcount:
-        key.number(integerValue(record.playcount));
-        return;
-    case Column::rating:
-        key.number(record.rating);
-        return;
-    case Column::time:
-        key.number(record.timev);
-        return;
-    case Column::dateadded:
-        key.number(record.dateaddedv);
-        return;
-    case Column::checkbox:
-        key.number(record.checkbox ? 1 : 0);
-        return;
-    case Column::hasartwork:
-        key.number(record.hasartwork ? 1 : 0);
-        return;
-    case Column::dtrack:
-        return; // a picture, which has no order
-    }
-}
-
-} // namespace
 
 void realignShowID(std::vector<TrackRecord*>& rows) {
     bool band = false;
@@ -70,16 +20,7 @@ void realignShowID(std::vector<TrackRecord*>& rows) {
 void sortInsideGroups(std::vector<TrackRecord*>& rows, Column column, bool ascending) {
     // One sort for all groups: the group's place decides first.
     KeySort sort(rows.size());
-    SortKey key;
-    for (const RowGroup group : groupsOf(rows)) {
-        for (std::size_t row = group.first; row < group.end; ++row) {
-            key.clear().number(static_cast<std::int64_t>(group.first));
-            const std::size_t start = key.size();
-            addColumnValue(key, *rows[row], column);
-            if (!ascending) key.reverse(start);
-            sort.add(key.bytes());
-        }
-    }
+    columnInfo(column).addKeys(sort, rows, ascending);
 
     std::vector<TrackRecord*> sorted;
     sorted.reserve(rows.size());

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/CellTexts.h"
 
-#include "library/ValueFormats.h"
 #include "ui/ColumnLook.h"
 
 namespace songsweep {
@@ -20,33 +19,10 @@ QString spokenRating(int stars) {
 } // namespace
 
 QString displayText(const TrackRecord& record, Column column) {
-    switch (column) {
-    case Column::checkbox:
-    case Column::dtrack:
-    case Column::rating:
-        return {};
-    case Column::name:
-        return fromText(record.name);
-    case Column::artist:
-        return fromText(record.artist);
-    case Column::album:
-        return fromText(record.album);
-    case Column::time:
-        return fromText(record.time);
-    case Column::bitrate:
-        return fromText(record.bitrate);
-    case Column::sizestring:
-        return QString::fromStdString(sizestring(record));
-    case Column::playcount:
-        return fromText(record.playcount);
-    case Column::dateadded:
-        return QString::fromStdString(dateadded(record));
-    case Column::hasartwork:
-        return record.hasartwork ? QStringLiteral("Yes") : QStringLiteral("No");
-    case Column::location:
-        return fromText(record.location);
-    }
-    return {};
+    const ColumnInfo& info = columnInfo(column);
+    if (info.text == nullptr) return {};
+    std::string made;
+    return fromText(info.text(record, made));
 }
 
 QString spokenText(const TrackRecord& record, Column column) {

@@ -7,33 +7,36 @@ namespace {
 
 using Looks = std::array<ColumnLook, allColumns.size()>;
 
-ColumnLook text(const QString& title, int width, Qt::Alignment alignment, const QString& toolTip = {}) {
-    return {title, toolTip, title, width, alignment | Qt::AlignVCenter, Qt::ElideRight, CellKind::text};
+QString fromText(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-ColumnLook drawn(const QString& title, const QString& spoken, int width, Qt::Alignment alignment,
-                 CellKind kind) {
-    return {title, {}, spoken, width, alignment | Qt::AlignVCenter, Qt::ElideRight, kind};
+Qt::Alignment toQt(Alignment alignment) {
+    switch (alignment) {
+    case Alignment::left:
+        return Qt::AlignLeft | Qt::AlignVCenter;
+    case Alignment::centre:
+        return Qt::AlignCenter;
+    case Alignment::right:
+        return Qt::AlignRight | Qt::AlignVCenter;
+    }
+    return {};
+}
+
+ColumnLook lookOf(const ColumnInfo& info) {
+    return {.title = fromText(info.title),
+            .toolTip = fromText(info.toolTip),
+            .spokenTitle = fromText(info.spokenTitle),
+            .width = info.width,
+            .alignment = toQt(info.alignment),
+            .elision = info.elision == Elision::middle ? Qt::ElideMiddle : Qt::ElideRight,
+            .kind = info.kind};
 }
 
 Looks makeLooks() {
-    Looks looks = {
-        drawn({}, QStringLiteral("Marked for deletion"), 32, Qt::AlignHCenter, CellKind::checkBox),
-        drawn({}, QStringLiteral("File missing"), 28, Qt::AlignHCenter, CellKind::image),
-        text(QStringLiteral("Name"), 184, Qt::AlignLeft),
-        text(QStringLiteral("Artist"), 144, Qt::AlignLeft),
-        text(QStringLiteral("Album"), 148, Qt::AlignLeft),
-        text(QStringLiteral("Time"), 64, Qt::AlignRight),
-        text(QStringLiteral("Bit rate"), 76, Qt::AlignRight, QStringLiteral("kbit/s")),
-        text(QStringLiteral("Size"), 76, Qt::AlignRight),
-        drawn(QStringLiteral("Rating"), QStringLiteral("Rating"), 88, Qt::AlignLeft, CellKind::stars),
-        text(QStringLiteral("Plays"), 56, Qt::AlignRight),
-        text(QStringLiteral("Date added"), 128, Qt::AlignLeft),
-        text(QStringLiteral("Artwork"), 64, Qt::AlignHCenter),
-        text(QStringLiteral("Location"), 360, Qt::AlignLeft),
-    };
-    looks.front().toolTip = looks.front().spokenTitle;
-    looks.back().elision = Qt::ElideMiddle;
+    Looks looks;
+    for (std::size_t i = 0; i < looks.size(); ++i)
+        looks[i] = lookOf(columnInfo(allColumns[i]));
     return looks;
 }
 

@@ -7,10 +7,7 @@
 
 namespace songsweep {
 
-/// What draws the cells of a column.
-enum class CellKind { checkBox, image, text, stars };
-
-/// How a column of the results table looks at first.
+/// How a column of the results table looks at first: its row of the table of columns, in Qt's types.
 struct ColumnLook {
     QString title;           ///< in the header; empty for the two narrow columns
     QString toolTip;         ///< of the header; empty for none
