@@ -13,15 +13,15 @@
 
 namespace songsweep {
 
-/// Takes rows out of a list front to back: rows that stay move down over those that went, and the list is cut
-/// to its new length when the gap is closed, however the loop ends.
-class DeleteProc::Gap {
+/// Compacts a list front to back: rows that stay move down over those that went, and the list is cut to its
+/// new length when the compaction ends, however the loop does.
+class DeleteProc::Compaction {
   public:
-    explicit Gap(std::vector<TrackRecord*>& rows)
+    explicit Compaction(std::vector<TrackRecord*>& rows)
         : m_rows(rows) {}
-    Gap(const Gap&) = delete;
-    Gap& operator=(const Gap&) = delete;
-    ~Gap() {
+    Compaction(const Compaction&) = delete;
+    Compaction& operator=(const Compaction&) = delete;
+    ~Compaction() {
         m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(m_kept),
                      m_rows.begin() + static_cast<std::ptrdiff_t>(m_next));
     }
@@ -73,15 +73,15 @@ void DeleteProc::unmute(std::exception_ptr& failure) {
 /// False when the operation was cancelled before the last row.
 bool DeleteProc::deleteRows() {
     const std::size_t count = m_list.rows.size();
-    Gap gap(m_list.rows);
+    Compaction compaction(m_list.rows);
     for (std::size_t pass = 0; pass < count; ++pass) {
         if (isCancelled()) return false;
-        if (!gap.record().checkbox) {
-            gap.keep();
+        if (!compaction.record().checkbox) {
+            compaction.keep();
             continue;
         }
-        deleteMarked(gap.record());
-        gap.remove();
+        deleteMarked(compaction.record());
+        compaction.remove();
         m_services.center.post({EventName::deleteAddCount, {}, this});
     }
     return true;

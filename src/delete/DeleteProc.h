@@ -46,7 +46,7 @@ class DeleteProc final : public Operation {
     void main() override;
 
   private:
-    class Gap;
+    class Compaction;
 
     bool deleteRows();
     void unmute(std::exception_ptr& failure);
