@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "UserFolders.h"
+#include "platform/linux/Gio.h"
 #include "platform/linux/LinuxDesktop.h"
 #include "support/TemporaryFolder.h"
 
@@ -9,8 +10,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 namespace songsweep {
 namespace {
@@ -35,8 +38,7 @@ class DefaultPrograms : public ::testing::Test {
     void TearDown() override {
         ::close(m_pipe);
         qputenv("PATH", m_formerPath);
-        fs::remove_all(test::userData() + "/applications");
-        fs::remove(test::userConfiguration() + "/mimeapps.list");
+        if (!m_kind.empty()) forgetDefault();
     }
 
     std::string tellingScript(const std::string& name) const {
@@ -47,13 +49,13 @@ class DefaultPrograms : public ::testing::Test {
     void setDefault(const std::string& kind, const std::string& name, const std::string& takes) {
         const std::string program = m_folder.path() + "/" + name;
         writeProgram(program, tellingScript(name));
-        const fs::path applications = fs::path(test::userData()) / "applications";
-        fs::create_directories(applications);
-        std::ofstream(applications / (name + ".desktop"))
-            << "[Desktop Entry]\nType=Application\nName=" << name << "\nExec=" << program << " " << takes
-            << "\nMimeType=" << kind << ";\n";
+        m_kind = kind;
+        m_entry = test::userApplications() + "/" + name + ".desktop";
+        std::ofstream(m_entry) << "[Desktop Entry]\nType=Application\nName=" << name << "\nExec=" << program
+                               << " " << takes << "\nMimeType=" << kind << ";\n";
         std::ofstream(test::userConfiguration() + "/mimeapps.list") << "[Default Applications]\n"
                                                                     << kind << "=" << name << ".desktop\n";
+        ASSERT_TRUE(becomesDefault(program));
     }
 
     /// The next line that a program tells; empty after ten seconds without one.
@@ -69,6 +71,29 @@ class DefaultPrograms : public ::testing::Test {
     LinuxDesktop m_desktop;
 
   private:
+    void forgetDefault() {
+        fs::remove(m_entry);
+        fs::remove(test::userConfiguration() + "/mimeapps.list");
+        EXPECT_TRUE(becomesDefault(""));
+    }
+
+    /// GLib hears of changed programs through a thread of its own, some moments later. "" stands for none.
+    bool becomesDefault(const std::string& program) const {
+        const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        while (defaultProgram() != program) {
+            if (std::chrono::steady_clock::now() > limit) return false;
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        return true;
+    }
+
+    std::string defaultProgram() const {
+        const gio::Owned<GAppInfo> info(g_app_info_get_default_for_type(m_kind.c_str(), FALSE));
+        return info ? g_app_info_get_executable(info.get()) : "";
+    }
+
+    std::string m_kind;
+    fs::path m_entry;
     std::string m_pipePath = m_folder.path() + "/pipe";
     int m_pipe = -1;
     QByteArray m_formerPath;

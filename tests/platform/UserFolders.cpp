@@ -22,6 +22,8 @@ class Folders : public ::testing::Environment {
             std::filesystem::create_directories(home / folder);
             qputenv(variable, QByteArray::fromStdString((home / folder).string()));
         }
+        // GLib watches a folder reliably only where it stands before the first question.
+        std::filesystem::create_directories(userApplications());
         // Nothing of the machine's own programs and players may answer.
         qputenv("XDG_DATA_DIRS", "/nonexistent");
         qputenv("XDG_CONFIG_DIRS", "/nonexistent");
@@ -38,6 +40,7 @@ const auto* const registered = ::testing::AddGlobalTestEnvironment(new Folders);
 
 std::string userHome() { return qgetenv("HOME").toStdString(); }
 std::string userData() { return qgetenv("XDG_DATA_HOME").toStdString(); }
+std::string userApplications() { return userData() + "/applications"; }
 std::string userConfiguration() { return qgetenv("XDG_CONFIG_HOME").toStdString(); }
 
 } // namespace songsweep::test

@@ -9,6 +9,7 @@ namespace songsweep::test {
 /// GLib reads these places once a process, so that they are set before the first test.
 std::string userHome();
 std::string userData();
+std::string userApplications();
 std::string userConfiguration();
 
 } // namespace songsweep::test
