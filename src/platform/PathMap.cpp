@@ -11,6 +11,23 @@ void dropTrailingSlash(std::string& path) {
     if (path.ends_with('/')) path.pop_back();
 }
 
+bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+/// Whether the path begins with a drive and its colon, as in "C:\Music".
+bool beginsWithDrive(std::string_view path) {
+    return path.size() >= 2 && isLetter(path[0]) && path[1] == ':' &&
+           (path.size() == 2 || path[2] == '/' || path[2] == '\\');
+}
+
+/// A path of Windows as libraries write it, "/C:/Music" for "C:\Music"; any other as it is.
+std::string asInLibraries(std::string path) {
+    const bool hasSlash = path.starts_with('/');
+    const bool hasDrive = beginsWithDrive(std::string_view(path).substr(hasSlash ? 1 : 0));
+    if (!hasDrive && !path.starts_with("\\\\")) return path;
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return hasDrive && !hasSlash ? "/" + path : path;
+}
+
 /// Whether the path is the beginning itself or continues it with a further component.
 bool covers(const std::string& beginning, std::string_view path) {
     return path.starts_with(beginning) && (path.size() == beginning.size() || path[beginning.size()] == '/');
@@ -19,6 +36,7 @@ bool covers(const std::string& beginning, std::string_view path) {
 } // namespace
 
 void PathMap::add(std::string from, std::string to) {
+    from = asInLibraries(std::move(from));
     dropTrailingSlash(from);
     dropTrailingSlash(to);
     // Before the rules of its own length, so that the one given last wins.

@@ -13,7 +13,8 @@ namespace songsweep {
 /// A path that no rule covers stays as it is. A value.
 class PathMap {
   public:
-    /// Adds one rule; a trailing "/" of either side is dropped.
+    /// Adds one rule; a trailing "/" of either side is dropped. "C:\Music" and "C:/Music" mean "/C:/Music",
+    /// as libraries write it, and "\\server\music" means "//server/music".
     void add(std::string from, std::string to);
 
     bool empty() const { return m_rules.empty(); }

@@ -45,6 +45,20 @@ TEST(PathMap, PrefersTheLaterOfTwoRulesForOneBeginning) {
 
 TEST(PathMap, DropsATrailingSlashOfEitherSide) { EXPECT_EQ(mapOf({{"/a/", "/b/"}}).map("/a/c"), "/b/c"); }
 
+TEST(PathMap, TakesAPathOfWindowsHoweverItIsSpelled) {
+    for (const char* from : {"C:/Music", "C:\\Music", "/C:/Music", "/C:\\Music", "C:\\Music\\", "C:/Music/"})
+        EXPECT_EQ(mapOf({{from, "/media/music"}}).map("/C:/Music/Abba/SOS.mp3"), "/media/music/Abba/SOS.mp3")
+            << from;
+    for (const char* drive : {"C:", "C:/", "C:\\", "/C:"})
+        EXPECT_EQ(mapOf({{drive, "/mnt"}}).map("/C:/Music/a.mp3"), "/mnt/Music/a.mp3") << drive;
+    EXPECT_EQ(mapOf({{"\\\\server\\music", "/mnt"}}).map("//server/music/a.mp3"), "/mnt/a.mp3");
+}
+
+TEST(PathMap, LeavesBackslashesOfOtherPathsAlone) {
+    EXPECT_EQ(mapOf({{"/home/a\\b", "/mnt"}}).map("/home/a\\b/c"), "/mnt/c");
+    EXPECT_EQ(mapOf({{"/Users/c:", "/mnt"}}).map("/Users/c:/x"), "/mnt/x");
+}
+
 TEST(PathMap, MapsTheRoot) {
     EXPECT_EQ(mapOf({{"/", "/mnt/mac"}}).map("/Users/ann"), "/mnt/mac/Users/ann");
     EXPECT_EQ(mapOf({{"/mnt/mac", "/"}}).map("/mnt/mac/Users/ann"), "/Users/ann");
