@@ -127,7 +127,7 @@ class AppController {
     const DisplayedList& tableDataSource() const { return m_tableDataSource; }
     const SearchParameters& params() const { return m_params; }
     const Progress& progress() const { return m_progress; }
-    /// What became of the tracks of the last deletion; null before the first. Complete once it has ended.
+    /// What became of the tracks of the last deletion; null before the first has ended.
     const DeleteReport* lastDeleteReport() const { return m_deleteReport.get(); }
     /// The rule that set the present marks, for their reasons; nothing once a mark or the order has changed,
     /// since the rule might keep another copy now.
@@ -139,8 +139,6 @@ class AppController {
     bool isWorking() const { return m_queue.operationCount() > 0; }
     /// Nothing runs and no deletion is being confirmed.
     bool isIdle() const { return !isDeleting() && !isWorking(); }
-    /// The first read error of the present search's library file.
-    std::optional<ReadError> readError() const { return m_readError.get(); }
     /// Records left for the grouping when the last reading ended.
     int listedCount() const { return m_listedCount; }
     /// Tracks that iTunes reports for the library.
@@ -180,7 +178,8 @@ class AppController {
 
     // The survey of the files of a deletion.
     void startSurvey(const DeleteConfirmationFacts& facts);
-    void onSurvey(std::uint64_t serial, FileSurvey::Answer& answer);
+    void onReadError(const WorkerEvent& event);
+    void onSurveyDone(const WorkerEvent& event);
     void forgetSurvey();
 
     // Steps of a search.
@@ -195,6 +194,7 @@ class AppController {
     /// Null for a row that is not, or no longer, there.
     TrackRecord* recordAt(int row) const;
     std::vector<TrackRecord*> selectedRecords() const;
+    void keepReport(const WorkerEvent& event);
     void showRowsLeft();
     void reportIdle();
     ReaderServices readerServices();
@@ -210,7 +210,6 @@ class AppController {
     std::shared_ptr<TrackList> m_list1;
     DisplayedList m_tableDataSource;
     Progress m_progress;
-    ReadErrorSlot m_readError;
     std::int64_t m_libraryModifiedDate = 0; ///< nanoseconds since 1970 UTC
     std::int32_t m_playlistIndex = 1;
     std::int32_t m_libraryCount = 0;
@@ -233,11 +232,10 @@ class AppController {
     bool m_deleteFiles = false;
     DeletePlan m_deletePlan;
     std::optional<std::uint64_t> m_pendingSurvey; ///< its serial, while the confirmation waits for its answer
-    std::shared_ptr<DeleteReport> m_deleteReport;
+    std::shared_ptr<const DeleteReport> m_deleteReport;
 
     std::uint64_t m_searchSerial = 0; ///< of the present search's first worker
     std::function<void()> m_idleHandler;
-    QObject m_surveyReceiver; ///< on the main thread, where the answers go
     // Last, so that their workers end before what they use.
     OperationQueue m_surveys; ///< of their own, so that no worker waits for a survey that takes long to stop
     OperationQueue m_queue;

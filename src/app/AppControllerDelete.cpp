@@ -3,8 +3,6 @@
 #include "app/AppController.h"
 #include "delete/TrackFacts.h"
 
-#include <QMetaObject>
-
 #include <utility>
 
 namespace songsweep {
@@ -21,20 +19,16 @@ void AppController::deleteButtonClick() {
 
 void AppController::startSurvey(const DeleteConfirmationFacts& facts) {
     SurveyedRows rows(m_tableDataSource.rows, m_tableDataSource.storage);
-    auto survey = std::make_unique<FileSurvey>(
-        std::move(rows), facts, m_services.files, m_services.libraryLocations,
-        [this](std::uint64_t serial, const std::shared_ptr<FileSurvey::Answer>& answer) {
-            QMetaObject::invokeMethod(
-                &m_surveyReceiver, [this, serial, answer] { onSurvey(serial, *answer); },
-                Qt::QueuedConnection);
-        });
+    auto survey = std::make_unique<FileSurvey>(std::move(rows), facts, m_services.files,
+                                               m_services.libraryLocations, m_center);
     m_pendingSurvey = survey->serial();
     m_surveys.add(std::move(survey));
 }
 
-void AppController::onSurvey(std::uint64_t serial, FileSurvey::Answer& answer) {
-    if (serial != m_pendingSurvey) return; // the answer of one that nobody waits for any more
+void AppController::onSurveyDone(const WorkerEvent& event) {
+    if (event.sender->serial() != m_pendingSurvey) return; // one that nobody waits for any more
     m_pendingSurvey.reset();
+    SurveyAnswer& answer = *std::get<std::shared_ptr<SurveyAnswer>>(event.payload);
     m_deletePlan = std::move(answer.plan);
     m_view.updateDeleteConfirmation(answer.facts);
 }
@@ -93,10 +87,9 @@ void AppController::beginDelete() {
     m_progress.total = getCheckedCount();
     if (m_progress.total > 0) m_deletedSinceRead = true;
     m_progress.beginPhase(0, 100);
-    m_deleteReport = std::make_shared<DeleteReport>();
     const DeleteServices services = {m_center, m_services.scripts, m_services.files, m_services.log};
     m_queue.add(std::make_unique<DeleteProc>(m_tableDataSource, m_deleteFiles, services,
-                                             std::exchange(m_deletePlan, {}), m_deleteReport));
+                                             std::exchange(m_deletePlan, {})));
     m_view.setProgressTitle("Deleting...");
     showProgressWindow(ProgressBar::progress);
 }

@@ -3,6 +3,7 @@
 #include "app/AppController.h"
 #include "app/SearchSummary.h"
 #include "dupes/BuildResultProc.h"
+#include "library/ReadError.h"
 #include "platform/Log.h"
 
 #include <algorithm>
@@ -36,6 +37,8 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
         EventReaction{EventName::deleteFinish, false, &AppController::onDeleteFinish},
         EventReaction{EventName::deleteCancel, false, &AppController::onDeleteCancel},
         EventReaction{EventName::tableviewSpacebar, false, &AppController::onSpacebar},
+        EventReaction{EventName::readError, false, &AppController::onReadError},
+        EventReaction{EventName::surveyDone, false, &AppController::onSurveyDone},
     };
     if (isStale(event)) return;
     // An event's place in the table is its number, so that a million of them find their row at once.
@@ -79,6 +82,10 @@ void AppController::onXmlErrorNotFound(const WorkerEvent&) {
 void AppController::onXmlModifiedDate(const WorkerEvent& event) {
     if (const auto* attributes = std::get_if<FileAttributes>(&event.payload))
         m_libraryModifiedDate = attributes->modificationNanoseconds;
+}
+
+void AppController::onReadError(const WorkerEvent& event) {
+    m_view.tellReadError(*std::get<std::shared_ptr<ReadError>>(event.payload));
 }
 
 void AppController::onBuildFinish(const WorkerEvent&) {
@@ -126,17 +133,24 @@ void AppController::onCount(const WorkerEvent&) { m_progress.prc += 1; }
 
 void AppController::onDeleteValidity(const WorkerEvent&) { validity(); }
 
-void AppController::onDeleteFinish(const WorkerEvent&) {
+void AppController::onDeleteFinish(const WorkerEvent& event) {
+    keepReport(event);
     m_deletion = Deletion::none;
     validity();
     closeProgressWindow(ProgressBar::progress);
     showRowsLeft();
 }
 
-void AppController::onDeleteCancel(const WorkerEvent&) {
+void AppController::onDeleteCancel(const WorkerEvent& event) {
+    keepReport(event);
     m_deletion = Deletion::none;
     validity();
     showRowsLeft();
+}
+
+void AppController::keepReport(const WorkerEvent& event) {
+    if (const auto* report = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload))
+        m_deleteReport = *report;
 }
 
 void AppController::showRowsLeft() {

@@ -84,7 +84,6 @@ void AppController::emptyResults() {
     m_tableDataSource = {{}, m_list1->storage};
     m_listedCount = 0;
     m_lastMark.reset();
-    m_readError.clear();
     m_view.reloadTable();
     m_view.setHorizontalScroller(false);
     m_horizontalScrollbarShowCount = 0;
@@ -96,8 +95,7 @@ void AppController::startReader() {
     std::unique_ptr<Operation> reader;
     if (m_useLibraryXML) {
         reader = std::make_unique<SWXMLParser>(m_list1, m_params, m_progress.total, m_libraryModifiedDate,
-                                               m_deletedSinceRead, readDelay, readDelayMax, readerServices(),
-                                               &m_readError);
+                                               m_deletedSinceRead, readDelay, readDelayMax, readerServices());
     } else {
         reader = std::make_unique<AddProc>(m_list1, m_params, m_playlistIndex, readerServices());
     }

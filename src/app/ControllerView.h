@@ -13,6 +13,7 @@ namespace songsweep {
 enum class ProgressBar { progress, formprogress };
 
 struct DeleteConfirmationFacts;
+struct ReadError;
 
 /// What AppController tells whoever shows its state: the window, the command line, a test.
 ///
@@ -67,6 +68,9 @@ class ControllerView {
     virtual void setMarkEnabled(bool /*enabled*/) {}
     virtual void setDeleteEnabled(bool /*enabled*/) {}
     virtual void beep() {}
+
+    /// The reader met its first error in the library file. It goes on until it is cancelled.
+    virtual void tellReadError(const ReadError& /*error*/) {}
 
     // Alerts.
     /// "Can't access iTunes. ..." with "OK" and "Help"; `reason` is its informative text, or empty.

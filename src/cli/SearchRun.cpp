@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/SearchRun.h"
 
+#include "library/ReadError.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 
@@ -12,9 +14,6 @@
 namespace songsweep::cli {
 
 namespace {
-
-/// How often the reader is asked for a read error, in milliseconds.
-constexpr int lookInterval = 50;
 
 std::string readErrorText(const ReadError& error) {
     return error.line > 0 ? "line " + std::to_string(error.line) + ": " + error.reason : error.reason;
@@ -30,9 +29,6 @@ std::optional<SearchFailure> SearchRun::run(AppController& controller, const Sea
     m_failure.reset();
     m_ended = false;
     if (!m_interrupted) controller.paramOkButtonClick(parameters);
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] { lookForReadError(); });
-    look.start(lookInterval);
     if (controller.isWorking()) waitUntilIdle(controller);
     clearLine();
     m_controller = nullptr;
@@ -92,11 +88,9 @@ void SearchRun::interrupt() {
     }
 }
 
-/// The reader goes on after a read error, as nothing tells it to stop.
-void SearchRun::lookForReadError() {
-    const std::optional<ReadError> error = m_controller->readError();
-    if (!error || m_failure) return;
-    m_failure = SearchFailure{false, readErrorText(*error)};
+/// The reader goes on after a read error, as nothing else tells it to stop.
+void SearchRun::tellReadError(const ReadError& error) {
+    if (!m_failure) m_failure = SearchFailure{false, readErrorText(error)};
     m_controller->cancelformButtonClick();
 }
 

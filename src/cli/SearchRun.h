@@ -4,8 +4,6 @@
 #include "app/AppController.h"
 #include "app/ControllerView.h"
 
-#include <QTimer>
-
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,8 +18,8 @@ struct SearchFailure {
 
 /// The console as a view of the controller: starts a search or a deletion and waits for its end.
 ///
-/// Shows the phase and the percentage on standard error where that is a terminal. Asks for the reader's first
-/// read error, since the reader itself goes on until it is cancelled. Main thread.
+/// Shows the phase and the percentage on standard error where that is a terminal. Cancels at the reader's
+/// first read error, since the reader itself goes on until then. Main thread.
 class SearchRun final : public ControllerView {
   public:
     SearchRun();
@@ -43,6 +41,7 @@ class SearchRun final : public ControllerView {
     void setProgressInfo(const std::string& phase) override;
     void setProgressValue(double percent) override;
     void endProgress(ProgressBar bar) override;
+    void tellReadError(const ReadError& error) override;
     void updateDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
     void alertCantAccess(const std::string& message, const std::string& reason) override;
     void alertCantBeginDelete(const std::string& reason) override;
@@ -50,7 +49,6 @@ class SearchRun final : public ControllerView {
   private:
     void waitUntilIdle(AppController& controller);
     void waitForSurvey();
-    void lookForReadError();
     void clearLine();
 
     AppController* m_controller = nullptr;

@@ -36,13 +36,11 @@ class DeleteProc::Compaction {
     std::size_t m_next = 0;
 };
 
-DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices services, DeletePlan plan,
-                       std::shared_ptr<DeleteReport> report)
+DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices services, DeletePlan plan)
     : m_list(list)
     , m_isDelFile(isDelFile)
     , m_services(services)
-    , m_fileDeletion(services.scripts, services.files, std::move(plan))
-    , m_report(std::move(report)) {}
+    , m_fileDeletion(services.scripts, services.files, std::move(plan)) {}
 
 void DeleteProc::main() {
     std::exception_ptr failure;
@@ -122,7 +120,8 @@ void DeleteProc::noteNotAttempted() {
 
 void DeleteProc::postEnd() {
     noteNotAttempted();
-    m_services.center.post({isCancelled() ? EventName::deleteCancel : EventName::deleteFinish, {}, this});
+    m_services.center.post(
+        {isCancelled() ? EventName::deleteCancel : EventName::deleteFinish, m_report, this});
     for (const DeleteOutcome& outcome : m_report->outcomes)
         m_services.log.line(outcomeLine(outcome));
 }

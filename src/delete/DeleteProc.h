@@ -35,13 +35,12 @@ struct DeleteServices {
 ///
 /// The rows that stay are moved together as the loop goes, so that a deletion of many tracks is linear; the
 /// list is whole again whenever the loop is left. The sound is off meanwhile. What became of each track
-/// stands in the report, and in the log after the final event.
+/// stands in the report, which comes with the final event, and in the log after it.
 class DeleteProc final : public Operation {
   public:
     /// `list` is the controller's own and outlives the worker. Files that the plan does not know, and those
-    /// that it calls shared, are left. The report is filled before the final event.
-    DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices services, DeletePlan plan = {},
-               std::shared_ptr<DeleteReport> report = std::make_shared<DeleteReport>());
+    /// that it calls shared, are left.
+    DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices services, DeletePlan plan = {});
 
     void main() override;
 
@@ -60,7 +59,7 @@ class DeleteProc final : public Operation {
     bool m_isDelFile;
     DeleteServices m_services;
     FileDeletion m_fileDeletion;
-    std::shared_ptr<DeleteReport> m_report;
+    std::shared_ptr<DeleteReport> m_report = std::make_shared<DeleteReport>();
 };
 
 } // namespace songsweep

@@ -101,7 +101,7 @@ void BuildResultProc::finish() {
 }
 
 void BuildResultProc::post(EventName name, WorkerEventPayload payload) {
-    m_center.post({name, payload, this});
+    m_center.post({name, std::move(payload), this});
 }
 
 } // namespace songsweep

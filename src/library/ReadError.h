@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <mutex>
-#include <optional>
 #include <string>
-#include <utility>
 
 namespace songsweep {
 
@@ -14,27 +11,6 @@ struct ReadError {
     std::string reason;
 
     bool operator==(const ReadError&) const = default;
-};
-
-/// Where a reader leaves its first read error for whoever asks. Thread-safe.
-class ReadErrorSlot {
-  public:
-    void set(ReadError error) {
-        const std::lock_guard lock(m_mutex);
-        if (!m_error) m_error = std::move(error);
-    }
-    void clear() {
-        const std::lock_guard lock(m_mutex);
-        m_error.reset();
-    }
-    std::optional<ReadError> get() const {
-        const std::lock_guard lock(m_mutex);
-        return m_error;
-    }
-
-  private:
-    mutable std::mutex m_mutex;
-    std::optional<ReadError> m_error;
 };
 
 } // namespace songsweep

@@ -44,14 +44,12 @@ std::string currentReason() {
 
 SWXMLParser::SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters parameters,
                          std::int32_t trackCount, std::int64_t lastModified, bool hasDelete,
-                         std::int32_t readDelay, std::int32_t readDelayMax, ReaderServices services,
-                         ReadErrorSlot* error)
+                         std::int32_t readDelay, std::int32_t readDelayMax, ReaderServices services)
     : m_list(std::move(list))
     , m_searchparams(std::move(parameters))
     , m_trueTrackCount(trackCount)
     , m_wait{hasDelete, lastModified, readDelay, readDelayMax}
-    , m_services(services)
-    , m_error(error) {}
+    , m_services(services) {}
 
 SWXMLParser::SWXMLParser(ReaderServices services)
     : SWXMLParser(std::make_shared<TrackList>(), {}, 0, 0, false, 0, 0, services) {}
@@ -118,10 +116,15 @@ bool SWXMLParser::walkWhole(XmlReader& reader, LibraryWalk& walk) {
         walk.feed(node.type, node.name, node.value);
         if (!reader.error()) continue;
         // The walk ends by being cancelled alone, with nothing more to come.
-        if (m_error) m_error->set(*reader.error());
+        tellReadError(reader);
         m_services.sleeper.sleep(restAfterReadError);
     }
     return false;
+}
+
+void SWXMLParser::tellReadError(const XmlReader& reader) {
+    if (std::exchange(m_readErrorTold, true)) return;
+    post(EventName::readError, std::make_shared<ReadError>(*reader.error()));
 }
 
 void SWXMLParser::process(Clock::time_point start) {
@@ -160,7 +163,7 @@ void SWXMLParser::fail(EventName event, std::string_view reason) {
 }
 
 void SWXMLParser::post(EventName name, WorkerEventPayload payload) const {
-    m_services.center.post({name, payload, this});
+    m_services.center.post({name, std::move(payload), this});
 }
 
 void SWXMLParser::log(std::string_view line) const { m_services.log.line(line); }

@@ -3,7 +3,6 @@
 
 #include "library/LibraryFileFinder.h"
 #include "library/PlaylistItems.h"
-#include "library/ReadError.h"
 #include "library/ReaderServices.h"
 #include "library/SearchParameters.h"
 #include "library/TrackStorage.h"
@@ -25,14 +24,15 @@ class XmlReader;
 /// Finds the file by iTunes' preferences, waits until iTunes has rewritten it after a deletion, walks it into
 /// records, and keeps the file tracks of the chosen playlist, asking iTunes for the location of those whose
 /// file is missing. Ends with "addFinish", or with "xmlErrorParsing" or "xmlErrorProcessing" where the file
-/// cannot be had or trusted; "addCancel" besides when cancelled. One pass, constant time a record.
+/// cannot be had or trusted; "addCancel" besides when cancelled. The first read error is told ("readError"),
+/// and the walk goes on until it is cancelled. One pass, constant time a record.
 class SWXMLParser final : public Operation {
   public:
     /// `trackCount` is iTunes' own count of tracks, which the file has to match; for the next four see
-    /// RewriteWait. `error`, if given, outlives this and takes the first read error.
+    /// RewriteWait.
     SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters parameters, std::int32_t trackCount,
                 std::int64_t lastModified, bool hasDelete, std::int32_t readDelay, std::int32_t readDelayMax,
-                ReaderServices services, ReadErrorSlot* error = nullptr);
+                ReaderServices services);
     /// Everything empty, zero or none.
     explicit SWXMLParser(ReaderServices services);
 
@@ -51,6 +51,7 @@ class SWXMLParser final : public Operation {
     bool parse(XmlReader& reader);
     bool readTracks(XmlReader& reader);
     bool walkWhole(XmlReader& reader, LibraryWalk& walk);
+    void tellReadError(const XmlReader& reader);
     void process(Clock::time_point start);
     void finish();
 
@@ -70,11 +71,11 @@ class SWXMLParser final : public Operation {
     std::int32_t m_trueTrackCount = 0;
     RewriteWait m_wait;
     ReaderServices m_services;
-    ReadErrorSlot* m_error = nullptr;
 
     PlaylistItems m_songlist;
     std::int32_t m_trackCount = 0;
     int m_progressCount = 0;
+    bool m_readErrorTold = false;
 };
 
 } // namespace songsweep

@@ -6,7 +6,7 @@
 namespace songsweep {
 
 std::string_view text(EventName name) {
-    static constexpr std::array<std::string_view, 17> texts = {
+    static constexpr std::array<std::string_view, 19> texts = {
         "addFinish",
         "xmlDoneParsing",
         "xmlErrorParsing",
@@ -24,6 +24,8 @@ std::string_view text(EventName name) {
         "deleteFinish",
         "deleteCancel",
         "tableviewSpacebar",
+        "readError",
+        "surveyDone",
     };
     return texts.at(static_cast<std::size_t>(name));
 }

@@ -3,15 +3,20 @@
 
 #include "platform/Files.h"
 
+#include <memory>
 #include <string_view>
 #include <variant>
 
 namespace songsweep {
 
+struct DeleteReport;
+struct ReadError;
+struct SurveyAnswer;
 struct TrackRecord;
 class Operation;
 
-/// The events by which workers report, in the order in which the dispatch compares them.
+/// The events by which workers report, in the order in which the dispatch compares them; the last two are
+/// news for the controller alone, and never logged.
 enum class EventName {
     addFinish,
     xmlDoneParsing,
@@ -30,6 +35,8 @@ enum class EventName {
     deleteFinish,
     deleteCancel,
     tableviewSpacebar,
+    readError,
+    surveyDone,
 };
 
 /// The event's text, as the log shows it ("addFinish").
@@ -40,8 +47,11 @@ struct ProgressUnits {
     int prg = 0;
 };
 
-/// Nothing, a record, work units, or the library file's attributes.
-using WorkerEventPayload = std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes>;
+/// What an event brings: nothing, a record, work units, the library file's attributes, or the result of a
+/// worker, which is the receiver's from then on.
+using WorkerEventPayload =
+    std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes, std::shared_ptr<ReadError>,
+                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>>;
 
 /// One event on its way from a worker to the main thread. A value; the record stays its storage's.
 struct WorkerEvent {

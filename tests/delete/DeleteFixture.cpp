@@ -42,6 +42,8 @@ DeleteFixture::DeleteFixture() {
     m_scripts.setAnswer([this](std::string_view text) { return answer(text); });
     m_center.setObserver([this](const WorkerEvent& event) {
         EXPECT_EQ(event.sender, m_operation);
+        if (const auto* report = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload))
+            m_report = **report;
         note("event " + std::string(text(event.name)));
     });
     std::filesystem::create_directory(path("Trash"));
@@ -64,16 +66,9 @@ TrackRecord& DeleteFixture::addFile(const char* pid, bool marked, const std::str
 }
 
 void DeleteFixture::run(bool deleteFiles, DeletePlan plan) {
-    const auto report = std::make_shared<DeleteReport>();
-    DeleteProc operation(m_list, deleteFiles, {m_center, m_scripts, m_files, m_log}, std::move(plan), report);
+    DeleteProc operation(m_list, deleteFiles, {m_center, m_scripts, m_files, m_log}, std::move(plan));
     m_operation = &operation;
-    try {
-        operation.main();
-    } catch (...) {
-        m_report = *report;
-        throw;
-    }
-    m_report = *report;
+    operation.main();
 }
 
 void DeleteFixture::failAt(const std::string& entry, const std::string& message) {

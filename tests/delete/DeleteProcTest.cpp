@@ -60,6 +60,19 @@ TEST_F(DeleteProcTest, EachMarkedTrackIsDeletedAndCounted) {
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted", "C: deleted"));
 }
 
+TEST_F(DeleteProcTest, TheReportIsFullBeforeTheFinalEventIsHandled) {
+    add(1, "A", true);
+    add(1, "B", true);
+    add(2, "C", true);
+    std::vector<std::string> told;
+    setHook([&](const std::string& entry) {
+        if (entry == "track A") cancel();
+        if (entry == "event deleteCancel") told = outcomes();
+    });
+    run(withoutFiles);
+    EXPECT_THAT(told, ElementsAre("A: deleted", "B: not attempted", "C: not attempted"));
+}
+
 TEST_F(DeleteProcTest, AFileFollowsItsTrack) {
     addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");

@@ -127,12 +127,16 @@ class EmbeddedDeletionTest : public testing::Test {
         const LibraryLocations locations = [this](const LocationVisitor& visit) {
             return m_scripts->forEachLocation(visit).hasValue();
         };
-        const auto report = std::make_shared<DeleteReport>();
+        DeleteReport report;
+        m_center.setObserver([&report](const WorkerEvent& event) {
+            if (const auto* told = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload))
+                report = **told;
+        });
         DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log},
-                   makeDeletePlan(list.rows, m_files, locations), report)
+                   makeDeletePlan(list.rows, m_files, locations))
             .main();
         EXPECT_TRUE(m_scripts->flush());
-        return *report;
+        return report;
     }
 
     std::string libraryText() const { return test::contentOf(m_folder.pathOf("library.xml")); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "delete/FileSurvey.h"
 
+#include "library/WorkerEvent.h"
+#include "operations/NotificationCenter.h"
 #include "platform/Files.h"
 #include "support/TemporaryFolder.h"
 
@@ -24,23 +26,25 @@ class FileSurveyTest : public testing::Test {
             m_list.rows.push_back(&record);
         }
         m_list.rows.front()->checkbox = true;
+        m_center.setObserver([this](const WorkerEvent& event) {
+            EXPECT_EQ(event.name, EventName::surveyDone);
+            m_serial = event.sender->serial();
+            m_answer = std::get<std::shared_ptr<SurveyAnswer>>(event.payload);
+        });
     }
 
     std::unique_ptr<FileSurvey> survey(const LibraryLocations& locations = {}) {
-        return std::make_unique<FileSurvey>(
-            SurveyedRows(m_list.rows, m_list.storage),
-            DeleteConfirmationFacts{.tracks = 7, .filesPending = true}, m_files, locations,
-            [this](std::uint64_t serial, std::shared_ptr<FileSurvey::Answer> answer) {
-                m_serial = serial;
-                m_answer = std::move(answer);
-            });
+        return std::make_unique<FileSurvey>(SurveyedRows(m_list.rows, m_list.storage),
+                                            DeleteConfirmationFacts{.tracks = 7, .filesPending = true},
+                                            m_files, locations, m_center);
     }
 
     test::TemporaryFolder m_folder;
     Files m_files;
     DisplayedList m_list;
+    NotificationCenter<WorkerEvent> m_center;
     std::uint64_t m_serial = 0;
-    std::shared_ptr<FileSurvey::Answer> m_answer;
+    std::shared_ptr<SurveyAnswer> m_answer;
 };
 
 TEST_F(FileSurveyTest, AnswersWithThePlanAndTheCompletedFacts) {

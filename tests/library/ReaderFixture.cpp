@@ -52,14 +52,17 @@ void ReaderFixture::useLibrary(const std::string& name) {
 void ReaderFixture::useLibraryText(const std::string& contents) { write("library.xml", contents); }
 
 void ReaderFixture::run(const SearchParameters& parameters, std::int32_t trackCount) {
-    SWXMLParser parser(m_list, parameters, trackCount, 0, false, 5, 10, m_services, &m_error);
+    SWXMLParser parser(m_list, parameters, trackCount, 0, false, 5, 10, m_services);
     run(parser);
 }
 
 void ReaderFixture::run(SWXMLParser& parser) {
     m_center.setObserver([&](const WorkerEvent& event) {
         EXPECT_EQ(event.sender, &parser);
-        m_trace.push_back(shown(event));
+        if (const auto* error = std::get_if<std::shared_ptr<ReadError>>(&event.payload))
+            m_readErrors.push_back(**error);
+        else
+            m_trace.push_back(shown(event));
         if (const auto* file = std::get_if<FileAttributes>(&event.payload)) m_modifiedDates.push_back(*file);
         if (m_onEvent) m_onEvent(event, parser);
     });

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/ReadError.h"
 #include "library/SWXMLParser.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
@@ -107,7 +108,7 @@ class ReaderFixture : public testing::Test {
     ScriptAnswers m_scripts;
     ReaderServices m_services{m_center, m_scripts, m_files, m_preferences, m_sleeper, m_log};
     std::shared_ptr<TrackList> m_list = std::make_shared<TrackList>();
-    ReadErrorSlot m_error;
+    std::vector<ReadError> m_readErrors;
     std::vector<FileAttributes> m_modifiedDates;
     std::function<void(const WorkerEvent&, SWXMLParser&)> m_onEvent;
 };

@@ -164,6 +164,20 @@ TEST_F(SWXMLParserTest, ATrackMoreOrLessThanITunesReportsFailsTheWholeRead) {
     }
 }
 
+TEST_F(SWXMLParserTest, TheFirstReadErrorIsToldOnceAndTheWalkGoesOnUntilItIsCancelled) {
+    useLibraryText("<plist>\n<dict>\n<key>Tracks</wrong>");
+    SWXMLParser parser(m_list, all(), 1, 0, false, 5, 10, m_services);
+    int rests = 0;
+    m_sleeper.onSleep = [&] {
+        if (++rests == 3) parser.cancel();
+    };
+    run(parser);
+    EXPECT_EQ(rests, 3);
+    ASSERT_EQ(m_readErrors.size(), 1U);
+    EXPECT_EQ(m_readErrors.front().line, 3);
+    EXPECT_THAT(events(), ElementsAre("xmlModifiedDate", "addCancel"));
+}
+
 TEST_F(SWXMLParserTest, ADateThatIsNoneFailsTheReading) {
     useLibrary("bad-date.xml");
     run(all(), 1);

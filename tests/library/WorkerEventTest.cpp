@@ -27,6 +27,8 @@ TEST(WorkerEventTest, EveryEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::deleteFinish), "deleteFinish");
     EXPECT_EQ(text(EventName::deleteCancel), "deleteCancel");
     EXPECT_EQ(text(EventName::tableviewSpacebar), "tableviewSpacebar");
+    EXPECT_EQ(text(EventName::readError), "readError");
+    EXPECT_EQ(text(EventName::surveyDone), "surveyDone");
 }
 
 TEST(WorkerEventTest, TheTwoCountsAreCountsAndNothingElseIs) {

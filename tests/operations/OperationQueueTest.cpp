@@ -194,6 +194,24 @@ TEST_F(OperationQueueTest, IsNotIdleBetweenTheWorkersOfAChain) {
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(OperationQueueTest, IsNotIdleWhereAnotherWasAddedBeforeItWasTold) {
+    int told = 0;
+    std::atomic<bool> mayReturn = false;
+    m_queue->setIdleHandler([&told] { ++told; });
+    m_center.close(); // so that the worker does not wait for this thread
+    m_queue->add(operation([](TestOperation&) {}));
+    m_queue->waitUntilAllOperationsAreFinished(); // the news waits in the event loop now
+    m_queue->add(operation([&mayReturn](TestOperation&) {
+        while (!mayReturn)
+            std::this_thread::yield();
+    }));
+    test::handleWaitingEvents();
+    EXPECT_EQ(told, 0);
+    mayReturn = true;
+    ASSERT_TRUE(runEventLoopUntil([&told] { return told > 0; }));
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(OperationQueueTest, AnOperationIsDestroyedOnceItHasReturned) {
     auto tracked = std::make_shared<int>(1);
     const std::weak_ptr<int> watch = tracked;
