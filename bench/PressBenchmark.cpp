@@ -4,7 +4,12 @@
 // rows; and how long it stands still at most while the files are looked at. Nine files of ten exist.
 //
 //   press-benchmark [FOLDER]       the library is made in FOLDER (about 1.5 GB), or in a temporary one
+#include "app/AppController.h"
 #include "app/Program.h"
+#include "app/views/MarkView.h"
+#include "app/views/ProgressView.h"
+#include "app/views/ResultsView.h"
+#include "app/views/SearchView.h"
 #include "dupes/MarkingRules.h"
 #include "platform/Log.h"
 #include "sample-library/BulkLibrary.h"
@@ -26,13 +31,25 @@ constexpr int tracks = 1'000'000;
 double milliseconds(const QElapsedTimer& timer) { return static_cast<double>(timer.nsecsElapsed()) / 1e6; }
 
 /// Waits for the answer of a look at the files.
-class WaitingView final : public ControllerView {
+class WaitingView final : public DeleteView {
   public:
     void wait() { m_loop.exec(); }
     void updateDeleteConfirmation(const DeleteConfirmationFacts&) override { m_loop.quit(); }
 
   private:
     QEventLoop m_loop;
+};
+
+/// Views that show nothing, but for the one that waits.
+struct Views {
+    WaitingView waiting;
+    ApplicationView application;
+    SearchView search;
+    ResultsView results;
+    MarkView mark;
+    ProgressView progress;
+
+    ControllerViews all() { return {application, search, results, mark, waiting, progress, progress}; }
 };
 
 void waitUntilIdle(AppController& controller) {
@@ -72,8 +89,8 @@ int measure(const std::string& folder) {
     if (!made) return std::fprintf(stderr, "press-benchmark: %s\n", made.error().message.c_str()), 1;
     SilentLog log;
     Program program({.library = file, .map = {}, .version = "1.0"}, log);
-    WaitingView view;
-    AppController controller(program.controllerServices(), view);
+    Views views;
+    AppController controller(program.controllerServices(), views.all());
     controller.awakeFromNib();
     controller.paramOkButtonClick({.issamename = true, .issameartist = true, .playlist = "Library"});
     waitUntilIdle(controller);
@@ -85,7 +102,7 @@ int measure(const std::string& folder) {
     controller.deleteButtonClick();
     const double press = milliseconds(timer);
     timer.start();
-    const double standstill = longestStandstill(view);
+    const double standstill = longestStandstill(views.waiting);
     std::printf("press of Delete       %8.1f ms, a bare pass over the rows %.1f ms: ratio %.1f\n", press,
                 floor, press / floor);
     std::printf("files looked at after %8.1f ms, the longest standstill meanwhile %.1f ms\n",

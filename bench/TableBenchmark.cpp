@@ -3,7 +3,7 @@
 // line for each measurement and the limit it is held against; the median of several rounds.
 #include "app/Program.h"
 #include "app/WindowActions.h"
-#include "app/WindowedView.h"
+#include "app/Windows.h"
 #include "platform/Log.h"
 #include "support/SampleRows.h"
 #include "theme/SongsweepStyle.h"
@@ -76,8 +76,8 @@ class Table {
     Program m_program{{.library = {}, .map = {}, .version = "1.0"}, m_log};
 
   public:
-    WindowedView windows{m_log};
-    AppController controller{m_program.controllerServices(), windows};
+    Windows windows{m_log};
+    AppController controller{m_program.controllerServices(), windows.views()};
 
   private:
     WindowActions m_actions{windows, controller, [](const std::string&) { return OpenedLibrary(); }};
@@ -166,7 +166,7 @@ int main(int argumentCount, char** arguments) {
     selectHalf(table);
     measureSort(table, "sorted with half of the rows selected", Column::bitrate);
     measureMarks(table, "everything checked", "a selection of all rows toggled");
-    table.windows.showMarkWindow();
+    table.windows.markWindow().showMarkWindow();
     measureMarks(table, "everything checked, the mark dialog open", "all rows toggled, the mark dialog open");
     return 0;
 }

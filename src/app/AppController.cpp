@@ -1,125 +1,227 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppController.h"
 
-#include "app/Links.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
+#include <array>
 #include <chrono>
+#include <type_traits>
 
 namespace songsweep {
 
 namespace {
 
-constexpr int progressIntervalMilliseconds = 500;
-constexpr int deleteDelayMilliseconds = 100;
+/// The code of an alert's second button.
+constexpr int alertSecondButtonReturn = 1001;
 
 std::int64_t nowInNanoseconds() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     return std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
 }
 
+/// Hands the event's payload to its owner, where it is of the kind that is taken.
+template <class Owner, class Payload>
+void take(const WorkerEvent& event, Owner& owner, void (Owner::*use)(Payload)) {
+    if (const auto* payload = std::get_if<std::decay_t<Payload>>(&event.payload)) (owner.*use)(*payload);
+}
+
+/// Whether the row of each event stands at the event's number.
+template <class Table>
+consteval bool hasEveryEventInItsPlace(const Table& table) {
+    for (std::size_t place = 0; place < table.size(); ++place)
+        if (static_cast<std::size_t>(table[place].name) != place) return false;
+    return table.size() == eventCount;
+}
+
 } // namespace
 
-AppController::AppController(ControllerServices services, ControllerView& view)
+AppController::AppController(ControllerServices services, ControllerViews views)
     : m_services(std::move(services))
-    , m_view(view)
-    , m_queries(m_services.scripts, m_services.log)
-    , m_list1(std::make_shared<TrackList>())
-    , m_surveys(m_center, m_services.log)
+    , m_view(views.application)
+    , m_progress(views.progress, views.formprogress)
+    , m_results(views.results)
+    , m_marks(m_results, views.mark, m_services.log)
+    , m_trackActions(m_services)
+    , m_search(m_services, views, {m_center, m_queue}, m_results, m_progress)
+    , m_deletion(m_services, views, {m_center, m_queue}, m_results, m_search.readers(), m_progress,
+                 [this] { reportIdle(); })
     , m_queue(m_center, m_services.log) {
-    m_progressTimer.setInterval(progressIntervalMilliseconds);
-    m_progressTimer.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&m_progressTimer, &QTimer::timeout, &m_progressTimer, [this] { updateProgress(); });
-    m_myTimer.setInterval(deleteDelayMilliseconds);
-    QObject::connect(&m_myTimer, &QTimer::timeout, &m_myTimer, [this] { beginDelete(); });
     m_queue.setIdleHandler([this] { reportIdle(); });
 }
 
-AppController::~AppController() { m_surveys.cancelAllOperations(); }
+AppController::~AppController() { m_deletion.stop(); }
+
+void AppController::reportIdle() const {
+    if (m_idleHandler) m_idleHandler();
+}
+
+// Start-up and end.
 
 void AppController::awakeFromNib(const std::function<bool()>& redirectLog) {
     // A log that could not be redirected says so itself, and start-up goes on.
     if (redirectLog) redirectLog();
     m_services.log.line("Songsweep " + m_services.version);
     m_center.setObserver([this](const WorkerEvent& event) { threadHandlerSingleFinished2(event); });
-    m_libraryModifiedDate = nowInNanoseconds();
+    m_search.readers().setLibraryModifiedDate(nowInNanoseconds());
     m_view.setAboutLabel("Songsweep " + m_services.version);
 }
 
 bool AppController::applicationShouldTerminate() {
-    m_progressTimer.stop();
-    m_myTimer.stop();
+    m_progress.stop();
+    m_deletion.stop();
     m_queue.cancelAllOperations();
-    m_surveys.cancelAllOperations();
     m_center.close();
     return true;
 }
 
 bool AppController::applicationShouldHandleReopen(bool hasVisibleWindows) {
-    if (hasVisibleWindows) return true;
-    m_view.showMainWindow();
-    return false;
+    if (!hasVisibleWindows) m_view.showMainWindow();
+    return hasVisibleWindows;
 }
-
-void AppController::mainWindowMenuClick() { m_view.showMainWindow(); }
-void AppController::aboutButtonClick() { m_view.showAboutWindow(); }
 
 void AppController::launchURL(const std::string& address) {
     const Result<void> opened = m_services.desktop.openUrl(address);
     if (!opened) m_services.log.line("Cannot open " + address + ": " + opened.error().message);
 }
 
-void AppController::websiteButtonClick() { launchURL(links::website); }
-void AppController::helpButtonClick() { launchURL(links::help); }
-void AppController::contactButtonClick() { launchURL(links::contact); }
-
-void AppController::setIdleHandler(std::function<void()> handler) { m_idleHandler = std::move(handler); }
-
-void AppController::reportIdle() {
-    if (m_idleHandler) m_idleHandler();
+void AppController::alertCantAccessDidEnd(int returnCode) {
+    if (returnCode == alertSecondButtonReturn) launchURL(links::cantAccessITunes);
 }
 
-ReaderServices AppController::readerServices() {
-    return {m_center,           m_services.scripts, m_services.files, m_services.preferences,
-            m_services.sleeper, m_services.log};
+// Searching.
+
+void AppController::startButtonClick() {
+    if (!isDeleting()) m_search.startButtonClick();
 }
 
-// Progress display.
-
-void AppController::showProgressWindow(ProgressBar bar) {
-    m_progressTimer.start();
-    m_shownBar = bar;
-    m_view.setProgressValue(0);
-    m_view.beginProgress(bar);
-    if (bar != ProgressBar::formprogress) return;
-    m_view.setSearchEnabled(false);
-    m_view.setProgressInfo("Searching...");
-}
-
-void AppController::updateProgress() { m_view.setProgressValue(m_progress.percent()); }
-
-void AppController::closeProgressWindow(ProgressBar bar) {
-    // A cancel that comes after the worker's last look at it closes the display twice.
-    if (m_shownBar != bar) return;
-    m_shownBar.reset();
-    m_progressTimer.stop();
-    m_view.endProgress(bar);
-    if (bar == ProgressBar::formprogress) m_view.setSearchEnabled(true);
+void AppController::paramOkButtonClick(SearchParameters choices) {
+    if (!isDeleting()) m_search.paramOkButtonClick(std::move(choices));
 }
 
 void AppController::cancelformButtonClick() {
     m_userCancelled = true;
-    m_searching = false;
-    m_queue.cancelAllOperations();
-    closeProgressWindow(ProgressBar::formprogress);
+    m_search.cancelformButtonClick();
+}
+
+bool AppController::resetForLibrary() {
+    if (!isIdle()) return false;
+    m_search.forgetLibrary();
+    m_results.forget();
+    return true;
+}
+
+// The results table and its marks.
+
+void AppController::setObjectValue(bool value, Column column, int row) {
+    if (isIdle()) m_marks.setObjectValue(value, column, row);
+}
+
+void AppController::didClickTableColumn(Column column) {
+    if (isIdle()) m_results.didClickTableColumn(column);
+}
+
+const TrackRecord* AppController::selectedRecord() const {
+    // The view shows the rows of its last reload, and a deletion that was cancelled may still cut the list.
+    return isDeletingRows() ? nullptr : m_results.selectedRecord();
+}
+
+void AppController::tableviewDoubleClick() {
+    if (const TrackRecord* const record = selectedRecord()) m_trackActions.play(*record);
+}
+
+void AppController::showinFinderMenuClick() {
+    if (const TrackRecord* const record = selectedRecord()) m_trackActions.showInFileManager(*record);
+}
+
+void AppController::markButtonClick() {
+    if (isIdle()) m_marks.markButtonClick();
+}
+
+void AppController::markOkButtonClick(const MarkChoice& choice) {
+    if (isIdle()) m_marks.markOkButtonClick(choice);
+}
+
+void AppController::markNone() {
+    if (isIdle()) m_marks.markNone();
+}
+
+void AppController::markMenuClick(std::int32_t tag) {
+    if (isIdle()) m_marks.markMenuClick(tag);
+}
+
+// Deleting.
+
+void AppController::deleteButtonClick() {
+    if (isIdle()) m_deletion.deleteButtonClick();
+}
+
+void AppController::deleteMarkedMenuClick() {
+    if (isIdle()) setStatusLabel();
+    if (isIdle() && m_results.isDeleteEnabled()) {
+        deleteButtonClick();
+    } else {
+        m_view.beep();
+    }
+}
+
+void AppController::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
+    m_deletion.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
 }
 
 void AppController::cancelButtonClick() {
     m_userCancelled = true;
-    m_queue.cancelAllOperations();
-    if (m_deletion == Deletion::starting) abandonDeletion();
-    closeProgressWindow(ProgressBar::progress);
+    m_deletion.cancelButtonClick();
+}
+
+// The worker events: the program's main loop is the chain of these reactions.
+
+/// One row of the dispatch; an event's place in the table is its number, so that a million of them find their
+/// row at once.
+struct AppController::Reaction {
+    enum class Log { silent, line };
+
+    EventName name;
+    Log log;
+    void (*react)(AppController& controller, const WorkerEvent& event);
+};
+
+void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
+    using A = AppController;
+    using E = WorkerEvent;
+    using N = EventName;
+    constexpr auto silent = Reaction::Log::silent;
+    constexpr auto line = Reaction::Log::line;
+    static constexpr auto reactions = std::to_array<Reaction>({
+        {N::addFinish, line, [](A& a, const E&) { a.m_search.onAddFinish(); }},
+        {N::xmlDoneParsing, line, [](A& a, const E&) { a.m_search.onXmlDoneParsing(); }},
+        {N::xmlErrorParsing, line, [](A& a, const E&) { a.m_search.onXmlError(); }},
+        {N::xmlErrorProcessing, line, [](A& a, const E&) { a.m_search.onXmlError(); }},
+        {N::xmlerrornotfound, line, [](A& a, const E&) { a.m_search.onXmlErrorNotFound(); }},
+        {N::xmlModifiedDate, line, [](A& a, const E& e) { take(e, a.m_search, &Search::onXmlModifiedDate); }},
+        {N::buildFinish, line, [](A& a, const E&) { a.m_search.onBuildFinish(); }},
+        {N::addCancel, line, [](A& a, const E&) { a.m_search.onAddCancel(); }},
+        {N::step1, silent, [](A& a, const E& e) { take(e, a.m_search, &Search::onStep1); }},
+        {N::progressx, silent,
+         [](A& a, const E& e) { take(e, a.m_progress, &ProgressDisplay::onProgressx); }},
+        {N::step2, silent, [](A& a, const E& e) { take(e, a.m_results, &Results::append); }},
+        {N::progress, silent, [](A& a, const E&) { a.m_progress.count(1); }},
+        {N::deleteAddCount, silent, [](A& a, const E&) { a.m_progress.count(1); }},
+        {N::deleteValidity, silent, [](A& a, const E&) { a.m_results.validity(); }},
+        {N::deleteFinish, silent, [](A& a, const E& e) { a.m_deletion.onDeleteFinish(e); }},
+        {N::deleteCancel, silent, [](A& a, const E& e) { a.m_deletion.onDeleteCancel(e); }},
+        {N::tableviewSpacebar, silent,
+         [](A& a, const E&) {
+             if (a.isIdle()) a.m_marks.toggleSelectedRows();
+         }},
+        {N::readError, silent, [](A& a, const E& e) { take(e, a.m_search, &Search::onReadError); }},
+        {N::surveyDone, silent, [](A& a, const E& e) { a.m_deletion.onSurveyDone(e); }},
+    });
+    static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
+    if (m_search.isStale(event)) return;
+    const Reaction& reaction = reactions.at(static_cast<std::size_t>(event.name));
+    if (reaction.log == line) m_services.log.line("Handler : " + std::string(text(event.name)));
+    reaction.react(*this, event);
 }
 
 } // namespace songsweep

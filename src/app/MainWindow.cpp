@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 
+#include "app/BringToFront.h"
 #include "app/Progress.h"
 #include "theme/Announcement.h"
 #include "ui/SWTableView.h"
@@ -47,6 +48,7 @@ void MainWindow::reloadTable(const DisplayedList& tableDataSource) {
         m_ui->tableview->selectionModel()->setCurrentIndex(m_model->index(0, static_cast<int>(Column::name)),
                                                            QItemSelectionModel::NoUpdate);
     updateSearchedLabel();
+    Q_EMIT tableReloaded();
 }
 
 void MainWindow::setTableVisible(bool visible) {
@@ -95,11 +97,13 @@ int MainWindow::selectedRow() const { return m_ui->tableview->selectedRow(); }
 void MainWindow::beginProgress() {
     m_progressVisible = true;
     showPage();
+    setSearchEnabled(false);
 }
 
 void MainWindow::endProgress() {
     m_progressVisible = false;
     showPage();
+    setSearchEnabled(true);
 }
 
 void MainWindow::setProgressValue(double percent) {
@@ -108,7 +112,7 @@ void MainWindow::setProgressValue(double percent) {
     m_ui->progressValueLabel->setText(QStringLiteral("%1 %").arg(value));
 }
 
-void MainWindow::setProgressInfo(const std::string& phase) {
+void MainWindow::setProgressText(const std::string& phase) {
     showLive(*m_ui->progressInfoLabel, QString::fromStdString(phase));
 }
 
@@ -160,9 +164,7 @@ void MainWindow::openAtFirstSize() {
 
 void MainWindow::present() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    bringToFront(*this);
 }
 
 } // namespace songsweep

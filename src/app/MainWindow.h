@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/LayoutLengths.h"
+#include "app/views/ProgressView.h"
+#include "app/views/ResultsView.h"
 #include "library/DisplayedList.h"
 
 #include <QMainWindow>
@@ -27,10 +29,10 @@ class TrackTableModel;
 
 /// The main window: toolbar, menus, the content page (results, empty state, progress or blank) and the strip.
 ///
-/// Knows no controller. It shows what it is told and says by signals what the user asks for, each signal
-/// named after the action it asks for; who makes the window connects them. Toolbar and strip never change
-/// their size, so that the states differ in their content alone. Main thread.
-class MainWindow : public QMainWindow {
+/// Knows no controller. It is the view of the results and of a search's progress, and says by signals what
+/// the user asks for, each signal named after the action it asks for; who makes the window connects them.
+/// Toolbar and strip never change their size, so that the states differ in their content alone. Main thread.
+class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     Q_OBJECT
   public:
     explicit MainWindow(Log& log, QWidget* parent = nullptr);
@@ -46,32 +48,27 @@ class MainWindow : public QMainWindow {
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
 
-    // The results table.
-    /// Shows the list as it is now.
-    void reloadTable(const DisplayedList& tableDataSource);
-    void setTableVisible(bool visible);
-    void setPerformLabelVisible(bool visible);
-    void setHorizontalScroller(bool shown);
-    void setSortIndicator(Column column, bool ascending);
-    void clearSortIndicator();
-    std::vector<int> selectedRows() const;
-    int selectedRow() const;
+    // ResultsView
+    void reloadTable(const DisplayedList& tableDataSource) override;
+    void setTableVisible(bool visible) override;
+    void setPerformLabelVisible(bool visible) override;
+    void setHorizontalScroller(bool shown) override;
+    void setSortIndicator(Column column, bool ascending) override;
+    void clearSortIndicator() override;
+    std::vector<int> selectedRows() const override;
+    int selectedRow() const override;
+    void setStatusText(const std::string& text) override;
+    void setStatusVisible(bool visible) override;
+    void setSearchedText(const std::string& text) override;
+    void setMarkEnabled(bool enabled) override;
+    void setDeleteEnabled(bool enabled) override;
 
-    // The progress of a search.
-    void beginProgress();
-    void endProgress();
-    /// A percentage; what is none shows as 0.
-    void setProgressValue(double percent);
-    void setProgressInfo(const std::string& phase);
-
-    // The strip and the buttons.
-    void setStatusText(const std::string& text);
-    void setStatusVisible(bool visible);
-    /// What was searched; shown beside results.
-    void setSearchedText(const std::string& text);
-    void setSearchEnabled(bool enabled);
-    void setMarkEnabled(bool enabled);
-    void setDeleteEnabled(bool enabled);
+    // ProgressView, of a search: no other can begin meanwhile
+    void beginProgress() override;
+    void endProgress() override;
+    /// What is no percentage shows as 0.
+    void setProgressValue(double percent) override;
+    void setProgressText(const std::string& phase) override;
 
     /// Opens at 1280 by 760, or at the screen's free size where that is less.
     void openAtFirstSize();
@@ -97,6 +94,8 @@ class MainWindow : public QMainWindow {
     void tableviewDoubleClick();
     void didClickTableColumn(songsweep::Column column);
     void setObjectValue(bool value, songsweep::Column column, int row);
+    /// Marks or rows may be others now.
+    void tableReloaded();
     void closed();
     void quit();
 
@@ -119,6 +118,7 @@ class MainWindow : public QMainWindow {
     void validateMenuItems();
     void showPage();
     void updateSearchedLabel();
+    void setSearchEnabled(bool enabled);
     void chooseLibrary();
 
     std::unique_ptr<Ui::MainWindow> m_ui;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/ParametersDialog.h"
 
+#include "app/BringToFront.h"
 #include "theme/Announcement.h"
 #include "theme/ToolTips.h"
 #include "ui_ParametersDialog.h"
@@ -40,6 +41,8 @@ SearchParameters ParametersDialog::parameters() const {
     return parameters;
 }
 
+void ParametersDialog::showParamWindow() { bringToFront(*this); }
+void ParametersDialog::closeParamWindow() { hide(); }
 void ParametersDialog::clearPlaylists() { m_ui->paramLocationCB->clear(); }
 
 void ParametersDialog::addPlaylist(const std::string& name) {

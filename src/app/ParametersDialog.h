@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/views/SearchView.h"
 #include "library/SearchParameters.h"
 
 #include <QDialog>
@@ -18,7 +19,7 @@ class ParametersDialog;
 ///
 /// It gives SearchParameters and keeps its settings between openings; it stays open until it is told to
 /// close, so that whoever starts the search decides when. Main thread.
-class ParametersDialog : public QDialog {
+class ParametersDialog : public QDialog, public SearchView {
     Q_OBJECT
 
   public:
@@ -27,11 +28,14 @@ class ParametersDialog : public QDialog {
 
     SearchParameters parameters() const;
 
-    void clearPlaylists();
-    /// Adds a playlist's name (UTF-8) at the end; nothing gets selected by it.
-    void addPlaylist(const std::string& name);
-    /// Selects by position from 0; -1 for none.
-    void selectPlaylist(int index);
+    // SearchView
+    void showParamWindow() override;
+    void closeParamWindow() override;
+    void clearPlaylists() override;
+    /// At the end, in UTF-8; nothing gets selected by it.
+    void addPlaylist(const std::string& name) override;
+    /// By position from 0; -1 for none.
+    void selectPlaylist(int index) override;
 
   Q_SIGNALS:
     /// "Search" was pressed. Cancelling is `rejected`.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/AppController.h"
 #include "app/ChosenScripts.h"
+#include "app/ControllerServices.h"
 #include "app/OpenedLibrary.h"
 #include "hosts/EmbeddedScripting.h"
 #include "platform/Desktop.h"

@@ -22,11 +22,18 @@ ProgressSheet::ProgressSheet(QWidget* parent)
 
 ProgressSheet::~ProgressSheet() = default;
 
-void ProgressSheet::setTitle(const std::string& title) {
+void ProgressSheet::beginProgress() { open(); }
+
+void ProgressSheet::endProgress() {
+    hide();
+    Q_EMIT ended();
+}
+
+void ProgressSheet::setProgressText(const std::string& title) {
     m_ui->progressLabel->setText(QString::fromStdString(title));
 }
 
-void ProgressSheet::setValue(double percent) { m_ui->progress->setValue(wholePercent(percent)); }
+void ProgressSheet::setProgressValue(double percent) { m_ui->progress->setValue(wholePercent(percent)); }
 
 void ProgressSheet::showEvent(QShowEvent* event) {
     setFocus(); // so that no key but Escape cancels by accident

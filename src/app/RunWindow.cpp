@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/RunWindow.h"
 
+#include "app/AppController.h"
 #include "app/WindowActions.h"
-#include "app/WindowedView.h"
+#include "app/Windows.h"
 #include "platform/LogFile.h"
 #include "platform/SignalWatch.h"
 #include "theme/SongsweepStyle.h"
@@ -32,36 +33,37 @@ void keepNoSettingsFile() {
 }
 
 /// Until somebody quits; the workers have returned then.
-int runController(Program& program, WindowedView& view, const std::function<bool()>& redirectLog) {
-    AppController controller(program.controllerServices(), view);
-    const WindowActions actions(view, controller,
+int runController(Program& program, Windows& windows, const std::function<bool()>& redirectLog) {
+    AppController controller(program.controllerServices(), windows.views());
+    const WindowActions actions(windows, controller,
                                 [&program](const std::string& path) { return program.openLibrary(path); });
     controller.awakeFromNib(redirectLog);
-    view.mainWindow().openAtFirstSize();
-    view.showMainWindow();
+    windows.mainWindow().openAtFirstSize();
+    windows.showMainWindow();
     const int exitCode = QApplication::exec();
     controller.applicationShouldTerminate();
     return exitCode;
 }
 
 /// Writes what is left, and says so where that fails: the files of those tracks may be in the Trash already.
-void writeLibrary(Program& program, WindowedView& view) {
+void writeLibrary(Program& program, Windows& windows) {
     program.setWriteFailedHandler({});
     const Result<void> written = program.writeLibrary();
     if (written) return;
-    const QMessageBox* const alert = view.alertCantWrite(written.error().message + "\n" + libraryIsAsBefore);
+    const QMessageBox* const alert =
+        windows.alertCantWrite(written.error().message + "\n" + libraryIsAsBefore);
     QObject::connect(alert, &QMessageBox::finished, qApp, &QCoreApplication::quit);
     QApplication::exec();
 }
 
 int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& redirectLog) {
     Program program(std::move(options), log);
-    WindowedView view(log);
-    program.setWriteFailedHandler([&view](const std::string& reason) {
-        view.alertCantWrite(reason + "\n" + libraryIsAsBefore + " " + willTryAgain);
+    Windows windows(log);
+    program.setWriteFailedHandler([&windows](const std::string& reason) {
+        windows.alertCantWrite(reason + "\n" + libraryIsAsBefore + " " + willTryAgain);
     });
-    const int exitCode = runController(program, view, redirectLog);
-    writeLibrary(program, view);
+    const int exitCode = runController(program, windows, redirectLog);
+    writeLibrary(program, windows);
     return exitCode;
 }
 

@@ -2,8 +2,9 @@
 #include "app/WindowActions.h"
 
 #include "app/AppController.h"
-#include "app/WindowedView.h"
+#include "app/Windows.h"
 #include "dupes/MarkVerdicts.h"
+#include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
 
 #include <QApplication>
@@ -12,11 +13,10 @@
 
 namespace songsweep {
 
-WindowActions::WindowActions(WindowedView& view, AppController& controller, OpenLibrary openLibrary)
-    : m_view(view)
+WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary)
+    : m_windows(windows)
     , m_controller(controller)
     , m_openLibrary(std::move(openLibrary)) {
-    m_view.setTableDataSource(m_controller.tableDataSource());
     connectToolbarAndMenus();
     connectLinks();
     connectTable();
@@ -27,7 +27,7 @@ WindowActions::WindowActions(WindowedView& view, AppController& controller, Open
 }
 
 void WindowActions::connectToolbarAndMenus() {
-    MainWindow* window = &m_view.mainWindow();
+    MainWindow* window = &m_windows.mainWindow();
     AppController* controller = &m_controller;
     connect(window, &MainWindow::startButtonClick, this, [=] { controller->startButtonClick(); });
     connect(window, &MainWindow::markButtonClick, this, [=] { controller->markButtonClick(); });
@@ -44,8 +44,8 @@ void WindowActions::connectToolbarAndMenus() {
 }
 
 void WindowActions::connectLinks() {
-    MainWindow* window = &m_view.mainWindow();
-    AboutDialog* about = &m_view.aboutWindow();
+    MainWindow* window = &m_windows.mainWindow();
+    AboutDialog* about = &m_windows.aboutWindow();
     AppController* controller = &m_controller;
     connect(window, &MainWindow::aboutButtonClick, this, [=] { controller->aboutButtonClick(); });
     connect(window, &MainWindow::websiteButtonClick, this, [=] { controller->websiteButtonClick(); });
@@ -54,11 +54,11 @@ void WindowActions::connectLinks() {
     connect(about, &AboutDialog::websiteRequested, this, [=] { controller->websiteButtonClick(); });
     connect(about, &AboutDialog::helpRequested, this, [=] { controller->helpButtonClick(); });
     connect(about, &AboutDialog::contactRequested, this, [=] { controller->contactButtonClick(); });
-    m_view.setCantAccessHandler([=](int returnCode) { controller->alertCantAccessDidEnd(returnCode); });
+    m_windows.setCantAccessHandler([=](int returnCode) { controller->alertCantAccessDidEnd(returnCode); });
 }
 
 void WindowActions::connectTable() {
-    MainWindow* window = &m_view.mainWindow();
+    MainWindow* window = &m_windows.mainWindow();
     AppController* controller = &m_controller;
     connect(window, &MainWindow::tableviewSpacebar, this, [=] { controller->tableviewSpacebar(); });
     connect(window, &MainWindow::tableviewDoubleClick, this, [=] { controller->tableviewDoubleClick(); });
@@ -72,33 +72,33 @@ void WindowActions::connectTable() {
 /// Why the rule that marked last marked the row; empty for a mark that somebody set by hand.
 QString WindowActions::markReason(int row) const {
     const auto& choice = m_controller.lastMarkChoice();
-    const std::vector<TrackRecord*>& rows = m_view.mainWindow().tableModel().rows();
+    const std::vector<TrackRecord*>& rows = m_windows.mainWindow().tableModel().rows();
     const auto index = static_cast<std::size_t>(row);
     if (!choice || !rows.at(index)->checkbox) return {};
     return QString::fromStdString(MarkVerdicts(rows, *choice).of(index).reason);
 }
 
 void WindowActions::connectParametersDialog() {
-    ParametersDialog* dialog = &m_view.paramWindow();
+    ParametersDialog* dialog = &m_windows.paramWindow();
     connect(dialog, &ParametersDialog::searchRequested, this,
             [this](const SearchParameters& parameters) { m_controller.paramOkButtonClick(parameters); });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.paramCancelButtonClick(); });
 }
 
 void WindowActions::connectMarkDialog() {
-    MarkDialog* dialog = &m_view.markWindow();
+    MarkDialog* dialog = &m_windows.markWindow();
     connect(dialog, &MarkDialog::markRequested, this,
             [this, dialog] { m_controller.markOkButtonClick(dialog->choice()); });
     connect(dialog, &MarkDialog::choiceChanged, this, &WindowActions::updateMarkPreview);
     connect(dialog, &MarkDialog::folderRequested, this, [this] { m_controller.markFolderButtonClick(); });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.markCancelButtonClick(); });
     connect(dialog, &MarkDialog::opening, this, &WindowActions::updateMarkPreview);
-    m_view.setReloadHandler([this] { updateMarkPreview(); });
+    connect(&m_windows.mainWindow(), &MainWindow::tableReloaded, this, &WindowActions::updateMarkPreview);
 }
 
 /// A walk over all rows, which nobody waits for while the dialog is hidden.
 void WindowActions::updateMarkPreview() {
-    MarkDialog& dialog = m_view.markWindow();
+    MarkDialog& dialog = m_windows.markWindow();
     if (!dialog.isVisible()) return;
     if (m_controller.isDeletingRows()) return; // the table's reload at its end brings it up to date
     const std::vector<TrackRecord*>& rows = m_controller.tableDataSource().rows;
@@ -108,20 +108,24 @@ void WindowActions::updateMarkPreview() {
 }
 
 void WindowActions::connectDeletion() {
-    DeleteConfirmation* confirmation = &m_view.deleteConfirmation();
+    DeleteConfirmation* confirmation = &m_windows.deleteConfirmation();
     connect(confirmation, &DeleteConfirmation::deleteRequested, this,
             [this](bool deleteFiles, bool leaveSharedFiles) {
                 m_controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
             });
     connect(confirmation, &QDialog::rejected, this, [this] { m_controller.delConfCancelButtonClick(); });
-    connect(&m_view.progressWindow(), &QDialog::rejected, this, [this] { m_controller.cancelButtonClick(); });
+    ProgressSheet* progress = &m_windows.progressWindow();
+    connect(progress, &QDialog::rejected, this, [this] { m_controller.cancelButtonClick(); });
+    // Whoever deleted from the toolbar goes on in the table, at the nearest row that is left.
+    connect(progress, &ProgressSheet::ended, this,
+            [this] { m_windows.mainWindow().tableview().setFocus(Qt::OtherFocusReason); });
 }
 
 void WindowActions::connectApplication() {
-    MainWindow* window = &m_view.mainWindow();
+    MainWindow* window = &m_windows.mainWindow();
     connect(window, &MainWindow::quit, this, &WindowActions::quit);
-    m_view.deleteConfirmation().addAction(&window->quitMenuitem());
-    m_view.progressWindow().addAction(&window->quitMenuitem());
+    m_windows.deleteConfirmation().addAction(&window->quitMenuitem());
+    m_windows.progressWindow().addAction(&window->quitMenuitem());
     // Qt's own rule would quit with the last window on macOS, too, from where it can be reopened.
     QApplication::setQuitOnLastWindowClosed(false);
 #ifndef Q_OS_MACOS
@@ -138,12 +142,12 @@ void WindowActions::connectApplication() {
 
 void WindowActions::chooseLibrary(const QString& path) {
     if (!m_controller.isIdle()) {
-        m_view.beep();
+        m_windows.beep();
         return;
     }
     const OpenedLibrary opened = m_openLibrary(path.toStdString());
     if (opened.turned) m_controller.resetForLibrary();
-    if (!opened.problem.empty()) m_view.alertCantOpen(opened.problem);
+    if (!opened.problem.empty()) m_windows.alertCantOpen(opened.problem);
 }
 
 void WindowActions::quit() {

@@ -11,7 +11,7 @@
 namespace songsweep {
 
 class AppController;
-class WindowedView;
+class Windows;
 
 /// Connects what users do in the windows with the actions of the controller, for as long as it lives.
 ///
@@ -23,7 +23,7 @@ class WindowActions : public QObject {
     /// Turns the embedded library to another file.
     using OpenLibrary = std::function<OpenedLibrary(const std::string& path)>;
 
-    WindowActions(WindowedView& view, AppController& controller, OpenLibrary openLibrary);
+    WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary);
 
   private:
     void connectToolbarAndMenus();
@@ -38,7 +38,7 @@ class WindowActions : public QObject {
     QString markReason(int row) const;
     void quit();
 
-    WindowedView& m_view;
+    Windows& m_windows;
     AppController& m_controller;
     OpenLibrary m_openLibrary;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 
-#include "cli/LibrarySearch.h"
+#include "cli/LibrarySession.h"
 #include "dupes/MarkVerdicts.h"
 
 #include <cstdio>
@@ -23,17 +23,17 @@ MarkChoice choiceOf(const MarkOptions& options) {
 }
 
 ExitCode runFind(const FindOptions& options, const std::string& version) {
-    LibrarySearch search(options, version);
-    if (const auto problem = search.run()) return *problem;
-    return writeResult(options, search.report()).value_or(ExitCode::done);
+    LibrarySession session(options, version);
+    if (const auto problem = session.search()) return *problem;
+    return writeResult(options, session.report()).value_or(ExitCode::done);
 }
 
 ExitCode runMark(const MarkOptions& options, const std::string& version) {
-    LibrarySearch search(options, version);
-    if (const auto problem = search.run()) return *problem;
+    LibrarySession session(options, version);
+    if (const auto problem = session.search()) return *problem;
     const MarkChoice choice = choiceOf(options);
-    search.controller().markOkButtonClick(choice);
-    SearchReport report = search.report();
+    session.controller().markOkButtonClick(choice);
+    SearchReport report = session.report();
     MarkVerdicts verdicts(report.rows, choice);
     report.reason = [&](int row) { return verdicts.of(static_cast<std::size_t>(row)).reason; };
     return writeResult(options, report).value_or(ExitCode::done);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
-#include "cli/LibrarySearch.h"
+#include "cli/LibrarySession.h"
 #include "cli/OutcomeReport.h"
 #include "cli/Output.h"
 #include "delete/DeletePrediction.h"
@@ -24,12 +24,12 @@ std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& optio
     return std::nullopt;
 }
 
-ExitCode predict(LibrarySearch& search, const DeleteOptions& options, Output& output) {
-    const auto& rows = search.controller().tableDataSource().rows;
+ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& output) {
+    const auto& rows = session.controller().tableDataSource().rows;
     DeletePlan plan;
     if (options.files)
-        plan = makeDeletePlan(rows, search.program().files(),
-                              search.program().controllerServices().libraryLocations);
+        plan = makeDeletePlan(rows, session.program().files(),
+                              session.program().controllerServices().libraryLocations);
     if (options.sharedFiles) plan.giveUpSharedFiles();
     const DeleteReport report = predictedReport(rows, options.files, plan);
     return writeReportTo(output, options, report)
@@ -52,14 +52,14 @@ bool allAttempted(const DeleteReport& report) {
     });
 }
 
-ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options, Output& output) {
-    const bool completed = search.deleteMarked(options.files, !options.sharedFiles);
-    const Result<void> written = search.writeLibrary();
-    const DeleteReport report = reportOf(search.controller());
+ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output& output) {
+    const bool completed = session.deleteMarked(options.files, !options.sharedFiles);
+    const Result<void> written = session.writeLibrary();
+    const DeleteReport report = reportOf(session.controller());
     const auto problem = writeReportTo(output, options, report);
     if (!written) return fail(options.library + ": " + written.error().message);
     if (problem) return *problem;
-    if (search.deletionProblem()) return fail(*search.deletionProblem());
+    if (session.deletionProblem()) return fail(*session.deletionProblem());
     if (!completed && !allAttempted(report)) return ExitCode::interrupted;
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
 }
@@ -67,16 +67,16 @@ ExitCode carryOut(LibrarySearch& search, const DeleteOptions& options, Output& o
 } // namespace
 
 ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
-    LibrarySearch search(options, version);
-    if (const auto problem = search.run()) return *problem;
-    search.controller().markOkButtonClick(choiceOf(options));
-    const int lost = groupsLosingEveryCopy(search.controller().tableDataSource().rows);
+    LibrarySession session(options, version);
+    if (const auto problem = session.search()) return *problem;
+    session.controller().markOkButtonClick(choiceOf(options));
+    const int lost = groupsLosingEveryCopy(session.controller().tableDataSource().rows);
     if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
     // Opened first, so that nothing is deleted whose outcome cannot be told.
     Result<Output> output = Output::open(options.output);
     if (!output) return fail(output.error().message);
-    return options.dryRun ? predict(search, options, output.value())
-                          : carryOut(search, options, output.value());
+    return options.dryRun ? predict(session, options, output.value())
+                          : carryOut(session, options, output.value());
 }
 
 } // namespace songsweep::cli

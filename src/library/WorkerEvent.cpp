@@ -6,7 +6,7 @@
 namespace songsweep {
 
 std::string_view text(EventName name) {
-    static constexpr std::array<std::string_view, 19> texts = {
+    static constexpr std::array<std::string_view, eventCount> texts = {
         "addFinish",
         "xmlDoneParsing",
         "xmlErrorParsing",

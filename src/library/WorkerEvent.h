@@ -3,6 +3,7 @@
 
 #include "platform/Files.h"
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 #include <variant>
@@ -38,6 +39,8 @@ enum class EventName {
     readError,
     surveyDone,
 };
+
+inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::surveyDone) + 1;
 
 /// The event's text, as the log shows it ("addFinish").
 std::string_view text(EventName name);

@@ -67,6 +67,12 @@ TEST_F(AppControllerEventsTest, CountingEventsMoveTheBar) {
     EXPECT_TRUE(log.lines().size() == 1) << "counting events are not logged";
 }
 
+TEST_F(AppControllerEventsTest, AReadErrorIsToldAndNotLogged) {
+    post(EventName::readError, std::make_shared<ReadError>(ReadError{3, "no end"}));
+    EXPECT_THAT(view.calls, ElementsAre("tellReadError 3 no end"));
+    EXPECT_THAT(handlerLines(), ElementsAre());
+}
+
 TEST_F(AppControllerEventsTest, XmlDoneParsingBeginsTheCheckOfMissingTracks) {
     post(EventName::progressx, ProgressUnits{500});
     post(EventName::xmlDoneParsing);

@@ -133,7 +133,7 @@ TEST_F(ChainStressTest, QuittingAtRandomMomentsLeavesNoWorkerWaiting) {
                                 .log = log,
                                 .desktop = desktop,
                                 .version = "1.0"},
-                               shown);
+                               shown.views());
         quitting.awakeFromNib();
         quitting.paramOkButtonClick(choices);
         handleEventsForAWhile();

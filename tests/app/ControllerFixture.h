@@ -111,7 +111,7 @@ class ControllerFixture : public ::testing::Test {
                                             .unreachableReason = [] { return std::string("line 3: no end"); },
                                             .beginDeletionRun = [this] { return deletionMayBegin; },
                                         },
-                                        view);
+                                        view.views());
 };
 
 } // namespace songsweep::test

@@ -63,7 +63,7 @@ class DeletionTest : public ControllerFixture {
                 .desktop = desktop,
                 .version = "1.0",
                 .libraryLocations = [this](const LocationVisitor& visit) { return visitAll(visit); }},
-            view);
+            view.views());
         controller->awakeFromNib();
         addRows({1, 1, 2, 2});
         const std::array locations = {"/music/a.mp3", "/music/a2.mp3", "/music/gone.mp3", "/music/b2.mp3"};

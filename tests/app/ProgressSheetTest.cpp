@@ -22,8 +22,8 @@ class ProgressSheetTest : public test::ThemedTest {};
 
 TEST_F(ProgressSheetTest, ShowsItsTitleAndAPercentage) {
     ProgressSheet sheet;
-    sheet.setTitle("Deleting...");
-    sheet.setValue(61.6);
+    sheet.setProgressText("Deleting...");
+    sheet.setProgressValue(61.6);
     EXPECT_EQ(child<QLabel>(sheet, "progressLabel").text(), QStringLiteral("Deleting..."));
     EXPECT_EQ(child<QProgressBar>(sheet, "progress").value(), 61) << "100 is kept for the end";
 }
@@ -31,13 +31,13 @@ TEST_F(ProgressSheetTest, ShowsItsTitleAndAPercentage) {
 TEST_F(ProgressSheetTest, ShowsNothingDoneForNoNumberAndHoldsToTheBarsEnds) {
     ProgressSheet sheet;
     const auto& bar = child<QProgressBar>(sheet, "progress");
-    sheet.setValue(140);
+    sheet.setProgressValue(140);
     EXPECT_EQ(bar.value(), 100);
-    sheet.setValue(std::numeric_limits<double>::quiet_NaN());
+    sheet.setProgressValue(std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(bar.value(), 0);
-    sheet.setValue(std::numeric_limits<double>::infinity());
+    sheet.setProgressValue(std::numeric_limits<double>::infinity());
     EXPECT_EQ(bar.value(), 100);
-    sheet.setValue(-3);
+    sheet.setProgressValue(-3);
     EXPECT_EQ(bar.value(), 0);
 }
 

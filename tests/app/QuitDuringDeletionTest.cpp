@@ -66,11 +66,11 @@ class QuitDuringDeletion : public WindowsFixture {
         search();
         press("autoMarkButton");
         press("markMarkButton");
-        view.markWindow().close();
+        windows.markWindow().close();
         marked = checkedRows();
         press("deleteButton");
         press("delConfOkButton");
-        ASSERT_TRUE(runEventLoopUntil([this] { return view.progressWindow().isVisible(); }));
+        ASSERT_TRUE(runEventLoopUntil([this] { return windows.progressWindow().isVisible(); }));
         while (program->scripting().pendingDeletions() == 0)
             std::this_thread::yield();
     }

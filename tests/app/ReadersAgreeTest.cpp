@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Both readers over one library: the same groups with the same values, but for the differences named here.
+#include "app/AppController.h"
 #include "app/Program.h"
+#include "app/RecordingView.h"
 #include "library/Trim.h"
 #include "sample-library/BulkLibrary.h"
 #include "sample-library/DesktopLibrary.h"
@@ -25,7 +27,7 @@ using Groups = std::set<std::set<std::string>>;
 /// A finished search: its records by persistent ID, and its groups.
 struct Found {
     std::unique_ptr<Program> program;
-    std::unique_ptr<ControllerView> view = std::make_unique<ControllerView>();
+    std::unique_ptr<RecordingView> view = std::make_unique<RecordingView>();
     std::unique_ptr<AppController> controller;
     std::map<std::string, const TrackRecord*> records;
     Groups groups;
@@ -35,7 +37,8 @@ Found search(const std::string& library, const std::string& iTunesVersion, Log& 
     Found found;
     found.program = std::make_unique<Program>(
         ProgramOptions{.library = library, .map = {}, .iTunesVersion = iTunesVersion, .version = "1.0"}, log);
-    found.controller = std::make_unique<AppController>(found.program->controllerServices(), *found.view);
+    found.controller =
+        std::make_unique<AppController>(found.program->controllerServices(), found.view->views());
     found.controller->awakeFromNib();
     SearchParameters choices;
     choices.issamename = true;

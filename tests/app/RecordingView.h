@@ -1,8 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/ControllerView.h"
+#include "app/views/ApplicationView.h"
+#include "app/views/ControllerViews.h"
+#include "app/views/DeleteView.h"
+#include "app/views/MarkView.h"
+#include "app/views/ProgressView.h"
+#include "app/views/ResultsView.h"
+#include "app/views/SearchView.h"
 #include "delete/DeleteConfirmationFacts.h"
+#include "library/ReadError.h"
 
 #include <functional>
 #include <string>
@@ -10,12 +17,18 @@
 
 namespace songsweep::test {
 
-/// A view that keeps the calls that it gets, in their order, and shows nothing.
-class RecordingView final : public ControllerView {
+/// Keeps the calls that all views of a controller get, in their order, and shows nothing.
+class RecordingView final : public ApplicationView,
+                            public SearchView,
+                            public ResultsView,
+                            public MarkView,
+                            public DeleteView {
   public:
     std::vector<std::string> calls;
     std::vector<int> selection;
     std::function<void(const std::string&)> onCall; ///< told of each call
+
+    ControllerViews views() { return {*this, *this, *this, *this, *this, m_progress, m_formprogress}; }
 
     bool has(const std::string& call) const {
         return std::find(calls.begin(), calls.end(), call) != calls.end();
@@ -29,7 +42,7 @@ class RecordingView final : public ControllerView {
     void clearPlaylists() override { note("clearPlaylists"); }
     void addPlaylist(const std::string& name) override { note("addPlaylist " + name); }
     void selectPlaylist(int index) override { note("selectPlaylist " + std::to_string(index)); }
-    void reloadTable() override { note("reloadTable"); }
+    void reloadTable(const DisplayedList&) override { note("reloadTable"); }
     void setTableVisible(bool on) override { note("setTableVisible", on); }
     void setPerformLabelVisible(bool on) override { note("setPerformLabelVisible", on); }
     void setHorizontalScroller(bool on) override { note("setHorizontalScroller", on); }
@@ -39,18 +52,15 @@ class RecordingView final : public ControllerView {
     void clearSortIndicator() override { note("clearSortIndicator"); }
     std::vector<int> selectedRows() const override { return selection; }
     int selectedRow() const override { return selection.empty() ? -1 : selection.front(); }
-    void beginProgress(ProgressBar bar) override { note("beginProgress " + name(bar)); }
-    void endProgress(ProgressBar bar) override { note("endProgress " + name(bar)); }
-    void setProgressValue(double percent) override { progressValues.push_back(percent); }
-    void setProgressInfo(const std::string& phase) override { note("setProgressInfo " + phase); }
-    void setProgressTitle(const std::string& title) override { note("setProgressTitle " + title); }
     void setStatusText(const std::string& text) override { note("setStatusText " + text); }
     void setSearchedText(const std::string& text) override { note("setSearchedText " + text); }
     void setStatusVisible(bool on) override { note("setStatusVisible", on); }
-    void setSearchEnabled(bool on) override { note("setSearchEnabled", on); }
     void setMarkEnabled(bool on) override { note("setMarkEnabled", on); }
     void setDeleteEnabled(bool on) override { note("setDeleteEnabled", on); }
     void beep() override { note("beep"); }
+    void tellReadError(const ReadError& error) override {
+        note("tellReadError " + std::to_string(error.line) + " " + error.reason);
+    }
     void alertCantAccess(const std::string& message, const std::string& reason) override {
         note("alertCantAccess " + message + "|" + reason);
     }
@@ -75,18 +85,39 @@ class RecordingView final : public ControllerView {
     }
     void endDeleteConfirmation() override { note("endDeleteConfirmation"); }
 
-    std::vector<double> progressValues;
-    DeleteConfirmationFacts deleteFacts; ///< the last ones
+    DeleteConfirmationFacts deleteFacts;    ///< the last ones
+    std::vector<double> progressValues;     ///< of the bar in the sheet
+    std::vector<double> formprogressValues; ///< of the bar in the main window
 
   private:
-    static std::string name(ProgressBar bar) {
-        return bar == ProgressBar::progress ? "progress" : "formprogress";
-    }
+    class Bar final : public ProgressView {
+      public:
+        Bar(RecordingView& view, std::string name, std::string text, std::vector<double>& values)
+            : m_view(view)
+            , m_name(std::move(name))
+            , m_text(std::move(text))
+            , m_values(values) {}
+
+        void beginProgress() override { m_view.note("beginProgress " + m_name); }
+        void endProgress() override { m_view.note("endProgress " + m_name); }
+        void setProgressValue(double percent) override { m_values.push_back(percent); }
+        void setProgressText(const std::string& text) override { m_view.note(m_text + " " + text); }
+
+      private:
+        RecordingView& m_view;
+        std::string m_name;
+        std::string m_text;
+        std::vector<double>& m_values;
+    };
+
     void note(const std::string& call, bool on) { note(call + (on ? " on" : " off")); }
     void note(const std::string& call) {
         calls.push_back(call);
         if (onCall) onCall(call);
     }
+
+    Bar m_progress{*this, "progress", "setProgressTitle", progressValues};
+    Bar m_formprogress{*this, "formprogress", "setProgressInfo", formprogressValues};
 };
 
 } // namespace songsweep::test

@@ -47,7 +47,7 @@ class SearchAfterDeletionTest : public ControllerFixture {
                                .desktop = desktop,
                                .version = "1.0",
                                .beginDeletionRun = [this] { return m_scripts.beginDeletionRun(); }},
-            view);
+            view.views());
         controller->awakeFromNib();
         search();
     }

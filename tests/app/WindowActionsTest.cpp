@@ -37,9 +37,9 @@ std::vector<int> groupNumbers(const std::vector<TrackRecord*>& rows) {
 
 TEST_F(WindowActionsTest, ASearchFromTheDialogShowsTheGroups) {
     press("searchButton");
-    EXPECT_TRUE(view.paramWindow().isVisible());
+    EXPECT_TRUE(windows.paramWindow().isVisible());
     press("paramSearchButton");
-    EXPECT_FALSE(view.paramWindow().isVisible());
+    EXPECT_FALSE(windows.paramWindow().isVisible());
     EXPECT_EQ(page(), QStringLiteral("progressPage"));
     EXPECT_FALSE(button("searchButton").isEnabled());
     ASSERT_TRUE(runEventLoopUntil([this] { return page() == QStringLiteral("tableviewContainer"); }));
@@ -55,7 +55,7 @@ TEST_F(WindowActionsTest, ASearchFromTheDialogShowsTheGroups) {
 TEST_F(WindowActionsTest, CancelInTheDialogOnlyClosesIt) {
     press("searchButton");
     press("paramCancelButton");
-    EXPECT_FALSE(view.paramWindow().isVisible());
+    EXPECT_FALSE(windows.paramWindow().isVisible());
     EXPECT_EQ(page(), QStringLiteral("emptyPage"));
     EXPECT_FALSE(controller->isSearching());
 }
@@ -142,12 +142,12 @@ TEST_F(WindowActionsTest, AfterANewSearchTheIndicatorIsGoneAndAClickGoesOnFromTh
 TEST_F(WindowActionsTest, TheMarkDialogMarksAndStaysOpen) {
     search();
     press("autoMarkButton");
-    ASSERT_TRUE(view.markWindow().isVisible());
-    const int expected = markEffect(rows(), view.markWindow().choice()).marked;
+    ASSERT_TRUE(windows.markWindow().isVisible());
+    const int expected = markEffect(rows(), windows.markWindow().choice()).marked;
     const QString counts = QStringLiteral("%1 of %2").arg(expected).arg(rows().size());
     EXPECT_EQ(label("markLiveLabel"), QStringLiteral("Would mark ") + counts);
     press("markMarkButton");
-    EXPECT_TRUE(view.markWindow().isVisible());
+    EXPECT_TRUE(windows.markWindow().isVisible());
     EXPECT_EQ(checkedRows(), expected);
     EXPECT_EQ(label("markLiveLabel"), QStringLiteral("Marked ") + counts);
     EXPECT_EQ(label("statusBottomLabel"), counts + QStringLiteral(" marked"));
@@ -168,13 +168,13 @@ TEST_F(WindowActionsTest, TheMarkDialogKnowsTheMarksSetWhileItWasClosed) {
 
 TEST_F(WindowActionsTest, AFolderToMarkIsChosenInAChooser) {
     press("autoMarkButton");
-    view.markWindow().findChild<QAbstractButton*>(QStringLiteral("markFolderButton"))->click();
+    windows.markWindow().findChild<QAbstractButton*>(QStringLiteral("markFolderButton"))->click();
     EXPECT_EQ(log.lines().back(), "Select mark folder");
-    auto* chooser = view.markWindow().findChild<QFileDialog*>();
+    auto* chooser = windows.markWindow().findChild<QFileDialog*>();
     ASSERT_NE(chooser, nullptr);
     Q_EMIT chooser->fileSelected(QStringLiteral("/music/Old"));
     chooser->close();
-    EXPECT_EQ(view.markWindow().choice(), (MarkChoice{MarkType::folder, true, "/music/Old"}));
+    EXPECT_EQ(windows.markWindow().choice(), (MarkChoice{MarkType::folder, true, "/music/Old"}));
 }
 
 TEST_F(WindowActionsTest, AMarkByARuleSaysWhy) {
@@ -196,9 +196,9 @@ TEST_F(WindowActionsTest, TheConfirmationCanBeCancelled) {
     search();
     click(0, Column::checkbox);
     press("deleteButton");
-    ASSERT_TRUE(view.deleteConfirmation().isVisible());
+    ASSERT_TRUE(windows.deleteConfirmation().isVisible());
     press("delConfCancelButton");
-    EXPECT_FALSE(view.deleteConfirmation().isVisible());
+    EXPECT_FALSE(windows.deleteConfirmation().isVisible());
     EXPECT_FALSE(controller->isDeleting());
     EXPECT_EQ(checkedRows(), 1);
 }
@@ -219,7 +219,7 @@ TEST_F(WindowActionsTest, AfterACancelledDeletionTheFocusIsInTheTable) {
     button("deleteButton").setFocus();
     press("deleteButton");
     press("delConfOkButton");
-    ASSERT_TRUE(runEventLoopUntil([this] { return view.progressWindow().isVisible(); }));
+    ASSERT_TRUE(runEventLoopUntil([this] { return windows.progressWindow().isVisible(); }));
     press("progressCancelButton");
     EXPECT_EQ(window().focusWidget(), &window().tableview());
     ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isDeleting() && !controller->isWorking(); }));
@@ -237,7 +237,7 @@ TEST_F(WindowActionsTest, ADeletionTakesTracksOutOfLibraryAndTable) {
     ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isDeleting() && !controller->isWorking(); }));
     EXPECT_LT(rows().size(), before);
     EXPECT_EQ(window().tableModel().rows(), rows());
-    EXPECT_FALSE(view.progressWindow().isVisible());
+    EXPECT_FALSE(windows.progressWindow().isVisible());
     ASSERT_TRUE(program->scripting().flush());
     EXPECT_LT(folder.read("library.xml").size(), sizeBefore);
     std::map<int, int> members;
@@ -270,9 +270,9 @@ TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
 TEST_F(WindowActionsTest, AnotherLibraryClosesTheParametersDialogOfTheOld) {
     press("searchButton");
     Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
-    EXPECT_FALSE(view.paramWindow().isVisible());
+    EXPECT_FALSE(windows.paramWindow().isVisible());
     press("searchButton");
-    EXPECT_EQ(view.paramWindow().parameters().playlist, "Library");
+    EXPECT_EQ(windows.paramWindow().parameters().playlist, "Library");
 }
 
 TEST_F(WindowActionsTest, ALibraryThatCannotBeReadSaysSo) {
@@ -341,8 +341,8 @@ TEST_F(WindowActionsTest, QuittingDuringASearchEndsAtOnce) {
 
 TEST_F(WindowActionsTest, TheAboutBoxShowsNameAndVersion) {
     Q_EMIT window().aboutButtonClick();
-    EXPECT_TRUE(view.aboutWindow().isVisible());
-    const auto labels = view.aboutWindow().findChildren<QLabel*>();
+    EXPECT_TRUE(windows.aboutWindow().isVisible());
+    const auto labels = windows.aboutWindow().findChildren<QLabel*>();
     EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* each) {
         return each->text() == QStringLiteral("Songsweep 1.0");
     }));
@@ -351,11 +351,11 @@ TEST_F(WindowActionsTest, TheAboutBoxShowsNameAndVersion) {
 TEST_F(WindowActionsTest, DeleteMarkedFromTheMenuNeedsAMark) {
     search();
     Q_EMIT window().deleteMarkedMenuClick();
-    EXPECT_FALSE(view.deleteConfirmation().isVisible());
+    EXPECT_FALSE(windows.deleteConfirmation().isVisible());
     select(0, 0);
     QTest::keyClick(&window().tableview(), Qt::Key_Space);
     Q_EMIT window().deleteMarkedMenuClick();
-    EXPECT_TRUE(view.deleteConfirmation().isVisible()) << "the command refreshes the status first";
+    EXPECT_TRUE(windows.deleteConfirmation().isVisible()) << "the command refreshes the status first";
 }
 
 } // namespace songsweep::test

@@ -38,11 +38,11 @@ WindowsFixture::WindowsFixture()
 WindowsFixture::WindowsFixture(const std::string& libraryText)
     : library(folder.write("library.xml", libraryText))
     , program(std::make_unique<Program>(ProgramOptions{.library = library, .map = {}, .version = "1.0"}, log))
-    , controller(std::make_unique<AppController>(program->controllerServices(), view))
+    , controller(std::make_unique<AppController>(program->controllerServices(), windows.views()))
     , actions(std::make_unique<WindowActions>(
-          view, *controller, [this](const std::string& path) { return program->openLibrary(path); })) {
+          windows, *controller, [this](const std::string& path) { return program->openLibrary(path); })) {
     controller->awakeFromNib();
-    view.showMainWindow();
+    windows.showMainWindow();
     QApplication::setActiveWindow(&window());
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/AppController.h"
 #include "app/Program.h"
 #include "app/WindowActions.h"
-#include "app/WindowedView.h"
+#include "app/Windows.h"
 #include "support/RecordingLog.h"
 #include "support/TemporaryFolder.h"
 
@@ -25,7 +26,7 @@ class WindowsFixture : public ::testing::Test {
     explicit WindowsFixture(const std::string& libraryText);
     ~WindowsFixture() override;
 
-    MainWindow& window() { return view.mainWindow(); }
+    MainWindow& window() { return windows.mainWindow(); }
     std::vector<TrackRecord*> rows() const { return controller->tableDataSource().rows; }
 
     /// Opens the parameters dialog by the toolbar and presses its Search button.
@@ -50,7 +51,7 @@ class WindowsFixture : public ::testing::Test {
     std::string library;
     RecordingLog log;
     std::unique_ptr<Program> program;
-    WindowedView view{log};
+    Windows windows{log};
     std::unique_ptr<AppController> controller;
     std::unique_ptr<WindowActions> actions;
 

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/AppController.h"
 #include "app/Program.h"
+#include "cli/ConsoleView.h"
 #include "cli/InterruptWatch.h"
 #include "cli/Options.h"
 #include "cli/SearchReport.h"
-#include "cli/SearchRun.h"
 #include "platform/Log.h"
+
+#include <QEventLoop>
 
 #include <memory>
 #include <optional>
@@ -14,22 +17,23 @@
 
 namespace songsweep::cli {
 
-/// The search that `find`, `mark` and `delete` begin with: the program's parts, its controller, and the
-/// console as its view.
+/// What `find`, `mark` and `delete` do with one library: the program's parts, its controller with the console
+/// as its view, a search, and a deletion of what was marked.
 ///
-/// The real workers run on the real queue, with the real events.
-class LibrarySearch {
+/// The real workers run on the real queue, with the real events. Ctrl-C cancels what runs, at any time. Main
+/// thread, under a QCoreApplication.
+class LibrarySession {
   public:
-    LibrarySearch(const FindOptions& options, const std::string& version);
+    LibrarySession(const FindOptions& options, const std::string& version);
 
     /// Searches. The exit code of what went wrong, told on standard error; nothing on success.
-    std::optional<ExitCode> run();
+    std::optional<ExitCode> search();
 
     /// Deletes the tracks that are marked. False when it was interrupted. Write the library afterwards.
     bool deleteMarked(bool deleteFiles, bool leaveSharedFiles);
 
     /// Why the deletion did not begin; nothing where it did.
-    const std::optional<std::string>& deletionProblem() const { return m_run.deletionProblem(); }
+    const std::optional<std::string>& deletionProblem() const { return m_view.deletionProblem(); }
 
     /// Writes the library without the deleted tracks.
     Result<void> writeLibrary();
@@ -39,14 +43,20 @@ class LibrarySearch {
     SearchReport report();
 
   private:
-    void endDeletionAtOnce();
     std::optional<std::string> prepare();
     std::optional<std::string> choosePlaylist();
+    void runUntilIdle();
+    void waitForSurvey();
+    void interrupt();
+    void endDeletionAtOnce();
     std::string withPath(const std::string& message) const { return m_options.library + ": " + message; }
 
     FindOptions m_options;
     std::string m_version;
-    SearchRun m_run;
+    ConsoleView m_view;
+    QEventLoop m_loop;
+    bool m_interrupted = false;
+    bool m_waitsForSurvey = false;
     InterruptWatch m_interrupts;
     std::unique_ptr<Log> m_log = std::make_unique<SilentLog>();
     std::unique_ptr<Program> m_program;

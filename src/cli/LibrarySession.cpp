@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "cli/LibrarySearch.h"
+#include "cli/LibrarySession.h"
 
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
 #include "library/CaseFolding.h"
 #include "platform/LogFile.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <cstdio>
@@ -24,20 +26,42 @@ std::string listOf(const std::vector<PlaylistInfo>& playlists) {
 
 } // namespace
 
-LibrarySearch::LibrarySearch(const FindOptions& options, const std::string& version)
+LibrarySession::LibrarySession(const FindOptions& options, const std::string& version)
     : m_options(options)
     , m_version(version)
-    , m_interrupts([this] { m_run.interrupt(); }) {}
+    , m_view({.readFailed = [this] { m_controller->cancelformButtonClick(); },
+              .surveyed = [this] { m_loop.quit(); }})
+    , m_interrupts([this] { interrupt(); }) {}
 
-std::optional<ExitCode> LibrarySearch::run() {
+std::optional<ExitCode> LibrarySession::search() {
     if (const auto problem = prepare()) return fail(*problem);
-    const auto failure = m_run.run(*m_controller, m_options.parameters);
-    if (!failure) return std::nullopt;
-    if (failure->interrupted) return ExitCode::interrupted;
-    return fail(withPath(failure->message));
+    if (!m_interrupted) m_controller->paramOkButtonClick(m_options.parameters);
+    if (m_controller->isWorking()) runUntilIdle();
+    if (m_interrupted) return ExitCode::interrupted;
+    if (m_view.searchProblem()) return fail(withPath(*m_view.searchProblem()));
+    if (!m_view.hasResults()) return fail(withPath("the search ended without a result"));
+    return std::nullopt;
 }
 
-std::optional<std::string> LibrarySearch::prepare() {
+void LibrarySession::runUntilIdle() {
+    m_controller->setIdleHandler([this] { m_loop.quit(); });
+    m_loop.exec();
+    m_controller->setIdleHandler({});
+}
+
+void LibrarySession::interrupt() {
+    m_interrupted = true;
+    if (m_waitsForSurvey) {
+        m_loop.quit();
+    } else if (m_controller && m_controller->isDeleting()) {
+        m_controller->cancelButtonClick();
+        std::fputs("songsweep: stopping after the track in hand\n", stderr);
+    } else if (m_controller) {
+        m_controller->cancelformButtonClick();
+    }
+}
+
+std::optional<std::string> LibrarySession::prepare() {
     if (!m_options.log.empty()) {
         Result<std::unique_ptr<Log>> log = openLogFile(m_options.log);
         if (!log) return log.error().message;
@@ -48,13 +72,13 @@ std::optional<std::string> LibrarySearch::prepare() {
     if (const Result<void> read = m_program->scripting().readLibrary(); !read)
         return withPath(read.error().message);
     if (auto problem = choosePlaylist()) return problem;
-    m_controller = std::make_unique<AppController>(m_program->controllerServices(), m_run);
+    m_controller = std::make_unique<AppController>(m_program->controllerServices(), m_view.views());
     m_controller->awakeFromNib();
     return std::nullopt;
 }
 
 /// The library's own playlist unless one was named; a name is compared as the readers do.
-std::optional<std::string> LibrarySearch::choosePlaylist() {
+std::optional<std::string> LibrarySession::choosePlaylist() {
     const Result<int> count = m_program->scripting().trackCount();
     const Result<std::vector<PlaylistInfo>> playlists = m_program->scripting().playlists();
     if (!count) return withPath(count.error().message);
@@ -73,26 +97,42 @@ std::optional<std::string> LibrarySearch::choosePlaylist() {
     return withPath("there is no playlist '" + *chosen + "'" + listOf(playlists.value()));
 }
 
-bool LibrarySearch::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
+bool LibrarySession::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
     if (m_controller->getCheckedCount() == 0) return true;
     m_interrupts.setLastAct([this] { endDeletionAtOnce(); });
-    return m_run.runDeletion(*m_controller, deleteFiles, leaveSharedFiles);
+    m_controller->deleteButtonClick();
+    if (deleteFiles) waitForSurvey();
+    QCoreApplication::processEvents(); // Ctrl-C may have come while tracks were marked
+    if (m_interrupted) {
+        m_controller->delConfCancelButtonClick();
+    } else {
+        m_controller->delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+        runUntilIdle();
+    }
+    return !m_interrupted;
 }
 
-Result<void> LibrarySearch::writeLibrary() {
+/// The answer comes by the event loop, so that Ctrl-C is heard meanwhile.
+void LibrarySession::waitForSurvey() {
+    m_waitsForSurvey = true;
+    if (!m_interrupted) m_loop.exec();
+    m_waitsForSurvey = false;
+}
+
+Result<void> LibrarySession::writeLibrary() {
     Result<void> written = m_program->scripting().flush();
     m_interrupts.setLastAct({});
     return written;
 }
 
 /// The sound comes back, and no file is in the Trash whose track is still in the library. Any thread.
-void LibrarySearch::endDeletionAtOnce() {
+void LibrarySession::endDeletionAtOnce() {
     std::fputs("songsweep: ending without a report\n", stderr);
     const Result<void> written = m_program->scripting().runLast(deleteTexts::unmute);
     if (!written) fail(withPath(written.error().message));
 }
 
-SearchReport LibrarySearch::report() {
+SearchReport LibrarySession::report() {
     return {.tracks = m_trackCount,
             .listed = m_controller->listedCount(),
             .rows = m_controller->tableDataSource().rows};

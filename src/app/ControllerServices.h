@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "delete/DeletePlan.h"
+#include "platform/Result.h"
+
+#include <functional>
+#include <string>
+
+namespace songsweep {
+
+class AppleScript;
+class Desktop;
+class Files;
+class Log;
+class Preferences;
+class Sleeper;
+
+/// What the controller works with. Everything referred to outlives it.
+struct ControllerServices {
+    AppleScript& scripts;
+    Files& files;
+    Preferences& preferences;
+    Sleeper& sleeper;
+    Log& log;
+    Desktop& desktop;
+    std::string version; ///< "1.0"
+    /// Why the embedded library cannot be read, for the alert; empty where nothing is known.
+    std::function<std::string()> unreachableReason = [] { return std::string(); };
+    /// Every track of the whole library with its file, for finding files that two tracks share; called on a
+    /// worker thread.
+    LibraryLocations libraryLocations = {};
+    /// Told that a deletion is about to begin, so that it gets a backup of its own. An error where it must
+    /// not begin, as the library could not be written.
+    std::function<Result<void>()> beginDeletionRun = [] { return Result<void>(); };
+    /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
+    std::function<bool()> embeddedLibrary = [] { return true; };
+};
+
+} // namespace songsweep

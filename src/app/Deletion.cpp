@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "app/Deletion.h"
+
+#include "app/ControllerServices.h"
+#include "app/ProgressDisplay.h"
+#include "app/ReaderChoice.h"
+#include "app/Results.h"
+#include "app/views/ApplicationView.h"
+#include "app/views/ControllerViews.h"
+#include "app/views/DeleteView.h"
+#include "delete/DeleteProc.h"
+#include "delete/FileSurvey.h"
+#include "delete/TrackFacts.h"
+
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+constexpr int deleteDelayMilliseconds = 100;
+
+} // namespace
+
+Deletion::Deletion(const ControllerServices& services, const ControllerViews& views, Workers workers,
+                   Results& results, ReaderChoice& readers, ProgressDisplay& progress,
+                   std::function<void()> abandoned)
+    : m_services(services)
+    , m_applicationView(views.application)
+    , m_view(views.deletion)
+    , m_workers(workers)
+    , m_results(results)
+    , m_readers(readers)
+    , m_progress(progress)
+    , m_abandoned(std::move(abandoned))
+    , m_queries(services.scripts, services.log)
+    , m_surveys(workers.center, services.log) {
+    m_myTimer.setInterval(deleteDelayMilliseconds);
+    QObject::connect(&m_myTimer, &QTimer::timeout, &m_myTimer, [this] { beginDelete(); });
+}
+
+Deletion::~Deletion() = default;
+
+void Deletion::deleteButtonClick() {
+    m_phase = Phase::confirming;
+    DeleteConfirmationFacts facts = trackFacts(m_results.tableDataSource().rows);
+    facts.embeddedLibrary = m_services.embeddedLibrary();
+    facts.filesPending = facts.tracks > 0;
+    if (facts.filesPending) startSurvey(facts);
+    m_view.beginDeleteConfirmation(facts);
+}
+
+void Deletion::startSurvey(const DeleteConfirmationFacts& facts) {
+    const DisplayedList& list = m_results.tableDataSource();
+    auto survey = std::make_unique<FileSurvey>(SurveyedRows(list.rows, list.storage), facts, m_services.files,
+                                               m_services.libraryLocations, m_workers.center);
+    m_pendingSurvey = survey->serial();
+    m_surveys.add(std::move(survey));
+}
+
+void Deletion::onSurveyDone(const WorkerEvent& event) {
+    if (event.sender->serial() != m_pendingSurvey) return; // one that nobody waits for any more
+    m_pendingSurvey.reset();
+    SurveyAnswer& answer = *std::get<std::shared_ptr<SurveyAnswer>>(event.payload);
+    m_plan = std::move(answer.plan);
+    m_view.updateDeleteConfirmation(answer.facts);
+}
+
+void Deletion::forgetSurvey() {
+    m_pendingSurvey.reset();
+    m_surveys.cancelAllOperations();
+    m_plan = {};
+}
+
+void Deletion::delConfCancelButtonClick() {
+    m_view.endDeleteConfirmation();
+    if (m_phase != Phase::confirming) return;
+    m_phase = Phase::none;
+    forgetSurvey();
+}
+
+void Deletion::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
+    if (m_phase != Phase::confirming) return;
+    if (deleteFiles && m_pendingSurvey) return; // which files may go is not known yet
+    m_view.endDeleteConfirmation();
+    m_phase = Phase::starting;
+    m_deleteFiles = deleteFiles;
+    if (!deleteFiles) forgetSurvey();
+    if (!leaveSharedFiles) m_plan.giveUpSharedFiles();
+    m_queries.iTunesStop();
+    m_myTimer.start();
+}
+
+void Deletion::beginDelete() {
+    m_myTimer.stop();
+    // Before any file is in the Trash whose track would stay.
+    if (const Result<void> begun = m_services.beginDeletionRun(); !begun) {
+        m_applicationView.alertCantBeginDelete(begun.error().message);
+        abandon();
+        return;
+    }
+    startWorker();
+    m_progress.setText(ProgressBar::progress, "Deleting...");
+    m_progress.showProgressWindow(ProgressBar::progress);
+}
+
+void Deletion::startWorker() {
+    m_phase = Phase::running;
+    Progress& progress = m_progress.progress();
+    progress.total = m_results.getCheckedCount();
+    progress.beginPhase(0, 100);
+    if (progress.total > 0) m_readers.setDeletedSinceRead(true);
+    const DeleteServices services = {m_workers.center, m_services.scripts, m_services.files, m_services.log};
+    m_workers.queue.add(std::make_unique<DeleteProc>(m_results.tableDataSource(), m_deleteFiles, services,
+                                                     std::exchange(m_plan, {})));
+}
+
+void Deletion::cancelButtonClick() {
+    m_workers.queue.cancelAllOperations();
+    if (m_phase == Phase::starting) abandon();
+    m_progress.closeProgressWindow(ProgressBar::progress);
+}
+
+void Deletion::abandon() {
+    m_myTimer.stop();
+    m_phase = Phase::none;
+    m_plan = {};
+    QTimer::singleShot(0, &m_myTimer, m_abandoned);
+}
+
+void Deletion::stop() {
+    m_myTimer.stop();
+    m_surveys.cancelAllOperations();
+}
+
+void Deletion::onDeleteFinish(const WorkerEvent& event) {
+    end(event);
+    m_progress.closeProgressWindow(ProgressBar::progress);
+    m_results.showRowsLeft();
+}
+
+void Deletion::onDeleteCancel(const WorkerEvent& event) {
+    end(event);
+    m_results.showRowsLeft();
+}
+
+void Deletion::end(const WorkerEvent& event) {
+    m_phase = Phase::none;
+    if (const auto* report = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload)) m_report = *report;
+    m_results.validity();
+}
+
+} // namespace songsweep

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/Columns.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace songsweep {
+
+class Log;
+class MarkView;
+class Results;
+struct MarkChoice;
+struct TrackRecord;
+
+/// The verbs that set the check boxes of the results: by hand, by menu, by a rule of the mark dialog. Main
+/// thread, while no worker runs: the groups of a search are whole only at its end.
+class Marks {
+  public:
+    Marks(Results& results, MarkView& view, Log& log);
+
+    void markButtonClick();
+    void markOkButtonClick(const MarkChoice& choice);
+    void markCancelButtonClick();
+    void markFolderButtonClick();
+    void markNone();
+    /// 0 and 1 check and uncheck the selected rows, 2 and 3 all rows.
+    void markMenuClick(std::int32_t tag);
+    void setObjectValue(bool value, Column column, int row);
+    /// Checks the selected rows, or unchecks them where all are checked.
+    void toggleSelectedRows();
+
+  private:
+    void setMarks(const std::vector<TrackRecord*>& rows, bool value);
+
+    Results& m_results;
+    MarkView& m_view;
+    Log& m_log;
+    bool m_kindListFlag = true;
+};
+
+} // namespace songsweep

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "app/Results.h"
+
+#include "app/views/ResultsView.h"
+
+#include <utility>
+
+namespace songsweep {
+
+Results::Results(ResultsView& view)
+    : m_view(view) {}
+
+int Results::getCheckedCount() const { return checkedCount(m_tableDataSource.rows); }
+
+TrackRecord* Results::recordAt(int row) const {
+    const std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
+    return row >= 0 && static_cast<std::size_t>(row) < rows.size() ? rows[row] : nullptr;
+}
+
+TrackRecord* Results::selectedRecord() const { return recordAt(m_view.selectedRow()); }
+
+std::vector<TrackRecord*> Results::selectedRecords() const {
+    std::vector<TrackRecord*> records;
+    for (const int row : m_view.selectedRows())
+        if (TrackRecord* const record = recordAt(row)) records.push_back(record);
+    return records;
+}
+
+void Results::begin(std::shared_ptr<TrackStorage> storage) {
+    m_tableDataSource = {{}, std::move(storage)};
+    m_lastMark.reset();
+    reloadTable();
+    m_view.setHorizontalScroller(false);
+    m_horizontalScrollbarShowCount = 0;
+}
+
+void Results::hide() {
+    m_view.setTableVisible(false);
+    m_view.setPerformLabelVisible(false);
+}
+
+void Results::clearStatus() {
+    setStatusLabel();
+    m_view.setStatusText("");
+    m_view.setSearchedText("");
+}
+
+void Results::showFound(const std::string& searched) {
+    realignShowID();
+    m_view.setTableVisible(true);
+    reloadTable();
+    setStatusLabel();
+    m_view.setPerformLabelVisible(false);
+    if (std::exchange(m_horizontalScrollbarShowCount, 1) == 0) m_view.setHorizontalScroller(true);
+    m_view.setSearchedText(m_tableDataSource.rows.empty() ? std::string() : searched);
+}
+
+void Results::showEmptyState() {
+    realignShowID();
+    reloadTable();
+    setStatusLabel();
+    m_view.setTableVisible(false);
+    m_view.setPerformLabelVisible(true);
+}
+
+void Results::forget() {
+    m_tableDataSource = {};
+    m_lastMark.reset();
+    m_view.setSearchedText("");
+    showEmptyState();
+}
+
+void Results::didClickTableColumn(Column column) {
+    if (m_sortColumn != column) clearSortIndicator();
+    m_sortAscending = m_sortColumn != column || !m_sortAscending;
+    m_sortColumn = column;
+    m_sortIndicatorShown = true;
+    m_view.setSortIndicator(column, m_sortAscending);
+    m_lastMark.reset();
+    sortInsideGroups(m_tableDataSource.rows, column, m_sortAscending);
+    reloadTable();
+}
+
+void Results::clearSortIndicator() {
+    if (std::exchange(m_sortIndicatorShown, false)) m_view.clearSortIndicator();
+}
+
+void Results::realignShowID() { songsweep::realignShowID(m_tableDataSource.rows); }
+
+void Results::validity() {
+    if (m_tableDataSource.rows.empty()) return;
+    m_lastMark.reset();
+    removeBrokenGroups(m_tableDataSource.rows);
+    realignShowID();
+    reloadTable();
+}
+
+void Results::showRowsLeft() {
+    // Pruning leaves an empty list alone, but the view still shows the rows that were there.
+    if (m_tableDataSource.rows.empty()) reloadTable();
+    setStatusLabel();
+}
+
+void Results::reloadTable() { m_view.reloadTable(m_tableDataSource); }
+
+void Results::setStatusLabel() {
+    const int checked = getCheckedCount();
+    const int count = static_cast<int>(m_tableDataSource.rows.size());
+    m_deleteEnabled = checked >= 1;
+    m_view.setDeleteEnabled(m_deleteEnabled);
+    if (!m_deleteEnabled) {
+        m_view.setStatusVisible(count != 0);
+        m_view.setMarkEnabled(count != 0);
+    }
+    if (count != 0) m_view.setStatusText(statusText(checked, count));
+}
+
+} // namespace songsweep

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "dupes/MarkChoice.h"
+#include "library/DisplayedList.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace songsweep {
+
+class ResultsView;
+
+/// The displayed list with all that is told of it: its order, its marks' rule, its page, its status line.
+///
+/// The one owner of `tableDataSource`, so that whatever changes rows, order or marks also forgets the rule
+/// that no longer explains them. A deletion's worker changes the rows themselves while it runs; nobody else
+/// may look at them then. Main thread.
+class Results {
+  public:
+    explicit Results(ResultsView& view);
+
+    DisplayedList& tableDataSource() { return m_tableDataSource; }
+    const DisplayedList& tableDataSource() const { return m_tableDataSource; }
+    /// The rule that set the present marks, for their reasons; nothing once a mark or the order has changed,
+    /// since the rule might keep another copy now.
+    const std::optional<MarkChoice>& lastMarkChoice() const { return m_lastMark; }
+    int getCheckedCount() const;
+    /// Whether the delete button is on, as the last status said.
+    bool isDeleteEnabled() const { return m_deleteEnabled; }
+    /// Null for a row that is not, or no longer, there.
+    TrackRecord* recordAt(int row) const;
+    TrackRecord* selectedRecord() const;
+    std::vector<TrackRecord*> selectedRecords() const;
+
+    /// Begins a list whose records live in the storage.
+    void begin(std::shared_ptr<TrackStorage> storage);
+    void append(TrackRecord* record) { m_tableDataSource.rows.push_back(record); }
+    /// Neither table nor empty state: a search runs.
+    void hide();
+    void clearStatus();
+    /// The search has ended; `searched` tells in words what was looked for.
+    void showFound(const std::string& searched);
+    void showEmptyState();
+    /// Forgets everything, for another library.
+    void forget();
+
+    void didClickTableColumn(Column column);
+    void clearSortIndicator();
+    void realignShowID();
+    /// Removes the groups that a deletion left with fewer than two rows.
+    void validity();
+    /// Shows what a deletion left.
+    void showRowsLeft();
+    /// Marks were set by a rule, or by hand. The status follows where the caller wants it to.
+    void setMarkedBy(std::optional<MarkChoice> rule) { m_lastMark = std::move(rule); }
+    void reloadTable();
+    void setStatusLabel();
+
+  private:
+    ResultsView& m_view;
+    DisplayedList m_tableDataSource;
+    std::optional<MarkChoice> m_lastMark;
+    std::optional<Column> m_sortColumn;
+    bool m_sortAscending = false;
+    bool m_sortIndicatorShown = false;
+    bool m_deleteEnabled = false;
+    int m_horizontalScrollbarShowCount = 0;
+};
+
+} // namespace songsweep

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "app/Search.h"
+
+#include "app/ControllerServices.h"
+#include "app/ProgressDisplay.h"
+#include "app/Results.h"
+#include "app/SearchSummary.h"
+#include "app/views/ApplicationView.h"
+#include "app/views/ControllerViews.h"
+#include "app/views/SearchView.h"
+#include "dupes/BuildResultProc.h"
+#include "platform/Log.h"
+
+#include <exception>
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+constexpr const char* cantAccessMessage = "Can't access iTunes. If there is a dialog window (eg. update "
+                                          "notification, song info, preferences) showing "
+                                          "on iTunes, please close it first.";
+
+/// What a text that is not there reads as where a text is built from it.
+const std::string missingText = "(null)";
+
+} // namespace
+
+Search::Search(const ControllerServices& services, const ControllerViews& views, Workers workers,
+               Results& results, ProgressDisplay& progress)
+    : m_services(services)
+    , m_applicationView(views.application)
+    , m_view(views.search)
+    , m_workers(workers)
+    , m_results(results)
+    , m_progress(progress)
+    , m_queries(services.scripts, services.log)
+    , m_readers({workers.center, services.scripts, services.files, services.preferences, services.sleeper,
+                 services.log}) {}
+
+bool Search::isStale(const WorkerEvent& event) const {
+    return event.sender && event.sender->serial() < m_serial && event.sender->isCancelled();
+}
+
+void Search::startButtonClick() {
+    if (m_searching) return;
+    populatePlaylist();
+    m_view.showParamWindow();
+}
+
+void Search::populatePlaylist() {
+    if (m_playlistCount > 0) return;
+    std::vector<std::string> names;
+    if (const auto music = m_queries.getMusicPlaylistName()) names.push_back(*music);
+    try {
+        for (std::string& name : m_queries.userPlaylistNames())
+            names.push_back(std::move(name));
+    } catch (const std::exception& exception) {
+        // The list then holds the library's playlist alone.
+        m_services.log.line(std::string("Playlists could not be read: ") + exception.what());
+    }
+    for (const std::string& name : names)
+        m_view.addPlaylist(name);
+    m_playlistCount = static_cast<int>(names.size());
+    if (m_playlistCount > 0) m_view.selectPlaylist(0);
+}
+
+void Search::closeParamWindow() { m_view.closeParamWindow(); }
+
+void Search::paramOkButtonClick(SearchParameters choices) {
+    if (m_searching) return;
+    m_results.clearSortIndicator();
+    m_params = std::move(choices);
+    const std::string playlist = m_params.playlist.value_or(missingText);
+    m_services.log.line("Location: " + playlist);
+    closeParamWindow();
+    m_progress.progress().prc = 0;
+    const std::int32_t index = m_queries.getMusicLibraryInt(playlist);
+    const std::int32_t trackCount = m_queries.getTracksCount();
+    m_progress.progress().total = trackCount;
+    if (trackCount < 0) {
+        m_applicationView.alertCantAccess(cantAccessMessage, m_services.unreachableReason());
+        return;
+    }
+    begin(index > 0 ? index : 1, trackCount);
+    showSearching();
+}
+
+void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
+    m_readers.choose(m_queries.majorVersion(), playlistIndex, trackCount);
+    m_list1 = std::make_shared<TrackList>();
+    m_listedCount = 0;
+    m_results.begin(m_list1->storage);
+    m_progress.setValue(0);
+    m_progress.progress().progressBase = 0;
+    m_progress.progress().progressSpan = m_readers.useLibraryXML() ? 50 : 90;
+    std::unique_ptr<Operation> reader = m_readers.reader(m_list1, m_params);
+    m_serial = reader->serial();
+    m_searching = true;
+    m_workers.queue.add(std::move(reader));
+}
+
+void Search::showSearching() {
+    m_results.hide();
+    m_progress.setText(ProgressBar::progress, "Searching...");
+    m_results.clearStatus();
+    m_progress.showProgressWindow(ProgressBar::formprogress);
+    m_progress.setText(ProgressBar::formprogress, "Searching...");
+}
+
+void Search::cancelformButtonClick() {
+    m_searching = false;
+    m_workers.queue.cancelAllOperations();
+    m_progress.closeProgressWindow(ProgressBar::formprogress);
+}
+
+void Search::xmlStartClick() { m_workers.queue.add(m_readers.bareReader()); }
+
+void Search::forgetLibrary() {
+    closeParamWindow(); // its list of playlists is filled when it opens
+    m_list1 = std::make_shared<TrackList>();
+    m_playlistCount = 0;
+    m_readers.setDeletedSinceRead(false);
+    m_view.clearPlaylists();
+}
+
+// What workers say.
+
+void Search::onAddFinish() {
+    m_progress.setText(ProgressBar::formprogress, "Processing...");
+    m_listedCount = static_cast<int>(m_list1->records.size());
+    if (m_readers.useLibraryXML()) {
+        m_progress.progress().beginPhase(70, 30);
+    } else {
+        m_progress.progress().beginPhase(90, 10);
+    }
+    m_workers.queue.add(std::make_unique<BuildResultProc>(m_list1, m_params, m_workers.center));
+}
+
+void Search::onXmlDoneParsing() {
+    m_progress.progress().beginPhase(50, 20);
+    m_readers.setDeletedSinceRead(false);
+    m_progress.setText(ProgressBar::formprogress, "Checking missing tracks...");
+}
+
+void Search::onXmlError() {
+    m_progress.progress().beginPhase(50, 40);
+    startAddProc();
+}
+
+void Search::onXmlErrorNotFound() {
+    m_progress.progress().prc = 0;
+    startAddProc();
+}
+
+void Search::startAddProc() { m_workers.queue.add(m_readers.addProc(m_list1, m_params)); }
+
+void Search::onXmlModifiedDate(const FileAttributes& libraryFile) {
+    m_readers.setLibraryModifiedDate(libraryFile.modificationNanoseconds);
+}
+
+void Search::onReadError(const std::shared_ptr<ReadError>& error) { m_view.tellReadError(*error); }
+
+void Search::onBuildFinish() {
+    m_searching = false;
+    m_progress.closeProgressWindow(ProgressBar::formprogress);
+    m_results.showFound(searchSummary(m_params));
+    if (m_results.tableDataSource().rows.empty()) m_applicationView.alertNoDuplicates();
+}
+
+void Search::onAddCancel() {
+    m_searching = false;
+    m_results.showEmptyState();
+}
+
+void Search::onStep1(TrackRecord* record) {
+    m_progress.count(1);
+    m_list1->records.push_back(record);
+}
+
+} // namespace songsweep

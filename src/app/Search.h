@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/ITunesQueries.h"
+#include "app/ReaderChoice.h"
+#include "app/Workers.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace songsweep {
+
+class ApplicationView;
+class ProgressDisplay;
+class Results;
+class SearchView;
+struct ControllerServices;
+struct ControllerViews;
+struct ReadError;
+
+/// A search from the parameters dialog to the results: a reader, perhaps another one, the grouping.
+///
+/// Each finishing event starts the next worker. The parameters and the track list are those of the present
+/// search; what a worker of an earlier one still has to say is stale. Main thread.
+class Search {
+  public:
+    Search(const ControllerServices& services, const ControllerViews& views, Workers workers,
+           Results& results, ProgressDisplay& progress);
+
+    bool isRunning() const { return m_searching; }
+    /// Records left for the grouping when the last reading ended.
+    int listedCount() const { return m_listedCount; }
+    /// Whether the sender was cancelled before the present search began: its end is no news of this search.
+    bool isStale(const WorkerEvent& event) const;
+    ReaderChoice& readers() { return m_readers; }
+
+    // What users do.
+    void startButtonClick();
+    void populatePlaylist();
+    void paramOkButtonClick(SearchParameters choices);
+    void closeParamWindow();
+    void cancelformButtonClick();
+    void xmlStartClick();
+    /// Forgets lists and playlists, for another library.
+    void forgetLibrary();
+
+    // What workers say.
+    void onAddFinish();
+    void onXmlDoneParsing();
+    void onXmlError();
+    void onXmlErrorNotFound();
+    void onXmlModifiedDate(const FileAttributes& libraryFile);
+    void onReadError(const std::shared_ptr<ReadError>& error);
+    void onBuildFinish();
+    void onAddCancel();
+    void onStep1(TrackRecord* record);
+
+  private:
+    void begin(std::int32_t playlistIndex, std::int32_t trackCount);
+    void startAddProc();
+    void showSearching();
+
+    const ControllerServices& m_services;
+    ApplicationView& m_applicationView;
+    SearchView& m_view;
+    Workers m_workers;
+    Results& m_results;
+    ProgressDisplay& m_progress;
+    ITunesQueries m_queries;
+    ReaderChoice m_readers;
+
+    SearchParameters m_params;
+    std::shared_ptr<TrackList> m_list1 = std::make_shared<TrackList>();
+    std::uint64_t m_serial = 0; ///< of the present search's first worker
+    bool m_searching = false;
+    int m_listedCount = 0;
+    int m_playlistCount = 0;
+};
+
+} // namespace songsweep

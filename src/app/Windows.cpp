@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "app/Windows.h"
+
+#include "app/Alerts.h"
+#include "app/BringToFront.h"
+
+#include <QApplication>
+
+namespace songsweep {
+
+Windows::Windows(Log& log)
+    : m_mainWindow(log)
+    , m_paramWindow(&m_mainWindow)
+    , m_markWindow(&m_mainWindow)
+    , m_deleteConfirmation(&m_mainWindow)
+    , m_progressWindow(&m_mainWindow)
+    , m_aboutWindow(&m_mainWindow) {}
+
+Windows::~Windows() = default;
+
+ControllerViews Windows::views() {
+    return {.application = *this,
+            .search = m_paramWindow,
+            .results = m_mainWindow,
+            .mark = m_markWindow,
+            .deletion = m_deleteConfirmation,
+            .progress = m_progressWindow,
+            .formprogress = m_mainWindow};
+}
+
+void Windows::showMainWindow() { m_mainWindow.present(); }
+void Windows::showAboutWindow() { bringToFront(m_aboutWindow); }
+void Windows::setAboutLabel(const std::string& text) { m_aboutWindow.setLabel(text); }
+void Windows::beep() { QApplication::beep(); }
+
+void Windows::alertCantAccess(const std::string& message, const std::string& reason) {
+    alerts::openCantAccess(&m_mainWindow, QString::fromStdString(message), QString::fromStdString(reason),
+                           m_cantAccessEnded);
+}
+
+void Windows::alertNoDuplicates() { alerts::openNoDuplicates(&m_mainWindow); }
+
+void Windows::alertCantOpen(const std::string& reason) {
+    alerts::openCantOpenLibrary(&m_mainWindow, QString::fromStdString(reason));
+}
+
+void Windows::alertCantBeginDelete(const std::string& reason) {
+    alertCantWrite(reason + "\nNothing was deleted.");
+}
+
+QMessageBox* Windows::alertCantWrite(const std::string& reason) {
+    return alerts::openCantWriteLibrary(m_mainWindow.isVisible() ? &m_mainWindow : nullptr,
+                                        QString::fromStdString(reason));
+}
+
+} // namespace songsweep

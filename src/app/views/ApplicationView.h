@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace songsweep {
+
+/// What the controller tells of the program as a whole: its windows, its alerts.
+///
+/// As with every view the calls come on the main thread and do nothing unless overridden, since nobody shows
+/// everything; and nothing here may run an event loop of its own: alerts are opened, not executed.
+class ApplicationView {
+  public:
+    ApplicationView() = default;
+    ApplicationView(const ApplicationView&) = delete;
+    ApplicationView& operator=(const ApplicationView&) = delete;
+    virtual ~ApplicationView() = default;
+
+    virtual void showMainWindow() {}
+    virtual void showAboutWindow() {}
+    virtual void setAboutLabel(const std::string& /*text*/) {}
+    virtual void beep() {}
+
+    /// "Can't access iTunes. ..." with "OK" and "Help"; `reason` is its informative text, or empty.
+    virtual void alertCantAccess(const std::string& /*message*/, const std::string& /*reason*/) {}
+    virtual void alertNoDuplicates() {}
+    /// That the library could not be written, so that nothing is deleted.
+    virtual void alertCantBeginDelete(const std::string& /*reason*/) {}
+};
+
+} // namespace songsweep

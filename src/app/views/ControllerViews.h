@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace songsweep {
+
+class ApplicationView;
+class DeleteView;
+class MarkView;
+class ProgressView;
+class ResultsView;
+class SearchView;
+
+/// All that a controller shows its state in; they outlive it.
+struct ControllerViews {
+    ApplicationView& application;
+    SearchView& search;
+    ResultsView& results;
+    MarkView& mark;
+    DeleteView& deletion;
+    ProgressView& progress;     ///< the bar of the sheet, while deleting
+    ProgressView& formprogress; ///< the bar of the main window, while searching
+};
+
+} // namespace songsweep

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "cli/ConsoleProgress.h"
+
+#include <unistd.h>
+
+#include <cmath>
+#include <cstdio>
+
+namespace songsweep::cli {
+
+ConsoleProgress::ConsoleProgress()
+    : m_terminal(::isatty(STDERR_FILENO) == 1) {}
+
+void ConsoleProgress::beginProgress() {
+    m_shown = m_terminal;
+    setProgressValue(m_percent);
+}
+
+void ConsoleProgress::endProgress() {
+    if (m_shown) std::fputs("\r\033[K", stderr);
+    m_shown = false;
+}
+
+void ConsoleProgress::setProgressValue(double percent) {
+    m_percent = percent;
+    if (m_shown)
+        std::fprintf(stderr, "\r\033[K%s %d %%", m_text.c_str(), static_cast<int>(std::lround(percent)));
+}
+
+void ConsoleProgress::setProgressText(const std::string& text) {
+    m_text = text;
+    setProgressValue(m_percent);
+}
+
+} // namespace songsweep::cli

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/views/ProgressView.h"
+
+#include <string>
+
+namespace songsweep::cli {
+
+/// A progress bar on the console: the phase and the percentage in one line of standard error, where that is a
+/// terminal. Main thread.
+class ConsoleProgress final : public ProgressView {
+  public:
+    ConsoleProgress();
+
+    void beginProgress() override;
+    void endProgress() override;
+    void setProgressValue(double percent) override;
+    void setProgressText(const std::string& text) override;
+
+  private:
+    std::string m_text;
+    double m_percent = 0;
+    bool m_terminal;
+    bool m_shown = false;
+};
+
+} // namespace songsweep::cli
