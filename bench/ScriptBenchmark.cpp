@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/FakeApplications.h"
 #include "scripting/interpreter/Interpreter.h"
-#include "scripting/interpreter/Lexer.h"
-#include "scripting/interpreter/Parser.h"
+#include "scripting/interpreter/Program.h"
 #include "support/SystemTexts.h"
 
 #include <benchmark/benchmark.h>
@@ -37,8 +36,7 @@ void parseText(benchmark::State& state, const std::string& text) {
     test::FakeWorld world;
     const interpreter::Applications applications(test::fakeApplications(world));
     for (auto round : state) {
-        auto tokens = interpreter::Lexer(text).tokens();
-        auto program = interpreter::Parser(std::move(tokens).value(), applications).program();
+        auto program = interpreter::parsedProgram(text, applications);
         if (!program) state.SkipWithError(program.error().message.c_str());
         benchmark::DoNotOptimize(program);
     }

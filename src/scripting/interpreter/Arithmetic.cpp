@@ -9,7 +9,7 @@
 namespace songsweep::interpreter {
 namespace {
 
-// Dates are reckoned with from the year 3 to the year 9983.
+// Sums of dates and seconds lie between the years 3 and 9983.
 constexpr std::int64_t firstDate = -60'000'000'000;
 constexpr std::int64_t lastDate = 255'000'000'000;
 
@@ -64,8 +64,8 @@ bool divides(Operation operation) {
            operation == Operation::remainder;
 }
 
-Result<Value> reckonedNumbers(Context& context, Position position, Operation operation, const Number& left,
-                              const Number& right) {
+Result<Value> evaluatedNumbers(Context& context, Position position, Operation operation, const Number& left,
+                               const Number& right) {
     if (divides(operation) && realOf(right) == 0) {
         return context.fail(position, ErrorNumber::divisionByZero, "a number cannot be divided by zero");
     }
@@ -89,7 +89,7 @@ std::optional<std::int64_t> seconds(const Value& value) {
 }
 
 /// date + seconds, date - seconds and date - date; nothing for anything else.
-std::optional<Value> reckonedDates(Operation operation, const Value& left, const Value& right) {
+std::optional<Value> evaluatedDates(Operation operation, const Value& left, const Value& right) {
     const bool bothDates = std::holds_alternative<Date>(left) && std::holds_alternative<Date>(right);
     if (operation != Operation::subtract && (operation != Operation::add || bothDates)) return {};
     if (operation == Operation::subtract && !std::holds_alternative<Date>(left)) return {};
@@ -103,21 +103,21 @@ std::optional<Value> reckonedDates(Operation operation, const Value& left, const
 
 } // namespace
 
-Result<Value> reckoned(Context& context, Position position, Operation operation, const Value& left,
-                       const Value& right) {
+Result<Value> evaluated(Context& context, Position position, Operation operation, const Value& left,
+                        const Value& right) {
     const bool hasDate = std::holds_alternative<Date>(left) || std::holds_alternative<Date>(right);
     if (hasDate) {
-        if (std::optional<Value> value = reckonedDates(operation, left, right)) return *value;
+        if (std::optional<Value> value = evaluatedDates(operation, left, right)) return *value;
     } else if (const auto leftNumber = numberOf(left), rightNumber = numberOf(right);
                leftNumber && rightNumber) {
-        return reckonedNumbers(context, position, operation, *leftNumber, *rightNumber);
+        return evaluatedNumbers(context, position, operation, *leftNumber, *rightNumber);
     }
     return context.fail(position, ErrorNumber::cannotCoerce,
                         "cannot reckon with " + kindName(left) + " and " + kindName(right));
 }
 
 Result<Value> negated(Context& context, Position position, const Value& value) {
-    return reckoned(context, position, Operation::subtract, Value(std::int64_t(0)), value);
+    return evaluated(context, position, Operation::subtract, Value(std::int64_t(0)), value);
 }
 
 } // namespace songsweep::interpreter

@@ -5,6 +5,7 @@
 #include "scripting/ValueTexts.h"
 #include "scripting/interpreter/Limits.h"
 #include "scripting/interpreter/TextFolding.h"
+#include "scripting/interpreter/Try.h"
 
 #include <array>
 #include <charconv>
@@ -119,15 +120,13 @@ Result<Value> coercedToBoolean(Context& context, Position position, const Value&
         number && (*number == 0 || *number == 1)) {
         return Value(*number == 1);
     }
-    const Result<bool> truth = truthOf(context, position, value);
-    if (!truth) return truth.error();
-    return Value(truth.value());
+    TRY(const bool truth, truthOf(context, position, value));
+    return Value(truth);
 }
 
 Result<Value> coercedToAlias(Context& context, Position position, const Value& value) {
-    const Result<std::string> path = posixPathOf(context, position, value);
-    if (!path) return path.error();
-    return Value(Alias{path.value()});
+    TRY(const std::string& path, posixPathOf(context, position, value));
+    return Value(Alias{path});
 }
 
 } // namespace
@@ -183,14 +182,12 @@ Result<std::string> posixPathOf(Context& context, Position position, const Value
 Result<Value> coerced(Context& context, Position position, const Value& value, Kind kind) {
     switch (kind) {
     case Kind::text: {
-        Result<std::string> text = textOf(context, position, value);
-        if (!text) return text.error();
-        return Value(std::move(text).value());
+        TRY(std::string text, textOf(context, position, value));
+        return Value(std::move(text));
     }
     case Kind::integer: {
-        const Result<std::int64_t> integer = integerOf(context, position, value);
-        if (!integer) return integer.error();
-        return Value(integer.value());
+        TRY(const std::int64_t integer, integerOf(context, position, value));
+        return Value(integer);
     }
     case Kind::real:
     case Kind::number:

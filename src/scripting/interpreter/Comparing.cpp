@@ -4,6 +4,7 @@
 #include "scripting/interpreter/Coercion.h"
 #include "scripting/interpreter/Limits.h"
 #include "scripting/interpreter/TextFolding.h"
+#include "scripting/interpreter/Try.h"
 
 #include <compare>
 
@@ -134,9 +135,8 @@ Result<bool> Comparer::holds(Comparison comparison, const Value& whole, const Va
 Result<bool> Comparer::holdsInText(Comparison comparison, const Value& whole, const Value& part) {
     if (!std::holds_alternative<std::string>(whole)) return cannotCompare(whole, part);
     if (!spendOn(whole, part)) return m_context.exhausted(m_position);
-    const Result<std::string> text = textOf(m_context, m_position, part);
-    if (!text) return text.error();
-    return textHolds(comparison, foldedText(std::get<std::string>(whole)), foldedText(text.value()));
+    TRY(const std::string& text, textOf(m_context, m_position, part));
+    return textHolds(comparison, foldedText(std::get<std::string>(whole)), foldedText(text));
 }
 
 Result<bool> Comparer::standsAt(const Items& whole, std::size_t offset, const Items& part) {
@@ -171,9 +171,8 @@ Result<bool> compared(Context& context, Position position, Comparison comparison
     case Comparison::equal:
         return comparer.areEqual(left, right);
     case Comparison::notEqual: {
-        Result<bool> same = comparer.areEqual(left, right);
-        if (!same) return same;
-        return !same.value();
+        TRY(const bool same, comparer.areEqual(left, right));
+        return !same;
     }
     case Comparison::contains:
     case Comparison::beginsWith:
@@ -184,9 +183,8 @@ Result<bool> compared(Context& context, Position position, Comparison comparison
     default:
         break;
     }
-    const Result<std::partial_ordering> order = comparer.order(left, right);
-    if (!order) return order.error();
-    return isOrdered(comparison, order.value());
+    TRY(const std::partial_ordering order, comparer.order(left, right));
+    return isOrdered(comparison, order);
 }
 
 } // namespace songsweep::interpreter

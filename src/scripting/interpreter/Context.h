@@ -2,9 +2,9 @@
 #pragma once
 
 #include "platform/Result.h"
-#include "scripting/interpreter/Applications.h"
 #include "scripting/interpreter/HostObject.h"
 #include "scripting/interpreter/Position.h"
+#include "scripting/interpreter/Services.h"
 #include "scripting/interpreter/Value.h"
 
 #include <cstddef>
@@ -30,8 +30,9 @@ enum class ErrorNumber : int {
 /// Made for one run on one thread. Every node of the tree evaluates itself against it.
 class Context {
   public:
-    Context(const Applications& applications, std::size_t variableCount)
-        : m_applications(applications)
+    /// The services must outlive it.
+    Context(const Services& services, std::size_t variableCount)
+        : m_services(services)
         , m_variables(variableCount) {}
     Context(const Context&) = delete;
     Context& operator=(const Context&) = delete;
@@ -50,8 +51,16 @@ class Context {
     Error fail(Position position, int number, std::string reason);
     /// The failure of an application, at a place of the text.
     Error fail(Position position, const Error& error);
+    /// What an application answered to something at a place of the text.
+    template <class Answer>
+    Result<Answer> located(Position position, Result<Answer> answer) {
+        if (!answer) return fail(position, answer.error());
+        return answer;
+    }
     Position errorPosition() const { return m_errorPosition; }
     int errorNumber() const { return m_errorNumber; }
+
+    const Services& services() const { return m_services; }
 
     // Variables, by the number that the parser gave them.
 
@@ -62,7 +71,6 @@ class Context {
 
     // The object being told.
 
-    const Applications& applications() const { return m_applications; }
     HostApplication* application() const { return m_application; }
     const ObjectPointer& target() const { return m_target; }
     bool isFiltering() const { return m_isFiltering; }
@@ -110,7 +118,7 @@ class Context {
   private:
     void track(const ListPointer& list, const Value& added);
 
-    const Applications& m_applications;
+    const Services& m_services;
     std::vector<std::optional<Value>> m_variables;
     std::optional<Value> m_result;
     ObjectPointer m_target;

@@ -3,13 +3,14 @@
 
 #include "scripting/SourceNotation.h"
 #include "scripting/interpreter/Limits.h"
+#include "scripting/interpreter/Try.h"
 
 namespace songsweep::interpreter {
 namespace {
 
 /// `track 1 of playlist 1 of application "iTunes"`.
 std::string notationOf(const Context& context, const HostObject& object) {
-    const Applications::Entry* const owner = context.applications().owning(object);
+    const Applications::Entry* const owner = context.services().applications.owning(object);
     if (!owner) return object.specifier();
     std::string application = "application " + quotedNotation(owner->name);
     if (&object == owner->application.get()) return application;
@@ -36,9 +37,8 @@ struct Maker {
         Descriptor::List items;
         items.reserve(list->items.size());
         for (const Value& item : list->items) {
-            Result<Descriptor> descriptor = made(context, item, depth + 1);
-            if (!descriptor) return descriptor;
-            items.push_back(std::move(descriptor).value());
+            TRY(Descriptor descriptor, made(context, item, depth + 1));
+            items.push_back(std::move(descriptor));
         }
         return Descriptor::list(std::move(items));
     }

@@ -2,39 +2,31 @@
 #include "scripting/interpreter/Interpreter.h"
 
 #include "scripting/interpreter/DescriptorMaker.h"
-#include "scripting/interpreter/Lexer.h"
-#include "scripting/interpreter/Parser.h"
+#include "scripting/interpreter/Program.h"
+#include "scripting/interpreter/Try.h"
 
 namespace songsweep::interpreter {
 namespace {
 
-Result<Program> parsed(std::string_view source, const Applications& applications) {
-    Result<std::vector<Token>> tokens = Lexer(source).tokens();
-    if (!tokens) return tokens.error();
-    return Parser(std::move(tokens).value(), applications).program();
-}
-
-Error located(const Context& context, Error error) {
-    error.message = locatedText(context.errorPosition(), error.message);
-    return error;
+Result<std::optional<Descriptor>> resultOf(Context& context, const Program& program) {
+    TRY([[maybe_unused]] const Flow flow, executeBlock(context, program.body));
+    if (!context.result()) return std::optional<Descriptor>();
+    TRY(Descriptor descriptor, descriptorOf(context, *context.result()));
+    return std::optional(std::move(descriptor));
 }
 
 } // namespace
 
 Interpreter::Interpreter(std::vector<NamedApplication> applications)
-    : m_applications(std::move(applications)) {}
+    : m_services{Applications(std::move(applications))} {}
 
 Result<std::optional<Descriptor>> Interpreter::run(std::string_view source) {
     const std::lock_guard lock(m_lock);
-    const Result<Program> program = parsed(source, m_applications);
-    if (!program) return program.error();
-    Context context(m_applications, program.value().variableCount);
-    const Result<Flow> flow = executeBlock(context, program.value().body);
-    if (!flow) return located(context, flow.error());
-    if (!context.result()) return std::optional<Descriptor>();
-    Result<Descriptor> descriptor = descriptorOf(context, *context.result());
-    if (!descriptor) return located(context, descriptor.error());
-    return std::optional(std::move(descriptor).value());
+    TRY(const Program& program, parsedProgram(source, m_services.applications));
+    Context context(m_services, program.variableCount);
+    Result<std::optional<Descriptor>> result = resultOf(context, program);
+    if (result) return result;
+    return Error{result.error().code, locatedText(context.errorPosition(), result.error().message)};
 }
 
 } // namespace songsweep::interpreter

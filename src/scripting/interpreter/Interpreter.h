@@ -3,7 +3,7 @@
 
 #include "platform/Result.h"
 #include "scripting/Descriptor.h"
-#include "scripting/interpreter/Applications.h"
+#include "scripting/interpreter/Services.h"
 
 #include <mutex>
 #include <optional>
@@ -30,7 +30,7 @@ class Interpreter {
     Result<std::optional<Descriptor>> run(std::string_view source);
 
   private:
-    const Applications m_applications;
+    const Services m_services;
     std::mutex m_lock;
 };
 

@@ -2,6 +2,7 @@
 #include "scripting/interpreter/Lexer.h"
 
 #include "scripting/interpreter/Limits.h"
+#include "scripting/interpreter/Try.h"
 
 #include <algorithm>
 #include <array>
@@ -98,9 +99,8 @@ Result<std::vector<Token>> Lexer::tokens() {
     tokens.reserve(m_source.size() / 4 + 1);
     do {
         if (Result<void> skipped = skipBlanks(); !skipped) return skipped.error();
-        Result<Token> token = nextToken();
-        if (!token) return token.error();
-        tokens.push_back(token.value());
+        TRY(const Token& token, nextToken());
+        tokens.push_back(token);
     } while (tokens.back().kind != Token::Kind::end);
     return tokens;
 }
@@ -112,9 +112,8 @@ Result<void> Lexer::skipBlanks() {
         } else if (rest().starts_with(noBreakSpace)) {
             skip(noBreakSpace.size());
         } else if (!skipContinuation()) {
-            const Result<bool> skipped = skipComment();
-            if (!skipped) return skipped.error();
-            if (!skipped.value()) break;
+            TRY(const bool skipped, skipComment());
+            if (!skipped) break;
         }
     }
     return {};

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "scripting/interpreter/ast/Statement.h"
+#include "scripting/interpreter/Applications.h"
+#include "scripting/interpreter/statements/Statement.h"
 
 #include <cstddef>
+#include <string_view>
 
 namespace songsweep::interpreter {
 
@@ -12,5 +14,9 @@ struct Program {
     Block body;
     std::size_t variableCount = 0;
 };
+
+/// Reads a text (UTF-8) by the grammar in docs/applescript.md. A construct that no rule fits is an error with
+/// its place and what was expected there. Linear in the length of the text; depth is bounded (Limits.h).
+Result<Program> parsedProgram(std::string_view source, const Applications& applications);
 
 } // namespace songsweep::interpreter

@@ -35,9 +35,7 @@ Vocabulary::Vocabulary(const Terminology& terminology)
         entryOf(term.name).property = &term;
     for (const ClassTerm& term : terminology.classes) {
         entryOf(term.singular).elementClass = &term;
-        Entry& plural = entryOf(term.plural);
-        plural.elementClass = &term;
-        plural.isPlural = true;
+        entryOf(term.plural).elementClass = &term;
     }
     for (const CommandTerm& term : terminology.commands)
         entryOf(term.name).command = &term;
@@ -51,7 +49,7 @@ Vocabulary::Entry& Vocabulary::entryOf(const std::string& name) {
     std::vector<std::string> words = splitWords(name);
     const auto entry = std::ranges::find(m_entries, words, &Entry::words);
     if (entry != m_entries.end()) return *entry;
-    m_entries.push_back({std::move(words), nullptr, nullptr, false, nullptr});
+    m_entries.push_back({std::move(words), nullptr, nullptr, nullptr});
     return m_entries.back();
 }
 

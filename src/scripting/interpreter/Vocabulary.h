@@ -21,7 +21,6 @@ class Vocabulary {
         std::vector<std::string> words;
         const PropertyTerm* property = nullptr;
         const ClassTerm* elementClass = nullptr;
-        bool isPlural = false; ///< the name is the plural of the class
         const CommandTerm* command = nullptr;
     };
 

@@ -3,6 +3,7 @@
 
 #include "scripting/interpreter/Coercion.h"
 #include "scripting/interpreter/Comparing.h"
+#include "scripting/interpreter/Try.h"
 #include "scripting/interpreter/ast/Operators.h"
 
 #include <limits>
@@ -52,38 +53,29 @@ Result<TermCode> Walk::code() const {
 }
 
 Result<std::int64_t> Walk::count() const {
-    const Result<TermCode> classCode = code();
-    if (!classCode) return classCode.error();
-    const Result<std::size_t> count = m_container.count(classCode.value());
-    if (!count) return m_context.fail(m_position, count.error());
-    return static_cast<std::int64_t>(count.value());
+    TRY(const TermCode classCode, code());
+    TRY(const std::size_t count, m_context.located(m_position, m_container.count(classCode)));
+    return static_cast<std::int64_t>(count);
 }
 
 Result<ObjectPointer> Walk::element(std::int64_t index) const {
-    const Result<TermCode> classCode = code();
-    if (!classCode) return classCode.error();
-    Result<ObjectPointer> element = m_container.element(classCode.value(), static_cast<std::size_t>(index));
-    if (!element) return m_context.fail(m_position, element.error());
-    return element;
+    TRY(const TermCode classCode, code());
+    return m_context.located(m_position, m_container.element(classCode, static_cast<std::size_t>(index)));
 }
 
 Result<std::optional<Objects>> Walk::candidates(const PropertyTest& test) const {
-    const Result<TermCode> classCode = code();
-    if (!classCode) return classCode.error();
-    Result<std::optional<Objects>> found = m_container.candidates(classCode.value(), test);
-    if (!found) return m_context.fail(m_position, found.error());
-    return found;
+    TRY(const TermCode classCode, code());
+    return m_context.located(m_position, m_container.candidates(classCode, test));
 }
 
 Result<std::optional<Objects>> Walk::filterCandidates() const {
     std::vector<const CompareExpression*> tests;
     m_filter->collectTests(tests);
     for (const CompareExpression* const test : tests) {
-        const Result<std::optional<PropertyTest>> plain =
-            test->propertyTest(m_context, m_container.terminology());
-        if (!plain) return plain.error();
-        if (!plain.value()) continue;
-        Result<std::optional<Objects>> found = candidates(*plain.value());
+        TRY(const std::optional<PropertyTest>& plain,
+            test->propertyTest(m_context, m_container.terminology()));
+        if (!plain) continue;
+        Result<std::optional<Objects>> found = candidates(*plain);
         if (!found || found.value()) return found;
     }
     return std::optional<Objects>();
@@ -92,47 +84,40 @@ Result<std::optional<Objects>> Walk::filterCandidates() const {
 Result<bool> Walk::matches(const ObjectPointer& element) const {
     Context::FilterScope scope(m_context);
     scope.look(element);
-    const Result<Value> verdict = m_filter->evaluate(m_context);
-    if (!verdict) return verdict.error();
+    TRY(const Value& verdict, m_filter->evaluate(m_context));
     // A test of a value that an element does not have says neither yes nor no.
-    if (std::holds_alternative<MissingValue>(verdict.value())) return false;
-    return truthOf(m_context, m_position, verdict.value());
+    if (std::holds_alternative<MissingValue>(verdict)) return false;
+    return truthOf(m_context, m_position, verdict);
 }
 
 Result<void> Walk::visitRange(std::int64_t first, std::int64_t last, const ElementVisitor& visit) const {
     for (std::int64_t index = first; index <= last; ++index) {
         if (!m_context.spend()) return m_context.exhausted(m_position);
-        const Result<ObjectPointer> current = element(index);
-        if (!current) return current.error();
-        const Result<bool> goesOn = visit(current.value());
-        if (!goesOn) return goesOn.error();
-        if (!goesOn.value()) break;
+        TRY(const ObjectPointer& current, element(index));
+        TRY(const bool goesOn, visit(current));
+        if (!goesOn) break;
     }
     return {};
 }
 
 Result<void> Walk::visitAll(const std::optional<Objects>& candidates, const ElementVisitor& visit) const {
     if (!candidates) {
-        const Result<std::int64_t> end = count();
-        if (!end) return end.error();
-        return visitRange(1, end.value(), visit);
+        TRY(const std::int64_t end, count());
+        return visitRange(1, end, visit);
     }
     for (const ObjectPointer& candidate : *candidates) {
         if (!m_context.spend()) return m_context.exhausted(m_position);
-        const Result<bool> goesOn = visit(candidate);
-        if (!goesOn) return goesOn.error();
-        if (!goesOn.value()) break;
+        TRY(const bool goesOn, visit(candidate));
+        if (!goesOn) break;
     }
     return {};
 }
 
 Result<void> Walk::visitMatches(const ElementVisitor& visit) const {
-    const Result<std::optional<Objects>> candidates = filterCandidates();
-    if (!candidates) return candidates.error();
-    return visitAll(candidates.value(), [&](const ObjectPointer& element) -> Result<bool> {
-        const Result<bool> matching = matches(element);
-        if (!matching) return matching.error();
-        return matching.value() ? visit(element) : true;
+    TRY(const std::optional<Objects>& candidates, filterCandidates());
+    return visitAll(candidates, [&](const ObjectPointer& element) -> Result<bool> {
+        TRY(const bool matching, matches(element));
+        return matching ? visit(element) : true;
     });
 }
 
@@ -160,11 +145,10 @@ Result<Objects> allOf(Context& context, Position position, const ElementSet& set
 /// `tracks 2 thru 5`: every element of the range has to be there.
 Result<void> forEachInRange(Context& context, Position position, const ElementSet& set,
                             const ElementVisitor& visit) {
-    const Result<std::int64_t> count = countOf(context, position, wholeOf(set));
-    if (!count) return count.error();
-    const std::int64_t first = fromBeginning(set.first, count.value());
-    const std::int64_t last = fromBeginning(set.last, count.value());
-    if (first < 1 || last > count.value() || first > last) {
+    TRY(const std::int64_t count, countOf(context, position, wholeOf(set)));
+    const std::int64_t first = fromBeginning(set.first, count);
+    const std::int64_t last = fromBeginning(set.last, count);
+    if (first < 1 || last > count || first > last) {
         return noSuchElement(context, position, set, "in all of that range");
     }
     if (!set.filter) return Walk(context, position, set).visitRange(first, last, visit);
@@ -172,9 +156,8 @@ Result<void> forEachInRange(Context& context, Position position, const ElementSe
     return forEachElement(context, position, wholeOf(set), [&](const ObjectPointer& element) -> Result<bool> {
         ++index;
         if (index < first) return true;
-        Result<bool> goesOn = visit(element);
-        if (!goesOn) return goesOn;
-        return goesOn.value() && index < last;
+        TRY(const bool goesOn, visit(element));
+        return goesOn && index < last;
     });
 }
 
@@ -215,18 +198,15 @@ Result<ObjectPointer> elementAt(Context& context, Position position, const Eleme
                                 std::int64_t index) {
     if (index > 0 && (set.filter || !set.isWhole())) return matchingElementAt(context, position, set, index);
     if (set.filter || !set.isWhole()) {
-        const Result<Objects> all = allOf(context, position, set);
-        if (!all) return all.error();
-        const std::int64_t place = fromBeginning(index, static_cast<std::int64_t>(all.value().size()));
+        TRY(const Objects& all, allOf(context, position, set));
+        const std::int64_t place = fromBeginning(index, static_cast<std::int64_t>(all.size()));
         if (place < 1) return noSuchElement(context, position, set, std::to_string(index));
-        return all.value()[static_cast<std::size_t>(place) - 1];
+        return all[static_cast<std::size_t>(place) - 1];
     }
     const Walk walk(context, position, set);
-    const Result<std::int64_t> count = walk.count();
-    if (!count) return count.error();
-    const std::int64_t place = fromBeginning(index, count.value());
-    if (place < 1 || place > count.value())
-        return noSuchElement(context, position, set, std::to_string(index));
+    TRY(const std::int64_t count, walk.count());
+    const std::int64_t place = fromBeginning(index, count);
+    if (place < 1 || place > count) return noSuchElement(context, position, set, std::to_string(index));
     return walk.element(place);
 }
 
@@ -235,29 +215,23 @@ Result<ObjectPointer> elementBy(Context& context, Position position, const Eleme
     const PropertyTerm* const term = set.container->terminology().property(propertyName);
     if (!term) return noSuchElement(context, position, set, "by " + std::string(propertyName));
     const Walk walk(context, position, set);
-    const Result<std::optional<Objects>> candidates = walk.candidates({term->code, Comparison::equal, value});
-    if (!candidates) return candidates.error();
+    TRY(const std::optional<Objects>& candidates, walk.candidates({term->code, Comparison::equal, value}));
     ObjectPointer found;
-    const Result<void> walked =
-        walk.visitAll(candidates.value(), [&](const ObjectPointer& element) -> Result<bool> {
-            const Result<Value> property = element->property(term->code);
-            if (!property) return context.fail(position, property.error());
-            Result<bool> same = compared(context, position, Comparison::equal, property.value(), value);
-            if (!same) return same;
-            if (same.value()) found = element;
-            return !same.value();
-        });
+    const Result<void> walked = walk.visitAll(candidates, [&](const ObjectPointer& element) -> Result<bool> {
+        TRY(const Value& property, context.located(position, element->property(term->code)));
+        TRY(const bool same, compared(context, position, Comparison::equal, property, value));
+        if (same) found = element;
+        return !same;
+    });
     if (!walked) return walked.error();
     if (found) return found;
-    const Result<std::string> text = textOf(context, position, value);
-    if (!text) return text.error();
-    return noSuchElement(context, position, set, "“" + text.value() + "”");
+    TRY(const std::string& text, textOf(context, position, value));
+    return noSuchElement(context, position, set, "“" + text + "”");
 }
 
 Result<Value> listOf(Context& context, Position position, const ElementSet& set) {
-    Result<Objects> objects = allOf(context, position, set);
-    if (!objects) return objects.error();
-    std::vector<Value> items(objects.value().begin(), objects.value().end());
+    TRY(const Objects& objects, allOf(context, position, set));
+    std::vector<Value> items(objects.begin(), objects.end());
     return context.makeList(position, std::move(items));
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/interpreter/ast/Expression.h"
 
+#include "scripting/interpreter/Try.h"
+
 #include <algorithm>
 
 namespace songsweep::interpreter {
@@ -20,9 +22,8 @@ Result<void> Expression::assign(Context& context, const Value&) const {
 }
 
 Result<Referent> Expression::computeReferent(Context& context) const {
-    Result<Value> value = compute(context);
-    if (!value) return value.error();
-    return Referent{std::move(value).value()};
+    TRY(Value value, compute(context));
+    return Referent{std::move(value)};
 }
 
 int depthAboveAll(const std::vector<ExpressionPointer>& children) {

@@ -2,6 +2,7 @@
 #include "scripting/interpreter/ast/Literals.h"
 
 #include "scripting/interpreter/Limits.h"
+#include "scripting/interpreter/Try.h"
 
 #include <algorithm>
 
@@ -25,9 +26,8 @@ Result<Value> ListExpression::compute(Context& context) const {
     std::vector<Value> items;
     items.reserve(m_items.size());
     for (const ExpressionPointer& item : m_items) {
-        Result<Value> value = item->evaluate(context);
-        if (!value) return value;
-        items.push_back(std::move(value).value());
+        TRY(Value value, item->evaluate(context));
+        items.push_back(std::move(value));
     }
     return context.makeList(position(), std::move(items));
 }

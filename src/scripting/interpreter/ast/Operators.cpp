@@ -4,6 +4,7 @@
 #include "scripting/interpreter/Comparing.h"
 #include "scripting/interpreter/Limits.h"
 #include "scripting/interpreter/TextFolding.h"
+#include "scripting/interpreter/Try.h"
 
 namespace songsweep::interpreter {
 namespace {
@@ -12,12 +13,10 @@ bool isMissing(const Value& value) { return std::holds_alternative<MissingValue>
 
 /// A truth value; in a filter the missing value too, which says neither yes nor no.
 Result<Value> verdictOf(Context& context, const Expression& expression) {
-    Result<Value> value = expression.evaluate(context);
-    if (!value) return value;
-    if (context.isFiltering() && isMissing(value.value())) return value;
-    const Result<bool> truth = truthOf(context, expression.position(), value.value());
-    if (!truth) return truth.error();
-    return Value(truth.value());
+    TRY(const Value& value, expression.evaluate(context));
+    if (context.isFiltering() && isMissing(value)) return value;
+    TRY(const bool truth, truthOf(context, expression.position(), value));
+    return Value(truth);
 }
 
 } // namespace
@@ -38,16 +37,13 @@ void LogicExpression::collectTests(std::vector<const CompareExpression*>& tests)
 }
 
 Result<Value> CompareExpression::compute(Context& context) const {
-    Result<Value> first = left().evaluate(context);
-    if (!first) return first;
-    Result<Value> second = right().evaluate(context);
-    if (!second) return second;
+    TRY(const Value& first, left().evaluate(context));
+    TRY(const Value& second, right().evaluate(context));
     // Only `is missing value` can be said of what an element does not have; other tests stay undecided.
-    const bool isUndecided = context.isFiltering() && isMissing(first.value()) && !isMissing(second.value());
+    const bool isUndecided = context.isFiltering() && isMissing(first) && !isMissing(second);
     if (isUndecided) return Value(MissingValue());
-    const Result<bool> holds = compared(context, position(), m_comparison, first.value(), second.value());
-    if (!holds) return holds.error();
-    return Value(holds.value() != m_isNegated);
+    TRY(const bool holds, compared(context, position(), m_comparison, first, second));
+    return Value(holds != m_isNegated);
 }
 
 Result<std::optional<PropertyTest>> CompareExpression::propertyTest(Context& context,
@@ -55,39 +51,33 @@ Result<std::optional<PropertyTest>> CompareExpression::propertyTest(Context& con
     if (m_isNegated || right().dependsOnTarget()) return std::optional<PropertyTest>();
     const std::optional<TermCode> property = left().ownProperty(words);
     if (!property) return std::optional<PropertyTest>();
-    Result<Value> operand = right().evaluate(context);
-    if (!operand) return operand.error();
-    return std::optional(PropertyTest{*property, m_comparison, std::move(operand).value()});
+    TRY(Value operand, right().evaluate(context));
+    return std::optional(PropertyTest{*property, m_comparison, std::move(operand)});
 }
 
 Result<Value> ArithmeticExpression::compute(Context& context) const {
-    Result<Value> first = left().evaluate(context);
-    if (!first) return first;
-    Result<Value> second = right().evaluate(context);
-    if (!second) return second;
-    return reckoned(context, position(), m_operation, first.value(), second.value());
+    TRY(const Value& first, left().evaluate(context));
+    TRY(const Value& second, right().evaluate(context));
+    return evaluated(context, position(), m_operation, first, second);
 }
 
 Result<Value> ConcatenateExpression::compute(Context& context) const {
-    Result<Value> first = left().evaluate(context);
-    if (!first) return first;
-    Result<Value> second = right().evaluate(context);
-    if (!second) return second;
-    if (const auto* const text = std::get_if<std::string>(&first.value())) {
-        return joinedTexts(context, *text, second.value());
+    TRY(const Value& first, left().evaluate(context));
+    TRY(const Value& second, right().evaluate(context));
+    if (const auto* const text = std::get_if<std::string>(&first)) {
+        return joinedTexts(context, *text, second);
     }
-    return joinedLists(context, first.value(), second.value());
+    return joinedLists(context, first, second);
 }
 
 Result<Value> ConcatenateExpression::joinedTexts(Context& context, const std::string& first,
                                                  const Value& second) const {
-    Result<std::string> text = textOf(context, position(), second);
-    if (!text) return text.error();
+    TRY(const std::string& text, textOf(context, position(), second));
     if (!context.spend(first.size() / textBytesOfOneStep)) return context.exhausted(position());
-    if (first.size() + text.value().size() > maximumTextBytes) {
+    if (first.size() + text.size() > maximumTextBytes) {
         return context.fail(position(), ErrorNumber::general, "the text is too long");
     }
-    return Value(first + text.value());
+    return Value(first + text);
 }
 
 Result<Value> ConcatenateExpression::joinedLists(Context& context, const Value& first,
@@ -110,30 +100,26 @@ Result<Value> NotExpression::compute(Context& context) const {
 }
 
 Result<Value> NegateExpression::compute(Context& context) const {
-    Result<Value> value = operand().evaluate(context);
-    if (!value) return value;
-    return negated(context, position(), value.value());
+    TRY(const Value& value, operand().evaluate(context));
+    return negated(context, position(), value);
 }
 
 Result<Value> CoerceExpression::compute(Context& context) const {
-    Result<Value> value = operand().evaluate(context);
-    if (!value) return value;
-    return coerced(context, position(), value.value(), m_kind);
+    TRY(const Value& value, operand().evaluate(context));
+    return coerced(context, position(), value, m_kind);
 }
 
 Result<Value> CountExpression::compute(Context& context) const {
-    const Result<Referent> referent = operand().resolve(context);
-    if (!referent) return referent.error();
-    if (referent.value().isGathered) {
+    TRY(const Referent& referent, operand().resolve(context));
+    if (referent.isGathered) {
         return context.fail(position(), ErrorNumber::notUnderstood,
                             "cannot count the elements of several objects");
     }
-    if (const auto* const set = std::get_if<ElementSet>(&referent.value().what)) {
-        const Result<std::int64_t> count = countOf(context, position(), *set);
-        if (!count) return count.error();
-        return Value(count.value());
+    if (const auto* const set = std::get_if<ElementSet>(&referent.what)) {
+        TRY(const std::int64_t count, countOf(context, position(), *set));
+        return Value(count);
     }
-    const Value& value = std::get<Value>(referent.value().what);
+    const Value& value = std::get<Value>(referent.what);
     if (const auto* const items = listItems(value)) return Value(static_cast<std::int64_t>(items->size()));
     if (const auto* const text = std::get_if<std::string>(&value)) {
         return Value(static_cast<std::int64_t>(characterCount(*text)));
@@ -150,23 +136,19 @@ Result<Value> ExistsExpression::compute(Context& context) const {
     }
     const auto* const set = std::get_if<ElementSet>(&referent.value().what);
     if (!set) return Value(!isMissing(std::get<Value>(referent.value().what)));
-    const Result<std::int64_t> count = countOf(context, position(), *set);
-    if (!count) return count.error();
-    return Value(count.value() > 0);
+    TRY(const std::int64_t count, countOf(context, position(), *set));
+    return Value(count > 0);
 }
 
 Result<Value> AliasExpression::compute(Context& context) const {
-    Result<Value> value = operand().evaluate(context);
-    if (!value) return value;
-    return coerced(context, position(), value.value(), Kind::alias);
+    TRY(const Value& value, operand().evaluate(context));
+    return coerced(context, position(), value, Kind::alias);
 }
 
 Result<Value> PosixFileExpression::compute(Context& context) const {
-    Result<Value> value = operand().evaluate(context);
-    if (!value) return value;
-    Result<std::string> path = textOf(context, position(), value.value());
-    if (!path) return path.error();
-    return Value(Alias{std::move(path).value()});
+    TRY(const Value& value, operand().evaluate(context));
+    TRY(std::string path, textOf(context, position(), value));
+    return Value(Alias{std::move(path)});
 }
 
 } // namespace songsweep::interpreter

@@ -2,17 +2,17 @@
 #include "scripting/interpreter/ast/References.h"
 
 #include "scripting/interpreter/Coercion.h"
+#include "scripting/interpreter/Try.h"
 #include "scripting/interpreter/ValueProperties.h"
 
 namespace songsweep::interpreter {
 
 Result<Value> Reference::compute(Context& context) const {
-    Result<Referent> referent = computeReferent(context);
-    if (!referent) return referent.error();
-    if (const auto* const set = std::get_if<ElementSet>(&referent.value().what)) {
+    TRY(Referent referent, computeReferent(context));
+    if (const auto* const set = std::get_if<ElementSet>(&referent.what)) {
         return listOf(context, position(), *set);
     }
-    return std::get<Value>(std::move(referent.value().what));
+    return std::get<Value>(std::move(referent.what));
 }
 
 Result<Referent> TargetReference::computeReferent(Context& context) const {
@@ -55,9 +55,8 @@ Result<Referent> ContainedReference::insideElements(Context& context, const Elem
                                                     const Inside& inside) const {
     std::vector<Value> values;
     const auto visit = [&](const ObjectPointer& element) -> Result<bool> {
-        Result<Value> value = insideOne(context, Value(element), inside);
-        if (!value) return value.error();
-        values.push_back(std::move(value).value());
+        TRY(Value value, insideOne(context, Value(element), inside));
+        values.push_back(std::move(value));
         return true;
     };
     const Result<void> walked = forEachElement(context, position(), elements, visit);
@@ -69,9 +68,8 @@ Result<Referent> ContainedReference::insideItems(Context& context, const std::ve
                                                  const Inside& inside) const {
     std::vector<Value> values;
     for (const Value& item : items) {
-        Result<Value> value = insideOne(context, item, inside);
-        if (!value) return value.error();
-        values.push_back(std::move(value).value());
+        TRY(Value value, insideOne(context, item, inside));
+        values.push_back(std::move(value));
     }
     return gathered(context, std::move(values));
 }
@@ -80,17 +78,15 @@ Result<Referent> ContainedReference::insideItems(Context& context, const std::ve
 Result<Value> ContainedReference::insideOne(Context& context, const Value& value,
                                             const Inside& inside) const {
     const auto* const several = listItems(value);
-    Result<Referent> result = several ? insideItems(context, *several, inside) : inside(value);
-    if (!result) return result.error();
-    const auto* const set = std::get_if<ElementSet>(&result.value().what);
+    TRY(Referent result, several ? insideItems(context, *several, inside) : inside(value));
+    const auto* const set = std::get_if<ElementSet>(&result.what);
     if (set) return listOf(context, position(), *set);
-    return std::get<Value>(std::move(result.value().what));
+    return std::get<Value>(std::move(result.what));
 }
 
 Result<Referent> ContainedReference::gathered(Context& context, std::vector<Value> values) const {
-    Result<Value> list = context.makeList(position(), std::move(values));
-    if (!list) return list.error();
-    return Referent{std::move(list).value(), true};
+    TRY(Value list, context.makeList(position(), std::move(values)));
+    return Referent{std::move(list), true};
 }
 
 std::optional<TermCode> PropertyReference::codeIn(const Terminology& words) const {
@@ -117,51 +113,37 @@ Result<Value> PropertyReference::propertyOf(Context& context, const Value& value
         if (std::optional<Result<Value>> part = valueProperty(context, position(), value, m_name))
             return *part;
     }
-    const Result<ObjectPointer> object = objectOf(context, value);
-    if (!object) return object.error();
-    const Result<TermCode> code = codeFor(context, *object.value());
-    if (!code) return code.error();
-    Result<Value> property = object.value()->property(code.value());
-    if (!property) return context.fail(position(), property.error());
-    return property;
+    TRY(const ObjectPointer& object, objectOf(context, value));
+    TRY(const TermCode code, codeFor(context, *object));
+    return context.located(position(), object->property(code));
 }
 
 Result<Referent> PropertyReference::computeReferent(Context& context) const {
-    Result<Referent> containers = resolveContainer(context);
-    if (!containers) return containers;
-    return insideEach(context, containers.value(), [&](const Value& value) -> Result<Referent> {
-        Result<Value> property = propertyOf(context, value);
-        if (!property) return property.error();
-        return Referent{std::move(property).value()};
+    TRY(const Referent& containers, resolveContainer(context));
+    return insideEach(context, containers, [&](const Value& value) -> Result<Referent> {
+        TRY(Value property, propertyOf(context, value));
+        return Referent{std::move(property)};
     });
 }
 
 Result<void> PropertyReference::assign(Context& context, const Value& value) const {
-    const Result<Referent> containers = resolveContainer(context);
-    if (!containers) return containers.error();
+    TRY(const Referent& containers, resolveContainer(context));
     const Result<Referent> done =
-        insideEach(context, containers.value(), [&](const Value& container) -> Result<Referent> {
-            const Result<ObjectPointer> object = objectOf(context, container);
-            if (!object) return object.error();
-            const Result<TermCode> code = codeFor(context, *object.value());
-            if (!code) return code.error();
-            const Result<void> set = object.value()->setProperty(code.value(), value);
-            if (!set) return context.fail(position(), set.error());
-            return Referent{Value(MissingValue())};
+        insideEach(context, containers, [&](const Value& container) -> Result<Referent> {
+            TRY(const ObjectPointer& object, objectOf(context, container));
+            TRY(const TermCode code, codeFor(context, *object));
+            const Result<void> set = context.located(position(), object->setProperty(code, value));
+            return set ? Result<Referent>(Referent()) : set.error();
         });
     return done ? Result<void>() : done.error();
 }
 
 Result<Referent> PosixPathReference::computeReferent(Context& context) const {
-    Result<Referent> containers = resolveContainer(context);
-    if (!containers) return containers;
-    const auto* const set = std::get_if<ElementSet>(&containers.value().what);
-    const Result<Value> value =
-        set ? listOf(context, position(), *set) : std::get<Value>(containers.value().what);
-    if (!value) return value.error();
-    Result<std::string> path = posixPathOf(context, position(), value.value());
-    if (!path) return path.error();
-    return Referent{Value(std::move(path).value())};
+    TRY(const Referent& containers, resolveContainer(context));
+    const auto* const set = std::get_if<ElementSet>(&containers.what);
+    TRY(const Value& value, set ? listOf(context, position(), *set) : std::get<Value>(containers.what));
+    TRY(std::string path, posixPathOf(context, position(), value));
+    return Referent{Value(std::move(path))};
 }
 
 } // namespace songsweep::interpreter

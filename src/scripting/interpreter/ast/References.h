@@ -169,6 +169,7 @@ class ItemReference final : public ContainedReference {
         std::size_t end;   ///< the one after the last
     };
     Result<Range> rangeIn(Context& context, std::int64_t count) const;
+    Result<Value> selectedFrom(Context& context, const Value& value) const;
     Result<Value> selectedItems(Context& context, const std::vector<Value>& items) const;
     Result<Value> selectedCharacters(Context& context, const std::string& text) const;
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "scripting/interpreter/ast/Statements.h"
+#include "scripting/interpreter/ast/CommandCall.h"
+
+#include "scripting/interpreter/Try.h"
 
 namespace songsweep::interpreter {
 
@@ -12,9 +14,8 @@ int CommandCall::depth() const {
 
 Result<std::optional<Value>> CommandCall::directParameter(Context& context) const {
     if (m_direct) {
-        Result<Value> value = m_direct->evaluate(context);
-        if (!value) return value.error();
-        return std::optional(std::move(value).value());
+        TRY(Value value, m_direct->evaluate(context));
+        return std::optional(std::move(value));
     }
     if (context.target().get() == context.application()) return std::optional<Value>();
     return std::optional<Value>(context.target());
@@ -28,33 +29,21 @@ Result<std::optional<Value>> CommandCall::perform(Context& context) const {
     }
     Command command;
     command.code = m_term.code;
-    Result<std::optional<Value>> direct = directParameter(context);
-    if (!direct) return direct.error();
-    command.direct = std::move(direct).value();
+    TRY(std::optional<Value> direct, directParameter(context));
+    command.direct = std::move(direct);
     for (const Argument& argument : m_arguments) {
-        Result<Value> value = argument.value->evaluate(context);
-        if (!value) return value.error();
-        command.arguments.push_back({argument.parameter, std::move(value).value()});
+        TRY(Value value, argument.value->evaluate(context));
+        command.arguments.push_back({argument.parameter, std::move(value)});
     }
-    Result<std::optional<Value>> result = application->perform(command);
-    if (!result) return context.fail(m_position, result.error());
-    return result;
-}
-
-Result<Flow> CommandStatement::run(Context& context) const {
-    Result<std::optional<Value>> result = m_call.perform(context);
-    if (!result) return result.error();
-    context.result() = std::move(result).value();
-    return Flow::onward;
+    return context.located(m_position, application->perform(command));
 }
 
 Result<Value> CommandExpression::compute(Context& context) const {
-    Result<std::optional<Value>> result = m_call.perform(context);
-    if (!result) return result.error();
-    if (!result.value()) {
+    TRY(std::optional<Value> result, m_call.perform(context));
+    if (!result) {
         return context.fail(position(), ErrorNumber::noSuchObject, "the command has no result");
     }
-    return *std::move(result).value();
+    return *std::move(result);
 }
 
 } // namespace songsweep::interpreter

@@ -8,8 +8,10 @@ namespace songsweep::interpreter {
 /// How a statement leaves: on to the next one, out of the innermost repeat, or out of the script.
 enum class Flow { onward, exitRepeat, returned };
 
-/// A part of a text that does something. Immutable; executes itself against a context, and leaves there the
-/// result of the script so far.
+/// A part of a text that does something. Executes itself against a context, and leaves there the result of
+/// the script so far.
+///
+/// What a node is made of, its rule fills in; from then on it does not change.
 class Statement {
   public:
     explicit Statement(Position position)

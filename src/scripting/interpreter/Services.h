@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "scripting/interpreter/Applications.h"
+
+namespace songsweep::interpreter {
+
+/// What a running text may use of the world outside. Nodes reach all of it through their context and nothing
+/// past it, so that a test, or another system, puts its own in place. A new service is a member here.
+struct Services {
+    Applications applications;
+};
+
+} // namespace songsweep::interpreter
