@@ -37,7 +37,7 @@ struct Case {
 
 class PlayerTextTest : public testing::TestWithParam<Case> {};
 
-TEST_P(PlayerTextTest, givesTheResult) {
+TEST_P(PlayerTextTest, GivesTheResult) {
     test::FakeWorld world = smallWorld();
     const std::string source =
         std::string("tell application \"iTunes\"\n") + GetParam().statements + "\nend tell";
@@ -172,7 +172,7 @@ const Case failures[] = {
 
 INSTANTIATE_TEST_SUITE_P(Failures, PlayerTextTest, testing::ValuesIn(failures));
 
-TEST(CommandTest, takesADirectParameterAndLabelledArguments) {
+TEST(CommandTest, TakesADirectParameterAndLabelledArguments) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world,
               "tell application \"iTunes\"\nplay track 1 once true\nplay track 1 with once\nplay\nend tell");
@@ -184,25 +184,25 @@ TEST(CommandTest, takesADirectParameterAndLabelledArguments) {
     EXPECT_EQ(world.commands, expected);
 }
 
-TEST(CommandTest, getsAllObjectsOfAFilter) {
+TEST(CommandTest, GetsAllObjectsOfAFilter) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world, "tell application \"iTunes\" to delete (every track whose rating is 60)");
     EXPECT_EQ(world.commands, std::vector<std::string>{"delete { track id 00A1 track id 00A2}"});
 }
 
-TEST(LazinessTest, countsWithoutTakingElements) {
+TEST(LazinessTest, CountsWithoutTakingElements) {
     test::FakeWorld world = smallWorld();
     EXPECT_EQ(outcomeOf(world, "tell application \"iTunes\" to count of tracks"), "3");
     EXPECT_EQ(world.elementsTaken, 0);
 }
 
-TEST(LazinessTest, stopsAtTheFirstMatch) {
+TEST(LazinessTest, StopsAtTheFirstMatch) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world, "tell application \"iTunes\" to get name of first track whose rating is 60");
     EXPECT_EQ(world.elementsTaken, 1);
 }
 
-TEST(LazinessTest, usesTheIndexForAnyPartOfAConjunction) {
+TEST(LazinessTest, UsesTheIndexForAnyPartOfAConjunction) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world,
               "tell application \"iTunes\" to get tracks whose rating is 60 and persistent ID is \"00A2\"");
@@ -210,14 +210,14 @@ TEST(LazinessTest, usesTheIndexForAnyPartOfAConjunction) {
     EXPECT_EQ(world.candidatesAsked, 2);
 }
 
-TEST(LazinessTest, asksNoIndexForATestThatNeedsTheElement) {
+TEST(LazinessTest, AsksNoIndexForATestThatNeedsTheElement) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world, "tell application \"iTunes\" to get tracks whose persistent ID is name");
     EXPECT_EQ(world.candidatesAsked, 0);
     EXPECT_EQ(world.elementsTaken, 3);
 }
 
-TEST(ObjectsTest, keepTheWordsOfTheirOwnApplication) {
+TEST(ObjectsTest, KeepTheWordsOfTheirOwnApplication) {
     test::FakeWorld world = smallWorld();
     const char* const source = "tell application \"iTunes\" to set t to track 1\n"
                                "tell application \"Finder\" to get name of t";

@@ -2,7 +2,6 @@
 #include "scripting/Descriptor.h"
 
 #include "scripting/SourceNotation.h"
-#include "scripting/ValueTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +22,7 @@ struct Case {
 
 class DescriptorTest : public testing::TestWithParam<Case> {};
 
-TEST_P(DescriptorTest, readsAsTextIntegerAndNotation) {
+TEST_P(DescriptorTest, ReadsAsTextIntegerAndNotation) {
     EXPECT_EQ(GetParam().descriptor.stringValue(), GetParam().text);
     EXPECT_EQ(GetParam().descriptor.int32Value(), GetParam().integer);
     EXPECT_EQ(sourceNotation(GetParam().descriptor), GetParam().notation);
@@ -60,7 +59,7 @@ const Case cases[] = {
 
 INSTANTIATE_TEST_SUITE_P(Values, DescriptorTest, testing::ValuesIn(cases));
 
-TEST(DescriptorItemsTest, areCountedFromOne) {
+TEST(DescriptorItemsTest, AreCountedFromOne) {
     const Descriptor list = Descriptor::list({Descriptor::integer(5), Descriptor::text("a")});
     EXPECT_EQ(list.numberOfItems(), 2);
     EXPECT_EQ(list.descriptorAtIndex(0), nullptr);
@@ -72,7 +71,7 @@ TEST(DescriptorItemsTest, areCountedFromOne) {
     EXPECT_EQ(Descriptor::text("a").descriptorAtIndex(1), nullptr);
 }
 
-TEST(DescriptorDataTest, isTheLongDateTimeOfADateInTheHostsOrder) {
+TEST(DescriptorDataTest, IsTheLongDateTimeOfADateInTheHostsOrder) {
     const std::int64_t seconds = 3'850'000'000;
     const std::vector<std::byte> data = of(Descriptor::Date{seconds}).data();
     ASSERT_EQ(data.size(), sizeof seconds);
@@ -81,33 +80,12 @@ TEST(DescriptorDataTest, isTheLongDateTimeOfADateInTheHostsOrder) {
     EXPECT_EQ(read, seconds);
 }
 
-TEST(DescriptorDataTest, isTheUtf8OfAText) {
+TEST(DescriptorDataTest, IsTheUtf8OfAText) {
     const std::vector<std::byte> data = Descriptor::text("ä").data();
     ASSERT_EQ(data.size(), 2U);
     EXPECT_EQ(data[0], std::byte{0xC3});
     EXPECT_TRUE(Descriptor::text("").data().empty());
     EXPECT_TRUE(Descriptor().data().empty());
-}
-
-TEST(RealTextTest, writesNumbersAsAppleScriptDoes) {
-    EXPECT_EQ(realText(0.0), "0.0");
-    EXPECT_EQ(realText(3.0), "3.0");
-    EXPECT_EQ(realText(-0.25), "-0.25");
-    EXPECT_EQ(realText(9999.5), "9999.5");
-    EXPECT_EQ(realText(10000.0), "1.0E+4");
-    EXPECT_EQ(realText(-123456.75), "-1.2345675E+5");
-    EXPECT_EQ(realText(0.001), "0.001");
-    EXPECT_EQ(realText(0.0001), "1.0E-4");
-    EXPECT_EQ(realText(1e100), "1.0E+100");
-}
-
-TEST(DateTextTest, writesNoonMidnightAndLeapDays) {
-    // 2024-02-29 begins 3792009600 seconds after 1904-01-01.
-    constexpr std::int64_t leapDay = 3'792'009'600;
-    EXPECT_EQ(dateText(leapDay), "Thursday, February 29, 2024 at 12:00:00 AM");
-    EXPECT_EQ(dateText(leapDay + 43200), "Thursday, February 29, 2024 at 12:00:00 PM");
-    EXPECT_EQ(dateText(leapDay + 86399), "Thursday, February 29, 2024 at 11:59:59 PM");
-    EXPECT_EQ(dateText(-1), "Thursday, December 31, 1903 at 11:59:59 PM");
 }
 
 } // namespace

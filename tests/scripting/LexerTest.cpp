@@ -53,7 +53,7 @@ struct Case {
 
 class LexerTest : public testing::TestWithParam<Case> {};
 
-TEST_P(LexerTest, cutsTheText) {
+TEST_P(LexerTest, CutsTheText) {
     EXPECT_EQ(shown(GetParam().source), GetParam().tokens) << GetParam().source;
 }
 
@@ -90,7 +90,7 @@ const Case cases[] = {
 
 INSTANTIATE_TEST_SUITE_P(Texts, LexerTest, testing::ValuesIn(cases));
 
-TEST(LexerEscapesTest, takesEscapesOutOfATextOnlyWhenAsked) {
+TEST(LexerEscapesTest, TakesEscapesOutOfATextOnlyWhenAsked) {
     const std::string source = R"("a\"b\\c\nd\te\rf")";
     const Result<std::vector<Token>> tokens = Lexer(source).tokens();
     ASSERT_TRUE(tokens);
@@ -98,7 +98,7 @@ TEST(LexerEscapesTest, takesEscapesOutOfATextOnlyWhenAsked) {
     EXPECT_EQ(unescapedText(tokens.value().front().text), "a\"b\\c\nd\te\rf");
 }
 
-TEST(LexerKeywordTest, knowsKeywordsInAnyCase) {
+TEST(LexerKeywordTest, KnowsKeywordsInAnyCase) {
     EXPECT_EQ(keywordOf("Tell"), Keyword::tell);
     EXPECT_EQ(keywordOf("ISN'T"), Keyword::isnt);
     EXPECT_EQ(keywordOf("tells"), Keyword::none);
@@ -106,7 +106,7 @@ TEST(LexerKeywordTest, knowsKeywordsInAnyCase) {
     EXPECT_FALSE(isReserved(Keyword::number)) << "a variable may be called number";
 }
 
-TEST(LexerLimitTest, takesATextOfTheGreatestLength) {
+TEST(LexerLimitTest, TakesATextOfTheGreatestLength) {
     EXPECT_EQ(shown(std::string(maximumSourceBytes, ' ')), "");
     EXPECT_EQ(shown(std::string(maximumSourceBytes + 1, ' ')), "line 1, column 1: the text is too long");
 }

@@ -41,53 +41,53 @@ class SystemTextsTest : public testing::Test {
     test::FakeWorld m_world;
 };
 
-TEST_F(SystemTextsTest, namesEveryUserPlaylist) {
+TEST_F(SystemTextsTest, NamesEveryUserPlaylist) {
     EXPECT_EQ(resultOf(test::userPlaylistNamesText), R"({"Library", "Rock", "Top"})");
 }
 
-TEST_F(SystemTextsTest, namesUserPlaylistsThatAreNotSmart) {
+TEST_F(SystemTextsTest, NamesUserPlaylistsThatAreNotSmart) {
     EXPECT_EQ(resultOf(test::plainPlaylistNamesText), R"({"Rock"})");
 }
 
-TEST_F(SystemTextsTest, findsThePlaceOfAPlaylistByItsName) {
+TEST_F(SystemTextsTest, FindsThePlaceOfAPlaylistByItsName) {
     EXPECT_EQ(resultOf(test::playlistIndexText("Rock")), "{3}");
     const Result<Descriptor> result = run(test::playlistIndexText("rock"));
     ASSERT_TRUE(result);
     EXPECT_EQ(result.value().stringValue(), "3");
 }
 
-TEST_F(SystemTextsTest, answersMinusOneForAnUnknownPlaylist) {
+TEST_F(SystemTextsTest, AnswersMinusOneForAnUnknownPlaylist) {
     EXPECT_EQ(resultOf(test::playlistIndexText("Jazz")), "{-1}");
 }
 
-TEST_F(SystemTextsTest, takesTheFirstOfTwoPlaylistsOfOneName) {
+TEST_F(SystemTextsTest, TakesTheFirstOfTwoPlaylistsOfOneName) {
     m_world.playlists.push_back({"Rock", false, true, {}});
     EXPECT_EQ(resultOf(test::playlistIndexText("Rock")), "{3}");
 }
 
-TEST_F(SystemTextsTest, failsForAPlaylistNameThatBreaksTheText) {
+TEST_F(SystemTextsTest, FailsForAPlaylistNameThatBreaksTheText) {
     const Result<Descriptor> result = run(test::playlistIndexText("12\" singles"));
     ASSERT_FALSE(result);
     EXPECT_TRUE(result.error().message.starts_with("line 6, column ")) << result.error().message;
 }
 
-TEST_F(SystemTextsTest, countsTheTracksOfTheLibrary) {
+TEST_F(SystemTextsTest, CountsTheTracksOfTheLibrary) {
     EXPECT_EQ(resultOf(test::trackCountText), "3");
     EXPECT_EQ(m_world.elementsTaken, 1) << "the playlist, and no track";
 }
 
-TEST_F(SystemTextsTest, givesTheVersion) { EXPECT_EQ(resultOf(test::versionText), R"("12.0")"); }
+TEST_F(SystemTextsTest, GivesTheVersion) { EXPECT_EQ(resultOf(test::versionText), R"("12.0")"); }
 
-TEST_F(SystemTextsTest, stopsThePlayer) {
+TEST_F(SystemTextsTest, StopsThePlayer) {
     EXPECT_TRUE(run(test::stopText));
     EXPECT_EQ(m_world.commands, std::vector<std::string>{"stop"});
 }
 
-TEST_F(SystemTextsTest, countsTheTracksOfAPlaylist) {
+TEST_F(SystemTextsTest, CountsTheTracksOfAPlaylist) {
     EXPECT_EQ(resultOf(test::playlistTrackCountText(3)), "2");
 }
 
-TEST_F(SystemTextsTest, readsABatchOfTracks) {
+TEST_F(SystemTextsTest, ReadsABatchOfTracks) {
     const Result<Descriptor> result = run(test::batchText(1, 1, 3));
     ASSERT_TRUE(result) << result.error().message;
     ASSERT_EQ(result.value().numberOfItems(), 1);
@@ -108,7 +108,7 @@ TEST_F(SystemTextsTest, readsABatchOfTracks) {
     EXPECT_EQ(records.descriptorAtIndex(3)->descriptorAtIndex(12)->numberOfItems(), 0);
 }
 
-TEST_F(SystemTextsTest, readsTheMissingLocationOfATrackAsMsng) {
+TEST_F(SystemTextsTest, ReadsTheMissingLocationOfATrackAsMsng) {
     const Result<Descriptor> result = run(test::batchText(1, 2, 2));
     ASSERT_TRUE(result) << result.error().message;
     const Descriptor& record = *result.value().descriptorAtIndex(1)->descriptorAtIndex(1);
@@ -116,39 +116,39 @@ TEST_F(SystemTextsTest, readsTheMissingLocationOfATrackAsMsng) {
     EXPECT_EQ(record.descriptorAtIndex(1)->stringValue(), "Two \"2\"");
 }
 
-TEST_F(SystemTextsTest, failsForABatchBeyondTheEnd) {
+TEST_F(SystemTextsTest, FailsForABatchBeyondTheEnd) {
     const Result<Descriptor> result = run(test::batchText(1, 3, 4));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().message, "line 5, column 22: there is no track 4");
 }
 
-TEST_F(SystemTextsTest, refreshesALocationByPersistentId) {
+TEST_F(SystemTextsTest, RefreshesALocationByPersistentId) {
     const Result<Descriptor> result = run(test::locationText("00A3"));
     ASSERT_TRUE(result) << result.error().message;
     EXPECT_EQ(result.value().stringValue(), "/music/a:b.mp3");
 }
 
-TEST_F(SystemTextsTest, refreshesAMissingLocationToMsng) {
+TEST_F(SystemTextsTest, RefreshesAMissingLocationToMsng) {
     const Result<Descriptor> result = run(test::locationText("00A2"));
     ASSERT_TRUE(result) << result.error().message;
     EXPECT_EQ(result.value().stringValue(), "msng");
 }
 
-TEST_F(SystemTextsTest, givesNoTextForTheLocationOfAnUnknownTrack) {
+TEST_F(SystemTextsTest, GivesNoTextForTheLocationOfAnUnknownTrack) {
     const Result<Descriptor> result = run(test::locationText("FFFF"));
     ASSERT_TRUE(result) << result.error().message;
     EXPECT_EQ(sourceNotation(result.value()), "{{}}");
     EXPECT_EQ(result.value().stringValue(), std::nullopt);
 }
 
-TEST_F(SystemTextsTest, asksTheIndexForAPersistentIdAndWalksNoTracks) {
+TEST_F(SystemTextsTest, AsksTheIndexForAPersistentIdAndWalksNoTracks) {
     EXPECT_TRUE(run(test::locationText("00A3")));
     EXPECT_EQ(m_world.candidatesAsked, 1);
     EXPECT_EQ(m_world.elementsTaken, 0);
     EXPECT_EQ(m_world.propertiesRead, 2) << "the id to verify it, and the location";
 }
 
-TEST_F(SystemTextsTest, findsAPersistentIdByAWalkWhereThereIsNoIndex) {
+TEST_F(SystemTextsTest, FindsAPersistentIdByAWalkWhereThereIsNoIndex) {
     m_world.hasIndex = false;
     const Result<Descriptor> result = run(test::locationText("00a3"));
     ASSERT_TRUE(result) << result.error().message;
@@ -156,25 +156,25 @@ TEST_F(SystemTextsTest, findsAPersistentIdByAWalkWhereThereIsNoIndex) {
     EXPECT_EQ(m_world.elementsTaken, 3);
 }
 
-TEST_F(SystemTextsTest, playsAFileByItsHfsPath) {
+TEST_F(SystemTextsTest, PlaysAFileByItsHfsPath) {
     EXPECT_TRUE(run(test::playText("Macintosh HD:Music:a/b.mp3")));
     EXPECT_EQ(m_world.commands, std::vector<std::string>{"play Macintosh HD:Music:a/b.mp3"});
 }
 
-TEST_F(SystemTextsTest, mutesAndUnmutes) {
+TEST_F(SystemTextsTest, MutesAndUnmutes) {
     EXPECT_TRUE(run(test::muteText));
     EXPECT_TRUE(run(test::unmuteText));
     const std::vector<std::string> expected{"set volume output muted true", "set volume output muted false"};
     EXPECT_EQ(m_world.commands, expected);
 }
 
-TEST_F(SystemTextsTest, deletesTracksByPersistentId) {
+TEST_F(SystemTextsTest, DeletesTracksByPersistentId) {
     EXPECT_TRUE(run(test::deleteTrackText("00A2")));
     EXPECT_EQ(m_world.commands, std::vector<std::string>{"delete { track id 00A2}"});
     EXPECT_EQ(m_world.elementsTaken, 0);
 }
 
-TEST_F(SystemTextsTest, unlocksAndDeletesAFile) {
+TEST_F(SystemTextsTest, UnlocksAndDeletesAFile) {
     const std::string path = "/Users/ann/Größe a:b.mp3";
     m_world.lockedFiles[path] = true;
     EXPECT_TRUE(run(test::deleteFileText(*hfsPath(path))));
@@ -182,7 +182,7 @@ TEST_F(SystemTextsTest, unlocksAndDeletesAFile) {
     EXPECT_EQ(m_world.commands, std::vector<std::string>{"delete " + path});
 }
 
-TEST_F(SystemTextsTest, failsToDeleteAFileThatIsNotThere) {
+TEST_F(SystemTextsTest, FailsToDeleteAFileThatIsNotThere) {
     const Result<Descriptor> result = run(test::deleteFileText(*hfsPath("/gone.mp3")));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().code, Error::Code::notFound);

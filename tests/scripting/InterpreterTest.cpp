@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "scripting/interpreter/Interpreter.h"
+
+#include "scripting/FakeApplications.h"
+#include "scripting/InterpretedAppleScript.h"
+#include "scripting/TextCase.h"
+#include "support/SystemTexts.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <random>
+#include <thread>
+
+namespace songsweep {
+namespace {
+
+using test::TextCase;
+
+/// A text that fails, and how.
+class InterpreterFailureTest : public testing::TestWithParam<TextCase> {};
+
+TEST_P(InterpreterFailureTest, SaysWhereAndWhy) {
+    EXPECT_EQ(test::outcomeOf(GetParam().source), std::string("error: ") + GetParam().result)
+        << GetParam().source;
+}
+
+std::vector<TextCase> failures() {
+    return {
+        {"1 +", "line 1, column 4: expected a value, but found the end of the text"},
+        {"set x 5", "line 1, column 7: expected “to”, but found “5”"},
+        {"foo bar", "line 1, column 5: expected the end of the line, but found “bar”"},
+        {"5\n  foo bar", "line 2, column 7: expected the end of the line, but found “bar”"},
+        {"\"ä\" }", "line 1, column 5: expected the end of the line, but found “}”"},
+        {"(1", "line 1, column 3: expected “)”, but found the end of the text"},
+        {"{1, 2", "line 1, column 6: expected “,” or “}”, but found the end of the text"},
+        {"\"abc", "line 1, column 1: the text has no end"},
+        {"\"a\\qb\"", "line 1, column 3: unknown escape in a text"},
+        {"(* abc", "line 1, column 1: the comment has no end"},
+        {"|abc", "line 1, column 1: the |word| has no end"},
+        {"5 $ 6", "line 1, column 3: unknown character “$”"},
+        {"5 «x»", "line 1, column 3: unknown character “«”"},
+        {"12ab", "line 1, column 3: a number runs into a word"},
+        {"end tell", "line 1, column 1: “end” stands outside of any block"},
+        {"else", "line 1, column 1: “else” stands outside of any block"},
+        {"exit repeat", "line 1, column 1: “exit repeat” stands outside of a repeat"},
+        {"if true then\n5", "line 2, column 2: expected “end if”, but found the end of the text"},
+        {"repeat 5\nend", "line 1, column 9: expected “times”, but found the end of the line"},
+        {"set 5 to 6", "line 1, column 5: this cannot be set"},
+        {"tell application \"Mail\" to quit", "line 1, column 18: there is no application “Mail”"},
+        {"tell application x to quit",
+         "line 1, column 18: expected the name of an application as a text, but found “x”"},
+        {"tell 5 to stop", "line 1, column 1: a number cannot be told"},
+        {"date \"yesterday\"", "line 1, column 1: “yesterday” is not a date that can be read"},
+        {"date \"2026-02-30\"", "line 1, column 1: “2026-02-30” is not a date that can be read"},
+        {"considering case\nend considering", "line 1, column 1: “considering” is not supported"},
+        {"on run\nend run", "line 1, column 1: “on” stands outside of any block"},
+        {"with timeout of 5 seconds\nend timeout",
+         "line 1, column 1: “with” is not supported as a statement"},
+        {"5 as widget", "line 1, column 6: expected text, integer, real, number, boolean, list or alias, but "
+                        "found “widget”"},
+        {"x", "line 1, column 1: the variable “x” is not defined"},
+        {"5\n\n  1 / 0", "line 3, column 5: a number cannot be divided by zero"},
+        {"\"a\" + 1", "line 1, column 5: cannot reckon with a text and a number"},
+        {"not 5", "line 1, column 5: cannot make a number into a truth value"},
+        {"if missing value then 5", "line 1, column 4: cannot make the missing value into a truth value"},
+        {"{1} < 2", "line 1, column 5: cannot compare a list with a number"},
+        {"item 3 of {1}", "line 1, column 1: there is no such item"},
+        {"item 0 of {1}", "line 1, column 1: there is no such item"},
+        {"POSIX path of {}", "line 1, column 1: cannot make an empty list into a file path"},
+        {"POSIX path of {alias \"Macintosh HD:a\", alias \"Macintosh HD:b\"}",
+         "line 1, column 1: cannot make a list into a file path"},
+        {"POSIX path of missing value", "line 1, column 1: cannot make the missing value into a file path"},
+        {"POSIX path of {missing value}", "line 1, column 1: cannot make a list into a file path"},
+        {"\"abc\" as integer", "line 1, column 7: cannot make a text into an integer"},
+        {"it", "line 1, column 1: no application is told"},
+        {"repeat with i from 1 to 2 by 0\nend", "line 1, column 1: a repeat by 0 has no end"},
+        {"error \"boo\"", "line 1, column 1: boo"},
+        {"try\n1 / 0\nend try\nitem 1 of {}", "line 4, column 1: there is no such item"},
+        {"set x to {}\nset end of x to x\nx", "line 1, column 1: the result lies too deep"},
+    };
+}
+
+INSTANTIATE_TEST_SUITE_P(Failures, InterpreterFailureTest, testing::ValuesIn(failures()));
+
+/// A world for texts that are cut or changed at random.
+test::FakeWorld worldOfTwo() {
+    test::FakeWorld world;
+    world.playlists = {
+        {"Library", true, true, {test::fakeTrack("One", "00A1", "/a"), test::fakeTrack("Two", "2", "")}},
+        {"Rock", false, true, {}}};
+    return world;
+}
+
+TEST(InterpreterTest, GivesAResultOrAPlacedErrorForATextCutAtAnyByte) {
+    test::FakeWorld world = worldOfTwo();
+    InterpretedAppleScript script(test::fakeApplications(world));
+    int failures = 0;
+    for (const std::string& text : test::allTexts()) {
+        for (std::size_t length = 0; length < text.size(); ++length) {
+            const Result<Descriptor> result = script.executeAndReturnError(text.substr(0, length));
+            EXPECT_TRUE(result || result.error().message.starts_with("line ")) << text.substr(0, length);
+            failures += result ? 0 : 1;
+        }
+    }
+    EXPECT_GT(failures, 1000);
+}
+
+TEST(InterpreterTest, SurvivesTextsChangedAtRandom) {
+    test::FakeWorld world = worldOfTwo();
+    InterpretedAppleScript script(test::fakeApplications(world));
+    std::mt19937 random(20260101);
+    const std::vector<std::string> texts = test::allTexts();
+    const std::string pieces = "(){}[]\"'|-+*/^&=<>,:\n\\ \xC2\xAC\xE2\x89\xA0\xFF of whose end tell to 1";
+    for (int round = 0; round < 3000; ++round) {
+        std::string text = texts[random() % texts.size()];
+        for (int change = 0; change < 4; ++change)
+            text[random() % text.size()] = pieces[random() % pieces.size()];
+        const Result<Descriptor> result = script.executeAndReturnError(text);
+        EXPECT_TRUE(result || result.error().message.starts_with("line ")) << text;
+    }
+}
+
+TEST(InterpreterTest, RunsOneTextAtATime) {
+    test::FakeWorld world = worldOfTwo();
+    InterpretedAppleScript script(test::fakeApplications(world));
+    std::atomic<int> counted = 0;
+    const auto countOften = [&] {
+        for (int i = 0; i < 200; ++i) {
+            const Result<Descriptor> result = script.executeAndReturnError(test::trackCountText);
+            if (result && result.value().int32Value() == 2) ++counted;
+        }
+    };
+    std::thread other(countOften);
+    countOften();
+    other.join();
+    EXPECT_EQ(counted, 400);
+    EXPECT_EQ(world.elementsTaken, 400) << "counted without a lock of its own";
+}
+
+} // namespace
+} // namespace songsweep
