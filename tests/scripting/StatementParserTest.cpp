@@ -43,6 +43,11 @@ std::vector<TextCase> statements() {
         {"set l to {}\nrepeat with i from 1 to 5 by 2\nset end of l to i\nend repeat\nl", "{1, 3, 5}"},
         {"repeat with i from 2 to 1\ni\nend repeat", ""},
         {"set l to {}\nrepeat with x in {1, \"a\"}\nset end of l to x\nend repeat\nl", "{1, \"a\"}"},
+        {"set l to {1, 2}\nrepeat with x in l\nset end of l to x\nend repeat\nl", "{1, 2, 1, 2}"},
+        {"set l to {1, 2}\nset seen to {}\nrepeat with x in l\nset beginning of l to 0\nset item -1 of l to "
+         "9\n"
+         "set end of seen to x\nend repeat\nseen",
+         "{1, 2}"},
         {"set n to 0\nrepeat while n < 3\nset n to n + 1\nend repeat\nn", "3"},
         {"set n to 0\nrepeat until n = 3\nset n to n + 1\nend repeat\nn", "3"},
         {"set n to 0\nrepeat\nset n to n + 1\nif n = 4 then exit repeat\nend repeat\nn", "4"},

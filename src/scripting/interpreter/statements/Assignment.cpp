@@ -2,28 +2,9 @@
 #include "scripting/interpreter/Limits.h"
 #include "scripting/interpreter/Try.h"
 #include "scripting/interpreter/statements/StatementParser.h"
-#include "scripting/interpreter/statements/StatementRules.h"
 
 namespace songsweep::interpreter {
 namespace {
-
-/// `set a to b`.
-struct SetStatement final : Statement {
-    using Statement::Statement;
-    Result<Flow> run(Context& context) const override;
-
-    ExpressionPointer target;
-    ExpressionPointer value;
-};
-
-/// `copy b to a`: lists are copied as a whole.
-struct CopyStatement final : Statement {
-    using Statement::Statement;
-    Result<Flow> run(Context& context) const override;
-
-    ExpressionPointer value;
-    ExpressionPointer target;
-};
 
 /// A value with lists of its own, all the way down.
 Result<Value> deepCopy(Context& context, Position position, const Value& value, int depth) {
@@ -46,33 +27,32 @@ Result<Flow> assign(Context& context, const Expression& target, Value value) {
     return Flow::onward;
 }
 
-Result<Flow> SetStatement::run(Context& context) const {
-    TRY(Value evaluated, value->evaluate(context));
-    return assign(context, *target, std::move(evaluated));
-}
-
-Result<Flow> CopyStatement::run(Context& context) const {
-    TRY(const Value& evaluated, value->evaluate(context));
-    TRY(Value copy, deepCopy(context, position(), evaluated, 0));
-    return assign(context, *target, std::move(copy));
-}
-
 } // namespace
 
+/// `set a to b`.
 StatementPointer setStatement(StatementParser& parser, Position place) {
-    auto statement = std::make_unique<SetStatement>(place);
-    statement->target = parser.assignable();
+    ExpressionPointer target = parser.assignable();
     parser.cursor().expect(Keyword::to, "“to”");
-    statement->value = parser.expression();
-    return statement;
+    ExpressionPointer value = parser.expression();
+    return makeStatement(
+        place, [target = std::move(target), value = std::move(value)](Context& context) -> Result<Flow> {
+            TRY(Value evaluated, value->evaluate(context));
+            return assign(context, *target, std::move(evaluated));
+        });
 }
 
+/// `copy b to a`: lists are copied as a whole.
 StatementPointer copyStatement(StatementParser& parser, Position place) {
-    auto statement = std::make_unique<CopyStatement>(place);
-    statement->value = parser.expression();
+    ExpressionPointer value = parser.expression();
     parser.cursor().expect(Keyword::to, "“to”");
-    statement->target = parser.assignable();
-    return statement;
+    ExpressionPointer target = parser.assignable();
+    return makeStatement(
+        place,
+        [place, target = std::move(target), value = std::move(value)](Context& context) -> Result<Flow> {
+            TRY(const Value& evaluated, value->evaluate(context));
+            TRY(Value copy, deepCopy(context, place, evaluated, 0));
+            return assign(context, *target, std::move(copy));
+        });
 }
 
 } // namespace songsweep::interpreter

@@ -2,24 +2,16 @@
 #include "scripting/interpreter/Coercion.h"
 #include "scripting/interpreter/Try.h"
 #include "scripting/interpreter/statements/StatementParser.h"
-#include "scripting/interpreter/statements/StatementRules.h"
 
 namespace songsweep::interpreter {
 namespace {
 
-/// `if … then … else if … then … else … end if`.
-struct IfStatement final : Statement {
-    using Statement::Statement;
-    Result<Flow> run(Context& context) const override;
-
-    struct Branch {
-        ExpressionPointer condition; ///< null for `else`
-        Block body;
-    };
-    std::vector<Branch> branches;
+struct Branch {
+    ExpressionPointer condition; ///< null for `else`
+    Block body;
 };
 
-Result<Flow> IfStatement::run(Context& context) const {
+Result<Flow> takeBranch(Context& context, const std::vector<Branch>& branches) {
     for (const Branch& branch : branches) {
         if (!branch.condition) return executeBlock(context, branch.body);
         TRY(const Value& value, branch.condition->evaluate(context));
@@ -40,20 +32,22 @@ ExpressionPointer condition(StatementParser& parser) {
 
 } // namespace
 
+/// `if … then … else if … then … else … end if`.
 StatementPointer ifStatement(StatementParser& parser, Position place) {
-    auto statement = std::make_unique<IfStatement>(place);
+    std::vector<Branch> branches;
     ExpressionPointer first = condition(parser);
     const bool isOneLine = !parser.cursor().atLineEnd();
     const auto body = [&] { return isOneLine ? parser.oneStatement() : parser.block(); };
-    statement->branches.push_back({std::move(first), body()});
+    branches.push_back({std::move(first), body()});
     while (parser.cursor().take(Keyword::else_)) {
         const bool isElseIf = !isOneLine && parser.cursor().take(Keyword::if_);
         ExpressionPointer next = isElseIf ? condition(parser) : nullptr;
-        statement->branches.push_back({std::move(next), body()});
+        branches.push_back({std::move(next), body()});
         if (!isElseIf) break;
     }
     if (!isOneLine) parser.expectEnd(Keyword::if_, "if");
-    return statement;
+    return makeStatement(
+        place, [branches = std::move(branches)](Context& context) { return takeBranch(context, branches); });
 }
 
 } // namespace songsweep::interpreter

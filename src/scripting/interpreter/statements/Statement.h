@@ -11,7 +11,7 @@ enum class Flow { onward, exitRepeat, returned };
 /// A part of a text that does something. Executes itself against a context, and leaves there the result of
 /// the script so far.
 ///
-/// What a node is made of, its rule fills in; from then on it does not change.
+/// Never changes once it is made. Rules make theirs by `makeStatement`.
 class Statement {
   public:
     explicit Statement(Position position)
@@ -33,6 +33,27 @@ class Statement {
 };
 
 using StatementPointer = std::unique_ptr<const Statement>;
+
+/// A statement that runs a function, `Result<Flow> run(Context&)`, which holds what the statement is made of:
+///
+///     ExpressionPointer value = parser.expression();
+///     return makeStatement(place, [value = std::move(value)](Context& context) -> Result<Flow> { … });
+template <class Run>
+StatementPointer makeStatement(Position position, Run run) {
+    class RunningStatement final : public Statement {
+      public:
+        RunningStatement(Position place, Run function)
+            : Statement(place)
+            , m_run(std::move(function)) {}
+
+      protected:
+        Result<Flow> run(Context& context) const override { return m_run(context); }
+
+      private:
+        Run m_run;
+    };
+    return std::make_unique<const RunningStatement>(position, std::move(run));
+}
 
 /// Statements one after another.
 using Block = std::vector<StatementPointer>;

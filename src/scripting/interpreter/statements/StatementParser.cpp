@@ -2,7 +2,6 @@
 #include "scripting/interpreter/statements/StatementParser.h"
 
 #include "scripting/interpreter/Words.h"
-#include "scripting/interpreter/statements/StatementRules.h"
 
 namespace songsweep::interpreter {
 namespace {

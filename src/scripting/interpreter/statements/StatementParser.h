@@ -2,7 +2,7 @@
 #pragma once
 
 #include "scripting/interpreter/ExpressionParser.h"
-#include "scripting/interpreter/statements/Statement.h"
+#include "scripting/interpreter/statements/StatementRules.h"
 
 namespace songsweep::interpreter {
 

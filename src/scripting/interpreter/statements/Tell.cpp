@@ -2,31 +2,9 @@
 #include "scripting/interpreter/Coercion.h"
 #include "scripting/interpreter/Try.h"
 #include "scripting/interpreter/statements/StatementParser.h"
-#include "scripting/interpreter/statements/StatementRules.h"
 
 namespace songsweep::interpreter {
 namespace {
-
-/// `tell x … end tell`, `tell x to …`.
-struct TellStatement final : Statement {
-    using Statement::Statement;
-    Result<Flow> run(Context& context) const override;
-
-    ExpressionPointer target;
-    Block body;
-};
-
-Result<Flow> TellStatement::run(Context& context) const {
-    TRY(const Value& told, target->evaluate(context));
-    const auto* const object = std::get_if<ObjectPointer>(&singleItem(told));
-    if (!object) {
-        return context.fail(position(), ErrorNumber::noSuchObject, kindName(told) + " cannot be told");
-    }
-    const Applications::Entry* const owner = context.services().applications.owning(**object);
-    const Context::TargetScope scope(context, *object,
-                                     owner ? owner->application.get() : context.application());
-    return executeBlock(context, body);
-}
 
 Block tellBody(StatementParser& parser) {
     if (parser.cursor().take(Keyword::to)) return parser.oneStatement();
@@ -36,17 +14,30 @@ Block tellBody(StatementParser& parser) {
     return body;
 }
 
+Result<Flow> tell(Context& context, Position place, const Expression& target, const Block& body) {
+    TRY(const Value& told, target.evaluate(context));
+    const auto* const object = std::get_if<ObjectPointer>(&singleItem(told));
+    if (!object) {
+        return context.fail(place, ErrorNumber::noSuchObject, kindName(told) + " cannot be told");
+    }
+    const Applications::Entry* const owner = context.services().applications.owning(**object);
+    const Context::TargetScope scope(context, *object,
+                                     owner ? owner->application.get() : context.application());
+    return executeBlock(context, body);
+}
+
 } // namespace
 
+/// `tell x … end tell`, `tell x to …`.
 StatementPointer tellStatement(StatementParser& parser, Position place) {
-    auto statement = std::make_unique<TellStatement>(place);
-    statement->target = parser.expressions().reference();
-    const Applications::Entry* const application = statement->target->namedApplication();
+    ExpressionPointer target = parser.expressions().reference();
+    const Applications::Entry* const application = target->namedApplication();
     const Vocabulary* const outer = parser.cursor().vocabulary();
     if (application) parser.cursor().setVocabulary(&application->vocabulary);
-    statement->body = tellBody(parser);
+    Block body = tellBody(parser);
     parser.cursor().setVocabulary(outer);
-    return statement;
+    return makeStatement(place, [place, target = std::move(target), body = std::move(body)](
+                                    Context& context) { return tell(context, place, *target, body); });
 }
 
 } // namespace songsweep::interpreter

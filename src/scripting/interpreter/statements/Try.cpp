@@ -3,90 +3,79 @@
 
 #include "scripting/interpreter/Coercion.h"
 #include "scripting/interpreter/statements/StatementParser.h"
-#include "scripting/interpreter/statements/StatementRules.h"
 
 namespace songsweep::interpreter {
 namespace {
 
-/// `try … on error message number n … end try`.
-struct TryStatement final : Statement {
-    using Statement::Statement;
-    Result<Flow> run(Context& context) const override;
-
-    Block body;
+/// What follows `on error`.
+struct Handler {
     ExpressionPointer message; ///< a variable, or null
     ExpressionPointer number;  ///< a variable, or null
-    Block handler;
-};
-
-/// `error "message" number n`.
-struct ErrorStatement final : Statement {
-    using Statement::Statement;
-    Result<Flow> run(Context& context) const override;
-
-    ExpressionPointer message; ///< or null
-    ExpressionPointer number;  ///< or null
+    Block body;
 };
 
 Result<void> assign(Context& context, const ExpressionPointer& variable, const Value& value) {
     return variable ? variable->assign(context, value) : Result<void>();
 }
 
-Result<Flow> TryStatement::run(Context& context) const {
+Result<Flow> tryBlock(Context& context, const Block& body, const Handler& handler) {
     const Result<Flow> flow = executeBlock(context, body);
     if (flow || context.isExhausted()) return flow;
-    const std::int64_t errorNumber = context.errorNumber();
-    const Result<void> told = assign(context, message, Value(flow.error().message));
+    const Result<void> told = assign(context, handler.message, Value(flow.error().message));
     if (!told) return told.error();
-    const Result<void> numbered = assign(context, number, Value(errorNumber));
+    const Result<void> numbered = assign(context, handler.number, Value(std::int64_t(context.errorNumber())));
     if (!numbered) return numbered.error();
-    return executeBlock(context, handler);
+    return executeBlock(context, handler.body);
 }
 
-Result<Flow> ErrorStatement::run(Context& context) const {
+Result<Flow> raise(Context& context, Position place, const Expression* message, const Expression* number) {
     std::string reason = "an error";
     if (message) {
         TRY(const Value& value, message->evaluate(context));
-        TRY(reason, textOf(context, position(), value));
+        TRY(reason, textOf(context, place, value));
     }
-    if (!number) return context.fail(position(), ErrorNumber::general, std::move(reason));
+    if (!number) return context.fail(place, ErrorNumber::general, std::move(reason));
     TRY(const Value& value, number->evaluate(context));
-    TRY(const std::int64_t integer, integerOf(context, position(), value));
-    return context.fail(position(), static_cast<int>(integer), std::move(reason));
+    TRY(const std::int64_t integer, integerOf(context, place, value));
+    return context.fail(place, static_cast<int>(integer), std::move(reason));
 }
 
-/// What follows `on error`: the variables for message and number, and the body.
-void errorHandler(StatementParser& parser, TryStatement& statement) {
+Handler errorHandler(StatementParser& parser) {
     TokenCursor& cursor = parser.cursor();
-    if (!cursor.atLineEnd() && !cursor.at(Keyword::number)) statement.message = parser.variable();
-    if (cursor.take(Keyword::number)) statement.number = parser.variable();
+    Handler handler;
+    if (!cursor.at(Keyword::on) || !cursor.at(Keyword::error, 1)) return handler;
+    cursor.skip(2);
+    if (!cursor.atLineEnd() && !cursor.at(Keyword::number)) handler.message = parser.variable();
+    if (cursor.take(Keyword::number)) handler.number = parser.variable();
     cursor.expectLineEnd();
-    statement.handler = parser.block();
+    handler.body = parser.block();
+    return handler;
 }
 
 } // namespace
 
+/// `try … on error message number n … end try`.
 StatementPointer tryStatement(StatementParser& parser, Position place) {
-    TokenCursor& cursor = parser.cursor();
-    auto statement = std::make_unique<TryStatement>(place);
-    cursor.expectLineEnd();
-    statement->body = parser.block();
-    if (cursor.at(Keyword::on) && cursor.at(Keyword::error, 1)) {
-        cursor.skip(2);
-        errorHandler(parser, *statement);
-    }
+    parser.cursor().expectLineEnd();
+    Block body = parser.block();
+    Handler handler = errorHandler(parser);
     parser.expectEnd(Keyword::try_, "try");
-    cursor.take(Keyword::error);
-    return statement;
+    parser.cursor().take(Keyword::error);
+    return makeStatement(place, [body = std::move(body), handler = std::move(handler)](Context& context) {
+        return tryBlock(context, body, handler);
+    });
 }
 
+/// `error "message" number n`.
 StatementPointer errorStatement(StatementParser& parser, Position place) {
     TokenCursor& cursor = parser.cursor();
-    auto statement = std::make_unique<ErrorStatement>(place);
     const bool hasMessage = !cursor.atLineEnd() && !cursor.at(Keyword::number) && !cursor.at(Keyword::else_);
-    if (hasMessage) statement->message = parser.expression();
-    if (cursor.take(Keyword::number)) statement->number = parser.expression();
-    return statement;
+    ExpressionPointer message = hasMessage ? parser.expression() : nullptr;
+    ExpressionPointer number = cursor.take(Keyword::number) ? parser.expression() : nullptr;
+    return makeStatement(place,
+                         [place, message = std::move(message), number = std::move(number)](Context& context) {
+                             return raise(context, place, message.get(), number.get());
+                         });
 }
 
 } // namespace songsweep::interpreter
