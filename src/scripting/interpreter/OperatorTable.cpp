@@ -127,8 +127,9 @@ OperatorFound binaryOperatorAt(std::span<const Token> tokens) {
         const auto symbol = std::ranges::find(symbols, token.symbol, &Symbol::symbol);
         return symbol == symbols.end() ? OperatorFound() : OperatorFound{&symbol->meaning, 1};
     }
-    for (const Phrase& phrase : std::ranges::equal_range(phrases, token.keyword, {}, &Phrase::first)) {
-        if (const std::size_t words = wordsAt(tokens, phrase.words)) return {&phrase.meaning, words};
+    auto phrase = std::ranges::lower_bound(phrases, token.keyword, {}, &Phrase::first);
+    for (; phrase != phrases.end() && phrase->first == token.keyword; ++phrase) {
+        if (const std::size_t words = wordsAt(tokens, phrase->words)) return {&phrase->meaning, words};
     }
     return {};
 }

@@ -15,7 +15,8 @@ StatementPointer expressionStatement(StatementParser& parser) {
 
 StatementPointer commandStatement(StatementParser& parser) {
     CommandCall call = parser.expressions().commands().command();
-    return makeStatement(call.position(), [call = std::move(call)](Context& context) -> Result<Flow> {
+    const Position place = call.position();
+    return makeStatement(place, [call = std::move(call)](Context& context) -> Result<Flow> {
         TRY(context.result(), call.perform(context));
         return Flow::onward;
     });

@@ -10,7 +10,7 @@ Result<Flow> Statement::execute(Context& context) const {
 
 Result<Flow> executeBlock(Context& context, const Block& block) {
     for (const StatementPointer& statement : block) {
-        const Result<Flow> flow = statement->execute(context);
+        Result<Flow> flow = statement->execute(context);
         if (!flow || flow.value() != Flow::onward) return flow;
     }
     return Flow::onward;

@@ -19,7 +19,7 @@ Result<void> assign(Context& context, const ExpressionPointer& variable, const V
 }
 
 Result<Flow> tryBlock(Context& context, const Block& body, const Handler& handler) {
-    const Result<Flow> flow = executeBlock(context, body);
+    Result<Flow> flow = executeBlock(context, body);
     if (flow || context.isExhausted()) return flow;
     const Result<void> told = assign(context, handler.message, Value(flow.error().message));
     if (!told) return told.error();
