@@ -13,6 +13,7 @@
 #include "libraryfile/WellFormedness.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
+#include "platform/Native.h"
 #include "sample-library/BulkLibrary.h"
 
 #include <fcntl.h>
@@ -115,16 +116,6 @@ void measureSearch(LibraryDocument& library, const std::vector<std::string>& ids
                 read / count * 1e6, found % 10);
 }
 
-class NoDesktop final : public Desktop {
-  public:
-    Result<void> openUrl(const std::string&) override { return {}; }
-    Result<void> showInFileManager(const std::string&) override { return {}; }
-    Result<void> moveToTrash(const std::string&) override { return {}; }
-    Result<void> play(const std::string&) override { return {}; }
-    Result<void> stopPlaying() override { return {}; }
-    Result<void> setOutputMuted(bool) override { return {}; }
-};
-
 std::string batchText(int first) {
     std::string text =
         "tell application \"iTunes\" \nset tindex to 1 \nset itunes_records to {} \nrepeat with i from " +
@@ -150,9 +141,9 @@ std::string batchText(int first) {
 }
 
 void measureBatch(const std::string& path) {
-    NoDesktop desktop;
+    const std::unique_ptr<Desktop> desktop = nativeDesktop();
     Files files;
-    EmbeddedScripting scripts(path, desktop, files);
+    EmbeddedScripting scripts(path, *desktop, files);
     if (const auto read = scripts.readLibrary(); !read) stop(read.error().message);
     int first = 1;
     const double batch = best([&] {

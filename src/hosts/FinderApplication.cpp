@@ -3,6 +3,7 @@
 
 #include "platform/Desktop.h"
 #include "platform/Files.h"
+#include "platform/Trash.h"
 
 #include <memory>
 
@@ -114,7 +115,8 @@ Result<void> FinderApplication::moveToTrash(const Value& value) {
     }
     if (path.empty()) return Error{Error::Code::notSupported, "only files can be deleted"};
     if (!m_files.exists(path)) return Error{Error::Code::notFound, "there is no file " + path};
-    return m_desktop.moveToTrash(m_files.localPath(path));
+    const Result<TrashedFile> moved = m_desktop.trash().moveToTrash(m_files.localPath(path));
+    return moved ? Result<void>() : Result<void>(moved.error());
 }
 
 Result<void> FinderApplication::setVolume(const Command& command) {

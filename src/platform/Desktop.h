@@ -7,6 +7,8 @@
 
 namespace songsweep {
 
+class Trash;
+
 /// What the desktop does for the program. Paths are local POSIX paths in UTF-8 (already mapped, see Files).
 ///
 /// An interface with one implementation a platform. Callable from any thread; calls may block for seconds.
@@ -21,9 +23,7 @@ class Desktop {
     virtual Result<void> openUrl(const std::string& url) = 0;
     /// Shows the file, selected, in the file manager.
     virtual Result<void> showInFileManager(const std::string& path) = 0;
-    /// Moves the file to the Trash. Never deletes: where the Trash refuses, the file stays and the error says
-    /// why.
-    virtual Result<void> moveToTrash(const std::string& path) = 0;
+    virtual Trash& trash() = 0;
     virtual Result<void> play(const std::string& path) = 0;
     virtual Result<void> stopPlaying() = 0;
     virtual Result<void> setOutputMuted(bool muted) = 0;

@@ -16,6 +16,7 @@ struct Error {
         invalid,
         inputOutput,
         noSpace,
+        alreadyExists,
         busy,
         cancelled,
         failed

@@ -10,6 +10,7 @@
 #include "platform/Sleeper.h"
 #include "support/EventLoop.h"
 #include "support/RecordingLog.h"
+#include "support/RecordingTrash.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ class RecordingDesktop final : public Desktop {
 
     Result<void> openUrl(const std::string& url) override { return note("openUrl " + url); }
     Result<void> showInFileManager(const std::string& path) override { return note("show " + path); }
-    Result<void> moveToTrash(const std::string& path) override { return note("trash " + path); }
+    Trash& trash() override { return m_trash; }
     Result<void> play(const std::string& path) override { return note("play " + path); }
     Result<void> stopPlaying() override { return note("stop"); }
     Result<void> setOutputMuted(bool muted) override { return note(muted ? "mute" : "unmute"); }
@@ -35,6 +36,7 @@ class RecordingDesktop final : public Desktop {
         calls.push_back(call);
         return {};
     }
+    RecordingTrash m_trash{calls};
 };
 
 /// Preferences that name one library file, or none.

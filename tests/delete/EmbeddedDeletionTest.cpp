@@ -15,6 +15,7 @@
 #include "platform/Preferences.h"
 #include "platform/Sleeper.h"
 #include "support/RecordingLog.h"
+#include "support/RecordingTrash.h"
 
 #include <QUrl>
 
@@ -31,14 +32,43 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// A desktop whose Trash is a folder, or refuses.
-class FolderTrash final : public Desktop {
+/// A Trash that is a folder, or refuses.
+class FolderTrash final : public Trash {
   public:
     explicit FolderTrash(std::string folder)
         : m_folder(std::move(folder)) {
         std::filesystem::create_directory(m_folder);
     }
 
+    Result<TrashedFile> moveToTrash(const std::string& path) override {
+        if (refuses) return Error{Error::Code::noSpace, "the Trash is full"};
+        const TrashedFile file = {m_folder, std::to_string(++trashed)};
+        std::filesystem::rename(path, file.path());
+        return file;
+    }
+    Result<RestoredFile> restoreFromTrash(const TrashedFile& file, const std::string& path) override {
+        std::filesystem::rename(file.path(), path);
+        return RestoredFile{};
+    }
+    std::optional<TrashedFile> findInTrash(const std::string&,
+                                           std::chrono::system_clock::time_point) override {
+        return std::nullopt;
+    }
+    std::unique_ptr<TrashCheck> newCheck() override { return std::make_unique<test::NoTrashCheck>(); }
+
+    bool refuses = false;
+    int trashed = 0;
+
+  private:
+    std::string m_folder;
+};
+
+class TrashOnlyDesktop final : public Desktop {
+  public:
+    explicit TrashOnlyDesktop(Trash& trash)
+        : m_trash(trash) {}
+
+    Trash& trash() override { return m_trash; }
     Result<void> openUrl(const std::string&) override { return {}; }
     Result<void> showInFileManager(const std::string&) override { return {}; }
     Result<void> play(const std::string&) override { return {}; }
@@ -47,18 +77,11 @@ class FolderTrash final : public Desktop {
         muted = isMuted;
         return {};
     }
-    Result<void> moveToTrash(const std::string& path) override {
-        if (refuses) return Error{Error::Code::noSpace, "the Trash is full"};
-        std::filesystem::rename(path, m_folder + "/" + std::to_string(++trashed));
-        return {};
-    }
 
-    bool refuses = false;
     bool muted = false;
-    int trashed = 0;
 
   private:
-    std::string m_folder;
+    Trash& m_trash;
 };
 
 class OneLibrary final : public Preferences {
@@ -143,7 +166,8 @@ class EmbeddedDeletionTest : public testing::Test {
 
     test::Folder m_folder;
     std::string m_text; ///< of the library as it was
-    FolderTrash m_desktop{m_folder.pathOf("Trash")};
+    FolderTrash m_trash{m_folder.pathOf("Trash")};
+    TrashOnlyDesktop m_desktop{m_trash};
     Files m_files;
     test::RecordingLog m_log;
     NoSleep m_sleeper;
@@ -169,7 +193,7 @@ TEST_F(EmbeddedDeletionTest, TheLosingCopiesLeaveTheLibraryAndAllElseStays) {
     const DeleteReport report = deleteMarked(list);
 
     EXPECT_TRUE(report.allDealtWith());
-    EXPECT_EQ(m_desktop.trashed, 2);
+    EXPECT_EQ(m_trash.trashed, 2);
     EXPECT_FALSE(m_desktop.muted);
     EXPECT_FALSE(m_files.exists(m_folder.pathOf("a.mp3")));
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a2.mp3")));
@@ -198,7 +222,7 @@ TEST_F(EmbeddedDeletionTest, WhiteSpaceAroundALocationHidesNoSharedFile) {
     markItems(list.rows, MarkType::highestBitrate, true);
     deleteMarked(list);
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
-    EXPECT_EQ(m_desktop.trashed, 0);
+    EXPECT_EQ(m_trash.trashed, 0);
 }
 
 TEST_F(EmbeddedDeletionTest, AwkwardNamesGoToTheTrashOrStay) {
@@ -214,7 +238,7 @@ TEST_F(EmbeddedDeletionTest, AwkwardNamesGoToTheTrashOrStay) {
     for (const DeleteOutcome& outcome : report.outcomes)
         EXPECT_EQ(m_files.exists(outcome.location), outcome.file == DeleteOutcome::File::kept)
             << outcomeLine(outcome);
-    EXPECT_EQ(m_desktop.trashed, 4);
+    EXPECT_EQ(m_trash.trashed, 4);
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("say \"hi\".mp3")));
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("back\\nslash.mp3")));
     EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102, 104, 106, 108, 110}));
@@ -222,7 +246,7 @@ TEST_F(EmbeddedDeletionTest, AwkwardNamesGoToTheTrashOrStay) {
 
 TEST_F(EmbeddedDeletionTest, ATrashThatRefusesLeavesTheFileAndSaysWhy) {
     writeLibrary({"a.mp3", "a2.mp3"});
-    m_desktop.refuses = true;
+    m_trash.refuses = true;
     DisplayedList list = search(2);
     markItems(list.rows, MarkType::highestBitrate, true);
     const DeleteReport report = deleteMarked(list);

@@ -26,7 +26,7 @@ TEST_F(FinderApplicationTest, FinderMovesAFileToTheTrash) {
 
 TEST_F(FinderApplicationTest, WhatTheTrashRefusesFailsTheScriptWithTheReason) {
     open(manyTracks(1));
-    m_desktop.trashRefusal = "the disk has no Trash";
+    m_desktop.recordingTrash.refusal = "the disk has no Trash";
     const std::string path = m_folder.write("a.mp3", "sound");
     EXPECT_THAT(failure(test::deleteFileText(hfsPath(path).value())), HasSubstr("the disk has no Trash"));
     EXPECT_EQ(contentOf(path), "sound");

@@ -17,6 +17,7 @@ struct FakeDescriptor {
 struct FakeMac {
     std::vector<std::string> calls;
     bool succeeds = true;
+    bool tellsWhere = true; ///< where a trashed file lies
     /// Entries of the domain "com.apple.iApps"; "(number)" stands for a number.
     std::vector<std::string> recentDatabases;
     bool hasDomain = true;

@@ -91,10 +91,12 @@ static OSType codeOf(const std::string& letters) {
 
 @implementation NSFileManager (MissingFromGNUstep)
 - (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(NSURL**)result error:(NSError**)error {
-    (void)result;
     note("trash", [url path]);
-    if (fakeMac().succeeds)
+    if (fakeMac().succeeds) {
+        NSString* place = [@"/Users/ann/.Trash" stringByAppendingPathComponent:[url lastPathComponent]];
+        *result = fakeMac().tellsWhere ? [NSURL fileURLWithPath:place] : nil;
         return YES;
+    }
     NSDictionary* info = [NSDictionary dictionaryWithObject:@"The volume has no Trash."
                                                      forKey:NSLocalizedDescriptionKey];
     *error = [NSError errorWithDomain:NSCocoaErrorDomain code:1 userInfo:info];

@@ -3,6 +3,7 @@
 #include "platform/HfsPath.h"
 #include "platform/HomeFolder.h"
 #include "platform/Native.h"
+#include "platform/Trash.h"
 #include "support/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -43,16 +44,59 @@ TEST_F(Mac, PlaysAFileByItsUrl) {
 }
 
 TEST_F(Mac, MovesAFileToTheTrash) {
-    ASSERT_TRUE(m_desktop->moveToTrash("/Music/a b.mp3"));
+    const Result<TrashedFile> trashed = m_desktop->trash().moveToTrash("/Music/a b.mp3");
     EXPECT_THAT(fakeMac().calls, ElementsAre("trash /Music/a b.mp3"));
+    ASSERT_TRUE(trashed);
+    EXPECT_EQ(trashed.value().path(), "/Users/ann/.Trash/a b.mp3");
+}
+
+TEST_F(Mac, BelievesNoTrashThatDoesNotTellWhereAFileIs) {
+    fakeMac().tellsWhere = false;
+    EXPECT_FALSE(m_desktop->trash().moveToTrash("/Music/a.mp3"));
+}
+
+TEST_F(Mac, BringsAFileBackAndMakesItsFolders) {
+    const TemporaryFolder folder;
+    folder.write("Trash/a.mp3", "music");
+    const TrashedFile trashed = {folder.path() + "/Trash", "a.mp3"};
+    const std::string path = folder.path() + "/Abba/Gold/SOS.mp3";
+
+    const Result<RestoredFile> restored = m_desktop->trash().restoreFromTrash(trashed, path);
+
+    ASSERT_TRUE(restored);
+    EXPECT_THAT(restored.value().madeFolders,
+                ElementsAre(folder.path() + "/Abba", folder.path() + "/Abba/Gold"));
+    EXPECT_EQ(folder.read("Abba/Gold/SOS.mp3"), "music");
+    const Result<RestoredFile> again = m_desktop->trash().restoreFromTrash(trashed, path);
+    ASSERT_FALSE(again);
+    EXPECT_EQ(again.error().code, Error::Code::notFound);
+}
+
+TEST_F(Mac, BringsNoFileBackOverAnother) {
+    const TemporaryFolder folder;
+    folder.write("Trash/a.mp3", "music");
+    const std::string path = folder.write("a.mp3", "another");
+    const Result<RestoredFile> restored =
+        m_desktop->trash().restoreFromTrash({folder.path() + "/Trash", "a.mp3"}, path);
+    ASSERT_FALSE(restored);
+    EXPECT_EQ(restored.error().code, Error::Code::alreadyExists);
+    EXPECT_EQ(folder.read("a.mp3"), "another");
+    EXPECT_EQ(folder.read("Trash/a.mp3"), "music");
+}
+
+TEST_F(Mac, ForeseesWhatCannotGoToTheTrash) {
+    const TemporaryFolder folder;
+    const std::unique_ptr<TrashCheck> check = m_desktop->trash().newCheck();
+    EXPECT_TRUE(check->add(folder.write("a.mp3", "music")));
+    EXPECT_EQ(check->add(folder.path() + "/missing.mp3").error().code, Error::Code::notFound);
 }
 
 TEST_F(Mac, SaysWhyTheTrashRefuses) {
     fakeMac().succeeds = false;
-    const Result<void> result = m_desktop->moveToTrash("/Music/a.mp3");
+    const Result<TrashedFile> result = m_desktop->trash().moveToTrash("/Music/a.mp3");
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().message, "The volume has no Trash.");
-    EXPECT_FALSE(m_desktop->moveToTrash("a.mp3"));
+    EXPECT_FALSE(m_desktop->trash().moveToTrash("a.mp3"));
 }
 
 TEST_F(Mac, MutesAndUnmutesByAScript) {
@@ -73,7 +117,7 @@ TEST_F(Mac, TellsWhatFailed) {
 }
 
 TEST_F(Mac, WorksFromAWorkersThread) {
-    std::thread([this] { EXPECT_TRUE(m_desktop->moveToTrash("/a.mp3")); }).join();
+    std::thread([this] { EXPECT_TRUE(m_desktop->trash().moveToTrash("/a.mp3")); }).join();
     EXPECT_THAT(fakeMac().calls, ElementsAre("trash /a.mp3"));
 }
 

@@ -4,15 +4,12 @@
 #include "platform/linux/MediaPlayer.h"
 #include "platform/linux/Opener.h"
 #include "platform/linux/SoundServer.h"
-#include "platform/linux/Trash.h"
 
 namespace songsweep {
 
 Result<void> LinuxDesktop::openUrl(const std::string& url) { return openWithDefault(url); }
 
 Result<void> LinuxDesktop::showInFileManager(const std::string& path) { return showFile(path); }
-
-Result<void> LinuxDesktop::moveToTrash(const std::string& path) { return songsweep::moveToTrash(path); }
 
 Result<void> LinuxDesktop::play(const std::string& path) { return playFile(path); }
 

@@ -38,17 +38,6 @@ Result<void> MacDesktop::showInFileManager(const std::string& path) {
     return {};
 }
 
-Result<void> MacDesktop::moveToTrash(const std::string& path) {
-    const AutoreleasePool pool;
-    NSURL* url = urlOfFile(path);
-    if (url == nil || !path.starts_with('/'))
-        return Error{Error::Code::invalid, "Not an absolute path"};
-    NSError* error = nil;
-    if ([[NSFileManager defaultManager] trashItemAtURL:url resultingItemURL:nullptr error:&error])
-        return {};
-    return Error{Error::Code::failed, utf8Text([error localizedDescription])};
-}
-
 Result<void> MacDesktop::play(const std::string& path) {
     const AutoreleasePool pool;
     return open(urlOfFile(path), path);
