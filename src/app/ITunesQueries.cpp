@@ -46,7 +46,8 @@ std::vector<std::string> ITunesQueries::userPlaylistNames() const {
 }
 
 std::int32_t ITunesQueries::getMusicLibraryInt(const std::string& name) const {
-    if (!canStandInText(name)) return -1; // as where the name breaks the script
+    // The name goes in as it is, so that one which would not read back breaks the script.
+    if (escapedWords(name) != name) return -1;
     const auto index = m_scripts.executeAndReturnError(playlistIndexScript(name));
     return index ? integerValue(textOf(index.value())) : -1;
 }
@@ -73,7 +74,7 @@ void ITunesQueries::iTunesStop() const {
 void ITunesQueries::play(const std::string& hfsPath) const {
     if (!canStandInText(hfsPath)) return;
     // A file that cannot be played is no news to a user who just asked for it: nothing starts.
-    (void)m_scripts.executeAndReturnError("tell application \"iTunes\" \nplay \"" + hfsPath +
+    (void)m_scripts.executeAndReturnError("tell application \"iTunes\" \nplay \"" + escapedWords(hfsPath) +
                                           "\" \nend tell");
 }
 

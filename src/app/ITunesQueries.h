@@ -28,7 +28,8 @@ class ITunesQueries {
     /// The names of the user playlists that are not smart, in iTunes' order; each is logged.
     std::vector<std::string> userPlaylistNames() const;
 
-    /// The index, from 1, of the first playlist of that name, or -1. The name goes into the script as it is.
+    /// The index, from 1, of the first playlist of that name, or -1. The name goes into the script as it
+    /// is, so that one with a quote or a backslash is found nowhere.
     std::int32_t getMusicLibraryInt(const std::string& name) const;
 
     /// The number of tracks of playlist 1, -1 when iTunes does not answer.

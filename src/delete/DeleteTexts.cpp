@@ -9,12 +9,12 @@ namespace songsweep {
 namespace deleteTexts {
 
 std::string deleteTrack(std::string_view pid) {
-    return "tell application \"iTunes\" to delete (tracks whose persistent ID is \"" + std::string(pid) +
+    return "tell application \"iTunes\" to delete (tracks whose persistent ID is \"" + escapedWords(pid) +
            "\")";
 }
 
 std::string deleteFile(std::string_view hfsPath) {
-    return "tell application \"Finder\" \nset file_to_delete to alias \"" + std::string(hfsPath) +
+    return "tell application \"Finder\" \nset file_to_delete to alias \"" + escapedWords(hfsPath) +
            "\" \nset locked of file_to_delete to false \ndelete file_to_delete \nend tell";
 }
 

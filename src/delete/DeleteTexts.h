@@ -7,7 +7,7 @@
 
 namespace songsweep {
 
-/// The AppleScript texts of a deletion.
+/// The AppleScript texts of a deletion; IDs and paths go in so that they read back as themselves.
 namespace deleteTexts {
 
 inline constexpr const char* mute = "tell application \"Finder\" \nset volume with output muted \nend tell";
@@ -24,7 +24,7 @@ bool isPath(std::string_view location);
 
 /// The HFS path by which a file can be named in a text, or nothing.
 ///
-/// A text is sent only where its literal reads back as that very path; another one could name another file.
+/// A text is sent only where its HFS path leads back to that very path; another one could name another file.
 std::optional<std::string> nameableHfsPath(std::string_view posixPath);
 
 /// Whether nameableHfsPath has an answer.

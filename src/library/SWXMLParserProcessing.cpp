@@ -17,7 +17,7 @@ namespace {
 std::string locationScript(std::string_view pid) {
     std::string script = "tell application \"iTunes\" \n"
                          "set tlocation2 to location of (tracks whose persistent ID is \"";
-    script += pid;
+    script += escapedWords(pid);
     script += "\") \n"
               "try \n"
               "set tlocation to POSIX path of tlocation2 \n"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/SourceNotation.h"
 
+#include "scripting/TextLiteral.h"
 #include "scripting/ValueTexts.h"
 
 namespace songsweep {
@@ -36,13 +37,6 @@ std::string sourceNotation(const Descriptor& descriptor) {
     return std::visit(NotationOf(), descriptor.value());
 }
 
-std::string quotedNotation(const std::string& text) {
-    std::string quoted = "\"";
-    for (const char letter : text) {
-        if (letter == '"' || letter == '\\') quoted += '\\';
-        quoted += letter;
-    }
-    return quoted + '"';
-}
+std::string quotedNotation(const std::string& text) { return '"' + escapedWords(text) + '"'; }
 
 } // namespace songsweep

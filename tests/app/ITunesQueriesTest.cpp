@@ -54,11 +54,16 @@ TEST_F(ITunesQueriesTest, AFailedListOfUserPlaylistsIsLogged) {
     EXPECT_THAT(log.lines(), ElementsAre("Error occured"));
 }
 
-TEST_F(ITunesQueriesTest, WordsThatWouldEndTheirLiteralAreNotSent) {
+TEST_F(ITunesQueriesTest, APlaylistNameThatWouldEndItsLiteralIsNotSent) {
     EXPECT_EQ(queries.getMusicLibraryInt("Best \"of\""), -1);
     EXPECT_EQ(queries.getMusicLibraryInt("AC\\DC"), -1);
-    queries.play("Disk:a\" \ndelete tracks of playlist 1 \nplay \"b.mp3");
     EXPECT_THAT(iTunes.texts(), IsEmpty());
+}
+
+TEST_F(ITunesQueriesTest, APathThatWouldEndItsLiteralIsEscaped) {
+    queries.play("Disk:a\" \nback\\slash.mp3");
+    EXPECT_THAT(iTunes.texts(), ElementsAre("tell application \"iTunes\" \nplay \"Disk:a\\\" \n"
+                                            "back\\\\slash.mp3\" \nend tell"));
 }
 
 TEST_F(ITunesQueriesTest, ThePlaylistIndexIsTheFirstOfThatName) {

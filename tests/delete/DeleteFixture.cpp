@@ -2,6 +2,7 @@
 #include "delete/DeleteFixture.h"
 
 #include "platform/HfsPath.h"
+#include "scripting/interpreter/Lexer.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -117,7 +118,7 @@ Result<Descriptor> DeleteFixture::answer(std::string_view text) {
     if (entry == m_failingEntry) return Error{Error::Code::failed, m_failure};
     const auto hfs = fileOfText(text);
     if (!hfs) return Descriptor();
-    const auto file = posixPath(*hfs);
+    const auto file = posixPath(interpreter::unescapedText(*hfs));
     if (!file) return Error{Error::Code::notFound, "no such volume"};
     moveToTrash(*file);
     return Descriptor();

@@ -4,6 +4,7 @@
 #include "delete/DeleteReport.h"
 #include "platform/HfsPath.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace songsweep {
@@ -20,11 +21,18 @@ TEST(DeleteTextsTest, TheTextsStandAsWritten) {
               "set locked of file_to_delete to false \ndelete file_to_delete \nend tell");
 }
 
+TEST(DeleteTextsTest, WordsThatWouldEndTheirLiteralAreEscaped) {
+    EXPECT_EQ(deleteTexts::deleteTrack("0\") \\ (\""),
+              "tell application \"iTunes\" to delete (tracks whose persistent ID is \"0\\\") \\\\ (\\\"\")");
+    EXPECT_THAT(deleteTexts::deleteFile("Macintosh HD:say \"hi\":back\\slash"),
+                testing::HasSubstr("alias \"Macintosh HD:say \\\"hi\\\":back\\\\slash\" \n"));
+}
+
 TEST(DeleteTextsTest, OnlyNamesThatReadBackAreSent) {
-    for (const char* const path :
-         {"/a.mp3", "/a:b/c d.mp3", "/été/歌.mp3", "/line\nbreak\r.mp3", "/it's.mp3"})
+    for (const char* const path : {"/a.mp3", "/a:b/c d.mp3", "/été/歌.mp3", "/line\nbreak\r.mp3", "/it's.mp3",
+                                   "/a\"b", "/a\\b", "/a\\\\b", "/a\\nb", "/no text \xff"})
         EXPECT_EQ(nameableHfsPath(path), hfsPath(path)) << path;
-    for (const char* const path : {"/a\"b", "/a\\b", "/a\\\\b", "/a\\nb", "relative.mp3", "", "msng"})
+    for (const char* const path : {"relative.mp3", "", "msng"})
         EXPECT_FALSE(canNameFile(path)) << path;
 }
 

@@ -50,14 +50,14 @@ TEST_F(SWXMLParserRefreshTest, SendsThisText) {
                             "end tell"));
 }
 
-TEST_F(SWXMLParserRefreshTest, AnIdThatWouldEndItsLiteralIsNotSent) {
+TEST_F(SWXMLParserRefreshTest, EscapesAnIdThatWouldEndItsLiteral) {
     answer(Descriptor::text("/new"));
     SWXMLParser parser(m_services);
-    TrackRecord record{.pid = "0\") \ndelete tracks of playlist 1 \nset q to (tracks whose name is \"",
-                       .location = "/old"};
+    TrackRecord record{.pid = "0\") \ndelete \\", .location = "/old"};
     parser.refreshLocationApplescript(record);
-    EXPECT_THAT(m_scripts.sources, IsEmpty());
-    EXPECT_EQ(record.location, "/old");
+    ASSERT_EQ(m_scripts.sources.size(), 1U);
+    EXPECT_THAT(m_scripts.sources[0], testing::HasSubstr("ID is \"0\\\") \ndelete \\\\\") \ntry"));
+    EXPECT_EQ(record.location, "/new");
 }
 
 TEST_F(SWXMLParserRefreshTest, TakesTheAnswerAsItComes) {
