@@ -81,7 +81,7 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     void deleteButtonClick();
     void deleteMarkedMenuClick();
     void cancelformButtonClick();
-    void openLibrary(const QString& path);
+    void openLibrary(const std::string& path);
     void markMenuClick(std::int32_t tag);
     void playMenuClick();
     void showinFinderMenuClick();

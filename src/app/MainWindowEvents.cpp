@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
+#include "library/LocationUrl.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -12,12 +13,18 @@ namespace songsweep {
 
 namespace {
 
+/// By its bytes, since a name need not be one that Qt's texts can hold; empty where it is no file.
+std::string localPath(const QUrl& url) {
+    if (!url.isLocalFile()) return {};
+    return pathOfUrl(url.toEncoded(QUrl::FullyEncoded).toStdString()).value_or(std::string());
+}
+
 /// The one library file among what is dragged, or an empty text.
-QString libraryPath(const QMimeData& data) {
+std::string libraryPath(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
-    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
-    const QString path = urls.front().toLocalFile();
-    return path.endsWith(QStringLiteral(".xml"), Qt::CaseInsensitive) ? path : QString();
+    if (urls.size() != 1) return {};
+    const bool isLibrary = urls.front().fileName().endsWith(QStringLiteral(".xml"), Qt::CaseInsensitive);
+    return isLibrary ? localPath(urls.front()) : std::string();
 }
 
 } // namespace
@@ -28,12 +35,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!libraryPath(*event->mimeData()).isEmpty() && m_mayOpenLibrary()) event->acceptProposedAction();
+    if (!libraryPath(*event->mimeData()).empty() && m_mayOpenLibrary()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    const QString path = libraryPath(*event->mimeData());
-    if (path.isEmpty()) return;
+    const std::string path = libraryPath(*event->mimeData());
+    if (path.empty()) return;
     event->acceptProposedAction();
     Q_EMIT openLibrary(path);
 }
@@ -52,7 +59,8 @@ void MainWindow::chooseLibrary() {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilter(QStringLiteral("iTunes libraries (*.xml)"));
-    connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::openLibrary);
+    connect(dialog, &QFileDialog::urlSelected, this,
+            [this](const QUrl& url) { Q_EMIT openLibrary(localPath(url)); });
     dialog->open();
 }
 

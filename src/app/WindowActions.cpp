@@ -140,12 +140,12 @@ void WindowActions::connectApplication() {
     });
 }
 
-void WindowActions::chooseLibrary(const QString& path) {
+void WindowActions::chooseLibrary(const std::string& path) {
     if (!m_controller.isIdle()) {
         m_windows.beep();
         return;
     }
-    const OpenedLibrary opened = m_openLibrary(path.toStdString());
+    const OpenedLibrary opened = m_openLibrary(path);
     if (opened.turned) m_controller.resetForLibrary();
     if (!opened.problem.empty()) m_windows.alertCantOpen(opened.problem);
 }

@@ -33,7 +33,7 @@ class WindowActions : public QObject {
     void connectMarkDialog();
     void connectDeletion();
     void connectApplication();
-    void chooseLibrary(const QString& path);
+    void chooseLibrary(const std::string& path);
     void updateMarkPreview();
     QString markReason(int row) const;
     void quit();

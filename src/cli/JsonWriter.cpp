@@ -3,6 +3,8 @@
 #include "cli/SearchReport.h"
 #include "library/Groups.h"
 #include "library/ValueFormats.h"
+#include "platform/FileUrl.h"
+#include "platform/Utf8.h"
 
 #include <nlohmann/json.hpp>
 
@@ -13,6 +15,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 /// All keys of a record, in their order; a record of the AppleScript reader lacks "isfile" and "trackid".
+/// JSON holds no bytes that are not UTF-8, so that such a location is told once more as a URL.
 Json trackObject(const TrackRecord& record) {
     Json track;
     track["checkbox"] = record.checkbox;
@@ -30,6 +33,7 @@ Json trackObject(const TrackRecord& record) {
     track["showid"] = record.showid ? "1" : "0";
     track["playcount"] = integerValue(record.playcount);
     track["location"] = record.location.view();
+    if (!isUtf8(record.location)) track["locationurl"] = fileUrl(record.location);
     track["dateaddedv"] = record.dateaddedv;
     track["dateadded"] = dateadded(record);
     track["hasartwork"] = record.hasartwork;

@@ -3,6 +3,8 @@
 
 #include "cli/Csv.h"
 #include "cli/Output.h"
+#include "platform/FileUrl.h"
+#include "platform/Utf8.h"
 
 #include <nlohmann/json.hpp>
 
@@ -36,19 +38,27 @@ void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
     output.write(summary(report, dryRun) + "\n");
 }
 
+/// A location that is not UTF-8 is told once more as a URL.
+nlohmann::ordered_json jsonOutcome(const DeleteOutcome& outcome) {
+    nlohmann::ordered_json object;
+    object["pid"] = outcome.pid;
+    object["name"] = outcome.name;
+    object["artist"] = outcome.artist;
+    object["location"] = outcome.location;
+    if (!isUtf8(outcome.location)) object["locationurl"] = fileUrl(outcome.location);
+    object["track"] = trackWord(outcome.track);
+    object["file"] = fileWord(outcome.file);
+    object["reason"] = outcome.reason;
+    object["dealtwith"] = outcome.dealtWith;
+    return object;
+}
+
 void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
     nlohmann::ordered_json whole;
     whole["dryrun"] = dryRun;
     whole["outcomes"] = nlohmann::ordered_json::array();
     for (const DeleteOutcome& outcome : report.outcomes) {
-        whole["outcomes"].push_back({{"pid", outcome.pid},
-                                     {"name", outcome.name},
-                                     {"artist", outcome.artist},
-                                     {"location", outcome.location},
-                                     {"track", trackWord(outcome.track)},
-                                     {"file", fileWord(outcome.file)},
-                                     {"reason", outcome.reason},
-                                     {"dealtwith", outcome.dealtWith}});
+        whole["outcomes"].push_back(jsonOutcome(outcome));
     }
     output.write(whole.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
 }

@@ -3,8 +3,6 @@
 
 #include "platform/Ascii.h"
 
-#include <unicode/utf8.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -81,19 +79,6 @@ std::size_t decode(std::string_view path, char* target) {
     return length;
 }
 
-bool isPlain(char c) { return c > 0 && static_cast<unsigned char>(c) < 0x80; }
-
-bool isUtf8WithoutZero(std::string_view text) {
-    if (std::all_of(text.begin(), text.end(), isPlain)) return true;
-    const auto length = static_cast<std::int32_t>(text.size());
-    for (std::int32_t i = 0; i < length;) {
-        UChar32 c = 0;
-        U8_NEXT(text.data(), i, length, c);
-        if (c <= 0) return false;
-    }
-    return true;
-}
-
 } // namespace
 
 std::optional<std::size_t> makePathOfUrl(std::span<char> url) {
@@ -103,7 +88,7 @@ std::optional<std::size_t> makePathOfUrl(std::span<char> url) {
     const std::string_view path = writtenPath(text.substr(0, *end));
     if (path.empty()) return {};
     std::size_t length = decode(path, url.data());
-    if (!isUtf8WithoutZero(text.substr(0, length))) return {};
+    if (text.substr(0, length).find('\0') != std::string_view::npos) return {};
     if (length > 1 && url[length - 1] == '/') --length;
     return length;
 }

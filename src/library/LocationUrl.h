@@ -13,9 +13,9 @@ namespace songsweep {
 /// "file://localhost/Users/ann/a%20b.mp3" gives "/Users/ann/a b.mp3",
 /// "file://localhost/C:/Music/a.mp3" gives "/C:/Music/a.mp3".
 ///
-/// Percent escapes are decoded; host, query and fragment are dropped, and so is one trailing "/". Nothing
-/// where the text is no URL: a character that must be escaped, a broken escape, a decoded path that is not
-/// UTF-8 or holds a zero byte, or no path at all. Thread-safe.
+/// Percent escapes are decoded to bytes, of whatever encoding the file's name is; host, query and fragment
+/// are dropped, and so is one trailing "/". Nothing where the text is no URL: a character that must be
+/// escaped, a broken escape, an escaped zero byte, or no path at all. Thread-safe.
 std::optional<std::string> pathOfUrl(std::string_view url);
 
 /// The same in place, for a million of them: the path's bytes take the place of the URL's first ones. Gives

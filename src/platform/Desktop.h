@@ -9,7 +9,7 @@ namespace songsweep {
 
 class Trash;
 
-/// What the desktop does for the program. Paths are local POSIX paths in UTF-8 (already mapped, see Files).
+/// What the desktop does for the program. Paths are local POSIX paths (already mapped, see Files).
 ///
 /// An interface with one implementation a platform. Callable from any thread; calls may block for seconds.
 class Desktop {

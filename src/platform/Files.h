@@ -25,9 +25,10 @@ struct FileAttributes {
 
 /// The questions that the program asks of track and library files.
 ///
-/// Paths are POSIX paths in UTF-8 as the library gives them. Each is turned into a local one first: by the
-/// path map, and, where nothing exists under the name as written and it is not plain ASCII, in composed and
-/// decomposed form. A class with virtual members, so that tests can provoke faults. Thread-safe.
+/// Paths are POSIX paths as the library gives them, in UTF-8 or in other bytes that name a file. Each is
+/// turned into a local one first: by the path map, and, where nothing exists under the name as written and it
+/// is not plain ASCII, in composed and decomposed form. A class with virtual members, so that tests can
+/// provoke faults. Thread-safe.
 class Files {
   public:
     Files() = default;

@@ -2,6 +2,7 @@
 #include "platform/NameForms.h"
 
 #include "platform/Ascii.h"
+#include "platform/Utf8.h"
 
 #include <sys/stat.h>
 #include <unicode/bytestream.h>
@@ -29,6 +30,8 @@ std::string normalized(const icu::Normalizer2* form, std::string_view name, UErr
 }
 
 std::array<std::string, 3> formsOf(std::string_view name) {
+    // Bytes that are no text have no other form; normalised, they would name another file.
+    if (!isUtf8(name)) return {std::string(name)};
     UErrorCode status = U_ZERO_ERROR;
     std::string composed = normalized(icu::Normalizer2::getNFCInstance(status), name, status);
     std::string decomposed = normalized(icu::Normalizer2::getNFDInstance(status), name, status);

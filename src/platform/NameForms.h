@@ -12,7 +12,8 @@ namespace songsweep {
 /// A library made on one file system names "é" by one code point, a copy on another by two, and a folder and
 /// the file in it may differ. Each component is therefore tried as written, composed and decomposed, from the
 /// left, and the first form that exists is kept: at most three calls of stat a component, and no search
-/// through combinations. Give it only paths that do not exist as written. Paths are UTF-8. Thread-safe.
+/// through combinations. Give it only paths that do not exist as written. A name that is not UTF-8 has one
+/// form only. Thread-safe.
 std::optional<std::string> existingInOtherForm(std::string_view path);
 
 } // namespace songsweep

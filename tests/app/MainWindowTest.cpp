@@ -372,7 +372,19 @@ TEST_F(MainWindowTest, ALibraryFileCanBeDropped) {
     QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window, &drop);
     ASSERT_EQ(opened.size(), 1);
-    EXPECT_EQ(opened[0][0].toString(), QStringLiteral("/music/iTunes Library.XML"));
+    EXPECT_EQ(opened[0][0].value<std::string>(), "/music/iTunes Library.XML");
+}
+
+TEST_F(MainWindowTest, ADroppedNameNeedNotBeUtf8) {
+    QSignalSpy opened(&window, &MainWindow::openLibrary);
+    QMimeData data;
+    data.setData(QStringLiteral("text/uri-list"), "file:///music/caf%E9%20100%25.xml\r\n");
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    ASSERT_EQ(opened.size(), 1);
+    EXPECT_EQ(opened[0][0].value<std::string>(), "/music/caf\xe9 100%.xml");
 }
 
 TEST_F(MainWindowTest, NoLibraryIsTakenOrChosenWhileTheGuardSaysNo) {

@@ -249,7 +249,7 @@ TEST_F(WindowActionsTest, ADeletionTakesTracksOutOfLibraryAndTable) {
 
 TEST_F(WindowActionsTest, ASearchWithoutAResultShowsTheEmptyTableAndTheAlert) {
     QApplication::setActiveWindow(&window());
-    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
+    Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));
     search();
     EXPECT_TRUE(rows().empty());
     ASSERT_NE(alert(), nullptr);
@@ -261,7 +261,7 @@ TEST_F(WindowActionsTest, ASearchWithoutAResultShowsTheEmptyTableAndTheAlert) {
 
 TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
     search();
-    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
+    Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));
     EXPECT_TRUE(rows().empty());
     EXPECT_EQ(page(), QStringLiteral("emptyPage"));
     EXPECT_EQ(alert(), nullptr);
@@ -269,14 +269,14 @@ TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
 
 TEST_F(WindowActionsTest, AnotherLibraryClosesTheParametersDialogOfTheOld) {
     press("searchButton");
-    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
+    Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));
     EXPECT_FALSE(windows.paramWindow().isVisible());
     press("searchButton");
     EXPECT_EQ(windows.paramWindow().parameters().playlist, "Library");
 }
 
 TEST_F(WindowActionsTest, ALibraryThatCannotBeReadSaysSo) {
-    Q_EMIT window().openLibrary(QString::fromStdString(folder.write("broken.xml", "no library")));
+    Q_EMIT window().openLibrary(folder.write("broken.xml", "no library"));
     ASSERT_NE(alert(), nullptr);
     EXPECT_EQ(alert()->text(), QStringLiteral("Can't open the library."));
     EXPECT_FALSE(alert()->informativeText().isEmpty());
@@ -287,7 +287,7 @@ TEST_F(WindowActionsTest, ALibraryThatHasToStayKeepsItsResults) {
     ASSERT_TRUE(program->scripting().run("tell application \"iTunes\" to delete track 1 of playlist 1"));
     std::filesystem::remove(library);
     const std::vector<TrackRecord*> before = rows();
-    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
+    Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));
     ASSERT_NE(alert(), nullptr);
     EXPECT_EQ(alert()->text(), QStringLiteral("Can't open the library."));
     EXPECT_EQ(program->scripting().libraryPath(), library);
@@ -299,13 +299,13 @@ TEST_F(WindowActionsTest, ALibraryIsNotOpenedWhileAWorkerRuns) {
     startSearch();
     window().findChild<QAction*>(QStringLiteral("openLibraryMenuitem"))->trigger();
     EXPECT_EQ(window().findChild<QFileDialog*>(), nullptr);
-    Q_EMIT window().openLibrary(QString::fromStdString(testData("library/five-tracks.xml")));
+    Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));
     EXPECT_EQ(program->scripting().libraryPath(), library);
     ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }));
 }
 
 TEST_F(WindowActionsTest, AnUnreachableLibraryIsToldInASheet) {
-    Q_EMIT window().openLibrary(QString::fromStdString(folder.path() + "/nowhere.xml"));
+    Q_EMIT window().openLibrary(folder.path() + "/nowhere.xml");
     ASSERT_NE(alert(), nullptr);
     alert()->done(0);
     handleWaitingEvents();

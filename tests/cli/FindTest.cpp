@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <cstdlib>
 #include <sstream>
 
 namespace songsweep {
@@ -263,6 +264,25 @@ TEST_F(Find, ReadsByScriptsWhereITunesIsOld) {
     EXPECT_FALSE(track.contains("isfile"));
     EXPECT_FALSE(track.contains("trackid"));
     EXPECT_EQ(track.at("dateaddedv"), 1237043340) << "kept to the minute";
+}
+
+/// Qt cannot pass such names on, a shell can.
+TEST_F(Find, ReadsNamesThatAreNotUtf8) {
+    const std::string song = m_folder.write("caf\xe9.mp3", "x");
+    const std::string library = m_folder.write(
+        "Bj\xf6rk.xml", libraryText({{.id = 1, .name = "A", .artist = "B", .path = song},
+                                     {.id = 2, .name = "A", .artist = "B", .path = path("song1.mp3")}}));
+    for (const std::string version : {"12.0", "9.2.1"}) {
+        const std::string command = "'" + program() + "' find --library '" + library + "' --itunes-version " +
+                                    version + " --format json --output '" + path("found.json") + "'";
+        ASSERT_EQ(std::system(command.c_str()), 0);
+        const ordered_json tracks =
+            ordered_json::parse(m_folder.read("found.json")).at("groups").at(0).at("tracks");
+        EXPECT_EQ(tracks.at(0).at("isdead"), false);
+        EXPECT_EQ(tracks.at(0).at("locationurl"), "file://" + path("caf%E9.mp3"));
+        EXPECT_EQ(tracks.at(0).at("location"), path("caf\uFFFD.mp3"));
+        EXPECT_FALSE(tracks.at(1).contains("locationurl"));
+    }
 }
 
 TEST_F(Find, LeavesTheLibraryAsItIs) {

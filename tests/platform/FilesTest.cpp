@@ -116,6 +116,15 @@ TEST(Files, FindsAFolderAndAFileInDifferentForms) {
             EXPECT_EQ(Files().localPath(folder.path() + "/" + first + "/plain/" + second), file);
 }
 
+TEST(Files, TakesNoOtherFileForANameThatIsNotUtf8) {
+    const TemporaryFolder folder;
+    folder.write("a\uFFFD.mp3", "x");
+    EXPECT_FALSE(Files().exists(folder.path() + "/a\xff.mp3"));
+    const std::string file = folder.write("caf\xe9/" + composed, "x");
+    EXPECT_TRUE(Files().exists(file));
+    EXPECT_EQ(Files().localPath(folder.path() + "/caf\xe9/" + decomposed), file);
+}
+
 TEST(Files, PrefersTheNameAsWritten) {
     const TemporaryFolder folder;
     const std::string one = folder.write(composed, "x");
