@@ -2,6 +2,7 @@
 #include "app/RunWindow.h"
 #include "cli/RunCommand.h"
 #include "platform/Memory.h"
+#include "platform/StandardDescriptors.h"
 
 #include <variant>
 
@@ -19,6 +20,8 @@ ProgramOptions programOptions(const cli::LibraryOptions& options) {
 } // namespace
 
 int main(int argumentCount, char** arguments) {
+    openStandardDescriptors();
+    survivePipesThatClose();
     returnLargeBlocksAtOnce();
     const auto parsed = cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION);
     if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);

@@ -12,10 +12,23 @@ namespace songsweep {
 
 namespace {
 
+/// Short, unless the letters of "link/.." would then lead elsewhere than the system goes.
 std::string absolutePath(const std::string& path) {
+    namespace fs = std::filesystem;
     std::error_code error;
-    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
-    return error ? path : absolute.lexically_normal().string();
+    const fs::path absolute = fs::absolute(path, error);
+    if (error) return path;
+    const fs::path normal = absolute.lexically_normal();
+    return (fs::equivalent(absolute, normal, error) ? normal : absolute).string();
+}
+
+std::string noLibraryReason() {
+    std::string places;
+    for (const std::string& place : nativeLibraryPlaces())
+        places += (places.empty() ? "" : ", ") + place;
+    return "no library was found on this machine; name one with --library, or open one in the window (looked "
+           "for in " +
+           places + ")";
 }
 
 } // namespace
@@ -96,6 +109,7 @@ std::string Program::unreachableReason() const {
     if (!m_scripts.usesEmbedded()) return {};
     const std::optional<Error> error = m_scripting.libraryError();
     if (!error) return {};
+    if (m_scripting.libraryPath().empty()) return noLibraryReason();
     return withLibraryPath(error->message);
 }
 

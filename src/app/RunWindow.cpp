@@ -12,6 +12,9 @@
 #include <QMessageBox>
 #include <QSettings>
 
+#include <unistd.h>
+
+#include <cstdio>
 #include <cstdlib>
 
 namespace songsweep {
@@ -25,6 +28,15 @@ void nameApplication(const std::string& version) {
     QApplication::setApplicationName(QStringLiteral("Songsweep"));
     QApplication::setApplicationVersion(QString::fromStdString(version));
     QApplication::setDesktopFileName(QStringLiteral("songsweep"));
+}
+
+/// Qt ends the process with a core dump where it reaches no display, and says much on the way there.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+    if (type != QtFatalMsg) return;
+    std::fputs("songsweep: no display can be reached for the window; songsweep find, mark, delete and script "
+               "do without one\n",
+               stderr);
+    std::_Exit(EXIT_FAILURE);
 }
 
 /// Qt's file chooser would remember folders and widths in a settings file; this program keeps none.
@@ -56,7 +68,12 @@ void writeLibrary(Program& program, Windows& windows) {
     QApplication::exec();
 }
 
-int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& redirectLog) {
+int runUntilQuit(ProgramOptions options, InterruptibleLog& log, const std::function<bool()>& redirectLog) {
+    // Quitting lets a deletion turn the sound on again and the library be written.
+    const SignalWatch signals([&log](int) {
+        log.endSoon();
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    });
     Program program(std::move(options), log);
     Windows windows(log);
     program.setWriteFailedHandler([&windows](const std::string& reason) {
@@ -70,23 +87,22 @@ int runWithLog(ProgramOptions options, Log& log, const std::function<bool()>& re
 } // namespace
 
 int runWindow(ProgramOptions options, const std::string& logFile, int argumentCount, char** arguments) {
+    const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);
     QApplication application(argumentCount, arguments);
+    qInstallMessageHandler(handler);
     nameApplication(options.version);
     keepNoSettingsFile();
     applyTheme(application);
-    // Quitting lets a deletion turn the sound on again and the library be written.
-    const SignalWatch signals(
-        [](int) { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); });
-    DescriptorLog console;
+    InterruptibleLog console(STDERR_FILENO, InterruptibleLog::Descriptor::staysOpen);
     if (logFile.empty())
-        return runWithLog(std::move(options), console,
-                          [&console] { return redirectStandardError(documentsFolder(), console); });
-    const Result<std::unique_ptr<Log>> file = openLogFile(logFile);
+        return runUntilQuit(std::move(options), console,
+                            [&console] { return redirectStandardError(documentsFolder(), console); });
+    const Result<std::unique_ptr<InterruptibleLog>> file = openLogFile(logFile);
     if (!file) {
-        console.line(logFile + ": " + file.error().message);
+        console.line("songsweep: " + file.error().message);
         return EXIT_FAILURE;
     }
-    return runWithLog(std::move(options), *file.value(), {});
+    return runUntilQuit(std::move(options), *file.value(), {});
 }
 
 } // namespace songsweep

@@ -5,11 +5,14 @@
 #include "dupes/MarkRule.h"
 #include "library/RecentLibrary.h"
 #include "platform/Native.h"
+#include "platform/TerminalText.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <filesystem>
+#include <iostream>
+#include <sstream>
 #include <vector>
 
 namespace songsweep::cli {
@@ -18,14 +21,24 @@ namespace {
 
 /// What the parser fills in, besides the options themselves.
 struct Raw {
-    std::vector<std::string> same = {"name", "artist"};
+    std::vector<std::string> same = {"name", "artist", "time"};
     std::vector<std::string> maps;
+    LibraryOptions library; ///< given before the command or after it
+    std::string file;       ///< a library for the window
 };
 
-void addLibraryOptions(CLI::App& command, LibraryOptions& options, Raw& raw, bool required) {
+std::string checkVersion(const std::string& text) {
+    for (const std::string& number : CLI::detail::split(text, '.'))
+        if (number.empty() || number.find_first_not_of("0123456789") != std::string::npos)
+            return "'" + text + "' is no version, which is written 12.0";
+    return {};
+}
+
+/// Options that count before the command, too.
+void addLibraryOptions(CLI::App& command, Raw& raw, const std::string& required = {}) {
+    LibraryOptions& options = raw.library;
     command.add_option("--library", options.library, "The iTunes library XML file")
-        ->required(required)
-        ->type_name("FILE");
+        ->type_name("FILE" + required);
     command.add_option("--map", raw.maps, "Where a folder of the library's machine is here; repeatable")
         ->type_name("FROM=TO")
         ->allow_extra_args(false)
@@ -34,8 +47,13 @@ void addLibraryOptions(CLI::App& command, LibraryOptions& options, Raw& raw, boo
             return equals == std::string::npos || equals == 0 ? "a map is written FROM=TO" : std::string();
         });
     command.add_option("--itunes-version", options.iTunesVersion, "What the embedded iTunes says it is")
+        ->check(checkVersion)
         ->type_name("V");
     command.add_option("--log", options.log, "Write the log to a file")->type_name("FILE");
+}
+
+void addVerbose(CLI::App& command, Raw& raw) {
+    command.add_flag("--verbose", raw.library.verbose, "Show the log on standard error");
 }
 
 std::string checkField(const std::string& text) {
@@ -55,13 +73,14 @@ std::string checkFormat(const std::string& text) {
 }
 
 void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
-    addLibraryOptions(command, options, raw, true);
+    addLibraryOptions(command, raw, " REQUIRED");
+    addVerbose(command, raw);
     command.add_option("--same", raw.same, "What duplicates have in common: name,artist,album,time, or none")
         ->delimiter(',')
         ->allow_extra_args(false)
         ->check(checkField)
         ->type_name("FIELDS")
-        ->default_str("name,artist");
+        ->default_str("name,artist,time");
     command
         .add_option_function<std::string>(
             "--playlist", [&options](const std::string& name) { options.parameters.playlist = name; },
@@ -110,6 +129,7 @@ void addDeleteOptions(CLI::App& command, DeleteOptions& options, Raw& raw) {
 }
 
 void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
+    options = raw.library;
     for (const std::string& map : raw.maps) {
         const std::size_t equals = map.find('=');
         options.map.add(map.substr(0, equals), map.substr(equals + 1));
@@ -118,6 +138,7 @@ void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
 
 void finishFindOptions(FindOptions& options, const Raw& raw) {
     finishLibraryOptions(options, raw);
+    if (options.library.empty()) throw CLI::RequiredError("--library");
     for (const std::string& field : raw.same) {
         options.parameters.issamename |= field == "name";
         options.parameters.issameartist |= field == "artist";
@@ -150,6 +171,8 @@ void checkTarget(const std::string& option, const std::string& path, const Libra
 void checkTargets(const FindOptions& options) {
     checkTarget("--log", options.log, options);
     checkTarget("--output", options.output, options);
+    if (!options.log.empty() && !options.output.empty() && nameOneFile(options.log, options.output))
+        throw CLI::ValidationError("--log and --output name one file, " + options.output);
 }
 
 /// Rules that need a word more.
@@ -168,6 +191,23 @@ void checkFields(const Raw& raw) {
 void checkDeleteOptions(const DeleteOptions& options) {
     if (!options.dryRun && !options.yes)
         throw CLI::ValidationError("delete needs --dry-run, to see what would happen, or --yes");
+}
+
+/// An option that counts on both sides of the command is given on one of them.
+void checkGivenOnce(const CLI::App& app, const CLI::App& command) {
+    for (const char* name : {"--library", "--itunes-version", "--log"})
+        if (app.count(name) > 0 && command.count(name) > 0)
+            throw CLI::ValidationError(std::string(name) + " stands before the command and after it");
+}
+
+/// A file's name alone opens the window; a command that is misspelled does not.
+void checkFile(const Raw& raw) {
+    if (raw.file.empty()) return;
+    if (!raw.library.library.empty())
+        throw CLI::ValidationError("'" + raw.file + "' is a second library, beside that of --library");
+    std::error_code error;
+    if (!std::filesystem::exists(raw.file, error))
+        throw CLI::ValidationError("'" + raw.file + "' is neither a command nor a file");
 }
 
 /// Everything that a parse fills in; the commands share the parser's life.
@@ -192,12 +232,14 @@ struct Parser {
 Parser::Parser(const std::string& version) {
     app.set_version_flag("--version", "Songsweep " + version);
     app.require_subcommand(0, 1);
-    app.footer("Without a command the window opens.");
-    addLibraryOptions(app, window, raw, false);
+    app.footer("Without a command the window opens. Options of the library count before a command, too.");
+    addLibraryOptions(app, raw);
+    app.add_option("file", raw.file, "A library file for the window, as by --library")->type_name("FILE");
     addFindOptions(*findCommand, find, raw);
     addMarkOptions(*markCommand, mark, raw);
     addDeleteOptions(*deleteCommand, remove, raw);
-    addLibraryOptions(*scriptCommand, script, raw, false);
+    addLibraryOptions(*scriptCommand, raw);
+    addVerbose(*scriptCommand, raw);
     scriptCommand->add_option("file", script.file, "The text's file, or - for standard input")
         ->required()
         ->type_name("FILE");
@@ -205,6 +247,10 @@ Parser::Parser(const std::string& version) {
 
 Command Parser::command() {
     checkFields(raw);
+    for (const CLI::App* const command : app.get_subcommands()) {
+        if (!raw.file.empty()) throw CLI::ExtrasError({raw.file});
+        checkGivenOnce(app, *command);
+    }
     if (*findCommand) {
         finishFindOptions(find, raw);
         checkTargets(find);
@@ -228,7 +274,9 @@ Command Parser::command() {
         checkTarget("--log", script.log, script);
         return script;
     }
+    checkFile(raw);
     finishLibraryOptions(window, raw);
+    if (!raw.file.empty()) window.library = raw.file;
     checkTarget("--log", window.log, window);
     return window;
 }
@@ -243,7 +291,12 @@ std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* 
         return parser.command();
     } catch (const CLI::ParseError& error) {
         // Help and version are no errors; all else is one of usage.
-        return parser.app.exit(error) == 0 ? ExitCode::done : ExitCode::usage;
+        std::ostringstream output;
+        std::ostringstream errors;
+        const int code = parser.app.exit(error, output, errors);
+        std::cout << output.str();
+        std::cerr << terminalText(errors.str());
+        return code == 0 ? ExitCode::done : ExitCode::usage;
     }
 }
 

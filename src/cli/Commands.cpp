@@ -3,13 +3,14 @@
 
 #include "cli/LibrarySession.h"
 #include "dupes/MarkVerdicts.h"
+#include "platform/TerminalText.h"
 
 #include <cstdio>
 
 namespace songsweep::cli {
 
 ExitCode fail(const std::string& message) {
-    std::fprintf(stderr, "songsweep: %s\n", message.c_str());
+    std::fprintf(stderr, "songsweep: %s\n", terminalText(message).c_str());
     return ExitCode::failed;
 }
 

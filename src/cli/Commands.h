@@ -18,7 +18,7 @@ ExitCode runMark(const MarkOptions& options, const std::string& version);
 ExitCode runDelete(const DeleteOptions& options, const std::string& version);
 ExitCode runScript(const ScriptOptions& options, const std::string& version);
 
-/// Prints "songsweep: MESSAGE" on standard error and gives the code of a failure.
+/// Prints "songsweep: MESSAGE" on standard error, safe for a terminal, and gives the code of a failure.
 ExitCode fail(const std::string& message);
 
 } // namespace songsweep::cli

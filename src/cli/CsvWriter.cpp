@@ -4,6 +4,9 @@
 #include "cli/SearchReport.h"
 #include "library/ValueFormats.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace songsweep::cli {
 
 namespace {
@@ -42,11 +45,28 @@ std::string row(const TrackRecord& record) {
     return line;
 }
 
+bool isNumber(std::string_view text) {
+    return (text.starts_with('-') || text.starts_with('+')) &&
+           text.find_first_of("0123456789") != std::string_view::npos &&
+           text.find_first_not_of("0123456789.", 1) == std::string_view::npos;
+}
+
+/// Whether a spreadsheet takes the text for a formula, as "=HYPERLINK(…)"; a plain "-1" does no harm.
+bool isRunBySpreadsheets(std::string_view text) {
+    constexpr std::string_view wideSigns[] = {"＝", "＋", "－", "＠"}; // taken for the narrow ones
+    if (text.empty()) return false;
+    const bool isSign = std::string_view("=+-@\t\r").find(text.front()) != std::string_view::npos;
+    const bool isWideSign = std::any_of(std::begin(wideSigns), std::end(wideSigns),
+                                        [&](std::string_view sign) { return text.starts_with(sign); });
+    return isWideSign || (isSign && !isNumber(text));
+}
+
 } // namespace
 
 std::string csvTruth(bool value) { return value ? "true" : "false"; }
 
 std::string csvField(std::string_view text) {
+    if (isRunBySpreadsheets(text)) return csvField("'" + std::string(text));
     if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
     std::string quoted = "\"";
     for (const char c : text) {

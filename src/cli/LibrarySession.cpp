@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LibrarySession.h"
 
+#include "cli/CommandLog.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
 #include "library/CaseFolding.h"
-#include "platform/LogFile.h"
 
 #include <QCoreApplication>
 
@@ -62,11 +62,9 @@ void LibrarySession::interrupt() {
 }
 
 std::optional<std::string> LibrarySession::prepare() {
-    if (!m_options.log.empty()) {
-        Result<std::unique_ptr<Log>> log = openLogFile(m_options.log);
-        if (!log) return log.error().message;
-        m_log = std::move(log).value();
-    }
+    Result<std::unique_ptr<CommandLog>> log = CommandLog::open(m_options);
+    if (!log) return log.error().message;
+    m_log = std::move(log).value();
     m_program = std::make_unique<Program>(
         ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion, m_version}, *m_log);
     if (const Result<void> read = m_program->scripting().readLibrary(); !read)

@@ -20,6 +20,7 @@ struct LibraryOptions {
     PathMap map;                        ///< where the files of another machine are here
     std::string iTunesVersion = "12.0"; ///< what the embedded iTunes says it is
     std::string log;                    ///< path of a log file; empty for none
+    bool verbose = false;               ///< log lines go to standard error, too
 };
 
 /// The options of `find`, which `mark` and `delete` know too.

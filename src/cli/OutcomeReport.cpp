@@ -4,6 +4,7 @@
 #include "cli/Csv.h"
 #include "cli/Output.h"
 #include "platform/FileUrl.h"
+#include "platform/TerminalText.h"
 #include "platform/Utf8.h"
 
 #include <nlohmann/json.hpp>
@@ -33,8 +34,10 @@ std::string summary(const DeleteReport& report, bool dryRun) {
 }
 
 void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
-    for (const DeleteOutcome& outcome : report.outcomes)
-        output.write(outcomeLine(outcome) + "\n");
+    for (const DeleteOutcome& outcome : report.outcomes) {
+        const std::string line = outcomeLine(outcome);
+        output.write((output.isTerminal() ? terminalLine(line) : line) + "\n");
+    }
     output.write(summary(report, dryRun) + "\n");
 }
 

@@ -5,8 +5,6 @@
 
 #include <QCoreApplication>
 
-#include <csignal>
-
 namespace songsweep::cli {
 
 namespace {
@@ -25,7 +23,6 @@ struct Runner {
 } // namespace
 
 int runCommand(const Command& command, int argumentCount, char** arguments, const std::string& version) {
-    std::signal(SIGPIPE, SIG_IGN); // a closed pipe is told by the write
     const QCoreApplication application(argumentCount, arguments);
     return static_cast<int>(std::visit(Runner{version}, command));
 }

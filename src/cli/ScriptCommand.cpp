@@ -1,48 +1,37 @@
 // SPDX-License-Identifier: MIT
 #include "app/Program.h"
+#include "cli/CommandLog.h"
 #include "cli/Commands.h"
-#include "platform/Log.h"
-#include "platform/LogFile.h"
+#include "cli/Output.h"
+#include "cli/ScriptText.h"
 #include "scripting/SourceNotation.h"
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <fstream>
-#include <iostream>
-#include <iterator>
 
 namespace songsweep::cli {
 
 namespace {
 
-Result<std::string> readText(const std::string& file) {
-    if (file == "-") return std::string(std::istreambuf_iterator<char>(std::cin), {});
-    std::ifstream stream(file, std::ios::binary);
-    std::string text(std::istreambuf_iterator<char>(stream), {});
-    if (!stream.is_open() || stream.bad())
-        return Error{Error::Code::inputOutput, "cannot read " + file + ": " + std::strerror(errno)};
-    return text;
+ExitCode printResult(const Descriptor& result) {
+    Result<Output> output = Output::open({});
+    if (!output) return fail(output.error().message);
+    output.value().write(sourceNotation(result) + "\n");
+    if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
+    return ExitCode::done;
 }
 
 } // namespace
 
 ExitCode runScript(const ScriptOptions& options, const std::string& version) {
-    const Result<std::string> text = readText(options.file);
+    const Result<std::string> text = readScript(options.file);
     if (!text) return fail(text.error().message);
-    std::unique_ptr<Log> log = std::make_unique<SilentLog>();
-    if (!options.log.empty()) {
-        Result<std::unique_ptr<Log>> opened = openLogFile(options.log);
-        if (!opened) return fail(opened.error().message);
-        log = std::move(opened).value();
-    }
-    Program program({options.library, options.map, options.iTunesVersion, version}, *log);
+    const Result<std::unique_ptr<CommandLog>> log = CommandLog::open(options);
+    if (!log) return fail(log.error().message);
+    Program program({options.library, options.map, options.iTunesVersion, version}, *log.value());
     const Result<std::optional<Descriptor>> result = program.scripting().run(text.value());
     const Result<void> written = program.scripting().flush();
-    if (!result) return fail(result.error().message);
+    const bool noLibrary = program.scripting().libraryPath().empty() && program.scripting().libraryError();
+    if (!result) return fail(noLibrary ? program.unreachableReason() : result.error().message);
     if (!written) return fail(written.error().message);
-    if (result.value()) std::puts(sourceNotation(*result.value()).c_str());
-    return ExitCode::done;
+    return result.value() ? printResult(*result.value()) : ExitCode::done;
 }
 
 } // namespace songsweep::cli

@@ -4,6 +4,7 @@
 #include "cli/TextTable.h"
 #include "library/Columns.h"
 #include "library/Groups.h"
+#include "platform/TerminalText.h"
 
 #include <algorithm>
 #include <limits>
@@ -65,17 +66,26 @@ std::vector<std::string> cells(const SearchReport& report, int row) {
     return texts;
 }
 
+/// Made safe before they are measured, so that the columns stay under each other.
+std::vector<std::string> cellsFor(const Output& output, const SearchReport& report, int row) {
+    std::vector<std::string> texts = cells(report, row);
+    if (output.isTerminal())
+        for (std::string& text : texts)
+            text = terminalLine(text);
+    return texts;
+}
+
 } // namespace
 
 void writeText(Output& output, const SearchReport& report) {
     TextTable table = makeTable(static_cast<bool>(report.reason));
     for (int row = 0; row < static_cast<int>(report.rows.size()); ++row)
-        table.measure(cells(report, row));
+        table.measure(cellsFor(output, report, row));
     if (!report.rows.empty()) output.write(table.titles());
     for (const RowGroup group : groupsOf(report.rows)) {
         output.write("\n");
         for (std::size_t row = group.first; row < group.end; ++row)
-            output.write(table.line(cells(report, static_cast<int>(row))));
+            output.write(table.line(cellsFor(output, report, static_cast<int>(row))));
     }
     output.write((report.rows.empty() ? "" : "\n") + summaryLine(report) + "\n");
 }

@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -14,25 +15,30 @@ namespace songsweep {
 
 namespace {
 
+/// By which a log that may be emptied is told from a file that somebody else needs.
+constexpr std::string_view firstLine = "Songsweep log";
+
 /// Makes or empties the file as a whole; a failure shows when it is opened.
 void writeEmpty(const std::string& path) {
     QSaveFile file(QString::fromStdString(path));
     if (file.open(QIODevice::WriteOnly)) static_cast<void>(file.commit());
 }
 
-/// Lines to a file of its own.
-class FileLog final : public Log {
-  public:
-    explicit FileLog(int descriptor)
-        : m_descriptor(descriptor)
-        , m_lines(descriptor) {}
-    ~FileLog() override { ::close(m_descriptor); }
-    void line(std::string_view text) override { m_lines.line(text); }
+Error cannotWrite(const std::string& path, const std::string& reason) {
+    return {Error::Code::inputOutput, "cannot write " + path + ": " + reason};
+}
 
-  private:
-    int m_descriptor;
-    DescriptorLog m_lines;
-};
+/// A file is looked at before it is emptied; a pipe or a device may be one that can only be written to.
+int modeFor(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) != 0 || S_ISREG(status.st_mode) ? O_RDWR : O_WRONLY;
+}
+
+bool beginsAsLog(int file) {
+    std::string beginning(firstLine.size() + 1, '\0');
+    const ssize_t count = ::pread(file, beginning.data(), beginning.size(), 0);
+    return count == static_cast<ssize_t>(beginning.size()) && beginning == std::string(firstLine) + '\n';
+}
 
 } // namespace
 
@@ -58,11 +64,19 @@ bool redirectStandardError(const std::optional<std::string>& folder, Log& log, i
     return false;
 }
 
-Result<std::unique_ptr<Log>> openLogFile(const std::string& path) {
-    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, 0666);
-    if (file < 0)
-        return Error{Error::Code::inputOutput, "cannot write " + path + ": " + std::strerror(errno)};
-    return std::unique_ptr<Log>(std::make_unique<FileLog>(file));
+Result<std::unique_ptr<InterruptibleLog>> openLogFile(const std::string& path) {
+    // A pipe that nobody reads must not hang the program, so the open does not wait.
+    const int file = ::open(path.c_str(), modeFor(path) | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK, 0666);
+    if (file < 0) return cannotWrite(path, errno == ENXIO ? "nobody reads this pipe" : std::strerror(errno));
+    auto log = std::make_unique<InterruptibleLog>(file, InterruptibleLog::Descriptor::isClosed);
+    struct stat status {};
+    if (::fstat(file, &status) != 0) return cannotWrite(path, std::strerror(errno));
+    if (S_ISREG(status.st_mode)) {
+        if (status.st_size > 0 && !beginsAsLog(file)) return cannotWrite(path, "it is no log of Songsweep");
+        if (::ftruncate(file, 0) != 0) return cannotWrite(path, std::strerror(errno));
+        log->line(firstLine);
+    }
+    return log;
 }
 
 } // namespace songsweep

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/Log.h"
+#include "platform/InterruptibleLog.h"
 #include "platform/Result.h"
 
 #include <memory>
@@ -21,7 +21,9 @@ std::optional<std::string> documentsFolder();
 /// once, before any worker runs.
 bool redirectStandardError(const std::optional<std::string>& folder, Log& log, int descriptor = 2);
 
-/// A log that empties the file, or makes it, and writes its lines there.
-Result<std::unique_ptr<Log>> openLogFile(const std::string& path);
+/// A log that makes the file, or empties one that is such a log already, and writes its lines there. A file
+/// that begins otherwise is refused, as somebody needs it. A pipe must have its reader, and gets the lines
+/// alone; so does a device.
+Result<std::unique_ptr<InterruptibleLog>> openLogFile(const std::string& path);
 
 } // namespace songsweep

@@ -5,11 +5,16 @@
 #include "platform/Preferences.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace songsweep {
 
 /// The desktop and the preferences of the system that the program runs on.
 std::unique_ptr<Desktop> nativeDesktop();
 std::unique_ptr<Preferences> nativePreferences();
+
+/// The files and folders in which those preferences look for a library, for telling the user.
+std::vector<std::string> nativeLibraryPlaces();
 
 } // namespace songsweep

@@ -37,8 +37,18 @@ class InterruptedDeletion : public test::ProgramTest {
     }
 
     std::string text() const {
-        return libraryText({{.id = 1, .name = "A", .artist = "X", .bitRate = 128, .path = path("1.mp3")},
-                            {.id = 2, .name = "A", .artist = "X", .bitRate = 320, .path = path("2.mp3")}});
+        return libraryText({{.id = 1,
+                             .name = "A",
+                             .artist = "X",
+                             .milliseconds = 1000,
+                             .bitRate = 128,
+                             .path = path("1.mp3")},
+                            {.id = 2,
+                             .name = "A",
+                             .artist = "X",
+                             .milliseconds = 1000,
+                             .bitRate = 320,
+                             .path = path("2.mp3")}});
     }
     void start(const std::vector<std::string>& options = {}) {
         std::vector<std::string> arguments = {"delete", "--library",       m_library, "--files",

@@ -47,9 +47,17 @@ class Find : public test::ProgramTest {
                  .bitRate = 320,
                  .path = path("song2.mp3")},
                 {.id = 3, .name = "Other", .artist = "Artist", .path = path("other.mp3")},
-                {.id = 4, .name = "Gone", .artist = "Bj\u00f6rk", .path = path("gone1.mp3")},
-                {.id = 5, .name = "gone", .artist = "BJ\u00d6RK", .path = path("gone2.mp3")},
-                {.id = 6, .name = "Gone", .artist = "Bj\u00f6rk", .type = "URL"}};
+                {.id = 4,
+                 .name = "Gone",
+                 .artist = "Bj\u00f6rk",
+                 .milliseconds = 60'000,
+                 .path = path("gone1.mp3")},
+                {.id = 5,
+                 .name = "gone",
+                 .artist = "BJ\u00d6RK",
+                 .milliseconds = 60'000,
+                 .path = path("gone2.mp3")},
+                {.id = 6, .name = "Gone", .artist = "Bj\u00f6rk", .milliseconds = 60'000, .type = "URL"}};
     }
     static std::vector<SamplePlaylist> samplePlaylists() {
         return {{.name = "Mediathek", .items = {1, 2, 3, 4, 5, 6}, .master = true},
@@ -173,9 +181,8 @@ TEST_F(Find, TakesTheFirstOfTwoPlaylistsOfOneNameWhateverItsCase) {
 
 TEST_F(Find, ComparesTheFieldsThatAreNamed) {
     EXPECT_EQ(json({"--same", "name,artist,album"}).at("songs"), 2);
-    EXPECT_EQ(json({"--same", "name,artist,time"}).at("songs"), 2)
-        << "tracks without a time are no duplicates";
     EXPECT_EQ(json({"--same", "artist"}).at("songs"), 5);
+    EXPECT_EQ(json({"--same", "artist,time"}).at("songs"), 4) << "a track without a time has no duplicates";
 }
 
 TEST_F(Find, PutsAllTracksIntoOneGroupWhereNothingIsCompared) {
@@ -212,8 +219,9 @@ TEST_F(Find, WritesOneCsvRowATrack) {
 
 TEST_F(Find, QuotesCsvFieldsThatNeedIt) {
     const std::string name = "One, \"two\"\n& <three>";
-    m_library = m_folder.write("Library.xml", libraryText({{.id = 1, .name = name, .artist = "A"},
-                                                           {.id = 2, .name = name, .artist = "A"}}));
+    m_library = m_folder.write("Library.xml",
+                               libraryText({{.id = 1, .name = name, .artist = "A", .milliseconds = 1000},
+                                            {.id = 2, .name = name, .artist = "A", .milliseconds = 1000}}));
     EXPECT_THAT(find({"--format", "csv"}).output, HasSubstr(",\"One, \"\"two\"\"\n& <three>\",A,"));
 }
 
@@ -230,6 +238,27 @@ TEST_F(Find, ReplacesAFormerResultAsAWhole) {
     EXPECT_EQ(m_folder.read("result"), find({}).output);
     for (const auto& entry : std::filesystem::directory_iterator(m_folder.path()))
         EXPECT_FALSE(entry.path().filename().string().starts_with("result.")) << entry.path();
+}
+
+TEST_F(Find, KeepsALinkAndTheModeOfWhatItReplaces) {
+    m_folder.write("far/result", "old");
+    std::filesystem::permissions(path("far/result"), std::filesystem::perms(0640));
+    std::filesystem::create_symlink("far/result", path("link"));
+    ASSERT_EQ(find({"--output", path("link")}).exitCode, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
+    EXPECT_EQ(m_folder.read("far/result"), find({}).output);
+    EXPECT_EQ(std::filesystem::status(path("far/result")).permissions(), std::filesystem::perms(0640));
+}
+
+TEST_F(Find, WritesWhereALinkLeadsThatLedNowhere) {
+    std::filesystem::create_symlink("new", path("link"));
+    ASSERT_EQ(find({"--output", path("link")}).exitCode, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
+    EXPECT_EQ(m_folder.read("new"), find({}).output);
+}
+
+TEST_F(Find, ComparesWhatTheDialogDoes) {
+    EXPECT_EQ(find({}).output, find({"--same", "name,artist,time"}).output);
 }
 
 TEST_F(Find, WritesTheLogToTheFileThatIsNamed) {
@@ -249,8 +278,10 @@ TEST_F(Find, NeverTouchesTheLogInTheDocumentsFolder) {
 TEST_F(Find, LooksForFilesWhereAMapPoints) {
     m_folder.write("here/a.mp3", "x");
     m_library = m_folder.write(
-        "Library.xml", libraryText({{.id = 1, .name = "A", .artist = "B", .path = "/C:/Music/a.mp3"},
-                                    {.id = 2, .name = "A", .artist = "B", .path = "/C:/Musical/a.mp3"}}));
+        "Library.xml",
+        libraryText(
+            {{.id = 1, .name = "A", .artist = "B", .milliseconds = 1000, .path = "/C:/Music/a.mp3"},
+             {.id = 2, .name = "A", .artist = "B", .milliseconds = 1000, .path = "/C:/Musical/a.mp3"}}));
     const ordered_json tracks = json({"--map", "/C:/Music=" + path("here")}).at("groups").at(0).at("tracks");
     EXPECT_EQ(tracks.at(0).at("isdead"), false);
     EXPECT_EQ(tracks.at(0).at("location"), "/C:/Music/a.mp3") << "records keep the original";

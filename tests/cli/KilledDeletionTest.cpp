@@ -51,7 +51,9 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
     static std::string soundOf(int id) { return "the sound of " + std::to_string(id); }
     std::string values(int id) const {
         return "<key>Name</key><string>Song " + std::to_string((id - 1) / copies) +
-               "</string>\n\t\t\t<key>Artist</key><string>X</string>\n\t\t\t<key>Bit Rate</key><integer>" +
+               "</string>\n\t\t\t<key>Artist</key><string>X</string>\n\t\t\t<key>Total "
+               "Time</key><integer>1000</integer>"
+               "\n\t\t\t<key>Bit Rate</key><integer>" +
                std::to_string(128 + 64 * (id % copies == 0 ? 1 : 0)) +
                "</integer>\n\t\t\t<key>Track Type</key><string>File</string>\n\t\t\t<key>Location</key>"
                "<string>" +

@@ -39,6 +39,7 @@ class MarkAndDelete : public test::ProgramTest {
             chosen.push_back({.id = id,
                               .name = all.at(id).first,
                               .artist = "X",
+                              .milliseconds = 1000,
                               .bitRate = all.at(id).second,
                               .path = path("music/" + std::to_string(id) + ".mp3")});
         return chosen;

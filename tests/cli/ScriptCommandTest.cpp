@@ -82,6 +82,42 @@ TEST_F(ScriptCommand, RefusesALibraryThatIsCutOff) {
     EXPECT_THAT(result.errors, HasSubstr("line"));
 }
 
+TEST_F(ScriptCommand, RefusesAFolder) {
+    const RunResult result = run({"script", m_folder.path()});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.errors, "songsweep: cannot read " + m_folder.path() + ": Is a directory\n");
+}
+
+TEST_F(ScriptCommand, ReadsNoEndlessFile) {
+    for (const char* option : {"/dev/zero", "-"}) {
+        const RunResult result = runInShell("\"$0\" script \"$1\" < /dev/zero", {option});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.errors, HasSubstr("it is too long for a script"));
+    }
+}
+
+TEST_F(ScriptCommand, TellsThatItsResultCannotBeWritten) {
+    const RunResult result = runInShell("\"$0\" \"$@\" > /dev/full", {"script", m_folder.write("one", "1")});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr("No space left on device"));
+}
+
+TEST_F(ScriptCommand, RunsTextsInUtf16) {
+    const std::string text("\xFF\xFE\"\0\xF6\0\"\0", 8);
+    EXPECT_EQ(run({"script", m_folder.write("wide", text)}).output, "\"\u00f6\"\n");
+    EXPECT_EQ(run({"script", "-"}, text).output, "\"\u00f6\"\n");
+}
+
+TEST_F(ScriptCommand, ShowsTheLogWhereAskedTo) {
+    const std::string text =
+        "tell application \"iTunes\" to delete (tracks whose persistent ID is \"0000000000000002\")";
+    EXPECT_EQ(script(text).errors, "");
+    const RunResult result =
+        run({"script", "--library", library(), "--verbose", "--log", path("log"), "-"}, text);
+    EXPECT_THAT(result.errors, HasSubstr("Library written : 1 tracks deleted\n"));
+    EXPECT_THAT(m_folder.read("log"), HasSubstr("Library written : 1 tracks deleted\n"));
+}
+
 TEST_F(ScriptCommand, SaysThatItsFileIsMissing) {
     const RunResult result = run({"script", path("missing")});
     EXPECT_EQ(result.exitCode, 1);

@@ -59,6 +59,82 @@ TEST_F(Usage, RefusesCommandsThatLackSomething) {
     expectRefusal({"script"});
 }
 
+TEST_F(Usage, CountsOptionsOfTheLibraryBeforeTheCommand) {
+    const std::string text = "tell application \"iTunes\" to get {version, count of tracks of playlist 1}";
+    EXPECT_EQ(run({"--library", library(), "--itunes-version", "9.1", "script", "-"}, text).output,
+              "{\"9.1\", 0}\n");
+    EXPECT_EQ(run({"--library", library(), "find"}).output, "0 songs in 0 groups\n");
+    EXPECT_EQ(run({"--library", library(), "--log", path("log"), "find"}).exitCode, 0);
+    EXPECT_TRUE(std::filesystem::exists(path("log")));
+    m_folder.write("here/a.mp3", "x");
+    const std::string mapped =
+        m_folder.write("mapped.xml", test::libraryText({{.id = 1, .name = "A", .path = "/C:/Music/a.mp3"}}));
+    EXPECT_THAT(
+        run({"--map", "C:\\Music=" + path("here"), "find", "--library", mapped, "--same", "none"}).output,
+        ::testing::Not(HasSubstr("missing")));
+}
+
+TEST_F(Usage, RefusesAnOptionBeforeTheCommandAndAfterIt) {
+    expectRefusal({"--library", library(), "find", "--library", library()});
+    expectRefusal({"--itunes-version", "9", "script", "--itunes-version", "10", "-"});
+    expectRefusal({"--log", path("a"), "script", "--log", path("b"), "-"});
+}
+
+TEST_F(Usage, TakesAFileAloneForTheLibraryOfTheWindow) {
+    const RunResult result = run({library(), "--log", library()});
+    EXPECT_EQ(result.exitCode, 2);
+    EXPECT_THAT(result.errors, HasSubstr("--log names the library itself"));
+}
+
+TEST_F(Usage, TakesAMisspelledCommandForNoFile) {
+    EXPECT_THAT(run({"fnid"}).errors, HasSubstr("'fnid' is neither a command nor a file"));
+    expectRefusal({path("missing.xml")});
+    expectRefusal({library(), "--library", library()});
+    expectRefusal({library(), "find"});
+    expectRefusal({library(), "find", "--library", library()});
+}
+
+TEST_F(Usage, RefusesAVersionThatIsNone) {
+    for (const char* version : {"abc", "12.0b", "", "12.", ".5", "-1", "1 2"})
+        expectRefusal({"find", "--library", library(), "--itunes-version", version});
+    EXPECT_EQ(run({"find", "--library", library(), "--itunes-version", "9.2.1"}).exitCode, 0);
+}
+
+TEST_F(Usage, RefusesOneFileForTheLogAndTheResult) {
+    expectRefusal({"find", "--library", library(), "--log", path("x"), "--output", "./x"});
+}
+
+TEST_F(Usage, NamesTheCommandsWhereThereIsNoDisplay) {
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        m_environment.remove(QString::fromUtf8(variable));
+    const RunResult result = run({"--library", library()});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_EQ(result.errors,
+              "songsweep: no display can be reached for the window; songsweep find, mark, delete and "
+              "script do without one\n");
+}
+
+TEST_F(Usage, TellsWhereItLookedForALibrary) {
+    const RunResult result =
+        run({"script", "-"}, "tell application \"iTunes\" to get count of tracks of playlist 1");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.errors, HasSubstr("no library was found on this machine; name one with --library"));
+    EXPECT_THAT(result.errors,
+                HasSubstr("/Library/Preferences/com.apple.iApps.plist, " + path("home/Music/iTunes")));
+}
+
+TEST_F(Usage, GoesThroughALinkAsTheSystemDoes) {
+    std::filesystem::create_directories(path("far/folder"));
+    std::filesystem::create_directory_symlink(path("far/folder"), path("link"));
+    const std::string text = test::libraryText({{.id = 1, .name = "A"}});
+    m_folder.write("far/x.xml", text);
+    const RunResult result = run({"find", "--library", "link/../x.xml", "--same", "none"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("1 song in 1 group"));
+    expectRefusal({"find", "--library", path("far/x.xml"), "--output", "link/../x.xml"});
+    EXPECT_EQ(m_folder.read("far/x.xml"), text);
+}
+
 TEST_F(Usage, RefusesAMapWithoutTwoSides) {
     expectRefusal({"find", "--library", library(), "--map", "/C:/Music"});
     expectRefusal({"find", "--library", library(), "--map", "=/music"});

@@ -7,10 +7,8 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
-
-#include <sstream>
-#include <thread>
 
 namespace songsweep {
 namespace {
@@ -105,39 +103,48 @@ TEST(LogFile, CountsADuplicationThatAnswersZeroAsFailure) {
 
 TEST(LogFile, OfTheCommandLineIsEmptiedAndWritten) {
     const TemporaryFolder folder;
-    const std::string path = folder.write("log", "old lines");
-    Result<std::unique_ptr<Log>> log = openLogFile(path);
+    const std::string path = folder.write("log", "Songsweep log\nold lines\n");
+    Result<std::unique_ptr<InterruptibleLog>> log = openLogFile(path);
     ASSERT_TRUE(log);
     log.value()->line("one");
     log.value()->line("two");
-    EXPECT_EQ(folder.read("log"), "one\ntwo\n");
+    EXPECT_EQ(folder.read("log"), "Songsweep log\none\ntwo\n");
+}
+
+TEST(LogFile, OfTheCommandLineReplacesOneOfAnEarlierRun) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path() + "/log";
+    openLogFile(path).value()->line("first run, with a long line");
+    openLogFile(path).value()->line("second");
+    EXPECT_EQ(folder.read("log"), "Songsweep log\nsecond\n");
+}
+
+TEST(LogFile, OfTheCommandLineIsNoFileOfSomebodyElse) {
+    const TemporaryFolder folder;
+    for (const std::string& text : {std::string("my thesis"), std::string("Songsweep log, or what"),
+                                    std::string("Songsweep log"), std::string(1, '\0')}) {
+        const Result<std::unique_ptr<InterruptibleLog>> log = openLogFile(folder.write("file", text));
+        ASSERT_FALSE(log) << text;
+        EXPECT_EQ(log.error().message, "cannot write " + folder.path() + "/file: it is no log of Songsweep");
+        EXPECT_EQ(folder.read("file"), text);
+    }
+    EXPECT_TRUE(openLogFile(folder.write("file", ""))) << "nobody needs an empty file";
+}
+
+TEST(LogFile, OfTheCommandLineWaitsForNoReaderOfAPipe) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path() + "/pipe";
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    const Result<std::unique_ptr<InterruptibleLog>> log = openLogFile(path);
+    ASSERT_FALSE(log);
+    EXPECT_EQ(log.error().message, "cannot write " + path + ": nobody reads this pipe");
 }
 
 TEST(LogFile, OfTheCommandLineSaysWhyItCannotBeOpened) {
     const TemporaryFolder folder;
-    const Result<std::unique_ptr<Log>> log = openLogFile(folder.path());
+    const Result<std::unique_ptr<InterruptibleLog>> log = openLogFile(folder.path());
     ASSERT_FALSE(log);
     EXPECT_EQ(log.error().message, "cannot write " + folder.path() + ": Is a directory");
-}
-
-TEST(Log, WritesNoTornLineFromAnyThread) {
-    const TemporaryFolder folder;
-    const std::string path = folder.path() + "/log";
-    const Result<std::unique_ptr<Log>> log = openLogFile(path);
-    ASSERT_TRUE(log);
-    const auto writeMany = [&log](char letter) {
-        for (int line = 0; line < 200; ++line)
-            log.value()->line(std::string(100, letter));
-    };
-    std::thread other(writeMany, 'a');
-    writeMany('b');
-    other.join();
-
-    std::istringstream lines(folder.read("log"));
-    int count = 0;
-    for (std::string line; std::getline(lines, line); ++count)
-        ASSERT_TRUE(line == std::string(100, 'a') || line == std::string(100, 'b')) << line;
-    EXPECT_EQ(count, 400);
 }
 
 } // namespace

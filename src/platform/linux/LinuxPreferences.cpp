@@ -9,9 +9,13 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+
 namespace songsweep {
 
 namespace {
+
+constexpr const char* propertyList = "/Library/Preferences/com.apple.iApps.plist";
 
 /// Below the Music folder; iTunes' names first, then those of the application that followed it.
 constexpr const char* usualPlaces[] = {"/iTunes/iTunes Music Library.xml",
@@ -23,6 +27,9 @@ constexpr const char* usualPlaces[] = {"/iTunes/iTunes Music Library.xml",
                                        "/Music/Library.xml",
                                        "/Music Library.xml",
                                        "/Library.xml"};
+
+/// The folders of those names.
+constexpr const char* usualFolders[] = {"/iTunes", "", "/Music"};
 
 bool isFile(const std::string& path) {
     struct stat attributes {};
@@ -40,7 +47,7 @@ LinuxPreferences::Folders LinuxPreferences::userFolders() {
 }
 
 std::optional<IAppsDomain> LinuxPreferences::iAppsDomain() const {
-    if (isFile(m_folders.home + "/Library/Preferences/com.apple.iApps.plist")) return std::nullopt;
+    if (isFile(m_folders.home + propertyList)) return std::nullopt;
     for (const std::string& folder : m_folders.music)
         for (const char* place : usualPlaces)
             if (isFile(folder + place)) return IAppsDomain{{fileUrl(folder + place)}};
@@ -49,6 +56,16 @@ std::optional<IAppsDomain> LinuxPreferences::iAppsDomain() const {
 
 std::optional<IAppsDomain> LinuxPreferences::iAppsPropertyList(const std::string& path) const {
     return readIAppsPropertyList(path);
+}
+
+std::vector<std::string> LinuxPreferences::libraryPlaces() const {
+    std::vector<std::string> places = {m_folders.home + propertyList};
+    for (const std::string& folder : m_folders.music)
+        for (const char* usual : usualFolders)
+            if (const std::string place = folder + usual;
+                std::find(places.begin(), places.end(), place) == places.end())
+                places.push_back(place);
+    return places;
 }
 
 } // namespace songsweep

@@ -26,6 +26,9 @@ class LinuxPreferences final : public Preferences {
     std::optional<IAppsDomain> iAppsPropertyList(const std::string& path) const override;
     std::string homeFolder() const override { return m_folders.home; }
 
+    /// The files and folders in which a library is looked for.
+    std::vector<std::string> libraryPlaces() const;
+
   private:
     Folders m_folders;
 };

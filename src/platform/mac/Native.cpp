@@ -10,4 +10,8 @@ std::unique_ptr<Desktop> nativeDesktop() { return std::make_unique<MacDesktop>()
 
 std::unique_ptr<Preferences> nativePreferences() { return std::make_unique<MacPreferences>(); }
 
+std::vector<std::string> nativeLibraryPlaces() {
+    return {MacPreferences().homeFolder() + "/Library/Preferences/com.apple.iApps.plist"};
+}
+
 } // namespace songsweep
