@@ -132,7 +132,8 @@ void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
     options = raw.library;
     for (const std::string& map : raw.maps) {
         const std::size_t equals = map.find('=');
-        options.map.add(map.substr(0, equals), map.substr(equals + 1));
+        options.mapRules.push_back({map.substr(0, equals), map.substr(equals + 1)});
+        options.map.add(options.mapRules.back().from, options.mapRules.back().to);
     }
 }
 

@@ -9,9 +9,17 @@
 
 namespace songsweep::cli {
 
-ExitCode fail(const std::string& message) {
+void tell(const std::string& message) {
     std::fprintf(stderr, "songsweep: %s\n", terminalText(message).c_str());
+}
+
+ExitCode fail(const std::string& message) {
+    tell(message);
     return ExitCode::failed;
+}
+
+ExitCode failToWrite(const Error& error) {
+    return error.code == Error::Code::cancelled ? ExitCode::interrupted : fail(error.message);
 }
 
 MarkChoice choiceOf(const MarkOptions& options) {
@@ -26,7 +34,7 @@ MarkChoice choiceOf(const MarkOptions& options) {
 ExitCode runFind(const FindOptions& options, const std::string& version) {
     LibrarySession session(options, version);
     if (const auto problem = session.search()) return *problem;
-    return writeResult(options, session.report()).value_or(ExitCode::done);
+    return writeResult(options, session.report(), session.interrupts()).value_or(ExitCode::done);
 }
 
 ExitCode runMark(const MarkOptions& options, const std::string& version) {
@@ -37,7 +45,7 @@ ExitCode runMark(const MarkOptions& options, const std::string& version) {
     SearchReport report = session.report();
     MarkVerdicts verdicts(report.rows, choice);
     report.reason = [&](int row) { return verdicts.of(static_cast<std::size_t>(row)).reason; };
-    return writeResult(options, report).value_or(ExitCode::done);
+    return writeResult(options, report, session.interrupts()).value_or(ExitCode::done);
 }
 
 } // namespace songsweep::cli

@@ -3,6 +3,7 @@
 
 #include "cli/CommandLine.h"
 #include "dupes/MarkChoice.h"
+#include "platform/Result.h"
 
 #include <string>
 
@@ -18,7 +19,14 @@ ExitCode runMark(const MarkOptions& options, const std::string& version);
 ExitCode runDelete(const DeleteOptions& options, const std::string& version);
 ExitCode runScript(const ScriptOptions& options, const std::string& version);
 
-/// Prints "songsweep: MESSAGE" on standard error, safe for a terminal, and gives the code of a failure.
+/// Prints "songsweep: MESSAGE" on standard error, safe for a terminal.
+void tell(const std::string& message);
+
+/// The same, and gives the code of a failure.
 ExitCode fail(const std::string& message);
+
+/// The same for a result that could not be written; one that Ctrl-C ended is no failure, and told by the
+/// code.
+ExitCode failToWrite(const Error& error);
 
 } // namespace songsweep::cli

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ConsoleProgress.h"
 
+#include "app/Progress.h"
+
 #include <unistd.h>
 
-#include <cmath>
+#include <algorithm>
 #include <cstdio>
 
 namespace songsweep::cli {
@@ -19,12 +21,12 @@ void ConsoleProgress::beginProgress() {
 void ConsoleProgress::endProgress() {
     if (m_shown) std::fputs("\r\033[K", stderr);
     m_shown = false;
+    m_percent = 0;
 }
 
 void ConsoleProgress::setProgressValue(double percent) {
-    m_percent = percent;
-    if (m_shown)
-        std::fprintf(stderr, "\r\033[K%s %d %%", m_text.c_str(), static_cast<int>(std::lround(percent)));
+    m_percent = std::max(percent, m_percent);
+    if (m_shown) std::fprintf(stderr, "\r\033[K%s %d %%", m_text.c_str(), wholePercent(m_percent));
 }
 
 void ConsoleProgress::setProgressText(const std::string& text) {

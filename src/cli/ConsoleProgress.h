@@ -20,7 +20,7 @@ class ConsoleProgress final : public ProgressView {
 
   private:
     std::string m_text;
-    double m_percent = 0;
+    double m_percent = 0; ///< the highest so far: a bar that runs backwards tells nothing
     bool m_terminal;
     bool m_shown = false;
 };

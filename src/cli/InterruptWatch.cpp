@@ -21,6 +21,12 @@ InterruptWatch::InterruptWatch(std::function<void()> handler)
     : m_handler(std::move(handler))
     , m_watch([this](int count) { hear(count); }) {}
 
+void InterruptWatch::setFirstAct(std::function<void()> act) {
+    const std::lock_guard lock(m_lock);
+    m_firstAct = std::move(act);
+    if (m_heard && m_firstAct) m_firstAct();
+}
+
 void InterruptWatch::setLastAct(std::function<void()> act) {
     const std::lock_guard lock(m_lock);
     m_lastAct = std::move(act);
@@ -28,12 +34,19 @@ void InterruptWatch::setLastAct(std::function<void()> act) {
 
 void InterruptWatch::hear(int count) {
     if (count == 1) {
+        m_heard = true;
+        actFirst();
         QMetaObject::invokeMethod(QCoreApplication::instance(), m_handler, Qt::QueuedConnection);
     } else if (count == 2) {
         m_end = std::jthread([this] { actAndEnd(); }); // so that a third one is heard
     } else {
         endProcess();
     }
+}
+
+void InterruptWatch::actFirst() {
+    const std::lock_guard lock(m_lock);
+    if (m_firstAct) m_firstAct();
 }
 
 void InterruptWatch::actAndEnd() {

@@ -3,6 +3,7 @@
 
 #include "cli/CommandLog.h"
 #include "cli/Commands.h"
+#include "cli/LibraryWarnings.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
 #include "library/CaseFolding.h"
@@ -40,7 +41,20 @@ std::optional<ExitCode> LibrarySession::search() {
     if (m_interrupted) return ExitCode::interrupted;
     if (m_view.searchProblem()) return fail(withPath(*m_view.searchProblem()));
     if (!m_view.hasResults()) return fail(withPath("the search ended without a result"));
+    warn();
     return std::nullopt;
+}
+
+/// Looks at files once more only where the search met none that is here.
+void LibrarySession::warn() {
+    const auto& rows = m_controller->tableDataSource().rows;
+    const bool metFile =
+        std::any_of(rows.begin(), rows.end(), [](const TrackRecord* row) { return !row->isdead; });
+    const LibraryLocations locations = m_program->controllerServices().libraryLocations;
+    for (const std::string& rule : uselessMaps(m_options.mapRules, locations))
+        tell(withPath(rule));
+    if (metFile) return;
+    if (const auto warning = allFilesMissing(m_program->files(), locations)) tell(withPath(*warning));
 }
 
 void LibrarySession::runUntilIdle() {
@@ -65,6 +79,7 @@ std::optional<std::string> LibrarySession::prepare() {
     Result<std::unique_ptr<CommandLog>> log = CommandLog::open(m_options);
     if (!log) return log.error().message;
     m_log = std::move(log).value();
+    m_interrupts.setFirstAct([log = m_log] { log->endSoon(); });
     m_program = std::make_unique<Program>(
         ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion, m_version}, *m_log);
     if (const Result<void> read = m_program->scripting().readLibrary(); !read)
@@ -136,11 +151,12 @@ SearchReport LibrarySession::report() {
             .rows = m_controller->tableDataSource().rows};
 }
 
-std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report) {
-    Result<Output> output = Output::open(options.output);
-    if (!output) return fail(output.error().message);
+std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report,
+                                    const InterruptWatch& interrupts) {
+    Result<Output> output = Output::open(options.output, [&] { return interrupts.heard(); });
+    if (!output) return failToWrite(output.error());
     writeReport(output.value(), report, options.format);
-    if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
+    if (const Result<void> written = output.value().finish(); !written) return failToWrite(written.error());
     return std::nullopt;
 }
 

@@ -3,11 +3,11 @@
 
 #include "app/AppController.h"
 #include "app/Program.h"
+#include "cli/CommandLog.h"
 #include "cli/ConsoleView.h"
 #include "cli/InterruptWatch.h"
 #include "cli/Options.h"
 #include "cli/SearchReport.h"
-#include "platform/Log.h"
 
 #include <QEventLoop>
 
@@ -38,11 +38,15 @@ class LibrarySession {
     /// Writes the library without the deleted tracks.
     Result<void> writeLibrary();
 
+    /// For a result that is given up on Ctrl-C.
+    const InterruptWatch& interrupts() const { return m_interrupts; }
+
     AppController& controller() { return *m_controller; }
     Program& program() { return *m_program; }
     SearchReport report();
 
   private:
+    void warn();
     std::optional<std::string> prepare();
     std::optional<std::string> choosePlaylist();
     void runUntilIdle();
@@ -58,13 +62,15 @@ class LibrarySession {
     bool m_interrupted = false;
     bool m_waitsForSurvey = false;
     InterruptWatch m_interrupts;
-    std::unique_ptr<Log> m_log = std::make_unique<SilentLog>();
+    std::shared_ptr<CommandLog> m_log;
     std::unique_ptr<Program> m_program;
     std::unique_ptr<AppController> m_controller;
     int m_trackCount = 0;
 };
 
-/// Writes a report to where the options say. The exit code of a failure, nothing on success.
-std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report);
+/// Writes the search's report to where the options say, until Ctrl-C. The exit code of a failure, nothing on
+/// success.
+std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report,
+                                    const InterruptWatch& interrupts);
 
 } // namespace songsweep::cli

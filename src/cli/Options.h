@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace songsweep::cli {
 
@@ -14,10 +15,17 @@ enum class ExitCode { done = 0, failed = 1, usage = 2, interrupted = 130 };
 
 enum class OutputFormat { text, json, csv };
 
+/// One `--map FROM=TO`.
+struct MapRule {
+    std::string from;
+    std::string to;
+};
+
 /// Which library, and how it is looked at: the options that every command and the window know.
 struct LibraryOptions {
     std::string library;                ///< path of the library file; empty where none was given
     PathMap map;                        ///< where the files of another machine are here
+    std::vector<MapRule> mapRules;      ///< the same as it was given, to tell a rule that is of no use
     std::string iTunesVersion = "12.0"; ///< what the embedded iTunes says it is
     std::string log;                    ///< path of a log file; empty for none
     bool verbose = false;               ///< log lines go to standard error, too

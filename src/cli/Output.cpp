@@ -58,7 +58,7 @@ int openSpecial(const std::string& path, const Output::Interrupted& interrupted)
         const int descriptor = ::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
         if (descriptor >= 0 || errno != ENXIO) return descriptor;
         if (interrupted()) {
-            errno = EINTR;
+            errno = ECANCELED;
             return -1;
         }
         ::poll(nullptr, 0, waitMilliseconds);
@@ -80,6 +80,7 @@ Result<Output> Output::open(const std::string& path, Interrupted interrupted) {
     if (mode && S_ISDIR(*mode)) return cannotWrite(path, EISDIR);
     if (mode && !S_ISREG(*mode)) { // a device or a pipe is written to, never replaced
         const int descriptor = openSpecial(path, interrupted);
+        if (descriptor < 0 && errno == ECANCELED) return Error{Error::Code::cancelled, "interrupted"};
         if (descriptor < 0) return cannotWrite(path, errno);
         return Output(path, {}, descriptor, std::move(interrupted));
     }

@@ -10,8 +10,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
+#include <regex>
 
 namespace songsweep {
 namespace {
@@ -86,8 +88,63 @@ TEST_F(Interrupted, SearchEndsAtOnceWhenItIsInterruptedTwice) {
     EXPECT_EQ(result.output, "");
 }
 
+/// A pipe that nobody empties: the log goes there, or the result.
+class FullPipe : public test::ProgramTest {
+  protected:
+    void SetUp() override {
+        ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+        m_pipe = ::open(path("pipe").c_str(), O_RDWR | O_CLOEXEC);
+    }
+    void TearDown() override { ::close(m_pipe); }
+
+    std::string library() const {
+        std::vector<SampleTrack> tracks;
+        for (int id = 1; id <= 3000; ++id)
+            tracks.push_back({.id = id,
+                              .name = "Song",
+                              .artist = "Artist",
+                              .milliseconds = 1000,
+                              .path = "/nonexistent/" + std::string(100, 'a') + std::to_string(id)});
+        return m_folder.write("Library.xml", libraryText(tracks));
+    }
+    /// Waits until no more fits into the pipe, or the program ends.
+    void waitUntilFull(QProcess& process) const {
+        pollfd pipe{m_pipe, POLLOUT, 0};
+        while (::poll(&pipe, 1, 10) == 1 && process.state() != QProcess::NotRunning)
+            process.waitForFinished(10);
+    }
+    void expectThatASignalEnds(const std::vector<std::string>& arguments) {
+        QProcess process;
+        prepare(process, arguments);
+        process.start();
+        ASSERT_TRUE(process.waitForStarted());
+        waitUntilFull(process);
+        sendSignal(process, SIGINT);
+        EXPECT_EQ(test::resultOf(process).exitCode, 130);
+    }
+
+  private:
+    int m_pipe = -1;
+};
+
+TEST_F(FullPipe, OfTheResultHindersNoInterrupt) {
+    expectThatASignalEnds({"find", "--library", library(), "--format", "csv", "--output", path("pipe")});
+}
+
+TEST_F(FullPipe, OfTheLogHindersNoInterrupt) {
+    expectThatASignalEnds({"find", "--library", library(), "--log", path("pipe")});
+}
+
 class Console : public test::ProgramTest {
   protected:
+    static std::vector<int> percentagesIn(const std::string& shown) {
+        std::vector<int> percentages;
+        const std::regex percentage(" ([0-9]+) %");
+        for (std::sregex_iterator found(shown.begin(), shown.end(), percentage);
+             found != std::sregex_iterator(); ++found)
+            percentages.push_back(std::stoi((*found)[1]));
+        return percentages;
+    }
     std::string manyDuplicates() const {
         std::vector<SampleTrack> tracks;
         for (int id = 1; id <= 3000; ++id)
@@ -111,7 +168,10 @@ TEST_F(Console, ShowsPhaseAndPercentageOnATerminal) {
     process.start();
     const RunResult result = test::resultOf(process);
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_THAT(terminal.shown(), HasSubstr(" %"));
+    const std::vector<int> percents = percentagesIn(terminal.shown());
+    EXPECT_FALSE(percents.empty());
+    EXPECT_TRUE(std::is_sorted(percents.begin(), percents.end())) << ::testing::PrintToString(percents);
+    EXPECT_LE(percents.back(), 100);
     EXPECT_THAT(result.output, HasSubstr("3000 songs in 1 group"));
 }
 

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "cli/LibraryWarnings.h"
+
+#include "platform/Files.h"
+
+#include <algorithm>
+
+namespace songsweep::cli {
+
+namespace {
+
+bool covers(const MapRule& rule, const std::string& path) {
+    // A place that no library names, so that a covered path always changes.
+    constexpr const char* elsewhere = "/\x01";
+    PathMap map;
+    map.add(rule.from, elsewhere);
+    return map.map(path) != path;
+}
+
+} // namespace
+
+std::vector<std::string> uselessMaps(const std::vector<MapRule>& rules, const LibraryLocations& locations) {
+    std::vector<MapRule> left = rules;
+    std::string first;
+    if (!left.empty())
+        locations([&](std::string_view, const std::string& path) {
+            if (first.empty()) first = path;
+            std::erase_if(left, [&](const MapRule& rule) { return covers(rule, path); });
+            return !left.empty();
+        });
+    std::vector<std::string> warnings;
+    for (const MapRule& rule : left)
+        warnings.push_back("warning: --map " + rule.from + "=" + rule.to +
+                           " changes nothing, as no path of the library begins so" +
+                           (first.empty() ? std::string() : "; its first is " + first));
+    return warnings;
+}
+
+std::optional<std::string> allFilesMissing(const Files& files, const LibraryLocations& locations) {
+    std::string first;
+    bool isOneHere = false;
+    const bool looked = locations([&](std::string_view, const std::string& path) {
+        if (first.empty()) first = path;
+        isOneHere = files.exists(path);
+        return !isOneHere;
+    });
+    if (!looked || isOneHere || first.empty()) return std::nullopt;
+    return "warning: none of the library's files is here; if they came from another machine, --map FROM=TO "
+           "tells "
+           "where they are now (the first is " +
+           first + ")";
+}
+
+} // namespace songsweep::cli
