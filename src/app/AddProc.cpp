@@ -18,6 +18,10 @@ namespace {
 /// Tracks that one script asks for.
 constexpr std::int32_t batchSize = 50;
 
+/// Scripts that fail one after the other before iTunes counts as gone, and no batch is divided any longer.
+/// One bad track makes six of them fail at most.
+constexpr int mostFailuresInARow = 16;
+
 } // namespace
 
 std::string batchScript(std::int32_t musicInt, std::int32_t first, std::int32_t last) {
@@ -85,17 +89,27 @@ std::int32_t AddProc::trackCount() {
 bool AddProc::readBatch(std::int32_t first, std::int32_t last) {
     const auto result = m_services.scripts.executeAndReturnError(batchScript(m_musicInt, first, last));
     const Descriptor* const tracks = result ? result.value().descriptorAtIndex(1) : nullptr;
-    if (!tracks) {
-        m_services.log.line("Tracks " + std::to_string(first) + " to " + std::to_string(last) +
-                            " could not be read: " + (result ? "no list came back" : result.error().message));
-        return !isCancelled();
-    }
+    if (!tracks) return readHalves(first, last, result ? "no list came back" : result.error().message);
+    m_failuresInARow = 0;
     for (std::int32_t i = 1; i <= last - first + 1; ++i) {
         if (isCancelled()) return false;
         const Descriptor* const item = tracks->descriptorAtIndex(i);
         if (!item || (m_searchparams.isignoredead && isDeadTrackItem(*item))) continue;
         m_list->records.push_back(&makeRecord(*m_list->storage, *item));
     }
+    return true;
+}
+
+/// What is left of a batch that failed. False when the operation was cancelled meanwhile.
+bool AddProc::readHalves(std::int32_t first, std::int32_t last, const std::string& reason) {
+    if (isCancelled()) return false;
+    const bool divides = first < last && ++m_failuresInARow <= mostFailuresInARow;
+    if (divides) {
+        const std::int32_t middle = first + (last - first) / 2;
+        return readBatch(first, middle) && readBatch(middle + 1, last);
+    }
+    m_services.log.line("Tracks " + std::to_string(first) + " to " + std::to_string(last) +
+                        " could not be read: " + reason);
     return true;
 }
 

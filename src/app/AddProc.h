@@ -15,7 +15,8 @@ namespace songsweep {
 /// The reader that asks iTunes itself for a playlist's tracks, by scripts of 50 tracks each.
 ///
 /// Serves iTunes before version 10, and every library whose file cannot be read. Appends to the track list;
-/// ends with "addFinish", or with "addCancel" and an empty list. One script a batch, never one a track.
+/// ends with "addFinish", or with "addCancel" and an empty list. One script a batch, never one a track, but
+/// for a batch that fails: its halves are asked for in turn, so that the track to blame is left out alone.
 class AddProc final : public Operation {
   public:
     /// `musicInt` is the playlist's index in iTunes, from 1.
@@ -27,6 +28,7 @@ class AddProc final : public Operation {
   private:
     void readPlaylist();
     bool readBatch(std::int32_t first, std::int32_t last);
+    bool readHalves(std::int32_t first, std::int32_t last, const std::string& reason);
     std::int32_t trackCount();
     void postEnd();
 
@@ -34,6 +36,7 @@ class AddProc final : public Operation {
     SearchParameters m_searchparams;
     std::int32_t m_musicInt;
     ReaderServices m_services;
+    int m_failuresInARow = 0;
 };
 
 /// The text that asks for the tracks `first` to `last` of a playlist, numbers from 1.

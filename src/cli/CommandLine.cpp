@@ -28,10 +28,9 @@ struct Raw {
 };
 
 std::string checkVersion(const std::string& text) {
-    for (const std::string& number : CLI::detail::split(text, '.'))
-        if (number.empty() || number.find_first_not_of("0123456789") != std::string::npos)
-            return "'" + text + "' is no version, which is written 12.0";
-    return {};
+    const bool isVersion = !text.empty() && text.find_first_not_of("0123456789.") == std::string::npos &&
+                           text.front() != '.' && text.back() != '.' && text.find("..") == std::string::npos;
+    return isVersion ? std::string() : "'" + text + "' is no version, which is written 12.0";
 }
 
 /// Options that count before the command, too.
@@ -249,7 +248,7 @@ Parser::Parser(const std::string& version) {
 Command Parser::command() {
     checkFields(raw);
     for (const CLI::App* const command : app.get_subcommands()) {
-        if (!raw.file.empty()) throw CLI::ExtrasError({raw.file});
+        if (!raw.file.empty()) throw CLI::ExtrasError(std::vector<std::string>{raw.file});
         checkGivenOnce(app, *command);
     }
     if (*findCommand) {

@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <stdexcept>
@@ -209,14 +210,47 @@ TEST_F(AddProcTest, AFailingCountScriptReadsNothing) {
     EXPECT_THAT(log.lines(), ElementsAre("Applescript Parsing", "0"));
 }
 
-TEST_F(AddProcTest, AFailingBatchYieldsNoRecordsAndALogLine) {
+/// Whether a batch script asks for the track.
+bool asksFor(const std::string& text, int track) {
+    int first = 0;
+    int last = 0;
+    const std::size_t range = text.find("with i from ");
+    return range != std::string::npos &&
+           std::sscanf(text.c_str() + range, "with i from %d to %d", &first, &last) == 2 && first <= track &&
+           track <= last;
+}
+
+TEST_F(AddProcTest, ATrackThatCannotBeReadIsLeftOutAlone) {
     addTracks(60);
-    iTunes.fails = [](const std::string& text) { return text.find("from 1 to 50") != std::string::npos; };
+    iTunes.fails = [](const std::string& text) { return asksFor(text, 17); };
     makeReader()->main();
     EXPECT_THAT(events, ElementsAre("progressx 50", "progressx 10", "addFinish"));
-    EXPECT_EQ(list->records.size(), 10U);
+    ASSERT_EQ(list->records.size(), 59U);
+    for (std::size_t i = 0; i < list->records.size(); ++i)
+        EXPECT_EQ(list->records[i]->name, "Song " + std::to_string(i < 16 ? i + 1 : i + 2))
+            << "in their order";
     EXPECT_THAT(log.lines(),
-                ElementsAre("Applescript Parsing", "60", "Tracks 1 to 50 could not be read: told to fail"));
+                ElementsAre("Applescript Parsing", "60", "Tracks 17 to 17 could not be read: told to fail"));
+}
+
+TEST_F(AddProcTest, EachOfManyTracksThatCannotBeReadIsLeftOutAlone) {
+    addTracks(200);
+    iTunes.fails = [](const std::string& text) {
+        for (int track = 10; track <= 200; track += 10)
+            if (asksFor(text, track)) return true;
+        return false;
+    };
+    makeReader()->main();
+    EXPECT_EQ(list->records.size(), 180U);
+}
+
+TEST_F(AddProcTest, AnITunesThatIsGoneIsNotAskedForEveryTrack) {
+    addTracks(1000);
+    iTunes.fails = [](const std::string& text) { return text.find("get count") == std::string::npos; };
+    makeReader()->main();
+    EXPECT_TRUE(list->records.empty());
+    EXPECT_LT(iTunes.texts().size(), 60U);
+    EXPECT_EQ(events.back(), "addFinish");
 }
 
 TEST_F(AddProcTest, AnExceptionStillPostsTheEndAndLeavesTheOperation) {
