@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "library/TrackRecord.h"
-
 #include <array>
 #include <string>
 #include <string_view>
@@ -11,6 +9,7 @@
 namespace songsweep {
 
 class KeySort;
+struct TrackRecord;
 
 /// The columns of the results table, in their first order.
 enum class Column {
