@@ -39,6 +39,7 @@ void Marks::markFolderButtonClick() {
     m_view.chooseMarkFolder();
 }
 
+/// "Unmark all" is markMenuClick(3). This is kept for a control without a tag, such as a button.
 void Marks::markNone() { setMarks(m_results.tableDataSource().rows, false); }
 
 void Marks::markMenuClick(std::int32_t tag) {

@@ -115,6 +115,7 @@ void Search::cancelformButtonClick() {
     m_progress.closeProgressWindow(ProgressBar::formprogress);
 }
 
+/// No menu has it: it is kept as the one way to try the library reader by itself, without a dialog's choices.
 void Search::xmlStartClick() { m_workers.queue.add(m_readers.bareReader()); }
 
 void Search::forgetLibrary() {
