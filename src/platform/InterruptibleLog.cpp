@@ -42,10 +42,12 @@ void InterruptibleLog::line(std::string_view text) {
 /// False once the process ends and nobody has read for long enough.
 bool InterruptibleLog::waitUntilWritable() {
     for (;;) {
+        const bool hasWaited = m_endsSoon && m_waitsInTheEnd >= mostWaitsInTheEnd;
         pollfd target{m_descriptor, POLLOUT, 0};
-        const int ready = ::poll(&target, 1, waitMilliseconds);
+        const int ready = ::poll(&target, 1, hasWaited ? 0 : waitMilliseconds);
         if (ready > 0 || (ready < 0 && errno != EINTR)) return true; // an error shows in the write
-        if (ready == 0 && m_endsSoon && ++m_waitsInTheEnd > mostWaitsInTheEnd) return false;
+        if (ready == 0 && hasWaited) return false;
+        if (ready == 0 && m_endsSoon) ++m_waitsInTheEnd;
     }
 }
 
