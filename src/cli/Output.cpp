@@ -147,7 +147,9 @@ bool Output::waitUntilWritable() {
             break;
         }
         pollfd target{m_descriptor, POLLOUT, 0};
-        if (::poll(&target, 1, waitMilliseconds) != 0) return true; // an error shows in the write
+        const int ready = ::poll(&target, 1, waitMilliseconds);
+        // The signal of an interrupt may end the waiting, too; any other error shows in the write.
+        if (ready > 0 || (ready < 0 && errno != EINTR)) return true;
     }
     return false;
 }
