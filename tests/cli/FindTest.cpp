@@ -301,8 +301,10 @@ TEST_F(Find, ReadsByScriptsWhereITunesIsOld) {
 TEST_F(Find, ReadsNamesThatAreNotUtf8) {
     const std::string song = m_folder.write("caf\xe9.mp3", "x");
     const std::string library = m_folder.write(
-        "Bj\xf6rk.xml", libraryText({{.id = 1, .name = "A", .artist = "B", .path = song},
-                                     {.id = 2, .name = "A", .artist = "B", .path = path("song1.mp3")}}));
+        "Bj\xf6rk.xml",
+        libraryText(
+            {{.id = 1, .name = "A", .artist = "B", .milliseconds = 1000, .path = song},
+             {.id = 2, .name = "A", .artist = "B", .milliseconds = 1000, .path = path("song1.mp3")}}));
     for (const std::string version : {"12.0", "9.2.1"}) {
         const std::string command = "'" + program() + "' find --library '" + library + "' --itunes-version " +
                                     version + " --format json --output '" + path("found.json") + "'";

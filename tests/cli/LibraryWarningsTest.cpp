@@ -19,8 +19,11 @@ class LibraryWarnings : public test::ProgramTest {
     std::string library(const std::vector<std::string>& paths) const {
         std::vector<SampleTrack> tracks;
         for (const std::string& path : paths)
-            tracks.push_back(
-                {.id = static_cast<int>(tracks.size()) + 1, .name = "A", .milliseconds = 1000, .path = path});
+            tracks.push_back({.id = static_cast<int>(tracks.size()) + 1,
+                              .name = "A",
+                              .artist = "B",
+                              .milliseconds = 1000,
+                              .path = path});
         return m_folder.write("Library.xml", libraryText(tracks));
     }
     RunResult find(const std::string& library, std::vector<std::string> options = {}) {

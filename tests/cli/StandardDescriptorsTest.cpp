@@ -18,8 +18,9 @@ using test::RunResult;
 class StandardDescriptors : public test::ProgramTest {
   protected:
     std::string library() const {
-        return m_folder.write("Library.xml", libraryText({{.id = 1, .name = "A", .milliseconds = 1000},
-                                                          {.id = 2, .name = "A", .milliseconds = 1000}}));
+        return m_folder.write("Library.xml",
+                              libraryText({{.id = 1, .name = "A", .artist = "B", .milliseconds = 1000},
+                                           {.id = 2, .name = "A", .artist = "B", .milliseconds = 1000}}));
     }
 };
 

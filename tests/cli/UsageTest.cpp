@@ -9,6 +9,7 @@ namespace songsweep {
 namespace {
 
 using test::RunResult;
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 class Usage : public test::ProgramTest {
@@ -67,11 +68,12 @@ TEST_F(Usage, CountsOptionsOfTheLibraryBeforeTheCommand) {
     EXPECT_EQ(run({"--library", library(), "--log", path("log"), "find"}).exitCode, 0);
     EXPECT_TRUE(std::filesystem::exists(path("log")));
     m_folder.write("here/a.mp3", "x");
-    const std::string mapped =
-        m_folder.write("mapped.xml", test::libraryText({{.id = 1, .name = "A", .path = "/C:/Music/a.mp3"}}));
+    const std::string mapped = m_folder.write(
+        "mapped.xml", test::libraryText({{.id = 1, .name = "A", .artist = "B", .path = "/C:/Music/a.mp3"},
+                                         {.id = 2, .name = "A", .artist = "B", .path = "/C:/Music/a.mp3"}}));
     EXPECT_THAT(
         run({"--map", "C:\\Music=" + path("here"), "find", "--library", mapped, "--same", "none"}).output,
-        ::testing::Not(HasSubstr("missing")));
+        AllOf(HasSubstr("2 songs in 1 group"), ::testing::Not(HasSubstr("missing"))));
 }
 
 TEST_F(Usage, RefusesAnOptionBeforeTheCommandAndAfterIt) {
@@ -126,11 +128,12 @@ TEST_F(Usage, TellsWhereItLookedForALibrary) {
 TEST_F(Usage, GoesThroughALinkAsTheSystemDoes) {
     std::filesystem::create_directories(path("far/folder"));
     std::filesystem::create_directory_symlink(path("far/folder"), path("link"));
-    const std::string text = test::libraryText({{.id = 1, .name = "A"}});
+    const std::string text =
+        test::libraryText({{.id = 1, .name = "A", .artist = "B"}, {.id = 2, .name = "C", .artist = "D"}});
     m_folder.write("far/x.xml", text);
     const RunResult result = run({"find", "--library", "link/../x.xml", "--same", "none"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
-    EXPECT_THAT(result.output, HasSubstr("1 song in 1 group"));
+    EXPECT_THAT(result.output, HasSubstr("2 songs in 1 group"));
     expectRefusal({"find", "--library", path("far/x.xml"), "--output", "link/../x.xml"});
     EXPECT_EQ(m_folder.read("far/x.xml"), text);
 }
