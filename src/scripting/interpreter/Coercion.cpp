@@ -182,7 +182,7 @@ Result<std::string> posixPathOf(Context& context, Position position, const Value
 Result<Value> coerced(Context& context, Position position, const Value& value, Kind kind) {
     switch (kind) {
     case Kind::text: {
-        TRY(std::string text, textOf(context, position, value));
+        TRY(std::string && text, textOf(context, position, value));
         return Value(std::move(text));
     }
     case Kind::integer: {

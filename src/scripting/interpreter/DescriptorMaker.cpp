@@ -37,7 +37,7 @@ struct Maker {
         Descriptor::List items;
         items.reserve(list->items.size());
         for (const Value& item : list->items) {
-            TRY(Descriptor descriptor, made(context, item, depth + 1));
+            TRY(Descriptor && descriptor, made(context, item, depth + 1));
             items.push_back(std::move(descriptor));
         }
         return Descriptor::list(std::move(items));

@@ -11,7 +11,7 @@ namespace {
 Result<std::optional<Descriptor>> resultOf(Context& context, const Program& program) {
     TRY([[maybe_unused]] const Flow flow, executeBlock(context, program.body));
     if (!context.result()) return std::optional<Descriptor>();
-    TRY(Descriptor descriptor, descriptorOf(context, *context.result()));
+    TRY(Descriptor && descriptor, descriptorOf(context, *context.result()));
     return std::optional(std::move(descriptor));
 }
 

@@ -8,7 +8,7 @@
 namespace songsweep::interpreter {
 
 Result<Program> parsedProgram(std::string_view source, const Applications& applications) {
-    TRY(std::vector<Token> tokens, Lexer(source).tokens());
+    TRY(std::vector<Token> && tokens, Lexer(source).tokens());
     TokenCursor cursor(std::move(tokens));
     ExpressionParser expressions(cursor, applications);
     Block body = StatementParser(cursor, expressions).block();

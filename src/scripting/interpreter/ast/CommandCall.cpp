@@ -14,7 +14,7 @@ int CommandCall::depth() const {
 
 Result<std::optional<Value>> CommandCall::directParameter(Context& context) const {
     if (m_direct) {
-        TRY(Value value, m_direct->evaluate(context));
+        TRY(Value && value, m_direct->evaluate(context));
         return std::optional(std::move(value));
     }
     if (context.target().get() == context.application()) return std::optional<Value>();
@@ -29,17 +29,17 @@ Result<std::optional<Value>> CommandCall::perform(Context& context) const {
     }
     Command command;
     command.code = m_term.code;
-    TRY(std::optional<Value> direct, directParameter(context));
+    TRY(std::optional<Value> && direct, directParameter(context));
     command.direct = std::move(direct);
     for (const Argument& argument : m_arguments) {
-        TRY(Value value, argument.value->evaluate(context));
+        TRY(Value && value, argument.value->evaluate(context));
         command.arguments.push_back({argument.parameter, std::move(value)});
     }
     return context.located(m_position, application->perform(command));
 }
 
 Result<Value> CommandExpression::compute(Context& context) const {
-    TRY(std::optional<Value> result, m_call.perform(context));
+    TRY(std::optional<Value> && result, m_call.perform(context));
     if (!result) {
         return context.fail(position(), ErrorNumber::noSuchObject, "the command has no result");
     }

@@ -24,7 +24,7 @@ Result<Referent> ElementReference::computeReferent(Context& context) const {
 Result<Referent> ElementReference::selectedFrom(Context& context, const ElementSet& set) const {
     if (m_selector.kind == Selector::Kind::every) return Referent{set};
     if (m_selector.kind == Selector::Kind::range) return rangeOf(context, set);
-    TRY(ObjectPointer element, elementOf(context, set));
+    TRY(ObjectPointer && element, elementOf(context, set));
     return Referent{Value(std::move(element))};
 }
 
@@ -70,7 +70,7 @@ Result<Referent> ItemReference::computeReferent(Context& context) const {
     TRY(const Referent& container, resolveContainer(context));
     const auto* const set = std::get_if<ElementSet>(&container.what);
     TRY(const Value& value, set ? listOf(context, position(), *set) : std::get<Value>(container.what));
-    TRY(Value selected, selectedFrom(context, value));
+    TRY(Value && selected, selectedFrom(context, value));
     return Referent{std::move(selected)};
 }
 

@@ -22,7 +22,7 @@ Result<void> Expression::assign(Context& context, const Value&) const {
 }
 
 Result<Referent> Expression::computeReferent(Context& context) const {
-    TRY(Value value, compute(context));
+    TRY(Value && value, compute(context));
     return Referent{std::move(value)};
 }
 

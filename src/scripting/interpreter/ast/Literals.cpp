@@ -26,7 +26,7 @@ Result<Value> ListExpression::compute(Context& context) const {
     std::vector<Value> items;
     items.reserve(m_items.size());
     for (const ExpressionPointer& item : m_items) {
-        TRY(Value value, item->evaluate(context));
+        TRY(Value && value, item->evaluate(context));
         items.push_back(std::move(value));
     }
     return context.makeList(position(), std::move(items));

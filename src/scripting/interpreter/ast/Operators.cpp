@@ -51,7 +51,7 @@ Result<std::optional<PropertyTest>> CompareExpression::propertyTest(Context& con
     if (m_isNegated || right().dependsOnTarget()) return std::optional<PropertyTest>();
     const std::optional<TermCode> property = left().ownProperty(words);
     if (!property) return std::optional<PropertyTest>();
-    TRY(Value operand, right().evaluate(context));
+    TRY(Value && operand, right().evaluate(context));
     return std::optional(PropertyTest{*property, m_comparison, std::move(operand)});
 }
 
@@ -147,7 +147,7 @@ Result<Value> AliasExpression::compute(Context& context) const {
 
 Result<Value> PosixFileExpression::compute(Context& context) const {
     TRY(const Value& value, operand().evaluate(context));
-    TRY(std::string path, textOf(context, position(), value));
+    TRY(std::string && path, textOf(context, position(), value));
     return Value(Alias{std::move(path)});
 }
 

@@ -8,7 +8,7 @@
 namespace songsweep::interpreter {
 
 Result<Value> Reference::compute(Context& context) const {
-    TRY(Referent referent, computeReferent(context));
+    TRY(Referent && referent, computeReferent(context));
     if (const auto* const set = std::get_if<ElementSet>(&referent.what)) {
         return listOf(context, position(), *set);
     }
@@ -55,7 +55,7 @@ Result<Referent> ContainedReference::insideElements(Context& context, const Elem
                                                     const Inside& inside) const {
     std::vector<Value> values;
     const auto visit = [&](const ObjectPointer& element) -> Result<bool> {
-        TRY(Value value, insideOne(context, Value(element), inside));
+        TRY(Value && value, insideOne(context, Value(element), inside));
         values.push_back(std::move(value));
         return true;
     };
@@ -68,7 +68,7 @@ Result<Referent> ContainedReference::insideItems(Context& context, const std::ve
                                                  const Inside& inside) const {
     std::vector<Value> values;
     for (const Value& item : items) {
-        TRY(Value value, insideOne(context, item, inside));
+        TRY(Value && value, insideOne(context, item, inside));
         values.push_back(std::move(value));
     }
     return gathered(context, std::move(values));
@@ -78,14 +78,14 @@ Result<Referent> ContainedReference::insideItems(Context& context, const std::ve
 Result<Value> ContainedReference::insideOne(Context& context, const Value& value,
                                             const Inside& inside) const {
     const auto* const several = listItems(value);
-    TRY(Referent result, several ? insideItems(context, *several, inside) : inside(value));
+    TRY(Referent && result, several ? insideItems(context, *several, inside) : inside(value));
     const auto* const set = std::get_if<ElementSet>(&result.what);
     if (set) return listOf(context, position(), *set);
     return std::get<Value>(std::move(result.what));
 }
 
 Result<Referent> ContainedReference::gathered(Context& context, std::vector<Value> values) const {
-    TRY(Value list, context.makeList(position(), std::move(values)));
+    TRY(Value && list, context.makeList(position(), std::move(values)));
     return Referent{std::move(list), true};
 }
 
@@ -121,7 +121,7 @@ Result<Value> PropertyReference::propertyOf(Context& context, const Value& value
 Result<Referent> PropertyReference::computeReferent(Context& context) const {
     TRY(const Referent& containers, resolveContainer(context));
     return insideEach(context, containers, [&](const Value& value) -> Result<Referent> {
-        TRY(Value property, propertyOf(context, value));
+        TRY(Value && property, propertyOf(context, value));
         return Referent{std::move(property)};
     });
 }
@@ -142,7 +142,7 @@ Result<Referent> PosixPathReference::computeReferent(Context& context) const {
     TRY(const Referent& containers, resolveContainer(context));
     const auto* const set = std::get_if<ElementSet>(&containers.what);
     TRY(const Value& value, set ? listOf(context, position(), *set) : std::get<Value>(containers.what));
-    TRY(std::string path, posixPathOf(context, position(), value));
+    TRY(std::string && path, posixPathOf(context, position(), value));
     return Referent{Value(std::move(path))};
 }
 

@@ -15,13 +15,13 @@ Result<Value> deepCopy(Context& context, Position position, const Value& value, 
     std::vector<Value> copies;
     for (const Value& item : *items) {
         if (!context.spend()) return context.exhausted(position);
-        TRY(Value copy, deepCopy(context, position, item, depth + 1));
+        TRY(Value && copy, deepCopy(context, position, item, depth + 1));
         copies.push_back(std::move(copy));
     }
     return context.makeList(position, std::move(copies));
 }
 
-Result<Flow> assign(Context& context, const Expression& target, Value value) {
+Result<Flow> assign(Context& context, const Expression& target, Value&& value) {
     if (Result<void> assigned = target.assign(context, value); !assigned) return assigned.error();
     context.result() = std::move(value);
     return Flow::onward;
@@ -36,7 +36,7 @@ StatementPointer setStatement(StatementParser& parser, Position place) {
     ExpressionPointer value = parser.expression();
     return makeStatement(
         place, [target = std::move(target), value = std::move(value)](Context& context) -> Result<Flow> {
-            TRY(Value evaluated, value->evaluate(context));
+            TRY(Value && evaluated, value->evaluate(context));
             return assign(context, *target, std::move(evaluated));
         });
 }
@@ -50,7 +50,7 @@ StatementPointer copyStatement(StatementParser& parser, Position place) {
         place,
         [place, target = std::move(target), value = std::move(value)](Context& context) -> Result<Flow> {
             TRY(const Value& evaluated, value->evaluate(context));
-            TRY(Value copy, deepCopy(context, place, evaluated, 0));
+            TRY(Value && copy, deepCopy(context, place, evaluated, 0));
             return assign(context, *target, std::move(copy));
         });
 }
