@@ -7,9 +7,9 @@
 //     index-benchmark [TRACKS]     (100000 unless told otherwise, about 150 MB)
 
 #include "hosts/EmbeddedScripting.h"
-#include "libraryfile/FileCopy.h"
 #include "libraryfile/LibraryDocument.h"
 #include "libraryfile/LibraryIndex.h"
+#include "libraryfile/LibraryReplacement.h"
 #include "libraryfile/WellFormedness.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
@@ -181,11 +181,10 @@ void measureRewrite(const std::string& path, const std::vector<std::string>& ids
     std::vector<ByteRange> ranges;
     for (std::size_t track = 0; track < index.value().tracks.size(); track += 101)
         ranges.push_back(index.value().tracks[track].range());
-    const double copyingPart = best(
-        [&] {
-            if (!copyWithoutRanges(file.value(), ranges, copy)) stop("cannot copy");
-        },
-        [&] { std::filesystem::remove(copy); });
+    LibraryReplacement replacement(copy);
+    const double copyingPart = best([&] {
+        if (!replacement.write(file.value(), piecesWithout(file.value(), ranges))) stop("cannot copy");
+    });
     const double check = best([&] {
         if (!checkWellFormedness(file.value())) stop("not well formed");
     });

@@ -173,11 +173,12 @@ std::optional<Error> EmbeddedScripting::lastWriteError() const {
 
 Result<void> EmbeddedScripting::beginDeletionRun() {
     const std::lock_guard lock(m_lock);
-    // A failed write keeps its deletions and its reason, and nothing is added to them.
     if (auto written = flushLocked(); !written) return written;
     const auto document = currentDocument();
     if (!document) return document.error();
-    return document.value()->beginDeletionRun();
+    auto begun = document.value()->beginCleanup({"a clean-up", m_libraryOptions.lockTimeout});
+    document.value()->endCleanup(); // Each write locks the library for itself.
+    return begun;
 }
 
 std::string EmbeddedScripting::backup() const {

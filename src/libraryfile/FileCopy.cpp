@@ -4,7 +4,6 @@
 #include "libraryfile/FileWindow.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -28,8 +27,25 @@ class FileWriter {
         m_buffer.reserve(bufferSize);
     }
 
-    /// Appends a run of bytes of the original; runs come in order. False on an error, see `errorNumber`.
-    bool append(ByteRange run) {
+    /// Appends a piece; those of the original come in order. False on an error, see `errorNumber`.
+    bool append(const FilePiece& piece) {
+        if (piece.file == &m_original && !appendRun(piece.range)) return false;
+        if (piece.file != nullptr && piece.file != &m_original && !appendOther(*piece.file, piece.range))
+            return false;
+        return append(piece.text);
+    }
+
+    /// Writes what is left, and ends the file there.
+    bool finish() {
+        if (!flush()) return false;
+        const off_t end = ::lseek(m_descriptor, 0, SEEK_CUR);
+        return (end >= 0 && ::ftruncate(m_descriptor, end) == 0) || fail(errno);
+    }
+
+    int errorNumber() const { return m_errorNumber; }
+
+  private:
+    bool appendRun(ByteRange run) {
         if (run.length >= longRun) {
             if (!flush()) return false;
             if (copyBySystem(run)) return true;
@@ -38,10 +54,21 @@ class FileWriter {
             const ByteRange piece{run.begin, std::min<std::uint64_t>(run.length, longRun)};
             const std::string_view bytes = m_window.view(piece);
             if (bytes.size() != piece.length) return fail(EIO);
-            if (m_buffer.size() + bytes.size() > bufferSize && !flush()) return false;
-            m_buffer.append(bytes);
+            if (!append(bytes)) return false;
             run = {piece.end(), run.length - piece.length};
         }
+        return true;
+    }
+
+    /// Pieces of another file come in any order, so no window slides over it.
+    bool appendOther(const LibraryFile& file, ByteRange range) {
+        const auto bytes = file.read(range);
+        return bytes ? append(bytes.value()) : fail(EIO);
+    }
+
+    bool append(std::string_view bytes) {
+        if (m_buffer.size() + bytes.size() > bufferSize && !flush()) return false;
+        m_buffer.append(bytes);
         return true;
     }
 
@@ -56,9 +83,6 @@ class FileWriter {
         return true;
     }
 
-    int errorNumber() const { return m_errorNumber; }
-
-  private:
     /// Copies as much as the system does; what it leaves stays in `run`. True if nothing is left.
     bool copyBySystem(ByteRange& run) {
 #ifdef __linux__
@@ -86,43 +110,37 @@ class FileWriter {
     int m_errorNumber = 0;
 };
 
-bool appendAllBut(FileWriter& writer, const std::vector<ByteRange>& ranges, std::uint64_t size) {
-    std::uint64_t at = 0;
-    for (const ByteRange& range : ranges) {
-        if (range.begin > at && !writer.append({at, range.begin - at})) return false;
-        at = range.end();
-    }
-    if (size > at && !writer.append({at, size - at})) return false;
-    return writer.flush();
-}
-
-/// Gives the new file the owner, as far as this user may, and the permissions of the original.
-bool takeOver(int from, int to) {
-    struct stat status {};
-    if (::fstat(from, &status) != 0) return false;
-    if (::fchown(to, status.st_uid, status.st_gid) != 0) static_cast<void>(::fchown(to, -1, status.st_gid));
-    return ::fchmod(to, status.st_mode & 07777) == 0;
-}
-
 /// An errno, 0 for success.
-int writeFile(const LibraryFile& original, const std::vector<ByteRange>& ranges, int descriptor) {
+int writeAll(const LibraryFile& original, const std::vector<FilePiece>& pieces, int descriptor) {
+    if (::lseek(descriptor, 0, SEEK_SET) != 0) return errno;
     FileWriter writer(original, descriptor);
-    if (!appendAllBut(writer, ranges, original.stamp().size)) return writer.errorNumber();
-    if (!takeOver(original.descriptor(), descriptor) || ::fsync(descriptor) != 0) return errno;
-    return 0;
+    for (const FilePiece& piece : pieces)
+        if (!writer.append(piece)) return writer.errorNumber();
+    return writer.finish() ? 0 : writer.errorNumber();
 }
 
 } // namespace
 
-Result<void> copyWithoutRanges(const LibraryFile& original, const std::vector<ByteRange>& ranges,
-                               const std::string& path) {
-    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
-    if (descriptor < 0) return systemError(errno, "create", path);
-    int errorNumber = writeFile(original, ranges, descriptor);
-    if (::close(descriptor) != 0 && errorNumber == 0) errorNumber = errno;
-    if (errorNumber == 0) return {};
-    ::unlink(path.c_str());
-    return systemError(errorNumber, "write", path);
+std::vector<FilePiece> piecesWithout(const LibraryFile& file, const std::vector<ByteRange>& ranges) {
+    std::vector<FilePiece> pieces;
+    pieces.reserve(ranges.size() + 1);
+    std::uint64_t at = 0;
+    const auto keepUntil = [&](std::uint64_t end) {
+        if (end > at) pieces.push_back({&file, {at, end - at}, {}});
+    };
+    for (const ByteRange& range : ranges) {
+        keepUntil(range.begin);
+        at = range.end();
+    }
+    keepUntil(file.stamp().size);
+    return pieces;
+}
+
+Result<void> writePieces(const LibraryFile& original, const std::vector<FilePiece>& pieces, int descriptor,
+                         const std::string& path) {
+    const int errorNumber = writeAll(original, pieces, descriptor);
+    if (errorNumber != 0) return systemError(errorNumber, "write", path);
+    return {};
 }
 
 } // namespace songsweep

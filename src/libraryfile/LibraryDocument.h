@@ -3,6 +3,7 @@
 
 #include "libraryfile/DeletionMemory.h"
 #include "libraryfile/LibraryIndex.h"
+#include "libraryfile/LibraryTransaction.h"
 #include "libraryfile/LocationPass.h"
 #include "libraryfile/TrackFields.h"
 
@@ -108,21 +109,32 @@ class LibraryDocument {
     /// Writes the deletions, all in one go; nothing to do without any.
     ///
     /// All other bytes stay as they are. They go to a temporary file beside the library, which is flushed,
-    /// read back, compared, and renamed over it, so that at any moment the old version or the new one is
-    /// there, complete. Before the first write a full parser checks the whole file; the first write of a run
-    /// keeps the old version under a dated name. On an error (no space, no permission, not well formed, held
-    /// by another program) the library is as it was and the deletions are still pending.
+    /// read back, compared, and put in its place, so that at any moment the old version or the new one is
+    /// there, complete. Before the first write a full parser checks the whole file and a backup is made; a
+    /// document writes one backup for each clean-up, and one for all that is written outside of clean-ups. On
+    /// an error (no space, no permission, not well formed, held by another program) the library is as it was
+    /// and the deletions are forgotten, so that nobody writes later what was reported as not written.
+    ///
+    /// A track that another program has changed beyond recognition stays: after a success, ask
+    /// `tracksWithPersistentId` whether the library on the disk still names it.
     Result<void> flush();
+
+    /// Forgets the deletions that are not written: their tracks are there as before.
+    void rollback();
 
     /// Why the last `flush` failed; nothing after one that succeeded.
     const std::optional<Error>& lastWriteError() const { return m_lastWriteError; }
 
-    /// The next write keeps a backup again. A document begins with a run. Tries everything that a write does
-    /// but for its bytes (the check of well-formedness, the lock, a file beside the library), so that nobody
-    /// begins what cannot be written; an error says why, and nothing is changed. Costs what the check costs.
-    Result<void> beginDeletionRun();
-    /// The backup of this run, "" while there is none.
-    const std::string& backup() const { return m_backup; }
+    /// Begins a clean-up: locks the library until `endCleanup`, brings the index up to date, lets a full
+    /// parser check it, makes a backup, tries the replacing as it will be done, and reserves the room. So
+    /// nothing begins that cannot be written; an error says why. Costs the check and a copy of the file.
+    Result<void> beginCleanup(const CleanupLock::Request& request);
+    void endCleanup();
+
+    /// The backup of this clean-up, "" while there is none.
+    std::string backup() const { return m_backup ? m_backup->path() : std::string(); }
+    /// Whether a write by another program could get lost in the moment of a write, see LibraryReplacement.
+    bool isNarrowed() const { return m_transaction && m_transaction->isNarrowed(); }
 
   private:
     struct Cached {
@@ -134,7 +146,8 @@ class LibraryDocument {
     void adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table);
     void forgetLists();
     Result<void> write();
-    Result<void> replaceLibrary(const std::string& target, int folderDescriptor);
+    Result<void> writeIn(LibraryTransaction& transaction);
+    Result<void> replaceLibrary(LibraryTransaction& transaction);
     Result<void> checkWellFormednessOnce();
     std::vector<TrackPosition> libraryTracks() const;
 
@@ -150,7 +163,8 @@ class LibraryDocument {
     std::size_t m_deletedCount = 0;
     DeletionMemory m_memory;
     FileStamp m_wellFormed; // the version of the file that the full parser has accepted
-    std::string m_backup;
+    std::optional<LibraryTransaction> m_transaction; // of the clean-up, while there is one
+    std::optional<Backup> m_backup;
     std::optional<Error> m_lastWriteError;
 };
 

@@ -66,6 +66,12 @@ Result<FileStamp> LibraryFile::stampOf(const std::string& path) {
     return stampFrom(status);
 }
 
+Result<FileStamp> LibraryFile::stampOf(int descriptor, const std::string& path) {
+    struct stat status {};
+    if (::fstat(descriptor, &status) != 0) return systemError(errno, "read", path);
+    return stampFrom(status);
+}
+
 LibraryFile::LibraryFile(LibraryFile&& other) noexcept
     : m_path(std::move(other.m_path))
     , m_descriptor(std::exchange(other.m_descriptor, -1)) {}

@@ -42,6 +42,8 @@ class LibraryFile {
 
     /// The stamp of what the path names now, following links.
     static Result<FileStamp> stampOf(const std::string& path);
+    /// The stamp of an open file; `path` is named in an error.
+    static Result<FileStamp> stampOf(int descriptor, const std::string& path);
 
     LibraryFile(LibraryFile&& other) noexcept;
     LibraryFile& operator=(LibraryFile&& other) noexcept;

@@ -33,6 +33,16 @@ struct ItemSlot {
     std::uint32_t length = 0;
 };
 
+/// The element that holds entries or items: where the first one stands, or would stand.
+struct ContainerSlot {
+    enum class Form : std::uint8_t { missing, tags, emptyTag };
+
+    Form form = Form::missing;
+    ByteRange tag; ///< its opening tag, or its only one
+
+    bool operator==(const ContainerSlot&) const = default;
+};
+
 struct PlaylistSlot {
     std::string name;
     std::string persistentId;
@@ -42,7 +52,11 @@ struct PlaylistSlot {
     bool folder = false;
     bool visible = true;
     std::uint64_t begin = 0; ///< offset of its dictionary
+    std::uint64_t end = 0;   ///< behind the last thing in its dictionary; 0 of an empty tag
+    ContainerSlot container; ///< of its items
     std::vector<ItemSlot> items;
+
+    ByteRange rangeOf(const ItemSlot& item) const { return {begin + item.begin, item.length}; }
 };
 
 /// Where everything of a library file is: 32 bytes a track and 12 a playlist item, plus 4 a track to
@@ -50,7 +64,8 @@ struct PlaylistSlot {
 struct LibraryIndex {
     static constexpr std::uint32_t noTrack = 0xFFFFFFFF;
 
-    std::vector<TrackSlot> tracks;       ///< in file order
+    std::vector<TrackSlot> tracks; ///< in file order
+    ContainerSlot trackContainer;
     std::vector<PlaylistSlot> playlists; ///< in file order
     XmlEntities entities;
     FileStamp stamp;

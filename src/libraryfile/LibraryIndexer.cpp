@@ -117,6 +117,7 @@ class Indexer {
         case LibraryPlace::tracks:
             m_tracksSeen = true;
             m_entryBegin = tag.end;
+            m_index.trackContainer = containerAt(tag);
             break;
         case LibraryPlace::key:
             if (m_places[m_places.size() - 2] == LibraryPlace::tracks) m_entryBegin = withSpaceBefore(tag);
@@ -128,6 +129,9 @@ class Indexer {
             m_index.playlists.emplace_back().begin = tag.begin;
             m_itemIds.emplace_back();
             break;
+        case LibraryPlace::items:
+            m_index.playlists.back().container = containerAt(tag);
+            break;
         case LibraryPlace::item:
             m_itemBegin = withSpaceBefore(tag);
             m_itemId = -1;
@@ -135,6 +139,12 @@ class Indexer {
         default:
             break;
         }
+    }
+
+    static ContainerSlot containerAt(const Tag& tag) {
+        const bool isEmpty = tag.kind == Tag::Kind::empty;
+        return {isEmpty ? ContainerSlot::Form::emptyTag : ContainerSlot::Form::tags,
+                {tag.begin, tag.end - tag.begin}};
     }
 
     /// Where the white space before the tag begins.
@@ -160,6 +170,10 @@ class Indexer {
             break;
         case LibraryPlace::item:
             itemEnds(tag);
+            break;
+        case LibraryPlace::playlist:
+            if (tag.kind == Tag::Kind::close) m_index.playlists.back().end = withSpaceBefore(tag);
+            m_key = LibraryKey::none;
             break;
         case LibraryPlace::items:
             m_index.playlists.back().items.shrink_to_fit();

@@ -111,7 +111,7 @@ TEST_F(ProgramTest, TellsOnceOnTheMainThreadThatTheLibraryCannotBeWritten) {
     ASSERT_TRUE(program.scripting().run("tell application \"iTunes\" to delete track 1 of playlist 1"));
     ASSERT_TRUE(std::filesystem::remove(file));
     EXPECT_FALSE(program.writeLibrary());
-    EXPECT_FALSE(program.writeLibrary());
+    EXPECT_TRUE(program.writeLibrary()); // The deletion is forgotten, so that nobody writes it later.
     EXPECT_THAT(reasons, IsEmpty());
     handleWaitingEvents();
     EXPECT_THAT(reasons, ElementsAre("cannot find " + file + ": No such file or directory"));

@@ -39,19 +39,18 @@ TEST_F(EmbeddedLibraryTest, TheWriterWritesByItself) {
     EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 2);
 }
 
-TEST_F(EmbeddedLibraryTest, AFailedWriteKeepsItsReasonAndItsDeletions) {
+TEST_F(EmbeddedLibraryTest, AFailedWriteKeepsItsReasonAndForgetsItsDeletions) {
     open(manyTracks(3));
     run(test::deleteTrackText(persistentIdOf(0)));
     ASSERT_EQ(::unlink(m_path.c_str()), 0);
     EXPECT_FALSE(m_scripts->flush());
     ASSERT_TRUE(m_scripts->lastWriteError());
     EXPECT_EQ(m_scripts->lastWriteError()->code, Error::Code::notFound);
-    EXPECT_EQ(m_scripts->pendingDeletions(), 1U);
+    EXPECT_EQ(m_scripts->pendingDeletions(), 0U);
     EXPECT_THAT(m_log.lines(), ElementsAre(StartsWith("Library not written : cannot find ")));
     m_folder.write("library.xml", manyTracks(4));
     EXPECT_TRUE(m_scripts->flush());
-    EXPECT_FALSE(m_scripts->lastWriteError());
-    EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 3);
+    EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 4);
 }
 
 TEST_F(EmbeddedLibraryTest, EveryDeletionRunKeepsABackup) {
@@ -62,7 +61,6 @@ TEST_F(EmbeddedLibraryTest, EveryDeletionRunKeepsABackup) {
     const std::string first = m_scripts->backup();
     EXPECT_EQ(contentOf(first), manyTracks(4));
     ASSERT_TRUE(m_scripts->beginDeletionRun());
-    EXPECT_EQ(m_scripts->backup(), "");
     run(test::deleteTrackText(persistentIdOf(1)));
     ASSERT_TRUE(m_scripts->flush());
     EXPECT_NE(m_scripts->backup(), first);
@@ -76,10 +74,9 @@ TEST_F(EmbeddedLibraryTest, NoDeletionBeginsWhereAnEarlierOneCannotBeWritten) {
     const auto begun = m_scripts->beginDeletionRun();
     ASSERT_FALSE(begun);
     EXPECT_EQ(begun.error().code, Error::Code::notFound);
-    EXPECT_EQ(m_scripts->pendingDeletions(), 1U);
     m_folder.write("library.xml", manyTracks(3));
     EXPECT_TRUE(m_scripts->beginDeletionRun());
-    EXPECT_EQ(m_scripts->pendingDeletions(), 0U);
+    EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 3);
 }
 
 TEST_F(EmbeddedLibraryTest, NoDeletionBeginsInALibraryThatIsRefused) {

@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 namespace songsweep {
 namespace {
@@ -38,6 +37,7 @@ class EmbeddedScriptingFaultsTest : public testing::Test {
   protected:
     EmbeddedScriptingFaultsTest() {
         EmbeddedScripting::Options options;
+        options.library.lockTimeout = std::chrono::milliseconds(1);
         options.writes = {std::chrono::hours(1), std::chrono::hours(1), std::chrono::hours(1)};
         options.writeFailed = [this](const Error& error) { m_told.push_back(error.message); };
         m_scripts = std::make_unique<EmbeddedScripting>(m_path, m_desktop, m_files, options);
@@ -46,7 +46,11 @@ class EmbeddedScriptingFaultsTest : public testing::Test {
     void deleteTrack(int number) {
         ASSERT_TRUE(m_scripts->executeAndReturnError(test::deleteTrackText(persistentIdOf(number))));
     }
-    void writeLibrary() { m_folder.write("library.xml", manyTracks(4)); }
+    CleanupLock lock() {
+        auto lock = CleanupLock::acquire(m_path, {"another program"});
+        EXPECT_TRUE(lock);
+        return std::move(lock).value();
+    }
 
     test::Folder m_folder;
     std::string m_path = m_folder.write("library.xml", manyTracks(4));
@@ -57,25 +61,25 @@ class EmbeddedScriptingFaultsTest : public testing::Test {
 };
 
 TEST_F(EmbeddedScriptingFaultsTest, AFailureThatGoesOnIsToldOnce) {
-    deleteTrack(0);
-    ASSERT_EQ(::unlink(m_path.c_str()), 0);
-    EXPECT_FALSE(m_scripts->flush());
-    EXPECT_FALSE(m_scripts->flush());
+    const CleanupLock held = lock();
+    for (int n = 0; n < 2; ++n) {
+        deleteTrack(n);
+        EXPECT_FALSE(m_scripts->flush());
+    }
     EXPECT_THAT(m_told, SizeIs(1));
-    writeLibrary();
 }
 
 TEST_F(EmbeddedScriptingFaultsTest, AFailureAfterAGoodWriteIsToldAgain) {
-    deleteTrack(0);
-    ASSERT_EQ(::unlink(m_path.c_str()), 0);
-    EXPECT_FALSE(m_scripts->flush());
-    writeLibrary();
-    ASSERT_TRUE(m_scripts->flush());
-    deleteTrack(1);
-    ASSERT_EQ(::unlink(m_path.c_str()), 0);
-    EXPECT_FALSE(m_scripts->flush());
+    for (int n = 0; n < 2; ++n) {
+        {
+            const CleanupLock held = lock();
+            deleteTrack(n);
+            EXPECT_FALSE(m_scripts->flush());
+        }
+        deleteTrack(n);
+        ASSERT_TRUE(m_scripts->flush());
+    }
     EXPECT_THAT(m_told, SizeIs(2));
-    writeLibrary();
 }
 
 TEST_F(EmbeddedScriptingFaultsTest, ALibraryThatCouldNotBeOpenedIsLookedAtAgain) {

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "libraryfile/FolderLock.h"
+#include "libraryfile/CleanupLock.h"
 #include "libraryfile/LibraryDocument.h"
 #include "libraryfile/LibraryFixture.h"
 #include "libraryfile/SmallFileSystem.h"
+#include "libraryfile/TemporaryName.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -149,35 +150,38 @@ TEST_F(LibraryWriteTest, KeepsOneDatedBackupARun) {
     EXPECT_EQ(contentOf(first), text);
 
     const std::string second = content();
-    ASSERT_TRUE(m_library->beginDeletionRun());
+    ASSERT_TRUE(m_library->beginCleanup({"a test"}));
     remove(persistentIdOf(2));
     ASSERT_TRUE(m_library->flush());
+    m_library->endCleanup();
     EXPECT_EQ(m_folder.names().size(), 3U);
     EXPECT_NE(m_library->backup(), first);
     EXPECT_EQ(contentOf(m_library->backup()), second);
     EXPECT_EQ(contentOf(first), text);
 }
 
-TEST_F(LibraryWriteTest, ARunThatMayBeginLeavesNothingBehind) {
+TEST_F(LibraryWriteTest, ACleanUpThatEndsLeavesItsBackupAndNothingElse) {
     const std::string text = test::manyTracks(3);
     openText(text);
-    ASSERT_TRUE(m_library->beginDeletionRun());
-    EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
+    ASSERT_TRUE(m_library->beginCleanup({"a test"}));
+    EXPECT_EQ(contentOf(m_library->backup()), text);
     EXPECT_EQ(content(), text);
+    m_library->endCleanup();
+    EXPECT_THAT(m_folder.names(), ElementsAre(StartsWith("library (before deletions of "), "library.xml"));
 }
 
 TEST_F(LibraryWriteTest, NoRunBeginsInWhatAParserRefuses) {
     openText(libraryXml({{1, "A1", "<key>Name</key><string>a & b</string>"}}, {}));
-    const auto begun = m_library->beginDeletionRun();
+    const auto begun = m_library->beginCleanup({"a test"});
     ASSERT_FALSE(begun);
     EXPECT_EQ(begun.error().code, Error::Code::invalid);
 }
 
 TEST_F(LibraryWriteTest, NoRunBeginsWhileAnotherProgramWrites) {
     openText(test::manyTracks(3));
-    const auto lock = FolderLock::acquire(m_folder.path(), {});
+    const auto lock = CleanupLock::acquire(m_library->path(), {"another test"});
     ASSERT_TRUE(lock);
-    const auto begun = m_library->beginDeletionRun();
+    const auto begun = m_library->beginCleanup({"a test"});
     ASSERT_FALSE(begun);
     EXPECT_EQ(begun.error().code, Error::Code::busy);
 }
@@ -186,10 +190,11 @@ TEST_F(LibraryWriteTest, BackupsOfOneSecondGetACounter) {
     openText(test::manyTracks(40));
     std::set<std::string> backups;
     for (int n = 0; n < 20; ++n) {
-        ASSERT_TRUE(m_library->beginDeletionRun());
+        ASSERT_TRUE(m_library->beginCleanup({"a test"}));
         remove(persistentIdOf(n));
         ASSERT_TRUE(m_library->flush());
         EXPECT_TRUE(backups.insert(m_library->backup()).second);
+        m_library->endCleanup();
         EXPECT_EQ(m_folder.names().size(), backups.size() + 1);
     }
 }
@@ -284,7 +289,6 @@ TEST_F(LibraryWriteTest, WhatAParserRefusesIsNotWritten) {
     EXPECT_THAT(written.error().message, StartsWith("line 13: "));
     EXPECT_EQ(m_library->lastWriteError()->message, written.error().message);
     EXPECT_EQ(content(), text);
-    EXPECT_EQ(m_library->pendingDeletions(), 1U);
     EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
 }
 
@@ -307,13 +311,10 @@ TEST_F(LibraryWriteTest, AFileCutOffMeanwhileIsNotWritten) {
     m_folder.write("library.xml", text.substr(0, text.size() / 2));
     EXPECT_FALSE(m_library->flush());
     EXPECT_EQ(content(), text.substr(0, text.size() / 2));
-    m_folder.write("library.xml", text);
-    ASSERT_TRUE(m_library->flush()); // The deletion was not forgotten.
-    EXPECT_EQ(content(), withoutTracks(text, {1000}));
-    EXPECT_FALSE(m_library->lastWriteError());
+    EXPECT_TRUE(m_library->lastWriteError());
 }
 
-TEST_F(LibraryWriteTest, AVanishedLibraryIsAnErrorAndItsDeletionsWait) {
+TEST_F(LibraryWriteTest, WhatWasReportedAsNotWrittenIsNeverWritten) {
     const std::string text = test::manyTracks(3);
     openText(text);
     remove(persistentIdOf(0));
@@ -321,7 +322,16 @@ TEST_F(LibraryWriteTest, AVanishedLibraryIsAnErrorAndItsDeletionsWait) {
     const auto written = m_library->flush();
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().code, Error::Code::notFound);
-    EXPECT_EQ(m_library->pendingDeletions(), 1U);
+    EXPECT_EQ(m_library->pendingDeletions(), 0U);
+    EXPECT_EQ(m_library->trackCount(), 3);
+
+    m_folder.write("library.xml", text);
+    EXPECT_TRUE(m_library->flush());
+    EXPECT_EQ(content(), text);
+    remove(persistentIdOf(1));
+    EXPECT_TRUE(m_library->flush());
+    EXPECT_EQ(content(), withoutTracks(text, {1002}));
+    EXPECT_FALSE(m_library->lastWriteError());
 }
 
 TEST_F(LibraryWriteTest, WaitsForAnotherProgramAndGivesUp) {
@@ -329,13 +339,15 @@ TEST_F(LibraryWriteTest, WaitsForAnotherProgramAndGivesUp) {
     openText(text);
     remove(persistentIdOf(0));
     {
-        const auto lock = FolderLock::acquire(m_folder.path(), {});
+        const auto lock = CleanupLock::acquire(m_library->path(), {"another test"});
         ASSERT_TRUE(lock);
         const auto written = m_library->flush();
         ASSERT_FALSE(written);
         EXPECT_EQ(written.error().code, Error::Code::busy);
+        EXPECT_THAT(written.error().message, HasSubstr("(another test, process "));
         EXPECT_EQ(content(), text);
     }
+    remove(persistentIdOf(0));
     EXPECT_TRUE(m_library->flush());
     EXPECT_EQ(m_folder.names().size(), 2U); // The lock left nothing behind.
 }
@@ -354,10 +366,12 @@ TEST_F(LibraryWriteTest, TwoDocumentsOfOneLibraryKeepEachOthersDeletions) {
 
 TEST_F(LibraryWriteTest, WhatAKilledProgramLeftIsRemoved) {
     openText(test::manyTracks(3));
-    m_folder.write(".songsweep-rewriting.tmp", "half a library");
+    m_folder.write(TemporaryName::forWriting("library.xml", 7), "half a library");
+    m_folder.write(TemporaryName::forWriting("other.xml", 7), "half of another");
     remove(persistentIdOf(0));
     ASSERT_TRUE(m_library->flush());
-    EXPECT_EQ(m_folder.names().size(), 2U);
+    EXPECT_THAT(m_folder.names(), ElementsAre(TemporaryName::forWriting("other.xml", 7),
+                                              StartsWith("library (before deletions of "), "library.xml"));
 }
 
 TEST_F(LibraryWriteTest, AFullDiskLosesNothing) {
@@ -372,7 +386,7 @@ TEST_F(LibraryWriteTest, AFullDiskLosesNothing) {
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().code, Error::Code::noSpace);
     EXPECT_EQ(content(), text);
-    EXPECT_EQ(m_library->pendingDeletions(), 1U);
+    EXPECT_EQ(m_library->pendingDeletions(), 0U);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(m_folder.pathOf("disk")), {}), 1);
 }
 
@@ -383,7 +397,7 @@ TEST_F(LibraryWriteTest, AReadOnlyFolderLosesNothing) {
     m_folder.write("disk/library.xml", text);
     open(m_folder.pathOf("disk/library.xml"));
     ASSERT_TRUE(disk.makeReadOnly());
-    const auto begun = m_library->beginDeletionRun();
+    const auto begun = m_library->beginCleanup({"a test"});
     ASSERT_FALSE(begun);
     EXPECT_EQ(begun.error().code, Error::Code::noPermission);
     remove(persistentIdOf(0));
@@ -391,7 +405,7 @@ TEST_F(LibraryWriteTest, AReadOnlyFolderLosesNothing) {
     ASSERT_FALSE(written);
     EXPECT_EQ(written.error().code, Error::Code::noPermission);
     EXPECT_EQ(content(), text);
-    EXPECT_EQ(m_library->pendingDeletions(), 1U);
+    EXPECT_EQ(m_library->pendingDeletions(), 0U);
 }
 
 } // namespace
