@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "libraryfile/RecordedCleanup.h"
+
+#include <string>
+#include <vector>
+
+namespace songsweep {
+
+/// What a list of clean-ups shows of one of them.
+struct CleanupSummary {
+    std::string path; ///< of the record
+    RecordHeading heading;
+    std::optional<RecordEnd> end; ///< nothing where the program was killed or is still at it
+    bool hasBackup = false;       ///< the backup still lies beside the record
+    bool isRestored = false;      ///< a later restore of it has come to its end
+
+    /// The name by which a user calls it: that of the record without folder and extension.
+    std::string name() const;
+};
+
+/// The clean-ups and restores of a library, by the records beside it, the newest first. Reads the beginning
+/// and the end of each record, and no more. Files that are no records are left out; an error where the folder
+/// cannot be read.
+Result<std::vector<CleanupSummary>> cleanupsOf(const std::string& library);
+
+} // namespace songsweep

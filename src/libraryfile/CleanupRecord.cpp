@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include "libraryfile/CleanupRecord.h"
+
+#include "libraryfile/AttributeCopy.h"
+#include "libraryfile/FileNames.h"
+#include "libraryfile/JsonLine.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <ctime>
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+constexpr std::size_t handOverSize = 64 << 10;
+constexpr std::size_t bytesATrackToCome = 512; // its place in the Trash and its outcome
+
+std::string universalTime() {
+    const std::time_t now = std::time(nullptr);
+    std::tm utc{};
+    ::gmtime_r(&now, &utc);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return text.data();
+}
+
+void addStamp(JsonLine& line, const FileStamp& stamp) {
+    line.number("device", static_cast<std::int64_t>(stamp.device))
+        .number("inode", static_cast<std::int64_t>(stamp.inode))
+        .number("size", static_cast<std::int64_t>(stamp.size))
+        .number("modified", stamp.modificationNanoseconds);
+}
+
+std::string beginLine(const RecordHeading& heading) {
+    JsonLine line;
+    line.text("step", "begin").number("format", 1).text("kind", wordOf(heading.kind));
+    line.text("program", heading.program).text("date", heading.date);
+    line.text("library", heading.library).text("backup", nameOf(heading.backup));
+    addStamp(line, heading.version);
+    line.number("tracks", static_cast<std::int64_t>(heading.tracks)).truth("files", heading.withFiles);
+    if (heading.isNarrowed) line.truth("narrowed", true);
+    if (!heading.restores.empty()) line.text("restores", heading.restores);
+    return line.finished();
+}
+
+/// Whoever may read the backup may read what was deleted from it.
+void copyRights(const std::string& backup, int record) {
+    const int descriptor = ::open(backup.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) return;
+    static_cast<void>(copyAttributes(descriptor, record, backup)); // Else it stays this user's alone.
+    ::close(descriptor);
+}
+
+} // namespace
+
+Result<CleanupRecord> CleanupRecord::create(RecordHeading heading) {
+    const std::string path = recordPathFor(heading.backup);
+    const int descriptor =
+        ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (descriptor < 0) return systemError(errno, "create", path);
+    CleanupRecord record(path, descriptor);
+    heading.date = universalTime();
+    record.m_sizes.reserve(heading.tracks);
+    record.add(beginLine(heading));
+    copyRights(heading.backup, descriptor);
+    auto begun = record.flush();
+    if (begun)
+        if (const int errorNumber = flushFolder(folderOf(path)); errorNumber != 0)
+            begun = systemError(errorNumber, "write", path);
+    if (begun) return record;
+    ::unlink(path.c_str());
+    return begun.error();
+}
+
+CleanupRecord::CleanupRecord(CleanupRecord&& other) noexcept
+    : m_path(std::move(other.m_path))
+    , m_descriptor(std::exchange(other.m_descriptor, -1))
+    , m_waiting(std::move(other.m_waiting))
+    , m_errorNumber(other.m_errorNumber)
+    , m_sizes(std::move(other.m_sizes))
+    , m_counts(std::move(other.m_counts)) {}
+
+CleanupRecord& CleanupRecord::operator=(CleanupRecord&& other) noexcept {
+    std::swap(m_path, other.m_path);
+    std::swap(m_descriptor, other.m_descriptor);
+    std::swap(m_waiting, other.m_waiting);
+    std::swap(m_errorNumber, other.m_errorNumber);
+    std::swap(m_sizes, other.m_sizes);
+    std::swap(m_counts, other.m_counts);
+    return *this;
+}
+
+CleanupRecord::~CleanupRecord() {
+    if (m_descriptor < 0) return;
+    handOver();
+    ::close(m_descriptor);
+}
+
+void CleanupRecord::plan(const RecordedTrack& track) {
+    JsonLine line;
+    line.text("step", "plan").text("persistentId", track.persistentId).number("trackId", track.trackId);
+    line.text("name", track.name).text("artist", track.artist);
+    if (!track.path.empty()) {
+        line.text("path", track.path);
+        addStamp(line, track.file);
+    }
+    if (!track.kept.empty()) line.text("kept", track.kept);
+    add(line.finished());
+    m_sizes.push_back(track.file.size);
+}
+
+Result<void> CleanupRecord::planned() {
+    add(JsonLine().text("step", "planned").finished());
+    handOver();
+    reserve(m_sizes.size());
+    return flush();
+}
+
+Result<void> CleanupRecord::writing(std::size_t tracks) {
+    add(JsonLine().text("step", "writing").number("tracks", static_cast<std::int64_t>(tracks)).finished());
+    return flush();
+}
+
+void CleanupRecord::written() {
+    add(JsonLine().text("step", "written").finished());
+    handOver();
+}
+
+Result<void> CleanupRecord::trashing(std::span<const std::size_t> tracks) {
+    add(JsonLine().text("step", "trashing").numbers("tracks", tracks).finished());
+    return flush();
+}
+
+void CleanupRecord::trashed(std::size_t track, const TrashPlace& place) {
+    JsonLine line;
+    line.text("step", "trashed").number("track", static_cast<std::int64_t>(track));
+    add(line.text("folder", place.folder).text("name", place.name).finished());
+    handOver();
+}
+
+void CleanupRecord::outcome(std::size_t track, const RecordedOutcome& outcome) {
+    JsonLine line;
+    line.text("step", "outcome").number("track", static_cast<std::int64_t>(track));
+    line.text("outcome", wordOf(outcome.track)).text("file", wordOf(outcome.file));
+    if (!outcome.reason.empty()) line.text("reason", outcome.reason);
+    add(line.finished());
+    using Track = RecordedOutcome::Track;
+    using File = RecordedOutcome::File;
+    m_counts.tracks += outcome.track == Track::deleted || outcome.track == Track::restored ? 1 : 0;
+    if (outcome.file != File::trashed && outcome.file != File::putBack) return;
+    ++m_counts.files;
+    if (track < m_sizes.size()) m_counts.bytes += m_sizes[track];
+}
+
+Result<void> CleanupRecord::end(RecordEnd::How how, const std::string& reason) {
+    JsonLine line;
+    line.text("step", "end").text("how", wordOf(how));
+    if (!reason.empty()) line.text("reason", reason);
+    line.number("tracks", static_cast<std::int64_t>(m_counts.tracks));
+    line.number("files", static_cast<std::int64_t>(m_counts.files));
+    add(line.number("bytes", static_cast<std::int64_t>(m_counts.bytes)).finished());
+    auto ended = flush();
+    // What was reserved beyond the end goes back.
+    const off_t size = ::lseek(m_descriptor, 0, SEEK_END);
+    if (size >= 0 && ::ftruncate(m_descriptor, size) != 0 && ended)
+        return systemError(errno, "write", m_path);
+    return ended;
+}
+
+void CleanupRecord::add(const std::string& line) {
+    m_waiting += line;
+    if (m_waiting.size() >= handOverSize) handOver();
+}
+
+void CleanupRecord::handOver() {
+    std::string_view rest = m_waiting;
+    while (!rest.empty() && m_errorNumber == 0) {
+        const ssize_t count = ::write(m_descriptor, rest.data(), rest.size());
+        if (count < 0 && errno != EINTR) m_errorNumber = errno;
+        if (count > 0) rest.remove_prefix(static_cast<std::size_t>(count));
+    }
+    m_waiting.clear();
+}
+
+Result<void> CleanupRecord::flush() {
+    handOver();
+#ifdef __APPLE__
+    if (m_errorNumber == 0 && ::fsync(m_descriptor) != 0) m_errorNumber = errno;
+#else
+    if (m_errorNumber == 0 && ::fdatasync(m_descriptor) != 0) m_errorNumber = errno;
+#endif
+    if (m_errorNumber != 0) return systemError(m_errorNumber, "write", m_path);
+    return {};
+}
+
+/// Room behind the end, which the size of the file does not show.
+void CleanupRecord::reserve([[maybe_unused]] std::size_t tracks) {
+#ifndef __APPLE__
+    const off_t end = ::lseek(m_descriptor, 0, SEEK_END);
+    const auto room = static_cast<off_t>(bytesATrackToCome * (tracks + 1));
+    if (end < 0 || m_errorNumber != 0) return;
+    if (::fallocate(m_descriptor, FALLOC_FL_KEEP_SIZE, end, room) != 0 &&
+        (errno == ENOSPC || errno == EDQUOT))
+        m_errorNumber = errno;
+#endif
+}
+
+} // namespace songsweep
