@@ -53,7 +53,6 @@ Result<Backup> Backup::make(LibraryReplacement& replacement, const LibraryFile& 
 
 Result<void> Backup::renew(LibraryReplacement& replacement, const LibraryFile& file,
                            const FileStamp& version) {
-    if (m_settled || m_version == version) return {};
     auto copied = completeCopy(replacement, file, version);
     if (!copied) return copied.error();
     TemporaryFile copy = std::move(copied).value();

@@ -25,8 +25,10 @@ class Backup {
     static Result<Backup> make(LibraryReplacement& replacement, const LibraryFile& file,
                                const FileStamp& version, Purpose purpose);
 
-    /// Makes the copy again under the same name where it is not of that version: for a library that somebody
-    /// wrote before anything was deleted from it. Does nothing once it is settled.
+    /// Whether it is of that version, or settled.
+    bool isGoodFor(const FileStamp& version) const { return m_settled || m_version == version; }
+    /// Makes the copy again under the same name: for a library that somebody wrote before anything was
+    /// deleted from it.
     Result<void> renew(LibraryReplacement& replacement, const LibraryFile& file, const FileStamp& version);
 
     /// Something was written in the library's place, so that the copy stays what it is.

@@ -15,11 +15,23 @@ namespace songsweep {
 
 Result<void> LibraryReplacement::reserve(std::uint64_t bytes) {
     m_room.reset(); // Its own room may be what is missing.
-    auto room = TemporaryFile::createBeside(m_target);
+    auto room = newRoom(bytes);
+    if (!room && room.error().code == Error::Code::noSpace && m_old) {
+        room = TemporaryFile::reuse(std::move(*m_old), m_target);
+        if (!room) room = newRoom(bytes);
+    }
+    m_old.reset();
     if (!room) return room.error();
     if (auto reserved = room.value().reserve(bytes); !reserved) return reserved;
     m_room = std::move(room).value();
     return {};
+}
+
+Result<TemporaryFile> LibraryReplacement::newRoom(std::uint64_t bytes) const {
+    auto room = TemporaryFile::createBeside(m_target);
+    if (!room) return room;
+    if (auto reserved = room.value().reserve(bytes); !reserved) return reserved.error();
+    return room;
 }
 
 Result<TemporaryFile> LibraryReplacement::write(const LibraryFile& original,
@@ -56,6 +68,7 @@ Result<void> LibraryReplacement::put(TemporaryFile& version, const FileStamp& ex
         // It is not surely on the disk, so that nothing may follow from it.
         if (giveBack(version, own.value(), expected)) return systemError(errorNumber, "write", m_target);
     }
+    m_old = std::move(version);
     return {};
 }
 

@@ -29,7 +29,8 @@ class LibraryReplacement {
     const std::string& target() const { return m_target; }
 
     /// Reserves room for one new version of up to so many bytes; `noSpace` where there is none. The room is
-    /// used by the next `write`.
+    /// used by the next `write`. On a full disk it is that of the version which came out last, if nobody has
+    /// that open any more, so that not even for a moment it is anybody else's.
     Result<void> reserve(std::uint64_t bytes);
 
     /// Makes a new version, complete and on the disk, under a temporary name; it is gone with the object.
@@ -51,6 +52,7 @@ class LibraryReplacement {
   private:
     enum class Way : std::uint8_t { exchanged, notKnown };
 
+    Result<TemporaryFile> newRoom(std::uint64_t bytes) const;
     Result<Way> exchange(TemporaryFile& file, const FileStamp& own, const FileStamp& expected);
     Result<void> renameOver(TemporaryFile& file, const FileStamp& expected);
     Result<void> giveBack(TemporaryFile& file, const FileStamp& own, const FileStamp& expected);
@@ -60,6 +62,7 @@ class LibraryReplacement {
 
     std::string m_target;
     std::optional<TemporaryFile> m_room;
+    std::optional<TemporaryFile> m_old; ///< the version that came out last
     bool m_narrowed = false;
 };
 

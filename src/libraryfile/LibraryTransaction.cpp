@@ -33,7 +33,8 @@ Result<void> LibraryTransaction::prepare(const LibraryFile& file, const FileStam
 
 Result<void> LibraryTransaction::keepBackup(const LibraryFile& file, const FileStamp& version) {
     if (m_backup) {
-        if (m_backup->version() != version) m_room = 0; // The copy may take it.
+        if (m_backup->isGoodFor(version)) return {};
+        m_room = 0; // The copy takes it.
         return m_backup->renew(m_replacement, file, version);
     }
     auto backup = Backup::make(m_replacement, file, version, m_purpose);

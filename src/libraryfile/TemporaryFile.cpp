@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <random>
 #include <utility>
@@ -37,10 +38,33 @@ int allocate(int descriptor, std::uint64_t bytes) {
 #endif
 }
 
+/// Whether the file is as long, and without holes: a full disk may refuse to reserve what is reserved.
+bool hasRoomFor(int descriptor, std::uint64_t bytes) {
+    constexpr std::uint64_t unit = 512; // of what the system counts
+    struct stat status {};
+    if (::fstat(descriptor, &status) != 0) return false;
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    return size >= bytes && static_cast<std::uint64_t>(status.st_blocks) * unit >= size;
+}
+
 int lookForRoom(int descriptor, std::uint64_t bytes) {
     struct statvfs status {};
     if (::fstatvfs(descriptor, &status) != 0) return 0; // Nobody knows; the write will.
     return std::uint64_t{status.f_bavail} * status.f_frsize >= bytes ? 0 : ENOSPC;
+}
+
+/// Whether no other name and no other open file, of whatever process, is that of this file.
+bool isAlone([[maybe_unused]] int descriptor) {
+#ifdef __linux__
+    struct stat status {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_nlink != 1) return false;
+    // A lease for writing is given to the only one who has the file open. Whoever opens it in this moment has
+    // a signal sent, and the usual one would end the process.
+    return ::fcntl(descriptor, F_SETSIG, SIGURG) == 0 && ::fcntl(descriptor, F_SETLEASE, F_WRLCK) == 0 &&
+           ::fcntl(descriptor, F_SETLEASE, F_UNLCK) == 0;
+#else
+    return false;
+#endif
 }
 
 } // namespace
@@ -54,6 +78,20 @@ Result<TemporaryFile> TemporaryFile::createBeside(const std::string& library) {
         if (errno != EEXIST) return systemError(errno, "create a file beside", library);
     }
     return systemError(EEXIST, "create a file beside", library);
+}
+
+Result<TemporaryFile> TemporaryFile::reuse(TemporaryFile old, const std::string& library) {
+    const int descriptor = ::open(old.m_path.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+    if (descriptor < 0) return systemError(errno, "open", old.m_path);
+    TemporaryFile file({}, descriptor);
+    if (!isAlone(descriptor)) return Error{Error::Code::busy, old.m_path + " is in use"};
+    std::random_device random;
+    const std::string path = folderOf(library) + "/" + TemporaryName::forWriting(nameOf(library), random());
+    if (const int errorNumber = renameToFreeName(old.m_path, path); errorNumber != 0)
+        return systemError(errorNumber, "rename a file beside", library);
+    old.release();
+    file.m_path = path;
+    return file;
 }
 
 TemporaryFile::TemporaryFile(TemporaryFile&& other) noexcept
@@ -74,7 +112,7 @@ TemporaryFile::~TemporaryFile() {
 Result<FileStamp> TemporaryFile::stamp() const { return LibraryFile::stampOf(m_descriptor, m_path); }
 
 Result<void> TemporaryFile::reserve(std::uint64_t bytes) const {
-    if (bytes == 0) return {};
+    if (hasRoomFor(m_descriptor, bytes)) return {};
     int errorNumber = allocate(m_descriptor, bytes);
     if (knowsNoReservation(errorNumber)) errorNumber = lookForRoom(m_descriptor, bytes);
     if (errorNumber != 0) return systemError(errorNumber, "reserve room beside", m_path);

@@ -20,6 +20,11 @@ class TemporaryFile {
     /// An empty file that only this user may read.
     static Result<TemporaryFile> createBeside(const std::string& library);
 
+    /// The file of an object that lies under its name now, for other contents: one that came out of an
+    /// exchange, with the room that it has. An error, and the file as it was, where somebody has it open, or
+    /// where it has another name, as it is not this program's alone then.
+    static Result<TemporaryFile> reuse(TemporaryFile old, const std::string& library);
+
     TemporaryFile(TemporaryFile&& other) noexcept;
     TemporaryFile& operator=(TemporaryFile&& other) noexcept;
     TemporaryFile(const TemporaryFile&) = delete;

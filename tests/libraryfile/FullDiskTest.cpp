@@ -93,7 +93,7 @@ TEST_F(FullDisk, EveryWriteOfACleanUpHasItsRoom) {
     ASSERT_TRUE(library.value()->beginCleanup({"a test"}));
     std::set<int> ids;
     for (int n = 0; n < 5; ++n) {
-        m_disk.leaveFree(16 << 10); // What the file system itself needs for the new extents.
+        m_disk.leaveFree(0);
         for (const auto track : library.value()->tracksWithPersistentId(persistentIdOf(n)))
             ASSERT_TRUE(library.value()->remove(track));
         const auto written = library.value()->flush();
@@ -101,6 +101,22 @@ TEST_F(FullDisk, EveryWriteOfACleanUpHasItsRoom) {
         ids.insert(1000 + 2 * n);
         EXPECT_TRUE(contentOf(m_path) == test::withoutTracks(m_text, ids));
     }
+}
+
+TEST_F(FullDisk, AVersionThatSomebodyReadsIsNotWrittenOver) {
+    auto library = LibraryDocument::open(m_path);
+    ASSERT_TRUE(library);
+    ASSERT_TRUE(library.value()->beginCleanup({"a test"}));
+    m_disk.leaveFree(0);
+    std::ifstream reader(m_path, std::ios::binary);
+    std::string begin(1000, ' ');
+    reader.read(begin.data(), 1000);
+    for (int n = 0; n < 2; ++n) {
+        ASSERT_TRUE(library.value()->remove(0));
+        static_cast<void>(library.value()->flush()); // The second has no room.
+    }
+    const std::string rest(std::istreambuf_iterator<char>(reader), {});
+    EXPECT_TRUE(begin + rest == m_text);
 }
 
 TEST_F(FullDisk, ARecordThatIsPlannedHasRoomForAllThatComes) {
