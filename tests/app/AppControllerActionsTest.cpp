@@ -89,6 +89,33 @@ TEST_F(AppControllerActionsTest, MarkNoneUnmarksEveryTrack) {
                                         "setMarkEnabled on", "setStatusText 2 songs"));
 }
 
+TEST_F(AppControllerActionsTest, TheRuleOfTheMarksIsForgottenWhereItNoLongerExplainsThem) {
+    addRows({1, 1, 2, 2});
+    view.selection = {0};
+    const auto isKnownAfter = [this](const std::function<void()>& act) {
+        controller->markOkButtonClick({MarkType::latestAdded, true, ""});
+        EXPECT_TRUE(controller->lastMarkChoice().has_value());
+        act();
+        return controller->lastMarkChoice().has_value();
+    };
+    EXPECT_FALSE(isKnownAfter([this] { controller->didClickTableColumn(Column::name); }));
+    EXPECT_FALSE(isKnownAfter([this] { controller->setObjectValue(true, Column::checkbox, 1); }));
+    EXPECT_FALSE(isKnownAfter([this] { controller->tableviewSpacebar(); }));
+    EXPECT_FALSE(isKnownAfter([this] { controller->markMenuClick(0); }));
+    EXPECT_FALSE(isKnownAfter([this] { controller->markNone(); }));
+    EXPECT_FALSE(isKnownAfter([this] { post(EventName::deleteValidity); }));
+    EXPECT_FALSE(isKnownAfter([this] { controller->resetForLibrary(); }));
+}
+
+TEST_F(AppControllerActionsTest, WhatChangesNoMarkKeepsItsRule) {
+    addRows({1, 1});
+    controller->markOkButtonClick({MarkType::latestAdded, true, ""});
+    controller->tableviewSpacebar(); // nothing is selected
+    controller->setObjectValue(true, Column::name, 0);
+    controller->setStatusLabel();
+    EXPECT_TRUE(controller->lastMarkChoice().has_value());
+}
+
 TEST_F(AppControllerActionsTest, ChoosingAFolderIsLogged) {
     controller->markFolderButtonClick();
     EXPECT_EQ(log.lines().back(), "Select mark folder");
