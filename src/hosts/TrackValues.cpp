@@ -39,7 +39,7 @@ Value date(std::string_view text) {
 }
 
 Value location(std::string_view url, const Files& files) {
-    auto path = pathOfUrl(url);
+    auto path = pathOfFileUrl(url);
     if (!path || !files.exists(*path)) return interpreter::MissingValue();
     return interpreter::Alias{std::move(*path)};
 }

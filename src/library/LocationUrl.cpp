@@ -65,12 +65,15 @@ std::string_view writtenPath(std::string_view url) {
     return afterHost == std::string_view::npos ? std::string_view() : url.substr(afterHost);
 }
 
-/// Writes the decoded path to `target`, which may be where the path comes from or before it.
+bool isFileScheme(std::string_view scheme) { return asciiLower(std::string(scheme)) == "file:"; }
+
+/// Writes the decoded path to `target`, which may be where the path comes from or before it. A "%" that
+/// begins no escape stays as it is.
 std::size_t decode(std::string_view path, char* target) {
     std::size_t length = 0;
     for (std::size_t i = 0; i < path.size(); ++i) {
         char c = path[i];
-        if (c == '%') {
+        if (c == '%' && isEscape(path.substr(i))) {
             c = static_cast<char>(hexDigit(path[i + 1]) * 16 + hexDigit(path[i + 2]));
             i += 2;
         }
@@ -98,6 +101,17 @@ std::optional<std::string> pathOfUrl(std::string_view url) {
     const std::optional<std::size_t> length = makePathOfUrl(path);
     if (!length) return {};
     path.resize(*length);
+    return path;
+}
+
+std::optional<std::string> pathOfFileUrl(std::string_view url) {
+    if (!isFileScheme(url.substr(0, schemeLength(url)))) return {};
+    if (auto path = pathOfUrl(url)) return path;
+    const std::string_view written = writtenPath(url);
+    std::string path(written);
+    path.resize(decode(written, path.data()));
+    if (path.empty() || path.find('\0') != std::string::npos) return {};
+    if (path.size() > 1 && path.ends_with('/')) path.pop_back();
     return path;
 }
 

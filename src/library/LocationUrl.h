@@ -18,8 +18,13 @@ namespace songsweep {
 /// escaped, a broken escape, an escaped zero byte, or no path at all. Thread-safe.
 std::optional<std::string> pathOfUrl(std::string_view url);
 
-/// The same in place, for a million of them: the path's bytes take the place of the URL's first ones. Gives
-/// the path's length; nothing where there is no path, and the bytes are spoilt then.
+/// The path of a file as people see it in iTunes: nothing for an address of any scheme but "file", such as a
+/// stream's. A location that is not quite a URL (a raw blank, an umlaut, a quote, a "%" that begins no
+/// escape) still has a path, its whole escapes decoded and all else as it stands, "?" and "#" included.
+std::optional<std::string> pathOfFileUrl(std::string_view url);
+
+/// pathOfUrl() in place, for a million of them: the path's bytes take the place of the URL's first ones.
+/// Gives the path's length; nothing where there is no path, and the bytes are spoilt then.
 std::optional<std::size_t> makePathOfUrl(std::span<char> url);
 
 } // namespace songsweep

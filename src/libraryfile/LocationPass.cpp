@@ -8,13 +8,24 @@
 
 namespace songsweep {
 
+namespace {
+
+/// Where either reader could find the track's file, so that no file counts as used by one track alone that
+/// another one uses too.
+std::optional<std::string> possiblePath(std::string_view location) {
+    auto path = pathOfUrl(location);
+    return path ? path : pathOfFileUrl(location);
+}
+
+} // namespace
+
 Result<void> LocationPass::run(const Callback& callback) const {
     FileWindow window(*m_file);
     for (const ByteRange track : m_tracks) {
         const auto parsed = TrackFields::parse(window.view(track), m_entities);
         if (window.error()) return *window.error();
         if (!parsed) return busy();
-        const auto path = pathOfUrl(trimmed(parsed->text(LibraryKey::location)));
+        const auto path = possiblePath(trimmed(parsed->text(LibraryKey::location)));
         if (path && !callback(trimmed(parsed->text(LibraryKey::persistentId)), *path)) return {};
     }
     const auto stamp = LibraryFile::stampOf(m_path);

@@ -2,6 +2,7 @@
 #include "hosts/TrackValues.h"
 
 #include "platform/Files.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -93,6 +94,19 @@ TEST(TrackValues, ALocationIsAFileThatExists) {
         Value(MissingValue()));
     EXPECT_EQ(valueOf("<key>Location</key><string>not a url</string>", ITunesProperty::location),
               Value(MissingValue()));
+}
+
+TEST(TrackValues, AStreamHasNoLocation) {
+    EXPECT_EQ(valueOf("<key>Location</key><string>http://host/dev/null</string>", ITunesProperty::location),
+              Value(MissingValue()));
+}
+
+TEST(TrackValues, ALocationThatIsNotQuiteAUrlIsTheFileThatExists) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder.write("100% ö.mp3", "x");
+    EXPECT_EQ(
+        valueOf("<key>Location</key><string>file://localhost" + path + "</string>", ITunesProperty::location),
+        Value(Alias{path}));
 }
 
 TEST(TrackValues, ADateCountsLocalTimeAcrossTheChangeToSummerTime) {

@@ -63,5 +63,23 @@ TEST(LocationUrl, HasNoPathForAnOpaqueUrl) {
     EXPECT_FALSE(pathOfUrl("").has_value());
 }
 
+TEST(LocationUrl, AFileHasAUrlOfTheFileScheme) {
+    EXPECT_EQ(pathOfFileUrl("file://localhost/a%20b.mp3"), "/a b.mp3");
+    EXPECT_EQ(pathOfFileUrl("FILE:///a.mp3"), "/a.mp3");
+    for (const char* text : {"http://host/home/ann/x.mp3", "daap://host/a b.mp3", "files:///a.mp3", "/a.mp3",
+                             "not a url", "file:", "file://host", ""})
+        EXPECT_FALSE(pathOfFileUrl(text).has_value()) << text;
+}
+
+TEST(LocationUrl, AFileThatIsNotQuiteAUrlKeepsItsPath) {
+    EXPECT_EQ(pathOfFileUrl("file://localhost/a b%20c.mp3"), "/a b c.mp3");
+    EXPECT_EQ(pathOfFileUrl("file:///Björk/\"x\".mp3"), "/Björk/\"x\".mp3");
+    EXPECT_EQ(pathOfFileUrl("file:///100%.mp3"), "/100%.mp3");
+    EXPECT_EQ(pathOfFileUrl("file:///a b#1?.mp3"), "/a b#1?.mp3");
+    EXPECT_EQ(pathOfFileUrl("file:///a b/"), "/a b");
+    EXPECT_EQ(pathOfFileUrl("file:///a#b"), "/a");
+    EXPECT_FALSE(pathOfFileUrl("file:///a b%00c").has_value());
+}
+
 } // namespace
 } // namespace songsweep

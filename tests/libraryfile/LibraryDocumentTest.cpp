@@ -132,6 +132,17 @@ TEST_F(LibraryDocumentTest, WhiteSpaceAroundAnIdOrALocationIsNoPartOfIt) {
     EXPECT_EQ(library.tracksWithPersistentId("A1").size(), 1U);
 }
 
+TEST_F(LibraryDocumentTest, NamesFilesWhoseLocationIsNotQuiteAUrl) {
+    LibraryDocument& library =
+        open(libraryXml({{1, "A1", "<key>Location</key><string>file://localhost/a b%20c.mp3</string>"}}, {}));
+    std::vector<std::string> seen;
+    ASSERT_TRUE(library.locations().run([&](std::string_view, const std::string& path) {
+        seen.push_back(path);
+        return true;
+    }));
+    EXPECT_EQ(seen, std::vector<std::string>{"/a b c.mp3"});
+}
+
 TEST_F(LibraryDocumentTest, NamesEveryFileThatTracksUse) {
     LibraryDocument& library =
         open(libraryXml({{1, "A1", "<key>Location</key><string>file://localhost/M/a%20b.mp3</string>"},
