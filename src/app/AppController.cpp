@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppController.h"
 
+#include "dupes/LibraryFolder.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
@@ -140,6 +141,11 @@ void AppController::markButtonClick() {
 
 void AppController::markOkButtonClick(const MarkChoice& choice) {
     if (isIdle()) m_marks.markOkButtonClick(choice);
+}
+
+std::string AppController::folderInLibrary(const std::string& folder) const {
+    if (isDeletingRows()) return folder;
+    return songsweep::folderInLibrary(tableDataSource().rows, folder, m_services.files);
 }
 
 void AppController::markNone() {

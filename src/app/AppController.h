@@ -65,6 +65,8 @@ class AppController {
     void markOkButtonClick(const MarkChoice& choice);
     void markCancelButtonClick() { m_marks.markCancelButtonClick(); }
     void markFolderButtonClick() { m_marks.markFolderButtonClick(); }
+    /// A folder as the rows spell it; as it is given while the rows are a worker's.
+    std::string folderInLibrary(const std::string& folder) const;
     void markNone();
     void markMenuClick(std::int32_t tag);
 

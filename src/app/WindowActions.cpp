@@ -8,6 +8,7 @@
 #include "ui/TrackTableModel.h"
 
 #include <QApplication>
+#include <QFile>
 
 #include <algorithm>
 
@@ -91,6 +92,10 @@ void WindowActions::connectMarkDialog() {
             [this, dialog] { m_controller.markOkButtonClick(dialog->choice()); });
     connect(dialog, &MarkDialog::choiceChanged, this, &WindowActions::updateMarkPreview);
     connect(dialog, &MarkDialog::folderRequested, this, [this] { m_controller.markFolderButtonClick(); });
+    connect(dialog, &MarkDialog::folderChosen, this, [this, dialog](const QString& folder) {
+        const std::string spelled = m_controller.folderInLibrary(QFile::encodeName(folder).toStdString());
+        dialog->setFolder(QString::fromStdString(spelled));
+    });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.markCancelButtonClick(); });
     connect(dialog, &MarkDialog::opening, this, &WindowActions::updateMarkPreview);
     connect(&m_windows.mainWindow(), &MainWindow::tableReloaded, this, &WindowActions::updateMarkPreview);
@@ -102,9 +107,12 @@ void WindowActions::updateMarkPreview() {
     if (!dialog.isVisible()) return;
     if (m_controller.isDeletingRows()) return; // the table's reload at its end brings it up to date
     const std::vector<TrackRecord*>& rows = m_controller.tableDataSource().rows;
-    const MarkEffect effect = markEffect(rows, dialog.choice());
-    dialog.setPreview(
-        {.marked = effect.marked, .total = static_cast<int>(rows.size()), .inForce = effect.inForce});
+    const MarkChoice choice = dialog.choice();
+    const MarkEffect effect = markEffect(rows, choice);
+    dialog.setPreview({.marked = effect.marked,
+                       .total = static_cast<int>(rows.size()),
+                       .inForce = effect.inForce,
+                       .matches = matchesRow(rows, choice)});
 }
 
 void WindowActions::connectDeletion() {

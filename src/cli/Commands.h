@@ -2,15 +2,14 @@
 #pragma once
 
 #include "cli/CommandLine.h"
-#include "dupes/MarkChoice.h"
 #include "platform/Result.h"
 
+#include <optional>
 #include <string>
 
 namespace songsweep::cli {
 
-/// The rule that the options name.
-MarkChoice choiceOf(const MarkOptions& options);
+class LibrarySession;
 
 /// Each runs one command to its end and gives the process's exit code. Results go to standard output or the
 /// file asked for, everything else to standard error. Main thread, under a QCoreApplication.
@@ -18,6 +17,11 @@ ExitCode runFind(const FindOptions& options, const std::string& version);
 ExitCode runMark(const MarkOptions& options, const std::string& version);
 ExitCode runDelete(const DeleteOptions& options, const std::string& version);
 ExitCode runScript(const ScriptOptions& options, const std::string& version);
+
+/// Marks what a search found by the rule that the options name; its folder is turned into the library's
+/// spelling. The exit code where the rule, by kind or folder, matches no track, which is told; nothing is
+/// marked then.
+std::optional<ExitCode> markByRule(LibrarySession& session, const MarkOptions& options);
 
 /// Prints "songsweep: MESSAGE" on standard error, safe for a terminal.
 void tell(const std::string& message);

@@ -69,7 +69,7 @@ ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output&
 ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
     LibrarySession session(options, version);
     if (const auto problem = session.search()) return *problem;
-    session.controller().markOkButtonClick(choiceOf(options));
+    if (const auto problem = markByRule(session, options)) return *problem;
     const int lost = groupsLosingEveryCopy(session.controller().tableDataSource().rows);
     if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
     // Opened first, so that nothing is deleted whose outcome cannot be told.

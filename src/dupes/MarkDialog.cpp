@@ -57,7 +57,8 @@ void setTag(const Ui::MarkDialog& ui, QRadioButton* radio, MarkField field) {
 QString previewText(const MarkPreview& preview) {
     if (preview.total == 0) return QStringLiteral("No tracks to mark");
     const QString counts = QStringLiteral(" %1 of %2").arg(preview.marked).arg(preview.total);
-    return (preview.inForce ? QStringLiteral("Marked") : QStringLiteral("Would mark")) + counts;
+    const QString none = preview.matches ? QString() : QStringLiteral("No track matches. ");
+    return none + (preview.inForce ? QStringLiteral("Marked") : QStringLiteral("Would mark")) + counts;
 }
 
 QString helperText(MarkType markType, bool exceptOne) {
@@ -184,7 +185,7 @@ void MarkDialog::openFolderChooser() {
     chooser->setFileMode(QFileDialog::Directory);
     chooser->setOption(QFileDialog::ShowDirsOnly);
     chooser->setLabelText(QFileDialog::Accept, QStringLiteral("Select"));
-    connect(chooser, &QFileDialog::fileSelected, this, &MarkDialog::setFolder);
+    connect(chooser, &QFileDialog::fileSelected, this, &MarkDialog::folderChosen);
     chooser->open();
 }
 

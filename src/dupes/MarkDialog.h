@@ -23,6 +23,7 @@ struct MarkPreview {
     int marked = 0;       ///< tracks that the choice marks
     int total = 0;        ///< tracks in the results
     bool inForce = false; ///< the present marks are already these
+    bool matches = true;  ///< some track is of the kind, or in the folder, that the choice names
 
     bool operator==(const MarkPreview&) const = default;
 };
@@ -49,7 +50,7 @@ class MarkDialog : public QDialog {
     /// Makes `folder` the folder to mark, as text and tool tip, and its rule the chosen one.
     void setFolder(const QString& folder);
     void setPreview(const MarkPreview& preview);
-    /// Opens the chooser of a folder; one that is chosen becomes the folder to mark.
+    /// Opens the chooser of a folder.
     void openFolderChooser();
 
   Q_SIGNALS:
@@ -61,6 +62,8 @@ class MarkDialog : public QDialog {
     void markRequested();
     /// "Choose..." was pressed.
     void folderRequested();
+    /// A folder was chosen; whoever knows how the library spells it answers with setFolder().
+    void folderChosen(const QString& folder);
 
   protected:
     void showEvent(QShowEvent* event) override;

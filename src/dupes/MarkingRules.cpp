@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "dupes/MarkingRules.h"
 
+#include "dupes/FileKind.h"
+
+#include <algorithm>
+
 namespace songsweep {
 
 void applyMarkChoice(const TrackRows& rows, const MarkChoice& choice) {
@@ -22,6 +26,14 @@ void markItemsByFolder(const TrackRows& rows, std::string_view folder, bool exce
 
 MarkEffect markEffect(const TrackRows& rows, const MarkChoice& choice) {
     return markRule(choice.markType).walks.effect(rows, choice);
+}
+
+bool matchesRow(const TrackRows& rows, const MarkChoice& choice) {
+    if (choice.markType != MarkType::kind && choice.markType != MarkType::folder) return true;
+    return std::any_of(rows.begin(), rows.end(), [&](const TrackRecord* row) {
+        return choice.markType == MarkType::kind ? isOfKind(row->location, choice.text)
+                                                 : isSubfolder(choice.text, row->location);
+    });
 }
 
 bool isSubfolder(std::string_view folder, std::string_view path) {

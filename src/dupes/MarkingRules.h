@@ -30,6 +30,10 @@ void applyMarkChoice(const TrackRows& rows, const MarkChoice& choice);
 /// What the choice would do. Looks at the rows once and changes nothing.
 MarkEffect markEffect(const TrackRows& rows, const MarkChoice& choice);
 
+/// Whether the rule by kind or folder matches a row, be its file there or not; true of every other rule. One
+/// that matches none would, with except-one, keep the last copy of each group whatever was asked for.
+bool matchesRow(const TrackRows& rows, const MarkChoice& choice);
+
 /// Whether the path is the folder or lies below it. Exact: a folder that ends with "/", or an empty one,
 /// holds no path but itself.
 bool isSubfolder(std::string_view folder, std::string_view path);

@@ -69,4 +69,11 @@ std::optional<std::string> existingInOtherForm(std::string_view path) {
     return found;
 }
 
+std::string composedForm(std::string_view text) {
+    if (isAscii(text) || !isUtf8(text)) return std::string(text);
+    UErrorCode status = U_ZERO_ERROR;
+    std::string composed = normalized(icu::Normalizer2::getNFCInstance(status), text, status);
+    return U_FAILURE(status) ? std::string(text) : composed;
+}
+
 } // namespace songsweep

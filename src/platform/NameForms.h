@@ -16,4 +16,8 @@ namespace songsweep {
 /// form only. Thread-safe.
 std::optional<std::string> existingInOtherForm(std::string_view path);
 
+/// The text with its accented letters in one code point each, so that two forms of one name are equal; as it
+/// is where it is not UTF-8. Thread-safe.
+std::string composedForm(std::string_view text);
+
 } // namespace songsweep

@@ -172,9 +172,18 @@ TEST_F(WindowActionsTest, AFolderToMarkIsChosenInAChooser) {
     EXPECT_EQ(log.lines().back(), "Select mark folder");
     auto* chooser = windows.markWindow().findChild<QFileDialog*>();
     ASSERT_NE(chooser, nullptr);
-    Q_EMIT chooser->fileSelected(QStringLiteral("/music/Old"));
+    Q_EMIT chooser->fileSelected(QStringLiteral("/music/Old/"));
     chooser->close();
     EXPECT_EQ(windows.markWindow().choice(), (MarkChoice{MarkType::folder, true, "/music/Old"}));
+}
+
+TEST_F(WindowActionsTest, ARuleThatMatchesNoTrackIsToldInTheLiveLine) {
+    search();
+    press("autoMarkButton");
+    windows.markWindow().setFolder(QStringLiteral("/nowhere"));
+    EXPECT_TRUE(label("markLiveLabel").startsWith(QStringLiteral("No track matches. Would mark ")));
+    press("markBitrateRB");
+    EXPECT_TRUE(label("markLiveLabel").startsWith(QStringLiteral("Would mark ")));
 }
 
 TEST_F(WindowActionsTest, AMarkByARuleSaysWhy) {

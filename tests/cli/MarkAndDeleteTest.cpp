@@ -127,6 +127,45 @@ TEST_F(MarkAndDelete, KnowsEveryRule) {
                 HasSubstr("5 marked"));
 }
 
+TEST_F(MarkAndDelete, MarksNothingByARuleThatMatchesNoTrack) {
+    const auto before = tree();
+    const std::string elsewhere = path("elsewhere");
+    for (const std::string name : {"mark", "delete"}) {
+        const auto marked = [&](std::vector<std::string> rule) {
+            if (name == "delete") rule.emplace_back("--yes");
+            return command(name, rule);
+        };
+        const RunResult folder = marked({"--rule", "folder", "--folder", elsewhere, "--except-one"});
+        EXPECT_EQ(folder.exitCode, 2) << name;
+        EXPECT_THAT(folder.errors, HasSubstr("no track of these groups is in " + elsewhere + "\n"));
+        EXPECT_EQ(folder.output, "");
+        const RunResult kind = marked({"--rule", "kind", "--kind", "ogg", "--except-one"});
+        EXPECT_EQ(kind.exitCode, 2) << name;
+        EXPECT_THAT(kind.errors, HasSubstr("no track of these groups is of the kind OGG\n"));
+    }
+    EXPECT_EQ(tree(), before);
+}
+
+TEST_F(MarkAndDelete, KnowsAKindHoweverItIsWritten) {
+    for (const char* kind : {"mp3", ".mp3", "MP3", ".Mp3"})
+        EXPECT_THAT(command("mark", {"--rule", "kind", "--kind", kind}).output, HasSubstr("5 marked"))
+            << kind;
+}
+
+TEST_F(MarkAndDelete, KnowsAFolderByItsPlaceHere) {
+    EXPECT_THAT(command("mark", {"--rule", "folder", "--folder", path("music/")}).output,
+                HasSubstr("5 marked"));
+    fs::rename(path("music"), path("moved"));
+    const std::string map = path("music") + "=" + path("moved");
+    EXPECT_THAT(command("mark", {"--map", map, "--rule", "folder", "--folder", path("moved/")}).output,
+                HasSubstr("5 marked"));
+}
+
+TEST_F(MarkAndDelete, FindsNothingToMarkWithoutComplaint) {
+    m_library = m_folder.write("Library.xml", libraryText(tracks({1, 4})));
+    EXPECT_EQ(command("mark", {"--rule", "kind", "--kind", "OGG"}).exitCode, 0);
+}
+
 TEST_F(MarkAndDelete, ForetellsADeletionAndTouchesNothing) {
     const auto before = tree();
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--dry-run"});

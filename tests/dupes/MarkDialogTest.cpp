@@ -205,6 +205,8 @@ TEST_F(MarkDialogTest, ShowsWhatTheChoiceWouldDo) {
     EXPECT_EQ(test::accessibleName(line), QStringLiteral("Would mark 37 of 81"));
     dialog.setPreview({.marked = 37, .total = 81, .inForce = true});
     EXPECT_EQ(line.text(), QStringLiteral("Marked 37 of 81"));
+    dialog.setPreview({.marked = 37, .total = 81, .inForce = false, .matches = false});
+    EXPECT_EQ(line.text(), QStringLiteral("No track matches. Would mark 37 of 81"));
     dialog.setPreview({});
     EXPECT_EQ(line.text(), QStringLiteral("No tracks to mark"));
 }
@@ -288,12 +290,13 @@ TEST_F(MarkDialogTest, NamesEveryControlForAssistiveTechnology) {
     EXPECT_EQ(test::accessibleName(child<QWidget>(dialog, "markMarkButton")), QStringLiteral("Mark"));
 }
 
-TEST_F(MarkDialogTest, OpensAChooserForOneFolderAndTakesItsAnswer) {
+TEST_F(MarkDialogTest, OpensAChooserForOneFolderAndTellsItsAnswer) {
     MarkDialog dialog;
     QSignalSpy requests(&dialog, &MarkDialog::folderRequested);
     test::open(dialog);
     child<QPushButton>(dialog, "markFolderButton").click();
     EXPECT_EQ(requests.count(), 1);
+    QSignalSpy answers(&dialog, &MarkDialog::folderChosen);
     dialog.openFolderChooser();
     auto* chooser = dialog.findChild<QFileDialog*>();
     ASSERT_NE(chooser, nullptr);
@@ -302,7 +305,8 @@ TEST_F(MarkDialogTest, OpensAChooserForOneFolderAndTakesItsAnswer) {
     EXPECT_EQ(chooser->fileMode(), QFileDialog::Directory);
     Q_EMIT chooser->fileSelected(QStringLiteral("/media/Old"));
     chooser->close();
-    EXPECT_EQ(dialog.choice(), (MarkChoice{MarkType::folder, true, "/media/Old"}));
+    ASSERT_EQ(answers.count(), 1);
+    EXPECT_EQ(answers.front().front().toString(), QStringLiteral("/media/Old"));
 }
 
 TEST_F(MarkDialogTest, ChangesNothingWhenTheChooserIsCancelled) {
