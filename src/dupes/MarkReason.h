@@ -28,11 +28,15 @@ struct MarkWords {
     std::string (*reason)(const MarkWords& words, const CheckedCopy& copy);
 };
 
+/// A reason tells the values as the library has them. Where two of them are one number to the rule alone, it
+/// does not call them the same.
+
 /// "lower bit rate than the kept copy: 128 against 320", "same bit rate as the kept copy: 320".
 std::string bitrateReason(const MarkWords& words, const CheckedCopy& copy);
 std::string timeReason(const MarkWords& words, const CheckedCopy& copy);
-/// In bytes where the sizes read alike in megabytes.
+/// In bytes where the sizes read alike in megabytes, or are beyond what the rule counts.
 std::string sizeReason(const MarkWords& words, const CheckedCopy& copy);
+/// With seconds where two dates are in one minute.
 std::string dateReason(const MarkWords& words, const CheckedCopy& copy);
 std::string ratingReason(const MarkWords& words, const CheckedCopy& copy);
 std::string playCountReason(const MarkWords& words, const CheckedCopy& copy);

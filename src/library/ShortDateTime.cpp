@@ -27,6 +27,9 @@ icu::Locale dateLocale() {
 /// A format costs some hundred times what a date costs, so the last one stays until locale or zone change.
 class FormatCache {
   public:
+    explicit FormatCache(icu::DateFormat::EStyle timeStyle)
+        : m_timeStyle(timeStyle) {}
+
     const icu::DateFormat* format() {
         const icu::Locale locale = dateLocale();
         std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createDefault());
@@ -37,8 +40,7 @@ class FormatCache {
 
   private:
     void make(const icu::Locale& locale, icu::TimeZone* adoptedZone) {
-        m_format.reset(icu::DateFormat::createDateTimeInstance(icu::DateFormat::kShort,
-                                                               icu::DateFormat::kShort, locale));
+        m_format.reset(icu::DateFormat::createDateTimeInstance(icu::DateFormat::kShort, m_timeStyle, locale));
         m_locale = locale;
         if (m_format)
             m_format->adoptTimeZone(adoptedZone);
@@ -46,20 +48,29 @@ class FormatCache {
             delete adoptedZone;
     }
 
+    icu::DateFormat::EStyle m_timeStyle;
     std::unique_ptr<icu::DateFormat> m_format;
     icu::Locale m_locale;
 };
 
-} // namespace
-
-std::string shortDateTime(std::int64_t secondsSince1970) {
-    thread_local FormatCache cache;
-    const icu::DateFormat* const format = cache.format();
+std::string formatted(std::int64_t secondsSince1970, const icu::DateFormat* format) {
     if (!format) return {};
     icu::UnicodeString text;
     format->format(static_cast<UDate>(secondsSince1970) * 1000.0, text);
     std::string utf8;
     return text.toUTF8String(utf8);
+}
+
+} // namespace
+
+std::string shortDateTime(std::int64_t secondsSince1970) {
+    thread_local FormatCache cache(icu::DateFormat::kShort);
+    return formatted(secondsSince1970, cache.format());
+}
+
+std::string dateTimeWithSeconds(std::int64_t secondsSince1970) {
+    thread_local FormatCache cache(icu::DateFormat::kMedium);
+    return formatted(secondsSince1970, cache.format());
 }
 
 } // namespace songsweep

@@ -34,6 +34,8 @@ std::optional<std::int64_t> parseLibraryDate(std::string_view text);
 
 /// A date in the user's locale and time zone, short date and short time style.
 std::string shortDateTime(std::int64_t secondsSince1970);
+/// The same with the seconds, for dates that read alike without them.
+std::string dateTimeWithSeconds(std::int64_t secondsSince1970);
 /// The record's date added for display, "" where the library gave none.
 std::string dateadded(const TrackRecord& record);
 

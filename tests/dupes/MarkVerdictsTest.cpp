@@ -2,6 +2,7 @@
 #include "dupes/MarkVerdicts.h"
 
 #include "dupes/MarkRows.h"
+#include "library/ValueFormats.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -66,6 +67,37 @@ TEST(MarkVerdictsTest, SizesThatReadAlikeAreToldInBytes) {
                 ElementsAre("smaller than the kept copy: 5242880 bytes against 5242990 bytes", ""));
     EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "10485760"}}, {MarkType::largest, false, ""}),
                 ElementsAre("smaller than the kept copy: 5.1 MB against 10.1 MB", ""));
+}
+
+TEST(MarkVerdictsTest, ValuesBeyondWhatARuleCountsAreNotCalledTheSame) {
+    EXPECT_THAT(
+        reasons({{.size = "4294967296"}, {.size = "5294967296"}}, {MarkType::largest, true, ""}),
+        ElementsAre("", "no difference that the rule can see: 5294967296 bytes against 4294967296 bytes"));
+    EXPECT_THAT(
+        reasons({{.playcount = "3000000000"}, {.playcount = "4000000000"}}, {MarkType::mostPlayed, true, ""}),
+        ElementsAre("", "no difference that the rule can see: 4000000000 against 3000000000"));
+    EXPECT_THAT(reasons({{.bitrate = "320.5"}, {.bitrate = "320"}}, {MarkType::highestBitrate, true, ""}),
+                ElementsAre("", "no difference that the rule can see: 320 against 320.5"));
+}
+
+TEST(MarkVerdictsTest, ASizeBeyondWhatARuleCountsIsToldInBytes) {
+    EXPECT_THAT(reasons({{.size = "5242880"}, {.size = "4294967296"}}, {MarkType::largest, false, ""}),
+                ElementsAre("smaller than the kept copy: 5242880 bytes against 4294967296 bytes", ""));
+    EXPECT_THAT(reasons({{.size = "4294967296"}, {.size = "4294967296"}}, {MarkType::largest, true, ""}),
+                ElementsAre("", "same size as the kept copy: 4294967296 bytes"));
+}
+
+TEST(MarkVerdictsTest, DatesInOneMinuteAreToldWithSeconds) {
+    const auto dated = [](std::int64_t seconds) {
+        TrackRecord record;
+        record.hasdate = true;
+        record.dateaddedv = seconds;
+        return record;
+    };
+    const auto texts = reasons({dated(1236999600), dated(1236999607)}, {MarkType::earliestAdded, false, ""});
+    EXPECT_EQ(texts.back(), "added later than the kept copy: " + dateTimeWithSeconds(1236999607) +
+                                " against " + dateTimeWithSeconds(1236999600));
+    EXPECT_NE(dateTimeWithSeconds(1236999607), dateTimeWithSeconds(1236999600));
 }
 
 TEST(MarkVerdictsTest, RowsMayBeAskedInAnyOrder) {
