@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+namespace songsweep {
+
+class Opened {};
+
+} // namespace songsweep
