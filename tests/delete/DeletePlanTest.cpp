@@ -172,6 +172,20 @@ TEST_F(DeletePlanTest, ALibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWante
     EXPECT_THAT(made->shared, UnorderedElementsAre(&a));
 }
 
+TEST_F(DeletePlanTest, APlanWithoutFilesDoesNotVisitTheLibrary) {
+    add(1, "A", true);
+    int visits = 0;
+    const auto library = [&visits](const LocationVisitor&) {
+        ++visits;
+        return true;
+    };
+    makeDeletePlan(m_list.rows, m_files, library);
+    EXPECT_EQ(visits, 0);
+    addFile("B", true, "b.mp3");
+    makeDeletePlan(m_list.rows, m_files, library);
+    EXPECT_EQ(visits, 1);
+}
+
 TEST_F(DeletePlanTest, WithoutALibraryTheUnmarkedRowsStandForIt) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
