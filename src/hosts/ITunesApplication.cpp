@@ -74,7 +74,7 @@ Result<ObjectPointer> ITunesApplication::element(TermCode elementClass, std::siz
     return ObjectPointer(std::make_shared<PlaylistObject>(m_services, index - 1));
 }
 
-Result<std::optional<std::vector<ObjectPointer>>>
+Result<std::optional<interpreter::Candidates>>
 ITunesApplication::candidates(TermCode elementClass, const interpreter::PropertyTest& test) {
     return m_tracks->candidates(elementClass, test);
 }

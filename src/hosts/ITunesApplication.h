@@ -22,8 +22,8 @@ class ITunesApplication final : public interpreter::HostApplication {
     Result<std::size_t> count(interpreter::TermCode elementClass) override;
     Result<interpreter::ObjectPointer> element(interpreter::TermCode elementClass,
                                                std::size_t index) override;
-    Result<std::optional<std::vector<interpreter::ObjectPointer>>>
-    candidates(interpreter::TermCode elementClass, const interpreter::PropertyTest& test) override;
+    Result<std::optional<interpreter::Candidates>> candidates(interpreter::TermCode elementClass,
+                                                              const interpreter::PropertyTest& test) override;
     Result<std::optional<interpreter::Value>> perform(const interpreter::Command& command) override;
 
   private:

@@ -2,6 +2,7 @@
 #include "hosts/ITunesObjects.h"
 
 #include "hosts/TrackValues.h"
+#include "library/PersistentId.h"
 
 #include <utility>
 
@@ -9,6 +10,7 @@ namespace songsweep {
 
 namespace {
 
+using interpreter::Candidates;
 using interpreter::ObjectPointer;
 using interpreter::PropertyTest;
 using interpreter::TermCode;
@@ -70,19 +72,21 @@ Result<ObjectPointer> PlaylistObject::element(TermCode elementClass, std::size_t
         services(), track, "track " + std::to_string(index) + " of " + specifier()));
 }
 
-Result<std::optional<std::vector<ObjectPointer>>> PlaylistObject::candidates(TermCode elementClass,
-                                                                             const PropertyTest& test) {
+Result<std::optional<Candidates>> PlaylistObject::candidates(TermCode elementClass,
+                                                             const PropertyTest& test) {
     const bool indexed = elementClass == static_cast<TermCode>(ITunesClass::track) &&
                          test.property == static_cast<TermCode>(ITunesProperty::persistentId) &&
                          test.comparison == interpreter::Comparison::equal;
     if (!indexed) return HostObject::candidates(elementClass, test);
     const auto document = library();
     if (!document) return document.error();
-    std::vector<ObjectPointer> found;
+    Candidates found;
     const auto* id = std::get_if<std::string>(&test.operand);
     if (id == nullptr) return std::optional(std::move(found)); // Nothing but a text is an ID.
+    const bool isExact = PersistentId::of(*id).kind == PersistentId::Kind::exact;
+    if (isExact) found.certainty = Candidates::Certainty::exact;
     for (const auto track : document.value()->tracksOfWithPersistentId(m_index, *id))
-        found.push_back(std::make_shared<TrackObject>(
+        found.objects.push_back(std::make_shared<TrackObject>(
             services(), track, "track whose persistent ID is \"" + *id + "\" of " + specifier()));
     return std::optional(std::move(found));
 }

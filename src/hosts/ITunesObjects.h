@@ -51,9 +51,10 @@ class PlaylistObject final : public ITunesObject {
     Result<std::size_t> count(interpreter::TermCode elementClass) override;
     Result<interpreter::ObjectPointer> element(interpreter::TermCode elementClass,
                                                std::size_t index) override;
-    /// Tracks by persistent ID are found by the index of the library.
-    Result<std::optional<std::vector<interpreter::ObjectPointer>>>
-    candidates(interpreter::TermCode elementClass, const interpreter::PropertyTest& test) override;
+    /// Tracks by persistent ID are found by the index of the library, which knows an ID of 16 digits for
+    /// certain.
+    Result<std::optional<interpreter::Candidates>> candidates(interpreter::TermCode elementClass,
+                                                              const interpreter::PropertyTest& test) override;
 
   private:
     std::size_t m_index;

@@ -210,6 +210,26 @@ TEST(LazinessTest, UsesTheIndexForAnyPartOfAConjunction) {
     EXPECT_EQ(world.candidatesAsked, 2);
 }
 
+TEST(LazinessTest, TestsNoElementThatTheIndexIsSureOf) {
+    test::FakeWorld world = smallWorld();
+    outcomeOf(world, "tell application \"iTunes\" to get tracks whose persistent ID is \"00A2\"");
+    EXPECT_EQ(world.propertiesRead, 0);
+}
+
+TEST(LazinessTest, TestsEveryElementThatTheIndexIsNotSureOf) {
+    test::FakeWorld world = smallWorld();
+    world.indexCertainty = interpreter::Candidates::Certainty::tentative;
+    outcomeOf(world, "tell application \"iTunes\" to get tracks whose persistent ID is \"00A2\"");
+    EXPECT_EQ(world.propertiesRead, 1);
+}
+
+TEST(LazinessTest, TestsWhatTheRestOfAConjunctionAsks) {
+    test::FakeWorld world = smallWorld();
+    EXPECT_EQ(outcomeOf(world, "tell application \"iTunes\" to get count of (tracks whose persistent ID is "
+                               "\"00A2\" and name is \"nobody\")"),
+              "0");
+}
+
 TEST(LazinessTest, AsksNoIndexForATestThatNeedsTheElement) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world, "tell application \"iTunes\" to get tracks whose persistent ID is name");

@@ -152,17 +152,17 @@ class Playlist final : public HostObject {
         ++m_world.elementsTaken;
         return ObjectPointer(std::make_shared<Track>(m_world, data().tracks.at(place - 1)));
     }
-    Result<std::optional<std::vector<ObjectPointer>>> candidates(TermCode elementClass,
-                                                                 const PropertyTest& test) override {
+    Result<std::optional<Candidates>> candidates(TermCode elementClass, const PropertyTest& test) override {
         ++m_world.candidatesAsked;
-        std::vector<ObjectPointer> found;
+        Candidates found;
+        found.certainty = m_world.indexCertainty;
         const auto* const id = std::get_if<std::string>(&test.operand);
         const bool isIndexed = m_world.hasIndex && id && elementClass == track &&
                                test.property == persistentId && test.comparison == Comparison::equal;
-        if (!isIndexed) return std::optional<std::vector<ObjectPointer>>();
+        if (!isIndexed) return std::optional<Candidates>();
         for (const auto& candidate : data().tracks) {
             auto object = std::make_shared<Track>(m_world, candidate);
-            if (isSameText(object->textOf("persistent ID"), *id)) found.push_back(std::move(object));
+            if (isSameText(object->textOf("persistent ID"), *id)) found.objects.push_back(std::move(object));
         }
         return std::optional(std::move(found));
     }
@@ -214,8 +214,7 @@ class Player final : public HostApplication {
         ++m_world.elementsTaken;
         return ObjectPointer(std::make_shared<Playlist>(m_world, places(elementClass).at(place - 1)));
     }
-    Result<std::optional<std::vector<ObjectPointer>>> candidates(TermCode elementClass,
-                                                                 const PropertyTest& test) override {
+    Result<std::optional<Candidates>> candidates(TermCode elementClass, const PropertyTest& test) override {
         return library()->candidates(elementClass, test);
     }
     Result<std::optional<Value>> perform(const Command& command) override {

@@ -32,6 +32,7 @@ struct FakeWorld {
     int candidatesAsked = 0;
     int propertiesRead = 0;
     bool hasIndex = true;
+    interpreter::Candidates::Certainty indexCertainty = interpreter::Candidates::Certainty::exact;
     int volume = 50;
 };
 

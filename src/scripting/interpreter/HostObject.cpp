@@ -15,8 +15,8 @@ Result<ObjectPointer> HostObject::element(TermCode, std::size_t) {
     return Error{Error::Code::notFound, "there are no such elements"};
 }
 
-Result<std::optional<std::vector<ObjectPointer>>> HostObject::candidates(TermCode, const PropertyTest&) {
-    return std::optional<std::vector<ObjectPointer>>();
+Result<std::optional<Candidates>> HostObject::candidates(TermCode, const PropertyTest&) {
+    return std::optional<Candidates>();
 }
 
 bool HostObject::isSame(const HostObject& other) const {

@@ -33,6 +33,15 @@ struct PropertyTest {
     Value operand;
 };
 
+/// Elements that an index found for a test, in their order.
+struct Candidates {
+    /// Whether the test holds for every one of them, or each has to be tested again.
+    enum class Certainty { exact, tentative };
+
+    std::vector<ObjectPointer> objects;
+    Certainty certainty = Certainty::tentative;
+};
+
 /// An object of an application as a script sees it: an application, a playlist, a track.
 ///
 /// A script gets properties, sets them, counts elements and takes them one by one; nothing is asked for that
@@ -67,12 +76,10 @@ class HostObject : public std::enable_shared_from_this<HostObject> {
     /// An error unless overridden.
     virtual Result<ObjectPointer> element(TermCode elementClass, std::size_t index);
 
-    /// The elements of a class that a test may hold for, in their order, found without a walk: all for which
-    /// it holds, and others if that is easier, since the interpreter tests every one of them again (texts
-    /// compare without regard to case). Nothing (the answer unless overridden) where there is no index for
-    /// the test; the interpreter then walks all elements.
-    virtual Result<std::optional<std::vector<ObjectPointer>>> candidates(TermCode elementClass,
-                                                                         const PropertyTest& test);
+    /// The elements of a class that a test may hold for, found without a walk: all for which it holds (texts
+    /// compare without regard to case), and if they are tentative others, too. Nothing (the answer unless
+    /// overridden) where there is no index for the test; the interpreter then walks all elements.
+    virtual Result<std::optional<Candidates>> candidates(TermCode elementClass, const PropertyTest& test);
 
     /// Whether both are the same thing. Unless overridden, by the notation of both.
     virtual bool isSame(const HostObject& other) const;

@@ -29,11 +29,11 @@ class Walk {
     Result<ObjectPointer> element(std::int64_t index) const;
     Result<void> visitRange(std::int64_t first, std::int64_t last, const ElementVisitor& visit) const;
     Result<void> visitMatches(const ElementVisitor& visit) const;
-    Result<std::optional<Objects>> candidates(const PropertyTest& test) const;
-    Result<void> visitAll(const std::optional<Objects>& candidates, const ElementVisitor& visit) const;
+    Result<std::optional<Candidates>> candidates(const PropertyTest& test) const;
+    Result<void> visitAll(const std::optional<Candidates>& candidates, const ElementVisitor& visit) const;
 
   private:
-    Result<std::optional<Objects>> filterCandidates() const;
+    Result<std::optional<Candidates>> filterCandidates() const;
     Result<bool> matches(const ObjectPointer& element) const;
 
     Context& m_context;
@@ -63,22 +63,25 @@ Result<ObjectPointer> Walk::element(std::int64_t index) const {
     return m_context.located(m_position, m_container.element(classCode, static_cast<std::size_t>(index)));
 }
 
-Result<std::optional<Objects>> Walk::candidates(const PropertyTest& test) const {
+Result<std::optional<Candidates>> Walk::candidates(const PropertyTest& test) const {
     TRY(const TermCode classCode, code());
     return m_context.located(m_position, m_container.candidates(classCode, test));
 }
 
-Result<std::optional<Objects>> Walk::filterCandidates() const {
+Result<std::optional<Candidates>> Walk::filterCandidates() const {
     std::vector<const CompareExpression*> tests;
     m_filter->collectTests(tests);
     for (const CompareExpression* const test : tests) {
         TRY(const std::optional<PropertyTest>& plain,
             test->propertyTest(m_context, m_container.terminology()));
         if (!plain) continue;
-        Result<std::optional<Objects>> found = candidates(*plain);
-        if (!found || found.value()) return found;
+        TRY(std::optional<Candidates> && found, candidates(*plain));
+        if (!found) continue;
+        // An index answers for one test; what else the filter asks is not settled by it.
+        if (test != m_filter) found->certainty = Candidates::Certainty::tentative;
+        return std::move(found);
     }
-    return std::optional<Objects>();
+    return std::optional<Candidates>();
 }
 
 Result<bool> Walk::matches(const ObjectPointer& element) const {
@@ -100,12 +103,12 @@ Result<void> Walk::visitRange(std::int64_t first, std::int64_t last, const Eleme
     return {};
 }
 
-Result<void> Walk::visitAll(const std::optional<Objects>& candidates, const ElementVisitor& visit) const {
+Result<void> Walk::visitAll(const std::optional<Candidates>& candidates, const ElementVisitor& visit) const {
     if (!candidates) {
         TRY(const std::int64_t end, count());
         return visitRange(1, end, visit);
     }
-    for (const ObjectPointer& candidate : *candidates) {
+    for (const ObjectPointer& candidate : candidates->objects) {
         if (!m_context.spend()) return m_context.exhausted(m_position);
         TRY(const bool goesOn, visit(candidate));
         if (!goesOn) break;
@@ -114,7 +117,9 @@ Result<void> Walk::visitAll(const std::optional<Objects>& candidates, const Elem
 }
 
 Result<void> Walk::visitMatches(const ElementVisitor& visit) const {
-    TRY(const std::optional<Objects>& candidates, filterCandidates());
+    TRY(const std::optional<Candidates>& candidates, filterCandidates());
+    const bool isSettled = candidates && candidates->certainty == Candidates::Certainty::exact;
+    if (isSettled) return visitAll(candidates, visit);
     return visitAll(candidates, [&](const ObjectPointer& element) -> Result<bool> {
         TRY(const bool matching, matches(element));
         return matching ? visit(element) : true;
@@ -215,7 +220,7 @@ Result<ObjectPointer> elementBy(Context& context, Position position, const Eleme
     const PropertyTerm* const term = set.container->terminology().property(propertyName);
     if (!term) return noSuchElement(context, position, set, "by " + std::string(propertyName));
     const Walk walk(context, position, set);
-    TRY(const std::optional<Objects>& candidates, walk.candidates({term->code, Comparison::equal, value}));
+    TRY(const std::optional<Candidates>& candidates, walk.candidates({term->code, Comparison::equal, value}));
     ObjectPointer found;
     const Result<void> walked = walk.visitAll(candidates, [&](const ObjectPointer& element) -> Result<bool> {
         TRY(const Value& property, context.located(position, element->property(term->code)));
