@@ -88,6 +88,7 @@ class AppController {
     int listedCount() const { return m_search.listedCount(); }
     const DeleteReport* lastDeleteReport() const { return m_deletion.lastReport(); }
     const Progress& progress() const { return m_progress.progress(); }
+    bool missedPlaylist() const { return m_search.missedPlaylist(); }
     bool isSearching() const { return m_search.isRunning(); }
     bool isDeleting() const { return m_deletion.isOn(); }
     /// Whether the rows are a worker's now, so that nobody else may look at them.

@@ -83,8 +83,14 @@ void Search::paramOkButtonClick(SearchParameters choices) {
         m_applicationView.alertCantAccess(cantAccessMessage, m_services.unreachableReason());
         return;
     }
+    m_knowsPlaylist = knowsPlaylist(index);
     begin(index > 0 ? index : 1, trackCount);
     showSearching();
+}
+
+/// The library's own playlist is searched whether its name was found or not.
+bool Search::knowsPlaylist(std::int32_t index) const {
+    return index > 0 || !m_params.playlist || m_params.playlist == m_queries.getMusicPlaylistName();
 }
 
 void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
@@ -98,6 +104,7 @@ void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
     std::unique_ptr<Operation> reader = m_readers.reader(m_list1, m_params);
     m_serial = reader->serial();
     m_searching = true;
+    m_asksITunes = !m_readers.useLibraryXML();
     m_workers.queue.add(std::move(reader));
 }
 
@@ -155,7 +162,10 @@ void Search::onXmlErrorNotFound() {
     startAddProc();
 }
 
-void Search::startAddProc() { m_workers.queue.add(m_readers.addProc(m_list1, m_params)); }
+void Search::startAddProc() {
+    m_asksITunes = true;
+    m_workers.queue.add(m_readers.addProc(m_list1, m_params));
+}
 
 void Search::onXmlModifiedDate(const FileAttributes& libraryFile) {
     m_readers.setLibraryModifiedDate(libraryFile.modificationNanoseconds);
@@ -166,7 +176,8 @@ void Search::onReadError(const std::shared_ptr<ReadError>& error) { m_view.tellR
 void Search::onBuildFinish() {
     m_searching = false;
     m_progress.closeProgressWindow(ProgressBar::formprogress);
-    m_results.showFound(searchSummary(m_params));
+    const auto playlist = missedPlaylist() ? ChosenPlaylist::missed : ChosenPlaylist::searched;
+    m_results.showFound(searchSummary(m_params, playlist));
     if (m_results.tableDataSource().rows.empty()) m_applicationView.alertNoDuplicates();
 }
 

@@ -31,6 +31,9 @@ class Search {
     bool isRunning() const { return m_searching; }
     /// Records left for the grouping when the last reading ended.
     int listedCount() const { return m_listedCount; }
+    /// Whether the whole library was searched though a playlist was chosen: iTunes was asked track by track
+    /// and did not find the playlist by its name.
+    bool missedPlaylist() const { return m_asksITunes && !m_knowsPlaylist; }
     /// Whether the sender was cancelled before the present search began: its end is no news of this search.
     bool isStale(const WorkerEvent& event) const;
     ReaderChoice& readers() { return m_readers; }
@@ -60,6 +63,7 @@ class Search {
     void begin(std::int32_t playlistIndex, std::int32_t trackCount);
     void startAddProc();
     void showSearching();
+    bool knowsPlaylist(std::int32_t index) const;
 
     const ControllerServices& m_services;
     ApplicationView& m_applicationView;
@@ -74,6 +78,8 @@ class Search {
     std::shared_ptr<TrackList> m_list1 = std::make_shared<TrackList>();
     std::uint64_t m_serial = 0; ///< of the present search's first worker
     bool m_searching = false;
+    bool m_asksITunes = false;
+    bool m_knowsPlaylist = true;
     int m_listedCount = 0;
     int m_playlistCount = 0;
 };

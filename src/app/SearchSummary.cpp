@@ -5,7 +5,7 @@
 
 namespace songsweep {
 
-std::string searchSummary(const SearchParameters& parameters) {
+std::string searchSummary(const SearchParameters& parameters, ChosenPlaylist playlist) {
     struct Field {
         bool chosen;
         const char* name;
@@ -18,7 +18,9 @@ std::string searchSummary(const SearchParameters& parameters) {
         names += names.empty() ? "same " : ", ";
         names += field.name;
     }
-    return parameters.playlist.value_or("") + ": " + (names.empty() ? "everything" : names);
+    std::string place = parameters.playlist.value_or("");
+    if (playlist == ChosenPlaylist::missed) place = "Whole library, not “" + place + "”";
+    return place + ": " + (names.empty() ? "everything" : names);
 }
 
 } // namespace songsweep

@@ -41,6 +41,9 @@ std::optional<ExitCode> LibrarySession::search() {
     if (m_interrupted) return ExitCode::interrupted;
     if (m_view.searchProblem()) return fail(withPath(*m_view.searchProblem()));
     if (!m_view.hasResults()) return fail(withPath("the search ended without a result"));
+    if (m_controller->missedPlaylist())
+        return fail(withPath("the search could not be limited to the playlist '" +
+                             m_options.parameters.playlist.value_or("") + "'"));
     warn();
     return std::nullopt;
 }

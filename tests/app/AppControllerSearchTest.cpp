@@ -130,6 +130,23 @@ TEST_F(AppControllerSearchTest, ATrackCountOfZeroPassesTheAccessCheck) {
     EXPECT_THAT(view.calls, Contains("alertNoDuplicates"));
 }
 
+TEST_F(AppControllerSearchTest, ASearchThatMissedItsPlaylistIsNotShownAsOneOfIt) {
+    iTunes.version = "9.0";
+    iTunes.playlists = {"Lib\"rary", "Par\"ty"};
+    addTracks(4);
+    SearchParameters choices = sameNameAndArtist();
+    choices.playlist = "Par\"ty";
+    controller->paramOkButtonClick(choices);
+    runUntilIdle();
+    EXPECT_TRUE(controller->missedPlaylist());
+    EXPECT_THAT(view.calls, Contains("setSearchedText Whole library, not “Par\"ty”: same name, artist"));
+    choices.playlist = "Lib\"rary";
+    controller->paramOkButtonClick(choices);
+    runUntilIdle();
+    EXPECT_FALSE(controller->missedPlaylist());
+    EXPECT_THAT(view.calls, Contains("setSearchedText Lib\"rary: same name, artist"));
+}
+
 TEST_F(AppControllerSearchTest, WithNoFieldAndNoPlaylistTheSearchRunsAllTheSame) {
     iTunes.version = "9.0";
     addTracks(3);

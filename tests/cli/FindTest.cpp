@@ -179,6 +179,22 @@ TEST_F(Find, TakesTheFirstOfTwoPlaylistsOfOneNameWhateverItsCase) {
     EXPECT_THAT(namesOf(json({"--playlist", "FEW"})), ElementsAre(ElementsAre("Song", "song")));
 }
 
+TEST_F(Find, RefusesASearchThatWasNotLimitedToItsPlaylist) {
+    const std::vector<test::SampleTrack> tracks = {{.id = 1, .name = "A", .artist = "X"},
+                                                   {.id = 2, .name = "A", .artist = "X"}};
+    const std::string library = m_folder.write(
+        "Quotes.xml", test::libraryText(tracks, {{"Lib\"rary", {1, 2}, true}, {"Par\"ty", {1}, false}}));
+    const auto find = [&](const std::string& playlist) {
+        return run({"find", "--library", library, "--itunes-version", "9.0", "--playlist", playlist});
+    };
+    const test::RunResult missed = find("Par\"ty");
+    EXPECT_EQ(missed.exitCode, 1);
+    EXPECT_EQ(missed.output, "");
+    EXPECT_NE(missed.errors.find("could not be limited to the playlist 'Par\"ty'"), std::string::npos)
+        << missed.errors;
+    EXPECT_EQ(find("Lib\"rary").exitCode, 0);
+}
+
 TEST_F(Find, ComparesTheFieldsThatAreNamed) {
     EXPECT_EQ(json({"--same", "name,artist,album"}).at("songs"), 2);
     EXPECT_EQ(json({"--same", "artist"}).at("songs"), 5);
