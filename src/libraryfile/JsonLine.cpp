@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/JsonLine.h"
 
+#include "platform/Utf8.h"
+
 #include <array>
 #include <charconv>
 
@@ -37,28 +39,6 @@ void appendEncoded(std::string& line, std::string_view bytes) {
             line += hexDigits[byte & 15];
         }
     }
-}
-
-/// The length of the character that the bytes begin with; 0 where they begin with none.
-std::size_t characterLength(std::string_view bytes) {
-    const auto at = [&](std::size_t i) {
-        return i < bytes.size() ? static_cast<unsigned char>(bytes[i]) : 0U;
-    };
-    const auto follows = [&](std::size_t i) { return (at(i) & 0xC0U) == 0x80U; };
-    const unsigned first = at(0);
-    if (first < 0x80) return 1;
-    if (first >= 0xC2 && first < 0xE0) return follows(1) ? 2 : 0;
-    if (first >= 0xE0 && first < 0xF0) {
-        const bool overlong = first == 0xE0 && at(1) < 0xA0;
-        const bool surrogate = first == 0xED && at(1) >= 0xA0;
-        return follows(1) && follows(2) && !overlong && !surrogate ? 3 : 0;
-    }
-    if (first >= 0xF0 && first < 0xF5) {
-        const bool overlong = first == 0xF0 && at(1) < 0x90;
-        const bool beyond = first == 0xF4 && at(1) >= 0x90;
-        return follows(1) && follows(2) && follows(3) && !overlong && !beyond ? 4 : 0;
-    }
-    return 0;
 }
 
 } // namespace
@@ -116,15 +96,6 @@ void JsonLine::addDigits(std::int64_t value) {
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     m_line.append(digits.data(), end);
-}
-
-bool isUtf8(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const std::size_t length = characterLength(bytes);
-        if (length == 0) return false;
-        bytes.remove_prefix(length);
-    }
-    return true;
 }
 
 } // namespace songsweep

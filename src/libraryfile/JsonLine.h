@@ -34,7 +34,4 @@ class JsonLine {
     std::string m_line;
 };
 
-/// Whether the bytes are UTF-8, without surrogates and overlong forms.
-bool isUtf8(std::string_view bytes);
-
 } // namespace songsweep

@@ -3,6 +3,7 @@
 
 #include "libraryfile/JsonLine.h"
 #include "libraryfile/LibraryFixture.h"
+#include "platform/Utf8.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -172,7 +173,7 @@ TEST(JsonLine, KeepsEveryTextAsItIs) {
     }
 }
 
-TEST(JsonLine, KnowsWhatIsUtf8) {
+TEST(Utf8, IsKnownByItsCharacters) {
     for (const char* valid : {"", "a", "\xC2\x80", "\xED\x9F\xBF", "\xEE\x80\x80", "\xF4\x8F\xBF\xBF"})
         EXPECT_TRUE(isUtf8(valid));
     for (const char* invalid : {"\x80", "\xC3", "\xC1\x81", "\xE0\x9F\xBF", "\xED\xA0\x80",
