@@ -44,11 +44,11 @@ std::vector<RecordedTrack> tracksToDelete(const std::string& path) {
     for (int track = 9; track < library.value()->trackCount(); track += 10) {
         const TrackFields& fields = *library.value()->fields(static_cast<std::uint32_t>(track)).value();
         RecordedTrack recorded;
-        recorded.persistentId = fields.text("persistent id");
-        recorded.trackId = std::atoi(std::string(fields.text("track id")).c_str());
-        recorded.name = fields.text("name");
-        recorded.artist = fields.text("artist");
-        recorded.path = fields.text("location");
+        recorded.persistentId = fields.text(LibraryKey::persistentId);
+        recorded.trackId = std::atoi(std::string(fields.text(LibraryKey::trackId)).c_str());
+        recorded.name = fields.text(LibraryKey::name);
+        recorded.artist = fields.text(LibraryKey::artist);
+        recorded.path = fields.text(LibraryKey::location);
         recorded.file.size = 5'000'000;
         tracks.push_back(std::move(recorded));
     }
