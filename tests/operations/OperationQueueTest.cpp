@@ -208,6 +208,7 @@ TEST_F(OperationQueueTest, IsNotIdleWhereAnotherWasAddedBeforeItWasTold) {
     test::handleWaitingEvents();
     EXPECT_EQ(told, 0);
     mayReturn = true;
+    m_queue->waitUntilAllOperationsAreFinished();
     ASSERT_TRUE(runEventLoopUntil([&told] { return told > 0; }));
     EXPECT_EQ(told, 1);
 }
