@@ -11,10 +11,11 @@ bool runEventLoopUntil(const std::function<bool()>& condition, std::chrono::mill
     const QDeadlineTimer deadline(limit);
     QTimer tick; // so that a condition which no event announces is looked at, too
     tick.start(std::chrono::milliseconds(5));
-    while (!condition() && !deadline.hasExpired()) {
+    while (!condition()) {
+        if (deadline.hasExpired()) return false;
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
-    return condition();
+    return true;
 }
 
 void handleWaitingEvents() {

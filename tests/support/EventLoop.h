@@ -8,7 +8,7 @@ namespace songsweep::test {
 
 /// Runs the main thread's event loop until the condition holds, looked at after each round of events.
 ///
-/// Returns what the condition says last; the limit only keeps a broken program from hanging the tests.
+/// Returns whether it held; the limit only keeps a broken program from hanging the tests.
 bool runEventLoopUntil(const std::function<bool()>& condition,
                        std::chrono::milliseconds limit = std::chrono::seconds(60));
 
