@@ -4,9 +4,17 @@
 #include "app/Progress.h"
 #include "ui_ProgressSheet.h"
 
+#include <QEvent>
 #include <QPushButton>
 
 namespace songsweep {
+
+namespace {
+
+/// How long a window server may take to activate a window; one whose user is in another program never does.
+constexpr int activationMilliseconds = 500;
+
+} // namespace
 
 ProgressSheet::ProgressSheet(QWidget* parent)
     : QDialog(parent, Qt::Sheet)
@@ -18,15 +26,43 @@ ProgressSheet::ProgressSheet(QWidget* parent)
     cancel->setAccessibleName(QStringLiteral("Cancel deletion"));
     cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &ProgressSheet::reject);
+    m_end.setSingleShot(true);
+    connect(&m_end, &QTimer::timeout, this, &ProgressSheet::putAway);
 }
 
 ProgressSheet::~ProgressSheet() = default;
 
-void ProgressSheet::beginProgress() { open(); }
+void ProgressSheet::beginProgress() {
+    m_end.stop();
+    open();
+}
 
 void ProgressSheet::endProgress() {
+    if (isVisible() && !isActiveWindow()) {
+        m_end.start(activationMilliseconds);
+        return;
+    }
+    putAway();
+}
+
+void ProgressSheet::putAway() {
+    m_end.stop();
     hide();
     Q_EMIT ended();
+}
+
+/// What has ended already has nothing to cancel.
+void ProgressSheet::reject() {
+    if (m_end.isActive()) {
+        putAway();
+        return;
+    }
+    QDialog::reject();
+}
+
+void ProgressSheet::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && m_end.isActive() && isActiveWindow()) m_end.start(0);
 }
 
 void ProgressSheet::setProgressText(const std::string& title) {

@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -72,6 +73,55 @@ TEST_F(ProgressSheetTest, IsAWindowModalSheetWithoutAFilledButton) {
     EXPECT_EQ(test::accessibleName(child<QWidget>(sheet, "progress")), QStringLiteral("Progress"));
     EXPECT_EQ(test::accessibleName(child<QWidget>(sheet, "progressCancelButton")),
               QStringLiteral("Cancel deletion"));
+}
+
+/// A sheet over a window that has the keyboard, as at the moment after it was asked to open.
+class UnfocusedProgressSheetTest : public ProgressSheetTest {
+  protected:
+    void SetUp() override {
+        ProgressSheetTest::SetUp();
+        m_sheet.beginProgress();
+        test::open(m_window);
+        m_window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !m_sheet.isActiveWindow(); }));
+    }
+
+    QWidget m_window;
+    ProgressSheet m_sheet;
+    QSignalSpy m_ended{&m_sheet, &ProgressSheet::ended};
+    QSignalSpy m_cancels{&m_sheet, &ProgressSheet::rejected};
+};
+
+TEST_F(UnfocusedProgressSheetTest, StaysUntilItHasTheKeyboard) {
+    m_sheet.endProgress();
+    EXPECT_TRUE(m_sheet.isVisible());
+    EXPECT_EQ(m_ended.count(), 0);
+    m_sheet.activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_sheet.isVisible(); }));
+    EXPECT_EQ(m_ended.count(), 1);
+}
+
+TEST_F(UnfocusedProgressSheetTest, DoesNotWaitForAKeyboardThatNeverComes) {
+    m_sheet.endProgress();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !m_sheet.isVisible(); }));
+    EXPECT_FALSE(m_sheet.isActiveWindow());
+    EXPECT_EQ(m_ended.count(), 1);
+}
+
+TEST_F(UnfocusedProgressSheetTest, CancelsNothingThatHasEnded) {
+    m_sheet.endProgress();
+    m_sheet.reject();
+    EXPECT_FALSE(m_sheet.isVisible());
+    EXPECT_EQ(m_ended.count(), 1);
+    EXPECT_EQ(m_cancels.count(), 0);
+}
+
+TEST_F(UnfocusedProgressSheetTest, StaysForADeletionThatBeginsMeanwhile) {
+    m_sheet.endProgress();
+    m_sheet.beginProgress();
+    m_sheet.reject();
+    EXPECT_EQ(m_cancels.count(), 1);
+    EXPECT_EQ(m_ended.count(), 0);
 }
 
 TEST_F(ProgressSheetTest, DoesNotCancelOnReturn) {

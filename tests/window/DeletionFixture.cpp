@@ -48,6 +48,9 @@ void DeletionFixture::deleteMarked() {
     ASSERT_NO_FATAL_FAILURE(askToDelete());
     m_input.press("alt+d");
     ASSERT_NO_FATAL_FAILURE(waitForOutcomes(static_cast<std::size_t>(count)));
+    // The main window may be active for a moment before the sheet is, too.
+    ASSERT_TRUE(comes("the end of the sheet",
+                      [this] { return countMarked() == 0 && !m_screen.shows("Deleting..."); }));
     ASSERT_TRUE(becomesActive("Songsweep"));
 }
 
