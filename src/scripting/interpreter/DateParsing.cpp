@@ -46,12 +46,21 @@ class Reader {
         m_rest.remove_prefix(length);
         return value;
     }
+    /// Four digits. A year of two could be one of several centuries, and none of the first one.
+    std::optional<int> year() {
+        skipBlanks();
+        const std::size_t before = m_rest.size();
+        const std::optional<int> year = number(yearDigits);
+        return before - m_rest.size() == yearDigits ? year : std::nullopt;
+    }
     void skipBlanks() {
         while (m_rest.starts_with(' '))
             m_rest.remove_prefix(1);
     }
 
   private:
+    static constexpr std::size_t yearDigits = 4;
+
     std::string_view m_rest;
 };
 
@@ -73,7 +82,7 @@ Day spelledDay(Reader reader, Reader& after) {
         if (!reader.takeWord(monthNames.at(month))) continue;
         const std::optional<int> day = reader.number(2);
         reader.take(',');
-        const std::optional<int> year = reader.number(4);
+        const std::optional<int> year = reader.year();
         reader.takeWord("at");
         after = reader;
         return calendarDay(year, int(month) + 1, day);
@@ -81,17 +90,28 @@ Day spelledDay(Reader reader, Reader& after) {
     return {};
 }
 
+/// "2026-11-21"
+Day yearFirstDay(Reader reader, Reader& after) {
+    const std::optional<int> year = reader.year();
+    if (!reader.take('-')) return {};
+    const std::optional<int> month = reader.number(2);
+    if (!reader.take('-')) return {};
+    const std::optional<int> day = reader.number(2);
+    reader.take('T');
+    after = reader;
+    return calendarDay(year, month, day);
+}
+
 /// "2026-11-21" or "11/21/2026"
 Day numericDay(Reader reader, Reader& after) {
-    const std::optional<int> first = reader.number(4);
-    const bool isYearFirst = reader.take('-');
-    if (!isYearFirst && !reader.take('/')) return {};
-    const std::optional<int> second = reader.number(2);
-    if (!reader.take(isYearFirst ? '-' : '/')) return {};
-    const std::optional<int> third = reader.number(isYearFirst ? 2 : 4);
-    if (isYearFirst) reader.take('T');
+    if (const Day day = yearFirstDay(reader, after)) return day;
+    const std::optional<int> month = reader.number(2);
+    if (!reader.take('/')) return {};
+    const std::optional<int> day = reader.number(2);
+    if (!reader.take('/')) return {};
+    const std::optional<int> year = reader.year();
     after = reader;
-    return isYearFirst ? calendarDay(first, second, third) : calendarDay(third, first, second);
+    return calendarDay(year, month, day);
 }
 
 /// "1:45", "1:45:30", "1:45:30 AM": the seconds of the day.

@@ -15,7 +15,8 @@ std::optional<Result<Value>> valueProperty(Context& context, Position position, 
 
 /// A date from its text: as the language writes it ("Saturday, November 21, 2026 at 1:45:30 AM", the day of
 /// the week may be left out), "2026-11-21 01:45:30", "11/21/2026 1:45 AM"; the time, or its seconds, may be
-/// left out. Nothing for any other text, and for a day or a time that there is not.
+/// left out. Nothing for any other text, for a year of less than four digits, and for a day or a time that
+/// there is not.
 std::optional<Date> dateIn(std::string_view text);
 
 } // namespace songsweep::interpreter
