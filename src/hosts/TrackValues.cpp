@@ -4,12 +4,11 @@
 #include "library/LocationUrl.h"
 #include "library/Trim.h"
 #include "library/ValueFormats.h"
-#include "platform/Epochs.h"
 #include "platform/Files.h"
+#include "platform/LocalTime.h"
 
 #include <algorithm>
 #include <charconv>
-#include <ctime>
 
 namespace songsweep {
 
@@ -80,13 +79,6 @@ std::optional<Value> trackValue(const TrackFields& fields, ITunesProperty proper
 std::size_t artworkCount(const TrackFields& fields) {
     return static_cast<std::size_t>(
         std::max(integerValue(trimmed(fields.text(LibraryKey::artworkCount))), 0));
-}
-
-std::int64_t longDateTime(std::int64_t utc) {
-    const auto instant = static_cast<std::time_t>(utc);
-    std::tm local{};
-    ::localtime_r(&instant, &local);
-    return utc + local.tm_gmtoff - secondsSince1970(longDateTimeEpoch);
 }
 
 } // namespace songsweep

@@ -23,8 +23,4 @@ std::optional<interpreter::Value> trackValue(const TrackFields& fields, ITunesPr
 /// The number of a track's artworks.
 std::size_t artworkCount(const TrackFields& fields);
 
-/// An instant (seconds since 1970-01-01 00:00:00 UTC) as a LongDateTime: seconds of local time since
-/// 1904-01-01 00:00:00, summer time included.
-std::int64_t longDateTime(std::int64_t utc);
-
 } // namespace songsweep

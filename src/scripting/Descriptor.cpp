@@ -22,6 +22,7 @@ struct TextOf {
     Text operator()(const Descriptor::Date& date) const { return dateText(date.longDateTime); }
     Text operator()(const Descriptor::Alias& alias) const { return hfsPath(alias.posixPath); }
     Text operator()(const Descriptor::Object&) const { return {}; }
+    Text operator()(const Descriptor::Constant& constant) const { return std::string(constant.name); }
     Text operator()(const Descriptor::List& items) const {
         return items.size() == 1 ? items.front().stringValue() : Text();
     }

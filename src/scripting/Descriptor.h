@@ -5,13 +5,14 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
 namespace songsweep {
 
-/// What a script gives: a text, a number, a truth value, a date, a file, the missing value, an object of an
-/// application, or a list of these.
+/// What a script gives: a text, a number, a truth value, a date, a file, the missing value, a constant, an
+/// object of an application, or a list of these.
 ///
 /// A value; the operations are those of an Apple event descriptor.
 class Descriptor {
@@ -30,13 +31,20 @@ class Descriptor {
         std::string posixPath;
         bool operator==(const Alias&) const = default;
     };
+    /// A word of the language that is a value: `January`, `Monday`. The name stands in the program's own
+    /// text.
+    struct Constant {
+        std::string_view name;
+        std::int64_t number = 0; ///< of a month or a day of the week, from 1
+        bool operator==(const Constant&) const = default;
+    };
     /// An object of an application, in source notation: `artwork 1 of track 2 of playlist 1`.
     struct Object {
         std::string specifier;
         bool operator==(const Object&) const = default;
     };
-    using Value =
-        std::variant<MissingValue, bool, std::int64_t, double, std::string, Date, Alias, List, Object>;
+    using Value = std::variant<MissingValue, bool, std::int64_t, double, std::string, Date, Alias, List,
+                               Object, Constant>;
 
     Descriptor() = default; ///< the missing value
     Descriptor(Value value)

@@ -21,6 +21,7 @@ struct NotationOf {
         return "alias " + quotedNotation(Descriptor(value).stringValue().value_or(alias.posixPath));
     }
     std::string operator()(const Descriptor::Object& object) const { return object.specifier; }
+    std::string operator()(const Descriptor::Constant& constant) const { return std::string(constant.name); }
     std::string operator()(const Descriptor::List& items) const {
         std::string text = "{";
         for (const Descriptor& item : items) {

@@ -41,6 +41,15 @@ std::vector<TextCase> coercions() {
         {"(alias \"Macintosh HD:a\") as text", "\"Macintosh HD:a\""},
         {"\"a\" & 5 as text", "\"a5\""},
         {"1 + 1 as text", "\"2\""},
+        {"(month of date \"2026-11-21\") as integer", "11"},
+        {"(weekday of date \"2026-11-22\") as number", "1"},
+        {"November as text", "\"November\""},
+        {"\"in \" & may", "\"in May\""},
+        {"month of date \"2026-11-21\" is november", "true"},
+        {"month of date \"2026-11-21\" is January", "false"},
+        {"November = 11", "false"},
+        {"November = \"November\"", "false"},
+        {"item November of {1}", "error: line 1, column 6: cannot make a constant into an integer"},
     };
 }
 

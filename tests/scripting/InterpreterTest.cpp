@@ -87,6 +87,25 @@ std::vector<TextCase> failures() {
 
 INSTANTIATE_TEST_SUITE_P(Failures, InterpreterFailureTest, testing::ValuesIn(failures()));
 
+TEST(InterpreterTest, AsksForTheDateWheneverATextDoes) {
+    std::int64_t asked = 0;
+    interpreter::Interpreter interpreter({}, [&] { return interpreter::Date{++asked}; });
+    const auto result = interpreter.run("set a to current date\n(current date) - a");
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result.value()->int32Value(), 1);
+}
+
+TEST(InterpreterTest, KnowsTheSystemsDate) {
+    interpreter::Interpreter interpreter({});
+    const auto before = interpreter::systemDate();
+    const auto result = interpreter.run("current date");
+    ASSERT_TRUE(result);
+    const auto date = std::get<Descriptor::Date>(result.value()->value());
+    EXPECT_GE(date.longDateTime, before.longDateTime);
+    EXPECT_LE(date.longDateTime, interpreter::systemDate().longDateTime);
+    EXPECT_GT(date.longDateTime, 3'800'000'000) << "counted from 1904";
+}
+
 /// A world for texts that are cut or changed at random.
 test::FakeWorld worldOfTwo() {
     test::FakeWorld world;

@@ -48,6 +48,9 @@ std::vector<TextCase> references() {
         {"set d to date \"2026-11-21 13:45:30\"\n{day of d, hours of d, minutes of d, seconds of d, time of "
          "d}",
          "{21, 13, 45, 30, 49530}"},
+        {"month of date \"2026-11-21\"", "November"},
+        {"weekday of date \"2026-11-21\"", "Saturday"},
+        {"(date \"2024-02-29\")'s weekday", "Thursday"},
         {"exists item 3 of {1, 2}", "false"},
         {"item 1 of {1, 2} exists", "true"},
     };

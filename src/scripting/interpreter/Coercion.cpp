@@ -54,6 +54,7 @@ class TextMaker {
         if (const auto* const truth = std::get_if<bool>(&value)) return *truth ? "true" : "false";
         if (const auto* const date = std::get_if<Date>(&value)) return dateText(date->longDateTime);
         if (const auto* const alias = std::get_if<Alias>(&value)) return hfsPath(alias->posixPath);
+        if (const auto* const constant = std::get_if<Constant>(&value)) return std::string(constant->name);
         if (std::holds_alternative<MissingValue>(value)) return "missing value";
         return {};
     }
@@ -180,6 +181,8 @@ Result<std::string> posixPathOf(Context& context, Position position, const Value
 }
 
 Result<Value> coerced(Context& context, Position position, const Value& value, Kind kind) {
+    const auto* const constant = std::get_if<Constant>(&singleItem(value));
+    if (constant && (kind == Kind::integer || kind == Kind::number)) return Value(constant->number);
     switch (kind) {
     case Kind::text: {
         TRY(std::string && text, textOf(context, position, value));
@@ -206,7 +209,7 @@ Result<Value> coerced(Context& context, Position position, const Value& value, K
 std::string kindName(const Value& value) {
     static constexpr std::array names{
         "the missing value", "a truth value", "a number", "a number", "a text", "a date", "a file", "a list",
-        "an object"};
+        "an object",         "a constant"};
     const auto* const items = listItems(value);
     if (items && items->empty()) return "an empty list";
     return names.at(value.index());

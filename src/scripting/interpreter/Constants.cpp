@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/interpreter/Constants.h"
 
+#include "scripting/interpreter/Calendar.h"
 #include "scripting/interpreter/Words.h"
 
 #include <array>
@@ -43,6 +44,12 @@ std::optional<Value> constantNamed(std::string_view word) {
     }
     for (const NumberConstant& constant : numberConstants) {
         if (isSameWord(constant.word, word)) return Value(constant.seconds);
+    }
+    for (const Constant& month : months) {
+        if (isSameWord(month.name, word)) return Value(month);
+    }
+    for (const Constant& day : weekdays) {
+        if (isSameWord(day.name, word)) return Value(day);
     }
     return {};
 }

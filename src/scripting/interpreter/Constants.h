@@ -13,7 +13,7 @@ namespace songsweep::interpreter {
 /// fit into a real either.
 std::optional<Value> numberValue(const Token& token);
 
-/// The value of a word that has one from the start: `space`, `minutes`. Nothing for any other word.
+/// The value of a word that has one from the start: `space`, `minutes`, `Monday`. Nothing for any other word.
 std::optional<Value> constantNamed(std::string_view word);
 
 } // namespace songsweep::interpreter

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Epochs.h"
+#include "scripting/interpreter/Calendar.h"
 #include "scripting/interpreter/ValueProperties.h"
 #include "scripting/interpreter/Words.h"
 
@@ -10,10 +11,6 @@
 
 namespace songsweep::interpreter {
 namespace {
-
-constexpr std::array monthNames{"January", "February", "March",     "April",   "May",      "June",
-                                "July",    "August",   "September", "October", "November", "December"};
-constexpr std::array dayNames{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
 
 /// Reads a text from left to right.
 class Reader {
@@ -75,17 +72,17 @@ Day calendarDay(std::optional<int> year, std::optional<int> month, std::optional
 
 /// "Saturday, November 21, 2026 at"
 Day spelledDay(Reader reader, Reader& after) {
-    for (const char* const name : dayNames) {
-        if (reader.takeWord(name)) reader.take(',');
+    for (const Constant& weekday : weekdays) {
+        if (reader.takeWord(weekday.name)) reader.take(',');
     }
-    for (std::size_t month = 0; month < monthNames.size(); ++month) {
-        if (!reader.takeWord(monthNames.at(month))) continue;
+    for (const Constant& month : months) {
+        if (!reader.takeWord(month.name)) continue;
         const std::optional<int> day = reader.number(2);
         reader.take(',');
         const std::optional<int> year = reader.year();
         reader.takeWord("at");
         after = reader;
-        return calendarDay(year, int(month) + 1, day);
+        return calendarDay(year, int(month.number), day);
     }
     return {};
 }

@@ -184,6 +184,7 @@ ExpressionPointer ExpressionParser::wordValue() {
 ExpressionPointer ExpressionParser::prefixedValue() {
     const Position place = m_cursor.position();
     if (m_cursor.takeWords("missing value")) return make<LiteralExpression>(place, Value(MissingValue()));
+    if (m_cursor.takeWords("current date")) return make<CurrentDateExpression>(place);
     if (m_cursor.atWords("number of")) return count();
     if (m_cursor.at(Keyword::date) && m_cursor.peek(1).kind == Token::Kind::text) return date();
     if (m_cursor.take(Keyword::alias_)) return make<AliasExpression>(place, reference());

@@ -17,8 +17,8 @@ Result<std::optional<Descriptor>> resultOf(Context& context, const Program& prog
 
 } // namespace
 
-Interpreter::Interpreter(std::vector<NamedApplication> applications)
-    : m_services{Applications(std::move(applications))} {}
+Interpreter::Interpreter(std::vector<NamedApplication> applications, std::function<Date()> now)
+    : m_services{Applications(std::move(applications)), std::move(now)} {}
 
 Result<std::optional<Descriptor>> Interpreter::run(std::string_view source) {
     const std::lock_guard lock(m_lock);

@@ -23,7 +23,7 @@ namespace songsweep::interpreter {
 /// Thread-safe: one text runs at a time, a second caller waits.
 class Interpreter {
   public:
-    explicit Interpreter(std::vector<NamedApplication> applications);
+    explicit Interpreter(std::vector<NamedApplication> applications, std::function<Date()> now = systemDate);
 
     /// The value of the last statement, nothing where it has none; or why the text could not be read or
     /// stopped running: "line 2, column 5: …".

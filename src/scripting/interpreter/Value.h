@@ -20,13 +20,14 @@ using ListPointer = std::shared_ptr<ListStorage>;
 using MissingValue = Descriptor::MissingValue;
 using Date = Descriptor::Date;
 using Alias = Descriptor::Alias;
+using Constant = Descriptor::Constant;
 
 /// What a variable of a script can hold: the values of a `Descriptor`, and objects of the applications.
 ///
 /// Copying is cheap but for texts. Lists are shared, as the language has it: after `set b to a`, what is put
 /// at the end of `b` is in `a` too. Never null inside: a list pointer and an object pointer always point.
 using Value = std::variant<MissingValue, bool, std::int64_t, double, std::string, Date, Alias, ListPointer,
-                           ObjectPointer>;
+                           ObjectPointer, Constant>;
 
 /// The items of a list.
 struct ListStorage {

@@ -2,6 +2,7 @@
 #include "scripting/interpreter/ValueProperties.h"
 
 #include "platform/Epochs.h"
+#include "scripting/interpreter/Calendar.h"
 #include "scripting/interpreter/TextFolding.h"
 #include "scripting/interpreter/Words.h"
 
@@ -26,18 +27,26 @@ std::chrono::year_month_day calendarDay(Date date) {
     return floor<days>(moment);
 }
 
+Constant weekdayOf(Date date) {
+    const std::chrono::weekday day{std::chrono::sys_days(calendarDay(date))};
+    return weekdays.at(day.c_encoding());
+}
+
 struct DateProperty {
     std::string_view name;
-    std::int64_t (*valueOf)(Date);
+    Value (*valueOf)(Date);
 };
 
 constexpr std::array dateProperties{
-    DateProperty{"year", [](Date date) { return std::int64_t(int(calendarDay(date).year())); }},
-    DateProperty{"day", [](Date date) { return std::int64_t(unsigned(calendarDay(date).day())); }},
-    DateProperty{"time", timeOfDay},
-    DateProperty{"hours", [](Date date) { return timeOfDay(date) / 3600; }},
-    DateProperty{"minutes", [](Date date) { return timeOfDay(date) / 60 % 60; }},
-    DateProperty{"seconds", [](Date date) { return timeOfDay(date) % 60; }},
+    DateProperty{"year", [](Date date) { return Value(std::int64_t(int(calendarDay(date).year()))); }},
+    DateProperty{"month",
+                 [](Date date) { return Value(months.at(unsigned(calendarDay(date).month()) - 1)); }},
+    DateProperty{"day", [](Date date) { return Value(std::int64_t(unsigned(calendarDay(date).day()))); }},
+    DateProperty{"weekday", [](Date date) { return Value(weekdayOf(date)); }},
+    DateProperty{"time", [](Date date) { return Value(timeOfDay(date)); }},
+    DateProperty{"hours", [](Date date) { return Value(timeOfDay(date) / 3600); }},
+    DateProperty{"minutes", [](Date date) { return Value(timeOfDay(date) / 60 % 60); }},
+    DateProperty{"seconds", [](Date date) { return Value(timeOfDay(date) % 60); }},
 };
 
 std::optional<Result<Value>> listProperty(Context& context, Position position, const Items& items,
@@ -51,7 +60,7 @@ std::optional<Result<Value>> listProperty(Context& context, Position position, c
 
 std::optional<Result<Value>> dateProperty(Date date, std::string_view name) {
     for (const DateProperty& property : dateProperties) {
-        if (isSameWord(property.name, name)) return Value(property.valueOf(date));
+        if (isSameWord(property.name, name)) return property.valueOf(date);
     }
     return {};
 }

@@ -8,8 +8,9 @@
 
 namespace songsweep::interpreter {
 
-/// A property of a plain value: `length`, `rest`, `reverse` of a list, `length` of a text, `year`, `day`,
-/// `hours`, `minutes`, `seconds` and `time` (of day, in seconds) of a date. Nothing for any other name.
+/// A property of a plain value: `length`, `rest`, `reverse` of a list, `length` of a text, `year`, `month`,
+/// `day`, `weekday`, `hours`, `minutes`, `seconds` and `time` (of day, in seconds) of a date. Nothing for any
+/// other name.
 std::optional<Result<Value>> valueProperty(Context& context, Position position, const Value& value,
                                            std::string_view name);
 

@@ -71,6 +71,10 @@ Result<void> VariableExpression::assign(Context& context, const Value& value) co
     return {};
 }
 
+Result<Value> CurrentDateExpression::compute(Context& context) const {
+    return Value(context.services().now());
+}
+
 Result<Value> ResultExpression::compute(Context& context) const {
     const std::optional<Value>& value = context.result();
     if (!value) return context.fail(position(), ErrorNumber::undefinedVariable, "there is no result");

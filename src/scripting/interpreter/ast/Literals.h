@@ -61,6 +61,17 @@ class VariableExpression final : public Expression {
     std::string m_name;
 };
 
+/// `current date`: the time at which it is evaluated.
+class CurrentDateExpression final : public Expression {
+  public:
+    explicit CurrentDateExpression(Position position)
+        : Expression(position, 1) {}
+    bool dependsOnTarget() const override { return false; }
+
+  protected:
+    Result<Value> compute(Context& context) const override;
+};
+
 /// `result`: the value of the statement before.
 class ResultExpression final : public Expression {
   public:

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+namespace songsweep {
+
+/// An instant (seconds since 1970-01-01 00:00:00 UTC) as a LongDateTime: seconds of local time since
+/// 1904-01-01 00:00:00, summer time included.
+std::int64_t longDateTime(std::int64_t utc);
+
+} // namespace songsweep
