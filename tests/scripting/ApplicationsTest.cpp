@@ -69,6 +69,22 @@ const Case references[] = {
     {"name of tracks from 2 to -1 of playlist 1", "{\"Two\", \"Three\"}"},
     {"count of tracks 1 thru 2", "2"},
     {"name of every track of every user playlist whose smart is false", "{{\"Three\", \"One\"}}"},
+    {"{name, rating} of track 1", "{\"One\", 60}"},
+    {"{name, bit rate} of every track", "{{\"One\", \"Two\", \"Three\"}, {192, 192, 192}}"},
+    {"{name, rating} of (tracks whose rating is 100)", "{{\"Three\"}, {100}}"},
+    {"{name} of tracks of every user playlist whose smart is false", "{{{\"Three\", \"One\"}}}"},
+    {"set {n, r} to {name, rating} of every track of playlist \"Rock\"\n{r, n}",
+     "{{100, 60}, {\"Three\", \"One\"}}"},
+    {"tell track 2 to {name, rating} of it", "{\"Two\", 60}"},
+    {"set t to track 1\nset {n, r} to {name, rating} of t\nn", "\"One\""},
+    {"item 2 of {name, rating} of track 1", "60"},
+    {"{name, lyrics} of track 1", "error: line 2, column 8: track id 00A1 has no property “lyrics”"},
+    {"{name, playlist} of track 1", "error: line 2, column 8: expected a property, but found “playlist”"},
+    {"application \"iTunes\" is running", "true"},
+    {"if it is running then 1", "1"},
+    {"application \"Finder\" is not running", "false"},
+    {"application \"Finder\" isn't running", "false"},
+    {"tell playlist 1 to it is running", "error: line 2, column 23: an object is no application"},
     {"playlist 1", "playlist 1 of application \"iTunes\""},
     {"it", "application \"iTunes\""},
     {"artworks of track 1", "{artwork 1 of application \"iTunes\"}"},
@@ -164,7 +180,8 @@ const Case failures[] = {
     {"every 5", "error: line 2, column 7: expected a class of elements, but found “5”"},
     {"playlist \"Rock\" whose smart",
      "error: line 2, column 17: expected the end of the line, but found “whose”"},
-    {"set volume with output muted", "error: line 2, column 12: expected “to”, but found “with”"},
+    {"set volume with output muted",
+     "error: line 2, column 12: expected “to”, but found “with” behind “volume”"},
     {"play track 1 with joy", "error: line 2, column 19: expected a parameter of “play”, but found “joy”"},
     {"name of {track 1, track 2}", "error: line 2, column 1: a list has no such part"},
     {"tracks whose rating", "error: line 2, column 1: cannot make a number into a truth value"},
@@ -200,6 +217,13 @@ TEST(LazinessTest, StopsAtTheFirstMatch) {
     test::FakeWorld world = smallWorld();
     outcomeOf(world, "tell application \"iTunes\" to get name of first track whose rating is 60");
     EXPECT_EQ(world.elementsTaken, 1);
+}
+
+TEST(LazinessTest, TakesEachElementOnceForSeveralProperties) {
+    test::FakeWorld world = smallWorld();
+    outcomeOf(world, "tell application \"iTunes\" to get {name, artist, rating} of every track");
+    EXPECT_EQ(world.elementsTaken, 3);
+    EXPECT_EQ(world.propertiesRead, 9);
 }
 
 TEST(LazinessTest, UsesTheIndexForAnyPartOfAConjunction) {

@@ -51,6 +51,10 @@ std::vector<TextCase> references() {
         {"month of date \"2026-11-21\"", "November"},
         {"weekday of date \"2026-11-21\"", "Saturday"},
         {"(date \"2024-02-29\")'s weekday", "Thursday"},
+        {"{year, month} of date \"2026-11-21\"", "{2026, November}"},
+        {"set d to date \"2026-11-21\"\nset {y, m} to {year, month} in d\nm", "November"},
+        {"{length} of \"abc\"", "{3}"},
+        {"set name to 1\nset artist to 2\n{name, artist}", "{1, 2}"},
         {"exists item 3 of {1, 2}", "false"},
         {"item 1 of {1, 2} exists", "true"},
     };

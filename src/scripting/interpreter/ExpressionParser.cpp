@@ -92,12 +92,18 @@ ExpressionPointer ExpressionParser::sign() {
     return isNegative ? make<NegateExpression>(place, std::move(operand)) : std::move(operand);
 }
 
-/// `x exists`.
+/// `x exists`; `application "iTunes" is running`, `it is running`. Behind anything else, `running` is the
+/// right side of a comparison.
 ExpressionPointer ExpressionParser::existence() {
+    const bool isIt =
+        m_cursor.at(Keyword::it) && (m_cursor.at(Keyword::is, 1) || m_cursor.at(Keyword::isnt, 1));
     ExpressionPointer operand = reference();
     const Position place = m_cursor.position();
-    if (!m_cursor.take(Keyword::exists)) return operand;
-    return make<ExistsExpression>(place, std::move(operand));
+    if (m_cursor.take(Keyword::exists)) return make<ExistsExpression>(place, std::move(operand));
+    if (!isIt && !operand->namedApplication()) return operand;
+    if (m_cursor.takeWords("is running")) return make<RunningExpression>(place, std::move(operand));
+    if (!m_cursor.takeWords("is not running") && !m_cursor.takeWords("isn't running")) return operand;
+    return make<NotExpression>(place, make<RunningExpression>(place, std::move(operand)));
 }
 
 ExpressionPointer ExpressionParser::value() {
@@ -204,11 +210,14 @@ ExpressionPointer ExpressionParser::count() {
 ExpressionPointer ExpressionParser::application() {
     const Position place = m_cursor.position();
     m_cursor.skip();
+    const bool isById = m_cursor.take(Keyword::id);
     if (m_cursor.peek().kind != Token::Kind::text) {
-        return failExpecting("the name of an application as a text");
+        return failExpecting(isById ? "the ID of an application as a text"
+                                    : "the name of an application as a text");
     }
     const std::string name = unescapedText(m_cursor.peek().text);
-    const Applications::Entry* const application = m_applications.named(name);
+    const Applications::Entry* const application =
+        isById ? m_applications.identified(name) : m_applications.named(name);
     if (!application) {
         m_cursor.fail("there is no application “" + name + "”");
         return standIn();

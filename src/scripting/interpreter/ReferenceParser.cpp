@@ -4,7 +4,6 @@
 #include "scripting/interpreter/ExpressionParser.h"
 #include "scripting/interpreter/ast/Literals.h"
 #include "scripting/interpreter/ast/Operators.h"
-#include "scripting/interpreter/ast/References.h"
 
 #include <array>
 
@@ -54,7 +53,45 @@ ExpressionPointer ReferenceParser::reference() {
     const TokenCursor::Nesting nesting(m_cursor);
     while (m_cursor.at(Keyword::the) || m_cursor.at(Keyword::my) || m_cursor.at(Keyword::its))
         m_cursor.skip();
+    if (atProperties()) return properties();
     return possessives(atSpecifier() ? contained(specifier()) : m_expressions.value());
+}
+
+/// Whether `{name, bit rate} of` stands here: a list of nothing but words, and what contains them.
+bool ReferenceParser::atProperties() const {
+    if (!m_cursor.atSymbol(U'{')) return false;
+    const std::span<const Token> tokens = m_cursor.upcoming().subspan(1);
+    const auto end = std::ranges::find_if_not(tokens, [](const Token& token) {
+        const bool isComma = token.kind == Token::Kind::symbol && token.symbol == U',';
+        return isComma || token.kind == Token::Kind::word || token.kind == Token::Kind::quotedWord;
+    });
+    // The last token is the end of the text, so that there always is one behind a brace.
+    if (end == tokens.end() || end->kind != Token::Kind::symbol || end->symbol != U'}') return false;
+    return end[1].keyword == Keyword::of || end[1].keyword == Keyword::in;
+}
+
+ExpressionPointer ReferenceParser::properties() {
+    const Position place = m_cursor.position();
+    PropertiesReference::Properties properties;
+    do {
+        m_cursor.skip(); // the brace, or the comma
+        properties.push_back(property());
+    } while (m_cursor.atSymbol(U','));
+    m_cursor.expectSymbol(U'}', "“,” or “}”");
+    m_cursor.skip();
+    return m_expressions.make<PropertiesReference>(place, std::move(properties), reference());
+}
+
+/// A property of what is said behind the list.
+std::unique_ptr<const PropertyReference> ReferenceParser::property() {
+    const Position place = m_cursor.position();
+    const Vocabulary::Entry* const entry = m_cursor.term();
+    const PropertyTerm* const term = entry ? entry->property : nullptr;
+    if (!term && (entry || !isPlainWord(m_cursor.peek()))) m_cursor.failExpecting("a property");
+    std::string name = term ? term->name : std::string(m_cursor.peek().text);
+    m_cursor.skip(term ? entry->words.size() : 1);
+    return std::make_unique<const PropertyReference>(place, std::move(name),
+                                                     term ? m_cursor.terminology() : nullptr, term, nullptr);
 }
 
 /// What a specifier is inside of, and the filter, which may stand before and after that.

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "scripting/interpreter/TokenCursor.h"
-#include "scripting/interpreter/ast/Expression.h"
+#include "scripting/interpreter/ast/References.h"
 
 namespace songsweep::interpreter {
 
@@ -29,6 +29,9 @@ class ReferenceParser {
     ExpressionPointer node(Specifier specifier, ExpressionPointer container);
     void filter(Specifier& specifier);
 
+    bool atProperties() const;
+    ExpressionPointer properties();
+    std::unique_ptr<const PropertyReference> property();
     bool atSpecifier() const;
     bool atItems() const;
     bool atFilter() const;

@@ -19,6 +19,8 @@ std::string described(const Token& token) {
     }
 }
 
+bool isName(const Token& token) { return token.kind == Token::Kind::word && token.keyword == Keyword::none; }
+
 } // namespace
 
 void TokenCursor::skipLineEnds() {
@@ -60,8 +62,11 @@ void TokenCursor::expectTextEnd() {
     if (peek().kind != Token::Kind::end) fail(described(peek()) + " stands outside of any block");
 }
 
+/// Names the word before, too: where that is one that nobody knows, it is the one to blame.
 void TokenCursor::failExpecting(std::string_view what) {
-    fail("expected " + std::string(what) + ", but found " + described(peek()));
+    const bool isBehindName = m_next > 0 && isName(m_tokens[m_next - 1]);
+    const std::string behind = isBehindName ? " behind " + described(m_tokens[m_next - 1]) : "";
+    fail("expected " + std::string(what) + ", but found " + described(peek()) + behind);
 }
 
 void TokenCursor::fail(Position position, const std::string& reason) {

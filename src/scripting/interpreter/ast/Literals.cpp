@@ -60,7 +60,7 @@ Result<Value> VariableExpression::compute(Context& context) const {
     const std::optional<Value>& value = context.variable(m_slot);
     if (!value) {
         return context.fail(position(), ErrorNumber::undefinedVariable,
-                            "the variable “" + m_name + "” is not defined");
+                            "“" + m_name + "” is not known: no variable has that name, nor any word here");
     }
     if (!context.spend(copyCost(*value))) return context.exhausted(position());
     return *value;

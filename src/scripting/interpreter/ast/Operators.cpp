@@ -140,6 +140,15 @@ Result<Value> ExistsExpression::compute(Context& context) const {
     return Value(count > 0);
 }
 
+Result<Value> RunningExpression::compute(Context& context) const {
+    TRY(const Value& value, operand().evaluate(context));
+    const auto* const object = std::get_if<ObjectPointer>(&value);
+    const Applications::Entry* const owner =
+        object ? context.services().applications.owning(**object) : nullptr;
+    if (owner && owner->application == *object) return Value(true);
+    return context.fail(position(), ErrorNumber::notUnderstood, kindName(value) + " is no application");
+}
+
 Result<Value> AliasExpression::compute(Context& context) const {
     TRY(const Value& value, operand().evaluate(context));
     return coerced(context, position(), value, Kind::alias);

@@ -157,6 +157,15 @@ class ExistsExpression final : public UnaryExpression {
     Result<Value> compute(Context& context) const override;
 };
 
+/// `application "iTunes" is running`: those that a text can tell always are.
+class RunningExpression final : public UnaryExpression {
+  public:
+    using UnaryExpression::UnaryExpression;
+
+  protected:
+    Result<Value> compute(Context& context) const override;
+};
+
 /// `alias "disk:folder:file"`.
 class AliasExpression final : public UnaryExpression {
   public:

@@ -94,17 +94,40 @@ class PropertyReference final : public ContainedReference {
     Result<void> assign(Context& context, const Value& value) const override;
     std::optional<TermCode> ownProperty(const Terminology& words) const override;
 
+    /// The property of that value, whatever the container.
+    Result<Value> propertyOf(Context& context, const Value& value) const;
+
   protected:
     Result<Referent> computeReferent(Context& context) const override;
 
   private:
-    Result<Value> propertyOf(Context& context, const Value& value) const;
     Result<TermCode> codeFor(Context& context, const HostObject& object) const;
     std::optional<TermCode> codeIn(const Terminology& words) const;
 
     std::string m_name;
     const Terminology* m_origin;
     const PropertyTerm* m_term;
+};
+
+/// `{name, artist} of x`: several properties of an object; of several objects a list for each property. They
+/// are asked for object by object, so that an application reads each of them once.
+class PropertiesReference final : public ContainedReference {
+  public:
+    using Properties = std::vector<std::unique_ptr<const PropertyReference>>;
+
+    PropertiesReference(Position position, Properties properties, ExpressionPointer container)
+        : ContainedReference(position, 2, std::move(container))
+        , m_properties(std::move(properties)) {}
+
+  protected:
+    Result<Referent> computeReferent(Context& context) const override;
+
+  private:
+    using Columns = std::vector<std::vector<Value>>;
+    Result<Value> columnsOf(Context& context, const ElementSet& elements) const;
+    Result<Value> valuesIn(Context& context, const Referent& containers) const;
+
+    Properties m_properties;
 };
 
 /// `POSIX path of x`.

@@ -4,10 +4,26 @@
 
 namespace songsweep::interpreter {
 
+namespace {
+
+/// A word alone with something behind it that belongs to no expression: it was meant as a command.
+bool wasCommand(const TokenCursor& cursor, const Token& first, Position second) {
+    const bool isWord = first.kind == Token::Kind::word && first.keyword == Keyword::none;
+    return isWord && cursor.position() == second && !cursor.atLineEnd() && !cursor.at(Keyword::else_);
+}
+
+} // namespace
+
 StatementPointer expressionStatement(StatementParser& parser) {
-    const Position place = parser.cursor().position();
-    parser.cursor().take(Keyword::get);
-    return makeStatement(place, [value = parser.expression()](Context& context) -> Result<Flow> {
+    TokenCursor& cursor = parser.cursor();
+    const Token first = cursor.peek();
+    const Position second = cursor.peek(1).position;
+    cursor.take(Keyword::get);
+    ExpressionPointer value = parser.expression();
+    if (wasCommand(cursor, first, second)) {
+        cursor.fail(first.position, "“" + std::string(first.text) + "” is no command that is known here");
+    }
+    return makeStatement(first.position, [value = std::move(value)](Context& context) -> Result<Flow> {
         TRY(context.result(), value->evaluate(context));
         return Flow::onward;
     });

@@ -66,7 +66,6 @@ StatementPointer StatementParser::statement() {
         m_cursor.skip();
         return row.rule(*this, token.position);
     }
-    if (m_cursor.at(Keyword::with)) m_cursor.fail("“with” is not supported as a statement");
     if (isWord(m_cursor.peek(1)) && isUnsupported(token.text)) {
         m_cursor.fail("“" + std::string(token.text) + "” is not supported");
     }

@@ -21,6 +21,7 @@ StatementPointer repeatStatement(StatementParser& parser, Position place);
 StatementPointer returnStatement(StatementParser& parser, Position place);
 StatementPointer setStatement(StatementParser& parser, Position place);
 StatementPointer tellStatement(StatementParser& parser, Position place);
+StatementPointer timeoutStatement(StatementParser& parser, Position place);
 StatementPointer tryStatement(StatementParser& parser, Position place);
 
 /// The statements that begin with a word of their own. A new one is a file with its node and its rule, and a
@@ -34,7 +35,7 @@ inline constexpr std::array statementWords{
     StatementWord{"exit", exitStatement},     StatementWord{"if", ifStatement},
     StatementWord{"repeat", repeatStatement}, StatementWord{"return", returnStatement},
     StatementWord{"set", setStatement},       StatementWord{"tell", tellStatement},
-    StatementWord{"try", tryStatement},
+    StatementWord{"try", tryStatement},       StatementWord{"with", timeoutStatement},
 };
 
 /// A command of the application that is told; begins where the cursor stands.
