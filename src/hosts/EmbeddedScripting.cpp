@@ -14,8 +14,14 @@ namespace {
 constexpr int mostPasses = 3; // over a library that somebody rewrites meanwhile
 
 std::vector<interpreter::NamedApplication> applications(ITunesServices& services) {
-    return {{"iTunes", std::make_shared<ITunesApplication>(services)},
-            {"Finder", std::make_shared<FinderApplication>(services.files, services.desktop)}};
+    return {{"iTunes",
+             std::make_shared<ITunesApplication>(services),
+             {"Music"},
+             {"com.apple.iTunes", "com.apple.Music"}},
+            {"Finder",
+             std::make_shared<FinderApplication>(services.files, services.desktop),
+             {},
+             {"com.apple.finder"}}};
 }
 
 } // namespace

@@ -18,7 +18,7 @@ using interpreter::TermCode;
 using interpreter::Value;
 
 enum class Property : TermCode { name, locked };
-enum class Verb : TermCode { deleteFile, setVolume };
+enum class Verb : TermCode { activate, deleteFile, setVolume };
 enum class Parameter : TermCode { outputMuted };
 
 TermCode code(auto term) { return static_cast<TermCode>(term); }
@@ -26,7 +26,8 @@ TermCode code(auto term) { return static_cast<TermCode>(term); }
 interpreter::Terminology finderTerminology() {
     return {{{"name", code(Property::name)}, {"locked", code(Property::locked)}},
             {},
-            {{"delete", code(Verb::deleteFile), {}},
+            {{"activate", code(Verb::activate), {}},
+             {"delete", code(Verb::deleteFile), {}},
              {"set volume", code(Verb::setVolume), {{"output muted", code(Parameter::outputMuted)}}}}};
 }
 
@@ -90,6 +91,9 @@ Result<ObjectPointer> FinderApplication::objectFor(const Value& value) {
 Result<std::optional<Value>> FinderApplication::perform(const Command& command) {
     const auto done = [&]() -> Result<void> {
         switch (static_cast<Verb>(command.code)) {
+        case Verb::activate:
+            if (!command.direct) return {};
+            return Error{Error::Code::notSupported, "only an application can be activated"};
         case Verb::deleteFile:
             if (!command.direct) return Error{Error::Code::invalid, "there is nothing to delete"};
             return moveToTrash(*command.direct);

@@ -82,6 +82,10 @@ ITunesApplication::candidates(TermCode elementClass, const interpreter::Property
 Result<std::optional<Value>> ITunesApplication::perform(const Command& command) {
     const auto done = [&]() -> Result<void> {
         switch (static_cast<ITunesCommand>(command.code)) {
+        case ITunesCommand::activate:
+            // It has no window that could come to the front.
+            if (!command.direct) return {};
+            return Error{Error::Code::notSupported, "only an application can be activated"};
         case ITunesCommand::play:
             return play(command);
         case ITunesCommand::stop:

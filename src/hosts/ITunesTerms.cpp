@@ -34,8 +34,8 @@ interpreter::Terminology iTunesTerminology() {
              elements("track", "tracks", ITunesClass::track),
              elements("file track", "file tracks", ITunesClass::track),
              elements("artwork", "artworks", ITunesClass::artwork)},
-            {command("play", ITunesCommand::play), command("stop", ITunesCommand::stop),
-             command("delete", ITunesCommand::deleteObject)}};
+            {command("activate", ITunesCommand::activate), command("play", ITunesCommand::play),
+             command("stop", ITunesCommand::stop), command("delete", ITunesCommand::deleteObject)}};
 }
 
 } // namespace songsweep

@@ -25,7 +25,7 @@ enum class ITunesProperty : interpreter::TermCode {
 
 enum class ITunesClass : interpreter::TermCode { playlist, userPlaylist, track, artwork };
 
-enum class ITunesCommand : interpreter::TermCode { play, stop, deleteObject };
+enum class ITunesCommand : interpreter::TermCode { activate, play, stop, deleteObject };
 
 /// The words of the embedded iTunes.
 interpreter::Terminology iTunesTerminology();

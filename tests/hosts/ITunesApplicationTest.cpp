@@ -152,6 +152,28 @@ TEST_F(ITunesApplicationTest, DeletesATrackByItsPlace) {
                 HasSubstr("only tracks can be deleted"));
 }
 
+TEST_F(ITunesApplicationTest, AnswersUnderAllItsNames) {
+    open(manyTracks(2));
+    for (const std::string name :
+         {"\"iTunes\"", "\"Music\"", "id \"com.apple.iTunes\"", "id \"com.apple.Music\""})
+        EXPECT_EQ(text("tell application " + name + " to get count of tracks"), "2") << name;
+    EXPECT_EQ(text("tell application id \"com.apple.finder\" to get name"), "Finder");
+    EXPECT_THAT(failure("tell application \"Spotify\" to get version"),
+                HasSubstr("no application “Spotify”"));
+    EXPECT_THAT(failure("tell application id \"Music\" to get version"), HasSubstr("no application “Music”"));
+}
+
+TEST_F(ITunesApplicationTest, BringsNothingToTheFront) {
+    open(manyTracks(1));
+    run("tell application \"iTunes\" to activate");
+    run("tell application \"Finder\" to activate");
+    EXPECT_THAT(m_desktop.calls, ElementsAre());
+    EXPECT_THAT(failure("tell application \"iTunes\" to activate track 1"),
+                HasSubstr("only an application can be activated"));
+    EXPECT_THAT(failure("tell application \"Finder\" to activate 5"),
+                HasSubstr("only an application can be activated"));
+}
+
 TEST_F(ITunesApplicationTest, PlaysStopsAndMutes) {
     open(libraryXml({{1, "A1", locationOf("a \xC3\xA4.mp3")}}, {}));
     const std::string path = m_folder.pathOf("a \xC3\xA4.mp3");
