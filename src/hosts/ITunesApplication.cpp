@@ -51,6 +51,9 @@ Result<std::size_t> ITunesApplication::playlistCount() const {
 
 Result<std::size_t> ITunesApplication::count(TermCode elementClass) {
     switch (static_cast<ITunesClass>(elementClass)) {
+    case ITunesClass::source:
+    case ITunesClass::libraryPlaylist:
+        return 1;
     case ITunesClass::userPlaylist:
         return playlistCount();
     case ITunesClass::playlist: {
@@ -64,13 +67,14 @@ Result<std::size_t> ITunesApplication::count(TermCode elementClass) {
 }
 
 Result<ObjectPointer> ITunesApplication::element(TermCode elementClass, std::size_t index) {
-    const bool playlist = elementClass == static_cast<TermCode>(ITunesClass::playlist) ||
-                          elementClass == static_cast<TermCode>(ITunesClass::userPlaylist);
-    if (!playlist) return m_tracks->element(elementClass, index);
+    if (elementClass == static_cast<TermCode>(ITunesClass::track))
+        return m_tracks->element(elementClass, index);
     const auto number = count(elementClass);
     if (!number) return number.error();
     if (index == 0 || index > number.value())
         return Error{Error::Code::notFound, "there is no such playlist"};
+    if (elementClass == static_cast<TermCode>(ITunesClass::source))
+        return ObjectPointer(std::make_shared<SourceObject>(m_services, *this));
     return ObjectPointer(std::make_shared<PlaylistObject>(m_services, index - 1));
 }
 

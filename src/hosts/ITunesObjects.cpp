@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/ITunesObjects.h"
 
+#include "hosts/TrackProperties.h"
 #include "hosts/TrackValues.h"
 #include "library/PersistentId.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace songsweep {
@@ -16,8 +18,6 @@ using interpreter::PropertyTest;
 using interpreter::TermCode;
 using interpreter::Value;
 
-Error noSuchProperty() { return {Error::Code::notFound, "the object has no such property"}; }
-
 /// An artwork: something that can be counted and named, and no more.
 class ArtworkObject final : public ITunesObject {
   public:
@@ -26,13 +26,20 @@ class ArtworkObject final : public ITunesObject {
         , m_specifier(std::move(specifier)) {}
 
     std::string specifier() const override { return m_specifier; }
-    Result<Value> property(TermCode) override { return noSuchProperty(); }
+    Result<Value> property(TermCode property) override { return noSuchProperty(property); }
 
   private:
     std::string m_specifier;
 };
 
 } // namespace
+
+Error ITunesObject::noSuchProperty(TermCode property) const {
+    const auto& known = terminology().properties;
+    const auto term = std::ranges::find(known, property, &interpreter::PropertyTerm::code);
+    const std::string name = term == known.end() ? std::string("such property") : "“" + term->name + "”";
+    return {Error::Code::notFound, specifier() + " has no " + name};
+}
 
 std::string PlaylistObject::specifier() const { return "playlist " + std::to_string(m_index + 1); }
 
@@ -52,7 +59,7 @@ Result<Value> PlaylistObject::property(TermCode property) {
     case ITunesProperty::persistentId:
         return Value(slot.persistentId);
     default:
-        return noSuchProperty();
+        return noSuchProperty(property);
     }
 }
 
@@ -67,49 +74,122 @@ Result<ObjectPointer> PlaylistObject::element(TermCode elementClass, std::size_t
     const auto number = count(elementClass);
     if (!number) return number.error();
     if (index == 0 || index > number.value()) return Error{Error::Code::notFound, "there is no such track"};
-    const auto track = library().value()->tracksOf(m_index)[index - 1];
-    return ObjectPointer(std::make_shared<TrackObject>(
-        services(), track, "track " + std::to_string(index) + " of " + specifier()));
+    LibraryDocument& document = *library().value();
+    const auto track = document.tracksOf(m_index)[index - 1];
+    const std::uint32_t item = m_index == 0 ? 0 : document.itemsOf(m_index)[index - 1];
+    return ObjectPointer(
+        std::make_shared<TrackObject>(services(), track, TrackObject::Place{m_index, item},
+                                      "track " + std::to_string(index) + " of " + specifier()));
+}
+
+/// The elements that are one of these tracks, which ascend.
+Candidates PlaylistObject::elements(LibraryDocument& document, const Tracks& tracks,
+                                    const std::string& which) {
+    Candidates found;
+    const auto add = [&](LibraryDocument::TrackPosition track, std::uint32_t item) {
+        found.objects.push_back(std::make_shared<TrackObject>(
+            services(), track, TrackObject::Place{m_index, item}, which + " of " + specifier()));
+    };
+    if (m_index == 0) {
+        for (const auto track : tracks)
+            add(track, 0);
+        return found;
+    }
+    const Tracks& members = document.tracksOf(m_index);
+    for (std::size_t i = 0; i < members.size() && !tracks.empty(); ++i)
+        if (std::ranges::binary_search(tracks, members[i])) add(members[i], document.itemsOf(m_index)[i]);
+    return found;
 }
 
 Result<std::optional<Candidates>> PlaylistObject::candidates(TermCode elementClass,
                                                              const PropertyTest& test) {
-    const bool indexed = elementClass == static_cast<TermCode>(ITunesClass::track) &&
-                         test.property == static_cast<TermCode>(ITunesProperty::persistentId) &&
-                         test.comparison == interpreter::Comparison::equal;
-    if (!indexed) return HostObject::candidates(elementClass, test);
+    const bool isTest = elementClass == static_cast<TermCode>(ITunesClass::track) &&
+                        test.comparison == interpreter::Comparison::equal;
+    const auto property = static_cast<ITunesProperty>(test.property);
+    const auto* const number = std::get_if<std::int64_t>(&test.operand);
+    const bool isNumber =
+        number && (property == ITunesProperty::databaseId || property == ITunesProperty::id);
+    if (!isTest || (property != ITunesProperty::persistentId && !isNumber))
+        return HostObject::candidates(elementClass, test);
     const auto document = library();
     if (!document) return document.error();
-    Candidates found;
+    LibraryDocument& tracks = *document.value();
+    if (isNumber) {
+        return std::optional(
+            elements(tracks, tracks.tracksWithTrackId(*number), "track id " + std::to_string(*number)));
+    }
     const auto* id = std::get_if<std::string>(&test.operand);
-    if (id == nullptr) return std::optional(std::move(found)); // Nothing but a text is an ID.
+    if (id == nullptr) return std::optional(Candidates()); // Nothing but a text is an ID.
+    Candidates found =
+        elements(tracks, tracks.tracksWithPersistentId(*id), "track whose persistent ID is \"" + *id + "\"");
     const bool isExact = PersistentId::of(*id).kind == PersistentId::Kind::exact;
     if (isExact) found.certainty = Candidates::Certainty::exact;
-    for (const auto track : document.value()->tracksOfWithPersistentId(m_index, *id))
-        found.objects.push_back(std::make_shared<TrackObject>(
-            services(), track, "track whose persistent ID is \"" + *id + "\" of " + specifier()));
     return std::optional(std::move(found));
 }
 
-Result<const TrackFields*> TrackObject::fields() const {
+Result<Value> SourceObject::property(TermCode property) {
+    if (static_cast<ITunesProperty>(property) == ITunesProperty::name) return Value(std::string("Library"));
+    if (static_cast<ITunesProperty>(property) == ITunesProperty::index) return Value(std::int64_t{1});
+    return noSuchProperty(property);
+}
+
+Result<std::size_t> SourceObject::count(TermCode elementClass) {
+    switch (static_cast<ITunesClass>(elementClass)) {
+    case ITunesClass::playlist:
+    case ITunesClass::userPlaylist:
+    case ITunesClass::libraryPlaylist:
+        return m_library.count(elementClass);
+    default:
+        return HostObject::count(elementClass);
+    }
+}
+
+Result<ObjectPointer> SourceObject::element(TermCode elementClass, std::size_t index) {
+    return m_library.element(elementClass, index);
+}
+
+Result<LibraryDocument*> TrackObject::libraryWithTrack() const {
     const auto document = library();
     if (!document) return document.error();
     if (document.value()->isDeleted(m_track))
         return Error{Error::Code::notFound, "the track has been deleted"};
-    return document.value()->fields(m_track);
+    return document;
 }
 
-Result<Value> TrackObject::property(TermCode property) {
-    const auto values = fields();
+Result<Value> TrackObject::property(TermCode code) {
+    const auto document = libraryWithTrack();
+    if (!document) return document.error();
+    const auto property = static_cast<ITunesProperty>(code);
+    if (property == ITunesProperty::index) return index();
+    if (property == ITunesProperty::databaseId || property == ITunesProperty::id)
+        return Value(document.value()->trackId(m_track));
+    if (const TrackProperty* const row = trackProperty(property)) {
+        const auto values = document.value()->values(m_track);
+        return values ? Result<Value>(valueOf(*row, *values.value())) : values.error();
+    }
+    const auto values = document.value()->fields(m_track);
     if (!values) return values.error();
-    auto value = trackValue(*values.value(), static_cast<ITunesProperty>(property), services().files);
-    if (!value) return noSuchProperty();
+    auto value = trackValue(*values.value(), property, services().files);
+    if (!value) return noSuchProperty(code);
     return std::move(*value);
+}
+
+/// The place that the track has now in its playlist.
+Result<Value> TrackObject::index() const {
+    LibraryDocument& document = *library().value();
+    if (m_place.playlist == 0) return Value(static_cast<std::int64_t>(document.libraryPlaceOf(m_track)));
+    const std::vector<std::uint32_t>& items = document.itemsOf(m_place.playlist);
+    const auto found = std::ranges::lower_bound(items, m_place.item);
+    if (found == items.end() || *found != m_place.item)
+        return Error{Error::Code::notFound, "the track is in the playlist no more"};
+    return Value(std::int64_t{found - items.begin() + 1});
 }
 
 Result<std::size_t> TrackObject::count(TermCode elementClass) {
     if (elementClass != static_cast<TermCode>(ITunesClass::artwork)) return HostObject::count(elementClass);
-    const auto values = fields();
+    const auto document = libraryWithTrack();
+    if (!document) return document.error();
+    const auto values = document.value()->fields(m_track);
     if (!values) return values.error();
     return artworkCount(*values.value());
 }

@@ -34,6 +34,8 @@ class ITunesObject : public interpreter::HostObject {
   protected:
     ITunesServices& services() const { return m_services; }
     Result<LibraryDocument*> library() const { return m_services.library.document(); }
+    /// "playlist 2 has no “genre”"
+    Error noSuchProperty(interpreter::TermCode property) const;
 
   private:
     ITunesServices& m_services;
@@ -52,20 +54,50 @@ class PlaylistObject final : public ITunesObject {
     Result<interpreter::ObjectPointer> element(interpreter::TermCode elementClass,
                                                std::size_t index) override;
     /// Tracks by persistent ID are found by the index of the library, which knows an ID of 16 digits for
-    /// certain.
+    /// certain, and tracks by database ID.
     Result<std::optional<interpreter::Candidates>> candidates(interpreter::TermCode elementClass,
                                                               const interpreter::PropertyTest& test) override;
 
   private:
+    using Tracks = std::vector<LibraryDocument::TrackPosition>;
+    interpreter::Candidates elements(LibraryDocument& document, const Tracks& tracks,
+                                     const std::string& which);
+
     std::size_t m_index;
 };
 
-/// A track by its position in the library document.
+/// The library as a place that has playlists: the only source that there is.
+class SourceObject final : public ITunesObject {
+  public:
+    /// `library` has the elements; it outlives every script.
+    SourceObject(ITunesServices& services, interpreter::HostObject& library)
+        : ITunesObject(services)
+        , m_library(library) {}
+
+    std::string specifier() const override { return "source 1"; }
+    Result<interpreter::Value> property(interpreter::TermCode property) override;
+    Result<std::size_t> count(interpreter::TermCode elementClass) override;
+    Result<interpreter::ObjectPointer> element(interpreter::TermCode elementClass,
+                                               std::size_t index) override;
+
+  private:
+    interpreter::HostObject& m_library;
+};
+
+/// A track by its position in the library document, and the place in a playlist that it was named by.
 class TrackObject final : public ITunesObject {
   public:
-    TrackObject(ITunesServices& services, LibraryDocument::TrackPosition track, std::string specifier)
+    /// As the document counts them; of the library, which is playlist 0, the item says nothing.
+    struct Place {
+        std::size_t playlist = 0;
+        std::uint32_t item = 0;
+    };
+
+    TrackObject(ITunesServices& services, LibraryDocument::TrackPosition track, Place place,
+                std::string specifier)
         : ITunesObject(services)
         , m_track(track)
+        , m_place(place)
         , m_specifier(std::move(specifier)) {}
 
     std::string specifier() const override { return m_specifier; }
@@ -76,11 +108,14 @@ class TrackObject final : public ITunesObject {
     bool isSame(const interpreter::HostObject& other) const override;
 
     LibraryDocument::TrackPosition track() const { return m_track; }
+    Place place() const { return m_place; }
 
   private:
-    Result<const TrackFields*> fields() const;
+    Result<LibraryDocument*> libraryWithTrack() const;
+    Result<interpreter::Value> index() const;
 
     LibraryDocument::TrackPosition m_track;
+    Place m_place;
     std::string m_specifier;
 };
 

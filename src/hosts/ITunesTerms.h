@@ -20,10 +20,33 @@ enum class ITunesProperty : interpreter::TermCode {
     dateAdded,
     rating,
     playedCount,
-    location
+    location,
+    genre,
+    year,
+    duration,
+    albumArtist,
+    composer,
+    comment,
+    kind,
+    trackNumber,
+    discNumber,
+    enabled,
+    playedDate,
+    skippedCount,
+    skippedDate,
+    modificationDate,
+    databaseId,
+    id
 };
 
-enum class ITunesClass : interpreter::TermCode { playlist, userPlaylist, track, artwork };
+enum class ITunesClass : interpreter::TermCode {
+    source,
+    playlist,
+    userPlaylist,
+    libraryPlaylist,
+    track,
+    artwork
+};
 
 enum class ITunesCommand : interpreter::TermCode { activate, play, stop, deleteObject };
 

@@ -16,25 +16,9 @@ namespace {
 
 using interpreter::Value;
 
-/// A number where its text is the one that the number would be written with; else the text, so that nothing
-/// of it is lost.
-Value numberOrText(std::string_view text) {
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = error == std::errc() && end == text.data() + text.size();
-    if (whole && std::to_string(number) == text) return number;
-    return std::string(text);
-}
-
 Value duration(std::string_view milliseconds) {
     if (milliseconds.empty()) return std::string();
     return SecToTime(integerValue(milliseconds));
-}
-
-Value date(std::string_view text) {
-    const auto seconds = parseLibraryDate(text);
-    if (!seconds) return interpreter::MissingValue();
-    return interpreter::Date{longDateTime(*seconds)};
 }
 
 Value location(std::string_view url, const Files& files) {
@@ -44,6 +28,20 @@ Value location(std::string_view url, const Files& files) {
 }
 
 } // namespace
+
+Value numberOrText(std::string_view text) {
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool whole = error == std::errc() && end == text.data() + text.size();
+    if (whole && std::to_string(number) == text) return number;
+    return std::string(text);
+}
+
+Value dateOrMissing(std::string_view text) {
+    const auto seconds = parseLibraryDate(text);
+    if (!seconds) return interpreter::MissingValue();
+    return interpreter::Date{longDateTime(*seconds)};
+}
 
 std::optional<Value> trackValue(const TrackFields& fields, ITunesProperty property, const Files& files) {
     const auto text = [&](LibraryKey key) { return trimmed(fields.text(key)); };
@@ -61,7 +59,7 @@ std::optional<Value> trackValue(const TrackFields& fields, ITunesProperty proper
     case ITunesProperty::size:
         return numberOrText(text(LibraryKey::size));
     case ITunesProperty::dateAdded:
-        return date(text(LibraryKey::dateAdded));
+        return dateOrMissing(text(LibraryKey::dateAdded));
     case ITunesProperty::rating:
         return std::int64_t{integerValue(text(LibraryKey::rating))};
     case ITunesProperty::persistentId:

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace songsweep {
 
@@ -22,5 +23,12 @@ std::optional<interpreter::Value> trackValue(const TrackFields& fields, ITunesPr
 
 /// The number of a track's artworks.
 std::size_t artworkCount(const TrackFields& fields);
+
+/// A number where its text is the one that the number would be written with; else the text, so that nothing
+/// of it is lost.
+interpreter::Value numberOrText(std::string_view text);
+
+/// The local time of a library date; the missing value where it is none.
+interpreter::Value dateOrMissing(std::string_view text);
 
 } // namespace songsweep

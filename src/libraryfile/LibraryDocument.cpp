@@ -83,12 +83,15 @@ void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTa
     m_byPersistentId = std::move(table);
     m_playlistOrder = presentationOrder(m_index.playlists);
     m_cache.fill({});
+    m_values = {};
+    m_byTrackId.clear();
     m_deletedCount = 0;
     forgetLists();
 }
 
 void LibraryDocument::forgetLists() {
     m_lists.assign(std::max<std::size_t>(m_playlistOrder.size(), 1), std::nullopt);
+    m_libraryPlaces.clear();
     m_listsMade = false;
 }
 
@@ -104,13 +107,26 @@ std::vector<PlaylistInfo> LibraryDocument::playlists() {
 }
 
 const std::vector<LibraryDocument::TrackPosition>& LibraryDocument::tracksOf(std::size_t playlist) {
+    return listed(playlist).tracks;
+}
+
+const std::vector<std::uint32_t>& LibraryDocument::itemsOf(std::size_t playlist) {
+    return listed(playlist).items;
+}
+
+const LibraryDocument::Listed& LibraryDocument::listed(std::size_t playlist) {
     auto& list = m_lists[playlist];
     if (list) return *list;
     m_listsMade = true;
-    if (playlist == 0) return list.emplace(libraryTracks());
+    if (playlist == 0) return list.emplace(Listed{libraryTracks(), {}});
     list.emplace();
-    for (const ItemSlot& item : m_index.playlists[m_playlistOrder[playlist]].items)
-        if (item.track != LibraryIndex::noTrack && !isDeleted(item.track)) list->push_back(item.track);
+    const std::vector<ItemSlot>& items = m_index.playlists[m_playlistOrder[playlist]].items;
+    for (std::uint32_t item = 0; item < items.size(); ++item) {
+        const TrackPosition track = items[item].track;
+        if (track == LibraryIndex::noTrack || isDeleted(track)) continue;
+        list->tracks.push_back(track);
+        list->items.push_back(item);
+    }
     return *list;
 }
 
@@ -147,14 +163,37 @@ LibraryDocument::tracksWithPersistentId(std::string_view persistentId) {
     return found;
 }
 
-std::vector<LibraryDocument::TrackPosition>
-LibraryDocument::tracksOfWithPersistentId(std::size_t playlist, std::string_view persistentId) {
-    std::vector<TrackPosition> found = tracksWithPersistentId(persistentId);
-    if (playlist == 0 || found.empty()) return found;
-    std::vector<TrackPosition> members;
-    for (const TrackPosition track : tracksOf(playlist))
-        if (std::binary_search(found.begin(), found.end(), track)) members.push_back(track);
-    return members;
+std::vector<LibraryDocument::TrackPosition> LibraryDocument::tracksWithTrackId(std::int64_t trackId) {
+    const auto idOf = [&](TrackPosition track) { return m_index.tracks[track].trackId; };
+    if (m_byTrackId.empty()) {
+        m_byTrackId.resize(m_index.tracks.size());
+        std::iota(m_byTrackId.begin(), m_byTrackId.end(), 0U);
+        std::ranges::stable_sort(m_byTrackId, {}, idOf);
+    }
+    std::vector<TrackPosition> found;
+    for (const TrackPosition track : std::ranges::equal_range(m_byTrackId, trackId, {}, idOf))
+        if (!isDeleted(track)) found.push_back(track);
+    return found;
+}
+
+std::size_t LibraryDocument::libraryPlaceOf(TrackPosition track) {
+    if (m_libraryPlaces.empty()) {
+        const std::vector<TrackPosition>& tracks = tracksOf(0);
+        m_libraryPlaces.resize(m_index.tracks.size());
+        for (std::size_t i = 0; i < tracks.size(); ++i)
+            m_libraryPlaces[tracks[i]] = static_cast<std::uint32_t>(i + 1);
+    }
+    return m_libraryPlaces[track];
+}
+
+Result<const EntryValues*> LibraryDocument::values(TrackPosition track) {
+    if (m_values.track == track) return &m_values.values;
+    const auto bytes = m_file->read(m_index.tracks[track].range());
+    if (!bytes) return bytes.error();
+    auto parsed = EntryValues::parse(bytes.value(), m_index.entities);
+    if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
+    m_values = {track, std::move(*parsed)};
+    return &m_values.values;
 }
 
 Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {

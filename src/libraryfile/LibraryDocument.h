@@ -2,6 +2,7 @@
 #pragma once
 
 #include "libraryfile/DeletionMemory.h"
+#include "libraryfile/EntryValues.h"
 #include "libraryfile/LibraryIndex.h"
 #include "libraryfile/LibraryTransaction.h"
 #include "libraryfile/LocationPass.h"
@@ -88,13 +89,23 @@ class LibraryDocument {
     /// The tracks of a persistent ID in file order, mostly one; letter case does not count. Microseconds.
     std::vector<TrackPosition> tracksWithPersistentId(std::string_view persistentId);
 
-    /// The same among the tracks of a playlist, in its order and as often as it holds them. Linear in the
-    /// playlist for any but the library.
-    std::vector<TrackPosition> tracksOfWithPersistentId(std::size_t playlist, std::string_view persistentId);
+    /// The tracks of a track ID, mostly one. Microseconds but for the first call, which sorts them.
+    std::vector<TrackPosition> tracksWithTrackId(std::int64_t trackId);
+    std::int64_t trackId(TrackPosition track) const { return m_index.tracks[track].trackId; }
+
+    /// The numbers of the playlist's items that those tracks stand for, ascending; none for the library,
+    /// whose tracks are more than its items. Made with `tracksOf`.
+    const std::vector<std::uint32_t>& itemsOf(std::size_t playlist);
+
+    /// The place of a track in the library, from 1; 0 where it has none. Linear once, free afterwards, until
+    /// something changes.
+    std::size_t libraryPlaceOf(TrackPosition track);
 
     /// The values of a track; the last few tracks asked for are kept. The pointer is good until the next
     /// call.
     Result<const TrackFields*> fields(TrackPosition track);
+    /// All values of a track, those too that no search needs. The same.
+    Result<const EntryValues*> values(TrackPosition track);
 
     /// A pass over the locations of the tracks as they are now, deleted ones left out.
     LocationPass locations() const;
@@ -141,6 +152,14 @@ class LibraryDocument {
         TrackPosition track = LibraryIndex::noTrack;
         TrackFields fields;
     };
+    struct Listed {
+        std::vector<TrackPosition> tracks;
+        std::vector<std::uint32_t> items;
+    };
+    struct CachedValues {
+        TrackPosition track = LibraryIndex::noTrack;
+        EntryValues values;
+    };
 
     LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index);
     void adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table);
@@ -149,6 +168,7 @@ class LibraryDocument {
     Result<void> writeIn(LibraryTransaction& transaction);
     Result<void> replaceLibrary(LibraryTransaction& transaction);
     Result<void> checkWellFormednessOnce();
+    const Listed& listed(std::size_t playlist);
     std::vector<TrackPosition> libraryTracks() const;
 
     std::string m_path;
@@ -157,9 +177,12 @@ class LibraryDocument {
     LibraryIndex m_index;
     PersistentIdTable m_byPersistentId;
     std::vector<std::uint32_t> m_playlistOrder;
-    std::vector<std::optional<std::vector<TrackPosition>>> m_lists; // of every playlist, as asked for
+    std::vector<std::optional<Listed>> m_lists; // of every playlist, as asked for
     bool m_listsMade = false;
+    std::vector<std::uint32_t> m_libraryPlaces; // by track, as asked for
+    std::vector<TrackPosition> m_byTrackId;     // made when it is asked for
     std::array<Cached, 16> m_cache;
+    CachedValues m_values; // of the track asked for last
     std::size_t m_deletedCount = 0;
     DeletionMemory m_memory;
     FileStamp m_wellFormed; // the version of the file that the full parser has accepted
