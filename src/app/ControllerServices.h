@@ -10,6 +10,7 @@
 namespace songsweep {
 
 class AppleScript;
+class Cleanup;
 class Desktop;
 class Files;
 class Log;
@@ -24,15 +25,13 @@ struct ControllerServices {
     Sleeper& sleeper;
     Log& log;
     Desktop& desktop;
+    Cleanup& cleanup;
     std::string version; ///< "1.0"
     /// Why the embedded library cannot be read, for the alert; empty where nothing is known.
     std::function<std::string()> unreachableReason = [] { return std::string(); };
     /// Every track of the whole library with its file, for finding files that two tracks share; called on a
     /// worker thread.
     LibraryLocations libraryLocations = {};
-    /// Told that a deletion is about to begin, so that it gets a backup of its own. An error where it must
-    /// not begin, as the library could not be written.
-    std::function<Result<void>()> beginDeletionRun = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
 };

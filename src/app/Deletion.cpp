@@ -93,12 +93,6 @@ void Deletion::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
 
 void Deletion::beginDelete() {
     m_myTimer.stop();
-    // Before any file is in the Trash whose track would stay.
-    if (const Result<void> begun = m_services.beginDeletionRun(); !begun) {
-        m_applicationView.alertCantBeginDelete(begun.error().message);
-        abandon();
-        return;
-    }
     startWorker();
     m_progress.setText(ProgressBar::progress, "Deleting...");
     m_progress.showProgressWindow(ProgressBar::progress);
@@ -109,8 +103,10 @@ void Deletion::startWorker() {
     Progress& progress = m_progress.progress();
     progress.total = m_results.getCheckedCount();
     progress.beginPhase(0, 100);
+    m_deletedBefore = m_readers.deletedSinceRead();
     if (progress.total > 0) m_readers.setDeletedSinceRead(true);
-    const DeleteServices services = {m_workers.center, m_services.scripts, m_services.files, m_services.log};
+    const DeleteServices services = {m_workers.center, m_services.scripts, m_services.files, m_services.log,
+                                     m_services.cleanup};
     m_workers.queue.add(std::make_unique<DeleteProc>(m_results.tableDataSource(), m_deleteFiles, services,
                                                      std::exchange(m_plan, {})));
 }
@@ -141,7 +137,15 @@ void Deletion::onDeleteFinish(const WorkerEvent& event) {
 
 void Deletion::onDeleteCancel(const WorkerEvent& event) {
     end(event);
+    m_progress.closeProgressWindow(ProgressBar::progress); // Nobody has, where the deletion failed.
     m_results.showRowsLeft();
+    if (m_report && !m_report->notBegun.empty()) alertNotBegun();
+}
+
+/// The library is as it was read.
+void Deletion::alertNotBegun() {
+    m_readers.setDeletedSinceRead(m_deletedBefore);
+    m_applicationView.alertCantBeginDelete(m_report->notBegun);
 }
 
 void Deletion::end(const WorkerEvent& event) {

@@ -67,6 +67,7 @@ class Deletion {
     void forgetSurvey();
     void startWorker();
     void end(const WorkerEvent& event);
+    void alertNotBegun();
     void abandon();
 
     const ControllerServices& m_services;
@@ -81,6 +82,7 @@ class Deletion {
 
     Phase m_phase = Phase::none;
     bool m_deleteFiles = false;
+    bool m_deletedBefore = false; ///< an earlier deletion, since the library was read
     DeletePlan m_plan;
     std::optional<std::uint64_t> m_pendingSurvey; ///< its serial, while the confirmation waits for its answer
     std::shared_ptr<const DeleteReport> m_report;

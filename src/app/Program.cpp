@@ -12,6 +12,9 @@ namespace songsweep {
 
 namespace {
 
+/// For the moment in which somebody else writes, not for a whole clean-up.
+constexpr std::chrono::seconds lockTimeout{2};
+
 /// Short, unless the letters of "link/.." would then lead elsewhere than the system goes.
 std::string absolutePath(const std::string& path) {
     namespace fs = std::filesystem;
@@ -54,7 +57,8 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
     , m_desktop(nativeDesktop())
     , m_preferences(nativePreferences())
     , m_scripting({}, *m_desktop, m_files, scriptingOptions())
-    , m_scripts(std::move(systemScripts), m_scripting) {
+    , m_scripts(std::move(systemScripts), m_scripting)
+    , m_cleanup(m_scripting, [this] { return m_scripts.usesEmbedded(); }, {m_options.purpose, lockTimeout}) {
     if (!m_options.library.empty()) {
         m_preferences.choose(absolutePath(m_options.library));
         m_scripts.chooseEmbedded();
@@ -87,10 +91,10 @@ ControllerServices Program::controllerServices() {
         .sleeper = m_sleeper,
         .log = m_log,
         .desktop = *m_desktop,
+        .cleanup = m_cleanup,
         .version = m_options.version,
         .unreachableReason = [this] { return unreachableReason(); },
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
-        .beginDeletionRun = [this] { return beginDeletionRun(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
     };
 }
@@ -125,13 +129,6 @@ void Program::setWriteFailedHandler(std::function<void(const std::string&)> hand
 Result<void> Program::writeLibrary() {
     const Result<void> written = m_scripting.flush();
     if (!written) return Error{written.error().code, withLibraryPath(written.error().message)};
-    return {};
-}
-
-Result<void> Program::beginDeletionRun() {
-    if (!m_scripts.usesEmbedded()) return {};
-    const Result<void> begun = m_scripting.beginDeletionRun();
-    if (!begun) return Error{begun.error().code, withLibraryPath(begun.error().message)};
     return {};
 }
 

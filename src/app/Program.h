@@ -4,6 +4,7 @@
 #include "app/ChosenScripts.h"
 #include "app/ControllerServices.h"
 #include "app/OpenedLibrary.h"
+#include "delete/EmbeddedCleanup.h"
 #include "hosts/EmbeddedScripting.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
@@ -27,7 +28,8 @@ struct ProgramOptions {
     std::string library; ///< path of the library file; empty for the one that iTunes' preferences name
     PathMap map;
     std::string iTunesVersion = "12.0";
-    std::string version; ///< of this program
+    std::string version;                ///< of this program
+    std::string purpose = "the window"; ///< who cleans up, for others that want to meanwhile
 };
 
 /// iTunes' preferences, but for a library that the user named: that one comes first then.
@@ -65,6 +67,7 @@ class Program {
 
     ControllerServices controllerServices();
     EmbeddedScripting& scripting() { return m_scripting; }
+    EmbeddedCleanup& cleanup() { return m_cleanup; }
     Files& files() { return m_files; }
     Desktop& desktop() { return *m_desktop; }
 
@@ -73,7 +76,7 @@ class Program {
     OpenedLibrary openLibrary(const std::string& path);
 
     /// `handler` is called on the main thread when the library file cannot be written, once until a write
-    /// succeeds again; with the path and the reason. The deletions are kept, and tried again.
+    /// succeeds again; with the path and the reason. The deletions are forgotten.
     void setWriteFailedHandler(std::function<void(const std::string& reason)> handler);
     /// Writes what is left; the path and the reason where that fails. Once no worker runs.
     Result<void> writeLibrary();
@@ -84,7 +87,6 @@ class Program {
   private:
     EmbeddedScripting::Options scriptingOptions();
     std::string withLibraryPath(const std::string& reason) const;
-    Result<void> beginDeletionRun();
     bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;
@@ -97,6 +99,7 @@ class Program {
     QObject m_mainThread; ///< calls for it are handled on the main thread
     EmbeddedScripting m_scripting;
     ChosenScripts m_scripts;
+    EmbeddedCleanup m_cleanup;
 };
 
 } // namespace songsweep

@@ -37,6 +37,7 @@ class ReaderChoice {
 
     /// In nanoseconds since 1970 UTC.
     void setLibraryModifiedDate(std::int64_t date) { m_libraryModifiedDate = date; }
+    bool deletedSinceRead() const { return m_deletedSinceRead; }
     void setDeletedSinceRead(bool deleted) { m_deletedSinceRead = deleted; }
 
   private:

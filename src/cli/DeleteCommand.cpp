@@ -59,6 +59,7 @@ ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output&
     const auto problem = writeReportTo(output, options, report);
     if (!written) return fail(options.library + ": " + written.error().message);
     if (problem) return *problem;
+    if (!report.notWritten.empty()) return fail(report.notWritten);
     if (session.deletionProblem()) return fail(*session.deletionProblem());
     if (!completed && !allAttempted(report)) return ExitCode::interrupted;
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;

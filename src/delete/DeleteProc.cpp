@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/DeleteProc.h"
 
+#include "delete/Cleanup.h"
 #include "delete/DeleteTexts.h"
 #include "delete/Obstacles.h"
 #include "library/WorkerEvent.h"
@@ -45,19 +46,45 @@ DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices servi
 void DeleteProc::main() {
     std::exception_ptr failure;
     if (!m_list.rows.empty()) {
-        bool completed = false;
-        try {
-            (void)run(deleteTexts::mute);
-            completed = deleteRows();
-        } catch (...) {
-            failure = std::current_exception();
+        if (const Result<void> begun = m_services.cleanup.begin(); !begun) {
+            m_report->notBegun = begun.error().message;
+        } else if (deleteAll(failure)) {
+            m_services.center.post({EventName::deleteValidity, {}, this});
         }
-        unmute(failure);
-        if (completed) m_services.center.post({EventName::deleteValidity, {}, this});
     }
     postEnd();
     if (failure) std::rethrow_exception(failure);
 }
+
+/// True when every row was visited and the library is written.
+bool DeleteProc::deleteAll(std::exception_ptr& failure) {
+    bool completed = false;
+    try {
+        (void)run(deleteTexts::mute);
+        completed = deleteRows();
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    finish();
+    unmute(failure);
+    return completed && !hasFailed();
+}
+
+/// What is told of a track is what the library on the disk says.
+void DeleteProc::finish() {
+    const Result<void> written = m_services.cleanup.finish();
+    if (!written) m_report->notWritten = written.error().message;
+    for (DeleteOutcome& outcome : m_report->outcomes) {
+        if (outcome.track != DeleteOutcome::Track::deleted || !m_services.cleanup.hasTrack(outcome.pid))
+            continue;
+        outcome.track = DeleteOutcome::Track::failed;
+        outcome.dealtWith = false;
+        outcome.addReason(written ? "the library still has it" : "the library was not written");
+    }
+    m_fileDeletion.settle(m_report->outcomes, m_services.cleanup);
+}
+
+bool DeleteProc::hasFailed() const { return !m_report->notBegun.empty() || !m_report->notWritten.empty(); }
 
 /// The sound comes back however the loop ended, and the end is still reported when that fails.
 void DeleteProc::unmute(std::exception_ptr& failure) {
@@ -68,7 +95,7 @@ void DeleteProc::unmute(std::exception_ptr& failure) {
     }
 }
 
-/// False when the operation was cancelled before the last row.
+/// False when the operation was cancelled, or the library could not be written, before the last row.
 bool DeleteProc::deleteRows() {
     const std::size_t count = m_list.rows.size();
     Compaction compaction(m_list.rows);
@@ -78,6 +105,7 @@ bool DeleteProc::deleteRows() {
             compaction.keep();
             continue;
         }
+        if (!m_services.cleanup.beginTrack(compaction.record().pid.string())) return false;
         deleteMarked(compaction.record());
         compaction.remove();
         m_services.center.post({EventName::deleteAddCount, {}, this});
@@ -88,7 +116,11 @@ bool DeleteProc::deleteRows() {
 void DeleteProc::deleteMarked(TrackRecord& record) {
     DeleteOutcome outcome = outcomeOf(record);
     deleteTrack(record, outcome);
-    if (m_isDelFile) m_fileDeletion.deleteFileOf(record, outcome);
+    if (m_isDelFile && outcome.track == DeleteOutcome::Track::deleted) {
+        m_fileDeletion.deleteFileOf(record, outcome, m_report->outcomes.size());
+    } else if (m_isDelFile) {
+        m_fileDeletion.keepFileOf(record, outcome);
+    }
     m_report->outcomes.push_back(std::move(outcome));
 }
 
@@ -121,7 +153,7 @@ void DeleteProc::noteNotAttempted() {
 void DeleteProc::postEnd() {
     noteNotAttempted();
     m_services.center.post(
-        {isCancelled() ? EventName::deleteCancel : EventName::deleteFinish, m_report, this});
+        {isCancelled() || hasFailed() ? EventName::deleteCancel : EventName::deleteFinish, m_report, this});
     for (const DeleteOutcome& outcome : m_report->outcomes)
         m_services.log.line(outcomeLine(outcome));
 }

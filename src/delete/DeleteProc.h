@@ -16,6 +16,7 @@
 namespace songsweep {
 
 class AppleScript;
+class Cleanup;
 class Files;
 class Log;
 struct WorkerEvent;
@@ -28,6 +29,7 @@ struct DeleteServices {
     AppleScript& scripts;
     Files& files;
     Log& log;
+    Cleanup& cleanup;
 };
 
 /// Deletes the marked tracks: each from iTunes by its persistent ID, its file to the Trash if asked, its
@@ -35,7 +37,9 @@ struct DeleteServices {
 ///
 /// The rows that stay are moved together as the loop goes, so that a deletion of many tracks is linear; the
 /// list is whole again whenever the loop is left. The sound is off meanwhile. What became of each track
-/// stands in the report, which comes with the final event, and in the log after it.
+/// stands in the report, which comes with the final event, and in the log after it. A deletion that cannot
+/// begin, or whose library cannot be written, ends as a cancelled one does; a track that stays keeps its
+/// file.
 class DeleteProc final : public Operation {
   public:
     /// `list` is the controller's own and outlives the worker. Files that the plan does not know, and those
@@ -48,7 +52,10 @@ class DeleteProc final : public Operation {
     class Compaction;
 
     bool deleteRows();
+    bool deleteAll(std::exception_ptr& failure);
+    void finish();
     void unmute(std::exception_ptr& failure);
+    bool hasFailed() const;
     void deleteMarked(TrackRecord& record);
     void deleteTrack(const TrackRecord& record, DeleteOutcome& outcome);
     Result<void> run(const std::string& text);

@@ -33,6 +33,8 @@ struct DeleteOutcome {
 /// One outcome for each track that was marked when a deletion began, in the order of the rows. A value.
 struct DeleteReport {
     std::vector<DeleteOutcome> outcomes;
+    std::string notBegun;   ///< why no track was touched; "" where the deletion began
+    std::string notWritten; ///< why the deletion ended early, its last part undone; "" where it did not
 
     bool allDealtWith() const;
 };

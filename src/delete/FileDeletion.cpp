@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/FileDeletion.h"
 
+#include "delete/Cleanup.h"
 #include "delete/DeleteTexts.h"
 #include "delete/Obstacles.h"
 #include "platform/Files.h"
@@ -8,22 +9,33 @@
 #include "scripting/AppleScript.h"
 
 #include <exception>
+#include <filesystem>
 
 namespace songsweep {
 
-void FileDeletion::deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome) {
+namespace {
+
+bool isLink(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_symlink(path, error);
+}
+
+} // namespace
+
+void FileDeletion::deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number) {
     try {
-        decide(record, outcome);
+        decide(record, outcome, number);
     } catch (const std::exception& exception) {
         outcome.keepFile(exception.what());
     }
 }
 
-void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome) {
+void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number) {
     const std::string file = fileOf(record);
     const std::string planned = plannedFileOf(record);
-    if (file != planned && m_trashed.contains(planned)) {
-        outcome.file = DeleteOutcome::File::trashed;
+    const auto told = m_names.find(planned);
+    if (file != planned && told != m_names.end()) {
+        m_told.push_back({number, told->second, {}});
     } else if (file.empty()) {
         outcome.file = DeleteOutcome::File::missing;
     } else if (isKeptByPlan(record, m_plan, outcome)) {
@@ -33,21 +45,36 @@ void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome) {
     } else if (const char* const obstacle = obstacleOf(record)) {
         outcome.keepFile(obstacle);
     } else {
-        trash(record, file, outcome);
+        trash(record, file, number);
     }
 }
 
-void FileDeletion::trash(const TrackRecord& record, const std::string& file, DeleteOutcome& outcome) {
+void FileDeletion::trash(const TrackRecord& record, const std::string& file, std::size_t number) {
     const std::string name = m_files.localPath(record.location.string());
     const std::string hfs = nameableHfsPath(record.location).value();
-    const Result<void> trashed = tellFinder(deleteTexts::deleteFile(hfs));
-    // The location itself may lead to another file now.
-    if (isNameTaken(name)) {
-        outcome.keepFile(trashed ? "it is still there" : trashed.error().message);
-        return;
+    if (!isLink(name)) m_names.emplace(file, name); // Of a link, the file is still there afterwards.
+    m_told.push_back({number, name, tellFinder(deleteTexts::deleteFile(hfs))});
+}
+
+void FileDeletion::keepFileOf(const TrackRecord& record, DeleteOutcome& outcome) const {
+    outcome.file = fileOf(record).empty() ? DeleteOutcome::File::missing : DeleteOutcome::File::kept;
+}
+
+void FileDeletion::settle(std::vector<DeleteOutcome>& outcomes, Cleanup& cleanup) const {
+    for (const Told& told : m_told) {
+        DeleteOutcome& outcome = outcomes[told.outcome];
+        // The location itself may lead to another file now.
+        const bool isThere = isNameTaken(told.name);
+        const auto fate = cleanup.fateOfFile(told.name);
+        const Result<void>& result = fate ? *fate : told.result;
+        if (!isThere) {
+            outcome.file = DeleteOutcome::File::trashed;
+        } else if (outcome.track != DeleteOutcome::Track::deleted) {
+            outcome.file = DeleteOutcome::File::kept; // with its track, for the track's reason
+        } else {
+            outcome.keepFile(result ? "it is still there" : result.error().message);
+        }
     }
-    outcome.file = DeleteOutcome::File::trashed;
-    if (!isNameTaken(file)) m_trashed.insert(file); // Of a link, the file is still there.
 }
 
 /// The file that the location leads to at this moment, "" where it leads to none. A location that is no path,

@@ -5,15 +5,19 @@
 #include "delete/DeleteReport.h"
 #include "platform/Result.h"
 
+#include <cstddef>
 #include <string>
-#include <unordered_set>
+#include <unordered_map>
+#include <vector>
 
 namespace songsweep {
 
 class AppleScript;
+class Cleanup;
 class Files;
 
-/// Has Finder trash the files of marked tracks, one after the other.
+/// Has Finder trash the files of marked tracks, one after the other, and tells what became of them when all
+/// that waits has been done.
 ///
 /// A file goes only where it is still the one that the plan was made of: its location may lead elsewhere by
 /// then, as when the file of the name's other Unicode form has gone before. A worker thread.
@@ -25,13 +29,24 @@ class FileDeletion {
         , m_files(files)
         , m_plan(std::move(plan)) {}
 
-    /// Deals with the track's file and notes in the outcome what became of it. An exception of the standard
-    /// kind, whatever it comes from, only keeps the file.
-    void deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome);
+    /// Deals with the track's file; the outcome is the report's next one. An exception of the standard kind,
+    /// whatever it comes from, only keeps the file.
+    void deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number);
+    /// The file of a track that stays stays with it.
+    void keepFileOf(const TrackRecord& record, DeleteOutcome& outcome) const;
+    /// Notes in the outcomes of the tracks what became of the files that Finder was told of. The clean-up has
+    /// finished.
+    void settle(std::vector<DeleteOutcome>& outcomes, Cleanup& cleanup) const;
 
   private:
-    void decide(const TrackRecord& record, DeleteOutcome& outcome);
-    void trash(const TrackRecord& record, const std::string& file, DeleteOutcome& outcome);
+    struct Told {
+        std::size_t outcome = 0;
+        std::string name; ///< local
+        Result<void> result;
+    };
+
+    void decide(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number);
+    void trash(const TrackRecord& record, const std::string& file, std::size_t number);
     const char* obstacleOf(const TrackRecord& record) const;
     std::string fileOf(const TrackRecord& record) const;
     std::string plannedFileOf(const TrackRecord& record) const;
@@ -40,7 +55,8 @@ class FileDeletion {
     AppleScript& m_scripts;
     const Files& m_files;
     DeletePlan m_plan;
-    std::unordered_set<std::string> m_trashed; ///< canonical paths
+    std::vector<Told> m_told;
+    std::unordered_map<std::string, std::string> m_names; ///< of the files told, by canonical path
 };
 
 } // namespace songsweep

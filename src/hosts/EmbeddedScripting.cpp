@@ -3,6 +3,7 @@
 
 #include "hosts/FinderApplication.h"
 #include "hosts/ITunesApplication.h"
+#include "platform/Desktop.h"
 #include "platform/Log.h"
 
 #include <utility>
@@ -13,13 +14,14 @@ namespace {
 
 constexpr int mostPasses = 3; // over a library that somebody rewrites meanwhile
 
-std::vector<interpreter::NamedApplication> applications(ITunesServices& services) {
+std::vector<interpreter::NamedApplication> applications(ITunesServices& services,
+                                                        FinderApplication::DeleteFile deleteFile) {
     return {{"iTunes",
              std::make_shared<ITunesApplication>(services),
              {"Music"},
              {"com.apple.iTunes", "com.apple.Music"}},
             {"Finder",
-             std::make_shared<FinderApplication>(services.files, services.desktop),
+             std::make_shared<FinderApplication>(services.files, services.desktop, std::move(deleteFile)),
              {},
              {"com.apple.finder"}}};
 }
@@ -28,8 +30,10 @@ std::vector<interpreter::NamedApplication> applications(ITunesServices& services
 
 EmbeddedScripting::EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files, Options options)
     : m_library(std::move(libraryPath), options.library)
+    , m_cleanup(m_library, desktop.trash(),
+                [this](LibraryDocument& document) { return writePending(document); })
     , m_iTunes{m_library, files, desktop, std::move(options.iTunesVersion)}
-    , m_interpreter(applications(m_iTunes))
+    , m_interpreter(applications(m_iTunes, [this](const std::string& path) { return deleteFile(path); }))
     , m_schedule(options.writes)
     , m_libraryOptions(options.library)
     , m_log(options.log)
@@ -67,7 +71,31 @@ Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view 
     const std::size_t before = m_library.opened() ? m_library.opened()->pendingDeletions() : 0;
     auto result = m_interpreter.run(source);
     noteDeletions(before);
+    if (auto deleted = deleteFilesOfScript(); !deleted) return deleted.error();
     return result;
+}
+
+/// Outside of a clean-up a file waits for the end of its text only where there is something to write before:
+/// a write in the middle of a text would take the meaning from its references to tracks.
+Result<void> EmbeddedScripting::deleteFile(const std::string& path) {
+    if (m_cleanup.isOn()) {
+        m_cleanup.holdFile(path);
+        return {};
+    }
+    if (m_library.opened() && m_library.opened()->pendingDeletions() > 0) {
+        m_heldFiles.hold(path, {});
+        return {};
+    }
+    const Result<TrashedFile> trashed = m_iTunes.desktop.trash().moveToTrash(path);
+    return trashed ? Result<void>() : Result<void>(trashed.error());
+}
+
+Result<void> EmbeddedScripting::deleteFilesOfScript() {
+    if (m_heldFiles.isEmpty()) return {};
+    Result<void> deleted = flushLocked();
+    if (deleted) deleted = m_heldFiles.firstError();
+    m_heldFiles.clear();
+    return deleted;
 }
 
 void EmbeddedScripting::noteDeletions(std::size_t before) {
@@ -144,17 +172,21 @@ Result<void> EmbeddedScripting::flush() {
 
 Result<void> EmbeddedScripting::flushLocked() {
     LibraryDocument* document = m_library.opened();
-    if (document == nullptr || document->pendingDeletions() == 0) {
+    if (document == nullptr) {
         m_schedule.written();
         return {};
     }
-    const std::size_t deletions = document->pendingDeletions();
-    auto written = document->flush();
-    if (written) {
-        m_schedule.written();
-    } else {
-        m_schedule.failed(WriteSchedule::Clock::now());
-    }
+    if (m_cleanup.isOn()) return m_cleanup.write(*document);
+    auto written = writePending(*document);
+    if (written) m_heldFiles.release(*document, m_iTunes.desktop.trash());
+    return written;
+}
+
+Result<void> EmbeddedScripting::writePending(LibraryDocument& document) {
+    m_schedule.written();
+    const std::size_t deletions = document.pendingDeletions();
+    if (deletions == 0) return {};
+    auto written = document.flush();
     tellOfWrite(written, deletions);
     return written;
 }
@@ -175,16 +207,6 @@ std::size_t EmbeddedScripting::pendingDeletions() const {
 std::optional<Error> EmbeddedScripting::lastWriteError() const {
     const std::lock_guard lock(m_lock);
     return m_library.opened() ? m_library.opened()->lastWriteError() : std::nullopt;
-}
-
-Result<void> EmbeddedScripting::beginDeletionRun() {
-    const std::lock_guard lock(m_lock);
-    if (auto written = flushLocked(); !written) return written;
-    const auto document = currentDocument();
-    if (!document) return document.error();
-    auto begun = document.value()->beginCleanup({"a clean-up", m_libraryOptions.lockTimeout});
-    document.value()->endCleanup(); // Each write locks the library for itself.
-    return begun;
 }
 
 std::string EmbeddedScripting::backup() const {

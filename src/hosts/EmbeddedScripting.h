@@ -2,7 +2,9 @@
 #pragma once
 
 #include "hosts/EmbeddedLibrary.h"
+#include "hosts/HeldFiles.h"
 #include "hosts/ITunesObjects.h"
+#include "hosts/LibraryCleanup.h"
 #include "libraryfile/WriteSchedule.h"
 #include "scripting/AppleScript.h"
 #include "scripting/InterpretedAppleScript.h"
@@ -30,6 +32,10 @@ class Log;
 /// something, and looked at again by each later one. Deletions are seen at once and written together, a
 /// little after the last one, by a thread of this object's own; the destructor writes what is left. A library
 /// that is refused, or missing, fails the texts that tell iTunes; `libraryError` has the reason.
+///
+/// A file never goes to the Trash before a deletion that was told earlier is on the disk. Within a clean-up
+/// files are held until a written library does not name their tracks; outside of one the text that deletes a
+/// file has pending deletions written at its end, and fails, with the file in its place, where that fails.
 ///
 ///     EmbeddedScripting scripts(path, desktop, files);
 ///     scripts.executeAndReturnError("tell application \"iTunes\" to get version");
@@ -85,10 +91,13 @@ class EmbeddedScripting final : public AppleScript {
     /// Why the last write failed, whoever asked for it; nothing after one that succeeded.
     std::optional<Error> lastWriteError() const;
 
-    /// A new deletion begins: what an earlier one left is written, and the next write keeps a backup again.
-    /// An error where the library cannot be read or written, so that the deletion must not begin.
-    Result<void> beginDeletionRun();
-    /// The backup of the present run, "" while nothing was written.
+    /// Lets something be done with the frame of a clean-up, between two texts.
+    template <class Act>
+    auto withCleanup(Act act) {
+        const std::lock_guard lock(m_lock);
+        return act(m_cleanup);
+    }
+    /// The backup of the last clean-up, "" while nothing was written.
     std::string backup() const;
 
   private:
@@ -96,12 +105,17 @@ class EmbeddedScripting final : public AppleScript {
     Result<LocationPass> locationPass();
     Result<std::optional<Descriptor>> runLocked(std::string_view source);
     Result<void> flushLocked();
+    Result<void> writePending(LibraryDocument& document);
+    Result<void> deleteFile(const std::string& path);
+    Result<void> deleteFilesOfScript();
     void tellOfWrite(const Result<void>& written, std::size_t deletions);
     void noteDeletions(std::size_t before);
     void writeWhenDue(const std::stop_token& stop);
 
     mutable std::mutex m_lock; // of everything below, and held while a text runs
     EmbeddedLibrary m_library;
+    HeldFiles m_heldFiles; ///< of the text that runs, outside of a clean-up
+    LibraryCleanup m_cleanup;
     ITunesServices m_iTunes;
     InterpretedAppleScript m_interpreter;
     bool m_ended = false; ///< the last text was run

@@ -3,7 +3,6 @@
 
 #include "platform/Desktop.h"
 #include "platform/Files.h"
-#include "platform/Trash.h"
 
 #include <memory>
 
@@ -70,10 +69,11 @@ class FileObject final : public interpreter::HostObject {
 
 } // namespace
 
-FinderApplication::FinderApplication(Files& files, Desktop& desktop)
+FinderApplication::FinderApplication(Files& files, Desktop& desktop, DeleteFile deleteFile)
     : m_words(finderTerminology())
     , m_files(files)
-    , m_desktop(desktop) {}
+    , m_desktop(desktop)
+    , m_deleteFile(std::move(deleteFile)) {}
 
 Result<Value> FinderApplication::property(TermCode property) {
     if (property == code(Property::name)) return Value(std::string("Finder"));
@@ -96,7 +96,7 @@ Result<std::optional<Value>> FinderApplication::perform(const Command& command) 
             return Error{Error::Code::notSupported, "only an application can be activated"};
         case Verb::deleteFile:
             if (!command.direct) return Error{Error::Code::invalid, "there is nothing to delete"};
-            return moveToTrash(*command.direct);
+            return deleteFiles(*command.direct);
         case Verb::setVolume:
             return setVolume(command);
         }
@@ -106,10 +106,10 @@ Result<std::optional<Value>> FinderApplication::perform(const Command& command) 
     return std::optional<Value>();
 }
 
-Result<void> FinderApplication::moveToTrash(const Value& value) {
+Result<void> FinderApplication::deleteFiles(const Value& value) {
     if (const auto* items = interpreter::listItems(value)) {
         for (const Value& item : *items)
-            if (auto moved = moveToTrash(item); !moved) return moved;
+            if (auto deleted = deleteFiles(item); !deleted) return deleted;
         return {};
     }
     std::string path;
@@ -119,8 +119,7 @@ Result<void> FinderApplication::moveToTrash(const Value& value) {
     }
     if (path.empty()) return Error{Error::Code::notSupported, "only files can be deleted"};
     if (!m_files.exists(path)) return Error{Error::Code::notFound, "there is no file " + path};
-    const Result<TrashedFile> moved = m_desktop.trash().moveToTrash(m_files.localPath(path));
-    return moved ? Result<void>() : Result<void>(moved.error());
+    return m_deleteFile(m_files.localPath(path));
 }
 
 Result<void> FinderApplication::setVolume(const Command& command) {

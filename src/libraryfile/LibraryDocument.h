@@ -136,9 +136,13 @@ class LibraryDocument {
     /// Why the last `flush` failed; nothing after one that succeeded.
     const std::optional<Error>& lastWriteError() const { return m_lastWriteError; }
 
-    /// Begins a clean-up: locks the library until `endCleanup`, brings the index up to date, lets a full
-    /// parser check it, makes a backup, tries the replacing as it will be done, and reserves the room. So
-    /// nothing begins that cannot be written; an error says why. Costs the check and a copy of the file.
+    /// Locks the library until `endCleanup`, for a clean-up that has yet to begin, and removes what killed
+    /// programs left beside it.
+    Result<void> lockForCleanup(const CleanupLock::Request& request);
+    /// Begins a clean-up: locks the library until `endCleanup`, if it is not, brings the index up to date,
+    /// lets a full parser check it, makes a backup, tries the replacing as it will be done, and reserves the
+    /// room. So nothing begins that cannot be written; an error says why. Costs the check and a copy of the
+    /// file.
     Result<void> beginCleanup(const CleanupLock::Request& request);
     void endCleanup();
 

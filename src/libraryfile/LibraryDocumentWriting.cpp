@@ -6,12 +6,19 @@
 
 namespace songsweep {
 
-Result<void> LibraryDocument::beginCleanup(const CleanupLock::Request& request) {
+Result<void> LibraryDocument::lockForCleanup(const CleanupLock::Request& request) {
     endCleanup();
     auto begun = LibraryTransaction::begin(m_path, request, Backup::Purpose::deletion);
     if (!begun) return begun.error();
-    m_backup.reset();
     m_transaction = std::move(begun).value();
+    return {};
+}
+
+Result<void> LibraryDocument::beginCleanup(const CleanupLock::Request& request) {
+    if (!m_transaction)
+        if (auto locked = lockForCleanup(request); !locked) return locked;
+    m_backup.reset();
+    m_transaction->adoptBackup({});
     auto prepared = attempt([&]() -> Result<void> {
         if (auto refreshed = refresh(); !refreshed) return refreshed;
         if (auto checked = checkWellFormednessOnce(); !checked) return checked;

@@ -7,7 +7,7 @@
 namespace songsweep {
 
 /// Says when deletions that gather are to be written: a while after the last one, but not later than some
-/// time after the first; after a write that failed, not before some time has passed.
+/// time after the first.
 ///
 /// Knows times only, no clock and no thread, so that it can be tried without waiting. A value.
 class WriteSchedule {
@@ -17,7 +17,6 @@ class WriteSchedule {
     struct Times {
         Clock::duration quiet = std::chrono::seconds(2);
         Clock::duration longest = std::chrono::seconds(30);
-        Clock::duration retry = std::chrono::seconds(30);
     };
 
     WriteSchedule() = default;
@@ -26,10 +25,8 @@ class WriteSchedule {
 
     /// Something was deleted.
     void changed(Clock::time_point now);
-    /// Everything is written.
+    /// Nothing is left to write.
     void written();
-    /// A write failed; there is still something to write.
-    void failed(Clock::time_point now);
 
     /// When to write next; nothing while there is nothing to write.
     std::optional<Clock::time_point> due() const;
@@ -38,7 +35,6 @@ class WriteSchedule {
     Times m_times;
     std::optional<Clock::time_point> m_first; // of the deletions that are not written
     Clock::time_point m_last{};
-    std::optional<Clock::time_point> m_notBefore;
 };
 
 } // namespace songsweep

@@ -132,6 +132,7 @@ TEST_F(ChainStressTest, QuittingAtRandomMomentsLeavesNoWorkerWaiting) {
                                 .sleeper = sleeper,
                                 .log = log,
                                 .desktop = desktop,
+                                .cleanup = cleanup,
                                 .version = "1.0"},
                                shown.views());
         quitting.awakeFromNib();

@@ -4,6 +4,7 @@
 #include "app/AppController.h"
 #include "app/FakeITunes.h"
 #include "app/RecordingView.h"
+#include "delete/Cleanup.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"
 #include "platform/Preferences.h"
@@ -67,6 +68,13 @@ class NoSleep final : public Sleeper {
     void sleep(std::chrono::milliseconds) override {}
 };
 
+/// A frame that lets a deletion begin or not.
+class GivenCleanup final : public Cleanup {
+  public:
+    Result<void> begin() override { return mayBegin; }
+    Result<void> mayBegin;
+};
+
 /// A controller over a fake iTunes and a view that records.
 class ControllerFixture : public ::testing::Test {
   protected:
@@ -99,21 +107,21 @@ class ControllerFixture : public ::testing::Test {
     RecordingLog log;
     RecordingDesktop desktop;
     RecordingView view;
-    Result<void> deletionMayBegin;
+    GivenCleanup cleanup;
     std::vector<std::unique_ptr<TrackRecord>> records;
-    std::unique_ptr<AppController> controller =
-        std::make_unique<AppController>(ControllerServices{
-                                            .scripts = iTunes,
-                                            .files = files,
-                                            .preferences = preferences,
-                                            .sleeper = sleeper,
-                                            .log = log,
-                                            .desktop = desktop,
-                                            .version = "1.0",
-                                            .unreachableReason = [] { return std::string("line 3: no end"); },
-                                            .beginDeletionRun = [this] { return deletionMayBegin; },
-                                        },
-                                        view.views());
+    std::unique_ptr<AppController> controller = std::make_unique<AppController>(
+        ControllerServices{
+            .scripts = iTunes,
+            .files = files,
+            .preferences = preferences,
+            .sleeper = sleeper,
+            .log = log,
+            .desktop = desktop,
+            .cleanup = cleanup,
+            .version = "1.0",
+            .unreachableReason = [] { return std::string("line 3: no end"); },
+        },
+        view.views());
 };
 
 } // namespace songsweep::test

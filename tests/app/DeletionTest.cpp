@@ -61,6 +61,7 @@ class DeletionTest : public ControllerFixture {
                 .sleeper = sleeper,
                 .log = log,
                 .desktop = desktop,
+                .cleanup = cleanup,
                 .version = "1.0",
                 .libraryLocations = [this](const LocationVisitor& visit) { return visitAll(visit); }},
             view.views());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The search that follows a deletion and needs the library file that the embedded iTunes has yet to write.
 #include "app/ControllerFixture.h"
+#include "delete/Cleanup.h"
 #include "hosts/EmbeddedScripting.h"
 #include "libraryfile/LibraryFixture.h"
 #include "platform/FileUrl.h"
@@ -12,7 +13,7 @@ namespace songsweep::test {
 namespace {
 
 /// Times that no test reaches: the library is written by a call.
-constexpr WriteSchedule::Times never{std::chrono::hours(1), std::chrono::hours(1), std::chrono::hours(1)};
+constexpr WriteSchedule::Times never{std::chrono::hours(1), std::chrono::hours(1)};
 
 /// Two songs, each there twice.
 std::string twoPairs() {
@@ -38,16 +39,15 @@ class SearchAfterDeletionTest : public ControllerFixture {
         namespace fs = std::filesystem;
         fs::last_write_time(m_library, fs::file_time_type::clock::now() - std::chrono::hours(1));
         preferences.libraryUrl = fileUrl(m_library);
-        controller = std::make_unique<AppController>(
-            ControllerServices{.scripts = m_scripts,
-                               .files = files,
-                               .preferences = preferences,
-                               .sleeper = m_sleeper,
-                               .log = log,
-                               .desktop = desktop,
-                               .version = "1.0",
-                               .beginDeletionRun = [this] { return m_scripts.beginDeletionRun(); }},
-            view.views());
+        controller = std::make_unique<AppController>(ControllerServices{.scripts = m_scripts,
+                                                                        .files = files,
+                                                                        .preferences = preferences,
+                                                                        .sleeper = m_sleeper,
+                                                                        .log = log,
+                                                                        .desktop = desktop,
+                                                                        .cleanup = m_cleanup,
+                                                                        .version = "1.0"},
+                                                     view.views());
         controller->awakeFromNib();
         search();
     }
@@ -78,6 +78,7 @@ class SearchAfterDeletionTest : public ControllerFixture {
     std::string m_library = m_folder.write("library.xml", twoPairs());
     BusySleeper m_sleeper;
     EmbeddedScripting m_scripts{m_library, desktop, files, {.writes = never, .library = {}}};
+    Cleanup m_cleanup; ///< of an iTunes that writes its file when it likes
 };
 
 TEST_F(SearchAfterDeletionTest, WaitsUntilTheFileIsWritten) {

@@ -131,7 +131,7 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
             const auto found = trashed.find(soundOf(id));
             ASSERT_NE(isThere, found != trashed.end()) << "file of track " << id;
             if (isThere) continue;
-            EXPECT_TRUE(m_marked.contains(id)) << id;
+            EXPECT_TRUE(m_gone.contains(id)) << id << ", whose track is in the library";
             EXPECT_THAT(found->second, testing::HasSubstr("Path=" + path("music/" + nameOf(id)) + "\n"));
         }
     }
@@ -145,14 +145,15 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
 
     void checkThatTheWorkCanBeCompleted() {
         if (isUntouched()) return;
+        const bool hasMore =
+            m_gone != m_marked; // Otherwise there is nothing to begin, and to clear up before.
         const RunResult again = run(command());
         EXPECT_EQ(again.exitCode, 0) << again.errors << again.output;
         ASSERT_NO_FATAL_FAILURE(checkLibrary());
         ASSERT_NO_FATAL_FAILURE(checkFiles());
         EXPECT_EQ(m_gone, m_marked);
-        EXPECT_EQ(m_trashed, static_cast<int>(m_marked.size()));
         for (const auto& entry : fs::directory_iterator(m_folder.path()))
-            EXPECT_NE(entry.path().extension(), ".tmp");
+            EXPECT_TRUE(!hasMore || entry.path().extension() != ".tmp") << entry.path();
     }
 
     std::string m_text; ///< of the library as it was
@@ -165,7 +166,7 @@ TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
     std::mt19937 random(GetParam());
     const microseconds duration = durationOfARun();
     std::uniform_int_distribution<int> moment(0, static_cast<int>(duration.count()));
-    int inTheMiddle = 0;
+    int filesLeft = 0;
     int ended = 0;
     for (int kill = 0; kill < killsATest; ++kill) {
         const microseconds delay(moment(random));
@@ -176,12 +177,12 @@ TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
         ASSERT_NO_FATAL_FAILURE(killAfter(delay));
         ASSERT_NO_FATAL_FAILURE(checkLibrary());
         ASSERT_NO_FATAL_FAILURE(checkFiles());
-        inTheMiddle += m_trashed > 0 && m_gone != m_marked ? 1 : 0;
+        filesLeft += m_trashed < static_cast<int>(m_gone.size()) ? 1 : 0;
         ended += m_gone == m_marked ? 1 : 0;
         ASSERT_NO_FATAL_FAILURE(checkThatTheWorkCanBeCompleted());
     }
     std::cout << "seed " << GetParam() << ": of " << killsATest << " kills within " << duration.count()
-              << " microseconds " << inTheMiddle << " left a deletion in its middle, " << ended
+              << " microseconds " << filesLeft << " left files of deleted tracks, " << ended
               << " the new library\n";
 }
 

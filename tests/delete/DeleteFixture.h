@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "delete/Cleanup.h"
 #include "delete/DeleteProc.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
@@ -79,6 +80,7 @@ class DeleteFixture : public testing::Test {
     std::vector<std::string> m_journal;
     JournalLog m_log{m_journal};
     RecordingAppleScript m_scripts;
+    Cleanup m_cleanup; ///< of texts that act at once
     NotificationCenter<WorkerEvent> m_center;
     Hook m_hook;
     std::string m_failingEntry;

@@ -2,6 +2,7 @@
 // The road from a library file to a smaller one, with the program's own iTunes and Finder.
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
+#include "delete/EmbeddedCleanup.h"
 #include "delete/TrackFacts.h"
 #include "dupes/BuildResultProc.h"
 #include "dupes/MarkingRules.h"
@@ -42,6 +43,7 @@ class FolderTrash final : public Trash {
     }
 
     Result<TrashedFile> moveToTrash(const std::string& path) override {
+        if (beforeMove) beforeMove();
         if (refuses) return Error{Error::Code::noSpace, "the Trash is full"};
         const TrashedFile file = {m_folder, std::to_string(++trashed)};
         std::filesystem::rename(path, file.path());
@@ -58,6 +60,7 @@ class FolderTrash final : public Trash {
     std::unique_ptr<TrashCheck> newCheck() override { return std::make_unique<test::NoTrashCheck>(); }
 
     bool refuses = false;
+    std::function<void()> beforeMove;
     int trashed = 0;
 
   private:
@@ -152,14 +155,17 @@ class EmbeddedDeletionTest : public testing::Test {
             return m_scripts->forEachLocation(visit).hasValue();
         };
         DeleteReport report;
-        m_center.setObserver([&report](const WorkerEvent& event) {
+        m_events.clear();
+        m_center.setObserver([&, this](const WorkerEvent& event) {
+            m_events.emplace_back(text(event.name));
+            if (m_onEvent) m_onEvent(event.name);
             if (const auto* told = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload))
                 report = **told;
         });
-        DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log},
+        EmbeddedCleanup cleanup(*m_scripts, [] { return true; }, {"a test"});
+        DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log, cleanup},
                    makeDeletePlan(list.rows, m_files, locations))
             .main();
-        EXPECT_TRUE(m_scripts->flush());
         return report;
     }
 
@@ -174,6 +180,8 @@ class EmbeddedDeletionTest : public testing::Test {
     NoSleep m_sleeper;
     NotificationCenter<WorkerEvent> m_center;
     std::unique_ptr<EmbeddedScripting> m_scripts;
+    std::vector<std::string> m_events; ///< of the deletion
+    std::function<void(EventName)> m_onEvent;
 
   private:
     static std::string values(std::size_t n, const std::string& path) {
@@ -256,6 +264,116 @@ TEST_F(EmbeddedDeletionTest, ATrashThatRefusesLeavesTheFileAndSaysWhy) {
     EXPECT_THAT(outcomeText(report.outcomes[0]), testing::HasSubstr("the Trash is full"));
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
     EXPECT_FALSE(m_desktop.muted);
+}
+
+TEST_F(EmbeddedDeletionTest, AFileGoesOnlyWhenTheLibraryOnTheDiskDoesNotNameItsTrack) {
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
+    int moves = 0;
+    m_trash.beforeMove = [&] {
+        ++moves;
+        EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102}));
+    };
+    DisplayedList list = search(4);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    EXPECT_TRUE(deleteMarked(list).allDealtWith());
+    EXPECT_EQ(moves, 2);
+    EXPECT_THAT(m_events, ElementsAre("deleteAddCount", "deleteAddCount", "deleteValidity", "deleteFinish"));
+}
+
+TEST_F(EmbeddedDeletionTest, AFailedWriteEndsTheDeletionWithNothingDone) {
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3", "c.mp3", "c2.mp3"});
+    DisplayedList list = search(6);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    int tracks = 0;
+    m_onEvent = [&](EventName name) {
+        if (name != EventName::deleteAddCount || ++tracks != 2) return;
+        replaceLast("</plist>", ""); // by another program
+        EXPECT_FALSE(m_scripts->flush());
+        replaceLast("</dict>\n", "</dict>\n</plist>\n");
+    };
+    const DeleteReport report = deleteMarked(list);
+
+    EXPECT_NE(report.notWritten, "");
+    ASSERT_THAT(report.outcomes, SizeIs(3));
+    EXPECT_EQ(outcomeText(report.outcomes[0]), "failed, file kept: the library was not written");
+    EXPECT_EQ(outcomeText(report.outcomes[1]), "failed, file kept: the library was not written");
+    EXPECT_EQ(outcomeText(report.outcomes[2]), "not attempted");
+    EXPECT_THAT(m_events, ElementsAre("deleteAddCount", "deleteAddCount", "deleteCancel"));
+    EXPECT_FALSE(m_desktop.muted);
+    EXPECT_EQ(m_trash.trashed, 0);
+    m_scripts.reset(); // nobody writes it later
+    EXPECT_EQ(libraryText(), m_text);
+}
+
+TEST_F(EmbeddedDeletionTest, AFailedLastWriteKeepsItsFilesAndTellsWhatWasWrittenBefore) {
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
+    DisplayedList list = search(4);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    int tracks = 0;
+    m_onEvent = [&](EventName name) {
+        if (name != EventName::deleteAddCount) return;
+        if (++tracks == 1) {
+            EXPECT_TRUE(m_scripts->flush());
+        } else {
+            std::filesystem::rename(m_folder.pathOf("library.xml"), m_folder.pathOf("away.xml"));
+        }
+    };
+    const DeleteReport report = deleteMarked(list);
+
+    ASSERT_THAT(report.outcomes, SizeIs(2));
+    EXPECT_EQ(outcomeText(report.outcomes[0]), "deleted, file trashed");
+    EXPECT_EQ(outcomeText(report.outcomes[1]), "failed, file kept: the library was not written");
+    EXPECT_THAT(m_events, ElementsAre("deleteAddCount", "deleteAddCount", "deleteCancel"));
+    EXPECT_FALSE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("b.mp3")));
+    EXPECT_EQ(test::contentOf(m_folder.pathOf("away.xml")), test::withoutTracks(m_text, {100}));
+}
+
+TEST_F(EmbeddedDeletionTest, ADeletionThatCannotBeginTouchesNothing) {
+    writeLibrary({"a.mp3", "a2.mp3"});
+    DisplayedList list = search(2);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    const auto other = CleanupLock::acquire(m_folder.pathOf("library.xml"), {"delete", {}});
+    ASSERT_TRUE(other);
+    EmbeddedScripting::Options options;
+    options.library.lockTimeout = {};
+    m_scripts =
+        std::make_unique<EmbeddedScripting>(m_folder.pathOf("library.xml"), m_desktop, m_files, options);
+    const DeleteReport report = deleteMarked(list);
+    EXPECT_THAT(report.notBegun, testing::HasSubstr("another Songsweep"));
+    ASSERT_THAT(report.outcomes, SizeIs(1));
+    EXPECT_EQ(outcomeText(report.outcomes[0]), "not attempted");
+    EXPECT_THAT(m_events, ElementsAre("deleteCancel"));
+    EXPECT_THAT(list.rows, SizeIs(2));
+    EXPECT_EQ(m_trash.trashed, 0);
+    EXPECT_EQ(libraryText(), m_text);
+}
+
+TEST_F(EmbeddedDeletionTest, TheLibraryIsLockedUntilTheLastFileHasGone) {
+    writeLibrary({"a.mp3", "a2.mp3"});
+    DisplayedList list = search(2);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    const auto isLocked = [this] {
+        return !CleanupLock::acquire(m_folder.pathOf("library.xml"), {"delete", {}});
+    };
+    bool wasLocked = false;
+    m_trash.beforeMove = [&] { wasLocked = isLocked(); };
+    EXPECT_TRUE(deleteMarked(list).allDealtWith());
+    EXPECT_TRUE(wasLocked);
+    EXPECT_FALSE(isLocked());
+}
+
+TEST_F(EmbeddedDeletionTest, AFileThatWasWrittenMeanwhileStays) {
+    writeLibrary({"a.mp3", "a2.mp3"});
+    DisplayedList list = search(2);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    m_onEvent = [&](EventName name) {
+        if (name == EventName::deleteAddCount) m_folder.write("a.mp3", "another sound");
+    };
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(1));
+    EXPECT_EQ(outcomeText(report.outcomes[0]), "deleted, file kept: it is not the file any more that it was");
+    EXPECT_EQ(test::contentOf(m_folder.pathOf("a.mp3")), "another sound");
 }
 
 } // namespace

@@ -31,7 +31,7 @@ TEST_F(EmbeddedLibraryTest, WhatIsLeftIsWrittenAtTheEnd) {
 
 TEST_F(EmbeddedLibraryTest, TheWriterWritesByItself) {
     using namespace std::chrono_literals;
-    open(manyTracks(3), {1ms, 1ms, 1h});
+    open(manyTracks(3), {1ms, 1ms});
     run(test::deleteTrackText(persistentIdOf(0)));
     // The writer has no other way to tell; a hang ends at the test's own limit.
     while (m_scripts->pendingDeletions() > 0)
@@ -53,16 +53,16 @@ TEST_F(EmbeddedLibraryTest, AFailedWriteKeepsItsReasonAndForgetsItsDeletions) {
     EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 4);
 }
 
-TEST_F(EmbeddedLibraryTest, EveryDeletionRunKeepsABackup) {
+TEST_F(EmbeddedLibraryTest, EveryCleanupKeepsABackup) {
     open(manyTracks(4));
-    ASSERT_TRUE(m_scripts->beginDeletionRun());
+    ASSERT_TRUE(beginCleanup());
     run(test::deleteTrackText(persistentIdOf(0)));
-    ASSERT_TRUE(m_scripts->flush());
+    ASSERT_TRUE(finishCleanup());
     const std::string first = m_scripts->backup();
     EXPECT_EQ(contentOf(first), manyTracks(4));
-    ASSERT_TRUE(m_scripts->beginDeletionRun());
+    ASSERT_TRUE(beginCleanup());
     run(test::deleteTrackText(persistentIdOf(1)));
-    ASSERT_TRUE(m_scripts->flush());
+    ASSERT_TRUE(finishCleanup());
     EXPECT_NE(m_scripts->backup(), first);
     EXPECT_EQ(LibraryDocument::open(m_scripts->backup()).value()->trackCount(), 3);
 }
@@ -71,17 +71,17 @@ TEST_F(EmbeddedLibraryTest, NoDeletionBeginsWhereAnEarlierOneCannotBeWritten) {
     open(manyTracks(3));
     run(test::deleteTrackText(persistentIdOf(0)));
     ASSERT_EQ(::unlink(m_path.c_str()), 0);
-    const auto begun = m_scripts->beginDeletionRun();
+    const auto begun = beginCleanup();
     ASSERT_FALSE(begun);
     EXPECT_EQ(begun.error().code, Error::Code::notFound);
     m_folder.write("library.xml", manyTracks(3));
-    EXPECT_TRUE(m_scripts->beginDeletionRun());
+    EXPECT_TRUE(beginCleanup());
     EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 3);
 }
 
 TEST_F(EmbeddedLibraryTest, NoDeletionBeginsInALibraryThatIsRefused) {
     open("<plist>\n<dict>\n<key>Tracks</key>\n<dict>\n</array>");
-    const auto begun = m_scripts->beginDeletionRun();
+    const auto begun = beginCleanup();
     ASSERT_FALSE(begun);
     EXPECT_EQ(begun.error().message, "line 5: </array> stands where </dict> is due");
 }

@@ -38,7 +38,7 @@ class EmbeddedScriptingFaultsTest : public testing::Test {
     EmbeddedScriptingFaultsTest() {
         EmbeddedScripting::Options options;
         options.library.lockTimeout = std::chrono::milliseconds(1);
-        options.writes = {std::chrono::hours(1), std::chrono::hours(1), std::chrono::hours(1)};
+        options.writes = {std::chrono::hours(1), std::chrono::hours(1)};
         options.writeFailed = [this](const Error& error) { m_told.push_back(error.message); };
         m_scripts = std::make_unique<EmbeddedScripting>(m_path, m_desktop, m_files, options);
     }

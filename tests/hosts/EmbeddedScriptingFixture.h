@@ -20,8 +20,7 @@
 namespace songsweep::test {
 
 /// Times that no test reaches: what is written is written by a call.
-inline constexpr WriteSchedule::Times never{std::chrono::hours(1), std::chrono::hours(1),
-                                            std::chrono::hours(1)};
+inline constexpr WriteSchedule::Times never{std::chrono::hours(1), std::chrono::hours(1)};
 
 /// The embedded iTunes and Finder over a library in a folder of their own, and what a test asks them.
 class EmbeddedScriptingFixture : public testing::Test {
@@ -53,6 +52,22 @@ class EmbeddedScriptingFixture : public testing::Test {
     std::string failure(const std::string& source) {
         const auto result = m_scripts->executeAndReturnError(source);
         return result ? "(no failure)" : result.error().message;
+    }
+
+    Result<void> beginCleanup() {
+        return m_scripts->withCleanup([](LibraryCleanup& cleanup) { return cleanup.begin({"a test"}); });
+    }
+    Result<void> finishCleanup() {
+        return m_scripts->withCleanup([](LibraryCleanup& cleanup) { return cleanup.finish(); });
+    }
+    bool beginTrack(const std::string& id) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.beginTrack(id); });
+    }
+    bool hasTrack(const std::string& id) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.hasTrack(id); });
+    }
+    std::optional<Result<TrashedFile>> fateOfFile(const std::string& path) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.fateOfFile(path); });
     }
 
     /// Another program's new version takes the library's place.

@@ -31,22 +31,8 @@ TEST(WriteSchedule, WritesEveryThirtySecondsInALongDeletion) {
     EXPECT_EQ(schedule.due(), Time(61s));
 }
 
-TEST(WriteSchedule, AFailedWriteIsTriedAgainLater) {
-    WriteSchedule schedule;
-    schedule.changed(Time(10s));
-    schedule.failed(Time(12s));
-    EXPECT_EQ(schedule.due(), Time(42s));
-    schedule.changed(Time(13s));
-    EXPECT_EQ(schedule.due(), Time(42s));
-    schedule.changed(Time(50s));
-    EXPECT_EQ(schedule.due(), Time(42s));
-    schedule.written();
-    schedule.changed(Time(60s));
-    EXPECT_EQ(schedule.due(), Time(62s));
-}
-
 TEST(WriteSchedule, TakesOtherTimes) {
-    WriteSchedule schedule({1s, 5s, 7s});
+    WriteSchedule schedule({1s, 5s});
     schedule.changed(Time(0s));
     schedule.changed(Time(4500ms));
     EXPECT_EQ(schedule.due(), Time(5s));
