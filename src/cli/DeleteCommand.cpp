@@ -68,7 +68,8 @@ ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output&
 } // namespace
 
 ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
-    LibrarySession session(options, version);
+    using Purpose = LibrarySession::Purpose;
+    LibrarySession session(options, version, options.dryRun ? Purpose::look : Purpose::cleanUp);
     if (const auto problem = session.search()) return *problem;
     if (const auto problem = markByRule(session, options)) return *problem;
     const int lost = groupsLosingEveryCopy(session.controller().tableDataSource().rows);

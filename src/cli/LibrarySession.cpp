@@ -27,9 +27,10 @@ std::string listOf(const std::vector<PlaylistInfo>& playlists) {
 
 } // namespace
 
-LibrarySession::LibrarySession(const FindOptions& options, const std::string& version)
+LibrarySession::LibrarySession(const FindOptions& options, const std::string& version, Purpose purpose)
     : m_options(options)
     , m_version(version)
+    , m_purpose(purpose)
     , m_view({.readFailed = [this] { m_controller->cancelformButtonClick(); },
               .surveyed = [this] { m_loop.quit(); }})
     , m_interrupts([this] { interrupt(); }) {}
@@ -83,14 +84,26 @@ std::optional<std::string> LibrarySession::prepare() {
     if (!log) return log.error().message;
     m_log = std::move(log).value();
     m_interrupts.setFirstAct([log = m_log] { log->endSoon(); });
-    m_program = std::make_unique<Program>(
-        ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion, m_version}, *m_log);
+    m_program =
+        std::make_unique<Program>(ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion,
+                                                 m_version, "the command delete"},
+                                  *m_log);
     if (const Result<void> read = m_program->scripting().readLibrary(); !read)
         return withPath(read.error().message);
+    if (auto problem = lockLibrary()) return problem;
     if (auto problem = choosePlaylist()) return problem;
     m_controller = std::make_unique<AppController>(m_program->controllerServices(), m_view.views());
     m_controller->awakeFromNib();
     return std::nullopt;
+}
+
+/// From before the search on, so that nobody else removes the copies that are to stay. What else is in the
+/// way is told if there is something to delete.
+std::optional<std::string> LibrarySession::lockLibrary() {
+    if (m_purpose == Purpose::look) return std::nullopt;
+    const Result<void> locked = m_program->cleanup().lock();
+    if (locked || locked.error().code != Error::Code::busy) return std::nullopt;
+    return locked.error().message;
 }
 
 /// The library's own playlist unless one was named; a name is compared as the readers do.

@@ -24,7 +24,9 @@ namespace songsweep::cli {
 /// thread, under a QCoreApplication.
 class LibrarySession {
   public:
-    LibrarySession(const FindOptions& options, const std::string& version);
+    enum class Purpose { look, cleanUp }; ///< whether nobody else may clean up the library meanwhile
+
+    LibrarySession(const FindOptions& options, const std::string& version, Purpose purpose = Purpose::look);
 
     /// Searches. The exit code of what went wrong, told on standard error; nothing on success.
     std::optional<ExitCode> search();
@@ -48,6 +50,7 @@ class LibrarySession {
   private:
     void warn();
     std::optional<std::string> prepare();
+    std::optional<std::string> lockLibrary();
     std::optional<std::string> choosePlaylist();
     void runUntilIdle();
     void waitForSurvey();
@@ -57,6 +60,7 @@ class LibrarySession {
 
     FindOptions m_options;
     std::string m_version;
+    Purpose m_purpose;
     ConsoleView m_view;
     QEventLoop m_loop;
     bool m_interrupted = false;
