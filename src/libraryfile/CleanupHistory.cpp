@@ -50,7 +50,7 @@ void markRestored(std::vector<CleanupSummary>& cleanups) {
 
 } // namespace
 
-std::string CleanupSummary::name() const { return withoutExtension(nameOf(path)); }
+std::string cleanupName(const std::string& recordPath) { return withoutExtension(nameOf(recordPath)); }
 
 Result<std::vector<CleanupSummary>> cleanupsOf(const std::string& library) {
     std::error_code error;

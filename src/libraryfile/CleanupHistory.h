@@ -8,6 +8,9 @@
 
 namespace songsweep {
 
+/// The name by which a user calls the clean-up of that record: its own without folder and extension.
+std::string cleanupName(const std::string& recordPath);
+
 /// What a list of clean-ups shows of one of them.
 struct CleanupSummary {
     std::string path; ///< of the record
@@ -16,8 +19,8 @@ struct CleanupSummary {
     bool hasBackup = false;       ///< the backup still lies beside the record
     bool isRestored = false;      ///< a later restore of it has come to its end
 
-    /// The name by which a user calls it: that of the record without folder and extension.
-    std::string name() const;
+    /// The name by which a user calls it.
+    std::string name() const { return cleanupName(path); }
 };
 
 /// The clean-ups and restores of a library, by the records beside it, the newest first. Reads the beginning

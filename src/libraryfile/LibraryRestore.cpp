@@ -56,7 +56,7 @@ Result<void> LibraryRestore::State::planNow() {
 
 Result<void> LibraryRestore::State::prepare() {
     if (auto planned = planNow(); !planned) return planned;
-    if (plan->trackCount() == 0) return {};
+    if (plan->trackCount() == 0 && wanted.ownBackup == OwnBackup::forEntries) return {};
     return transaction.prepare(present->file, present->index.stamp, sizeOf(plan->pieces()));
 }
 
@@ -98,6 +98,8 @@ LibraryRestore::LibraryRestore(std::unique_ptr<State> state)
     : m_state(std::move(state)) {}
 LibraryRestore::LibraryRestore(LibraryRestore&& other) noexcept = default;
 LibraryRestore::~LibraryRestore() = default;
+
+const std::string& LibraryRestore::library() const { return m_state->transaction.library(); }
 
 std::string LibraryRestore::backup() const {
     const auto& backup = m_state->transaction.backup();

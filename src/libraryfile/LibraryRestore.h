@@ -4,6 +4,7 @@
 #include "libraryfile/LibraryTransaction.h"
 #include "libraryfile/Restoration.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,9 +22,14 @@ namespace songsweep {
 ///     auto written = restore.value().write();
 class LibraryRestore {
   public:
+    /// When the library is backed up before it is restored: where entries go back, or also where only files
+    /// will, so that their record has a place.
+    enum class OwnBackup : std::uint8_t { forEntries, always };
+
     struct Wanted {
         std::string backup; ///< path
         std::vector<RecordedTrack> tracks;
+        OwnBackup ownBackup = OwnBackup::forEntries;
     };
 
     /// What becomes of each wanted track.
@@ -37,14 +43,16 @@ class LibraryRestore {
     static Result<Outcome> foresee(const std::string& library, const Wanted& wanted);
 
     /// Locks the library, makes a backup of it, tries the replacing and reserves the room; nothing is
-    /// restored yet. Makes no backup where there is nothing to bring back.
+    /// restored yet. Makes no backup where there is nothing to bring back, unless one is wanted always.
     static Result<LibraryRestore> begin(const std::string& library, Wanted wanted,
                                         const CleanupLock::Request& request);
 
     LibraryRestore(LibraryRestore&& other) noexcept;
     ~LibraryRestore();
 
-    /// The backup of the library before the restore, "" where there is nothing to bring back.
+    /// The library's path without links.
+    const std::string& library() const;
+    /// The backup of the library before the restore, "" where none was made.
     std::string backup() const;
     /// The stamp of the library that it is a copy of.
     FileStamp version() const;

@@ -23,8 +23,7 @@ struct RecordedTrack {
     bool operator==(const RecordedTrack&) const = default;
 };
 
-/// Where a file lies in the Trash: the Trash's folder, the one that holds "files" and "info", and its name
-/// there.
+/// Where a file lies in the Trash, as the Trash tells it: the folder that it lies in, and its name there.
 struct TrashPlace {
     std::string folder;
     std::string name;

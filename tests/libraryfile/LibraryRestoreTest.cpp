@@ -97,6 +97,16 @@ TEST_F(LibraryRestoreTest, TwiceMakesNoBackupAndChangesNothing) {
     EXPECT_EQ(contentOf(m_path), m_whole);
 }
 
+TEST_F(LibraryRestoreTest, MakesABackupForFilesAlone) {
+    ASSERT_EQ(restore(m_path, m_wanted), "");
+    m_wanted.ownBackup = LibraryRestore::OwnBackup::always;
+    auto again = LibraryRestore::begin(m_path, m_wanted, {"a test"});
+    ASSERT_TRUE(again) << again.error().message;
+    EXPECT_EQ(contentOf(again.value().backup()), m_whole);
+    ASSERT_TRUE(again.value().write());
+    EXPECT_EQ(contentOf(m_path), m_whole);
+}
+
 TEST_F(LibraryRestoreTest, IsLocked) {
     const auto lock = CleanupLock::acquire(m_path, {"a window"});
     ASSERT_TRUE(lock);
