@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/ConfirmationTexts.h"
 
-#include <cmath>
+#include "library/ValueFormats.h"
 
 namespace songsweep::confirmationTexts {
 
@@ -86,9 +86,7 @@ QString warning(const DeleteConfirmationFacts& facts) {
 }
 
 QString megabytes(std::int64_t bytes) {
-    constexpr double bytesPerMegabyte = 1048576;
-    const double tenths = std::floor(static_cast<double>(bytes) / bytesPerMegabyte * 10 + 1);
-    return QString::asprintf("%.1f MB", tenths / 10);
+    return QString::fromStdString(songsweep::megabytes(static_cast<std::uint64_t>(bytes)));
 }
 
 } // namespace songsweep::confirmationTexts

@@ -35,6 +35,11 @@ std::int32_t heldTo32Bits(std::int64_t value) {
     return static_cast<std::int32_t>(value);
 }
 
+std::string inMegabytes(double figure) {
+    char text[32];
+    return {text, static_cast<std::size_t>(std::snprintf(text, sizeof text, "%.1f MB", figure))};
+}
+
 /// At least two digits, behind the sign.
 std::string twoDigits(int number) {
     if (number < 0) return '-' + twoDigits(-number);
@@ -86,9 +91,15 @@ std::optional<std::int64_t> wholeNumber(std::string_view text) {
 
 std::string sizestring(std::int32_t bytes) {
     // 1.0 and not 0.5: the figure is rounded up by one tenth.
-    char text[32];
-    const double megabytes = std::floor(bytes / 1048576.0 * 10 + 1.0) / 10;
-    return {text, static_cast<std::size_t>(std::snprintf(text, sizeof text, "%.1f MB", megabytes))};
+    return inMegabytes(std::floor(bytes / 1048576.0 * 10 + 1.0) / 10);
+}
+
+std::string megabytes(std::uint64_t bytes) {
+    return inMegabytes(std::floor(static_cast<double>(bytes) / 1048576.0 * 10 + 1.0) / 10);
+}
+
+std::string counted(std::size_t count, std::string_view noun) {
+    return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");
 }
 
 std::string sizestring(const TrackRecord& record) {

@@ -3,6 +3,7 @@
 
 #include "library/TrackRecord.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -28,6 +29,12 @@ std::optional<std::int64_t> wholeNumber(std::string_view text);
 std::string sizestring(std::int32_t bytes);
 /// The record's size for display, "" where the library gave none.
 std::string sizestring(const TrackRecord& record);
+
+/// A sum of file sizes, in the same form.
+std::string megabytes(std::uint64_t bytes);
+
+/// "1 file", "3 files", "0 files": a count before a noun that takes an "s".
+std::string counted(std::size_t count, std::string_view noun);
 
 /// Seconds since 1970 UTC of a library date ("2009-03-14T15:09:26Z"); nothing where it is none.
 std::optional<std::int64_t> parseLibraryDate(std::string_view text);

@@ -11,6 +11,18 @@
 namespace songsweep {
 namespace {
 
+TEST(Megabytes, AreWrittenLikeASizeAndKnowNoLimit) {
+    EXPECT_EQ(megabytes(0), "0.1 MB");
+    EXPECT_EQ(megabytes(5'242'880), sizestring(5'242'880));
+    EXPECT_EQ(megabytes(10'737'418'240), "10240.1 MB");
+}
+
+TEST(Counted, KnowsTheSingular) {
+    EXPECT_EQ(counted(0, "file"), "0 files");
+    EXPECT_EQ(counted(1, "file"), "1 file");
+    EXPECT_EQ(counted(12, "clean-up"), "12 clean-ups");
+}
+
 TEST(SecToTime, ShowsMinutesAndSeconds) {
     EXPECT_EQ(SecToTime(0), "0:00");
     EXPECT_EQ(SecToTime(187000), "3:07");
