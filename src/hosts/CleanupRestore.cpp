@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "hosts/CleanupRestore.h"
+
+#include "hosts/FileReturn.h"
+#include "hosts/RestoreRun.h"
+#include "libraryfile/CleanupHistory.h"
+#include "libraryfile/CleanupRecord.h"
+#include "libraryfile/LibraryRestore.h"
+
+#include <unordered_set>
+#include <utility>
+
+namespace songsweep {
+
+namespace {
+
+/// Where a clean-up was killed, nothing tells which tracks the written library was without.
+bool isWanted(const RecordedCleanup::Track& track, const RecordedCleanup& cleanup) {
+    if (track.outcome) return track.outcome->track == RecordedOutcome::Track::deleted;
+    return track.trash || (!cleanup.end && cleanup.writesBegun > 0);
+}
+
+RestoreReport reportFor(const RecordedCleanup& cleanup, const LibraryRestore::Outcome& outcome,
+                        const std::vector<FileReturn>& files) {
+    RestoreReport report;
+    for (const RecordedCleanup::Track& track : cleanup.tracks)
+        report.tracks.push_back({track.plan, {}, {}, {}});
+    report.setEntries(outcome);
+    report.setFiles(files, RestoredTrack::File::putBack);
+    return report;
+}
+
+/// Takes the tracks out of the clean-up whose files are lost; a second track of one file has no fate of its
+/// own.
+std::vector<RestoredTrack> takeOutLost(RecordedCleanup& cleanup, Trash& trash) {
+    const std::vector<FileReturn> files = lookForFiles(cleanup, trash);
+    std::unordered_set<std::string> lost;
+    for (std::size_t i = 0; i < files.size(); ++i)
+        if (files[i].fate == FileReturn::Fate::isGone) lost.insert(cleanup.tracks[i].plan.path);
+    std::vector<RestoredTrack> leftOut;
+    std::erase_if(cleanup.tracks, [&](const RecordedCleanup::Track& track) {
+        if (!lost.contains(track.plan.path)) return false;
+        leftOut.push_back({track.plan, RestoredTrack::Entry::leftOut, {}, {}});
+        leftOut.back().setFileGone();
+        return true;
+    });
+    return leftOut;
+}
+
+LibraryRestore::Wanted wantedOf(const RecordedCleanup& cleanup) {
+    LibraryRestore::Wanted wanted{cleanup.heading.backup, {}, LibraryRestore::OwnBackup::always};
+    for (const RecordedCleanup::Track& track : cleanup.tracks)
+        wanted.tracks.push_back(track.plan);
+    return wanted;
+}
+
+RecordHeading headingOf(const LibraryRestore& restore, const RecordedCleanup& cleanup,
+                        const std::string& program) {
+    RecordHeading heading;
+    heading.kind = RecordHeading::Kind::restore;
+    heading.program = program;
+    heading.library = restore.library();
+    heading.backup = restore.backup();
+    heading.version = restore.version();
+    heading.tracks = cleanup.tracks.size();
+    heading.withFiles = cleanup.heading.withFiles;
+    heading.isNarrowed = restore.isNarrowed();
+    heading.restores = cleanupName(cleanup.path);
+    return heading;
+}
+
+} // namespace
+
+CleanupRestore::CleanupRestore(std::string library, RecordedCleanup cleanup, Trash& trash,
+                               LostFiles lostFiles)
+    : m_library(std::move(library))
+    , m_cleanup(std::move(cleanup))
+    , m_trash(trash) {
+    std::erase_if(m_cleanup.tracks, [this](const auto& track) { return !isWanted(track, m_cleanup); });
+    if (lostFiles == LostFiles::tracksStayAway) m_leftOut = takeOutLost(m_cleanup, trash);
+}
+
+RestoreReport CleanupRestore::withLeftOut(RestoreReport report) const {
+    report.tracks.insert(report.tracks.end(), m_leftOut.begin(), m_leftOut.end());
+    return report;
+}
+
+Result<RestoreReport> CleanupRestore::foresee() const {
+    const auto outcome = LibraryRestore::foresee(m_library, wantedOf(m_cleanup));
+    if (!outcome) return outcome.error();
+    return withLeftOut(reportFor(m_cleanup, outcome.value(), lookForFiles(m_cleanup, m_trash)));
+}
+
+Result<RestoreReport> CleanupRestore::carryOut(const Task& task) const {
+    auto restore = LibraryRestore::begin(m_library, wantedOf(m_cleanup), {task.purpose});
+    if (!restore) return restore.error();
+    const std::vector<FileReturn> files = lookForFiles(m_cleanup, m_trash);
+    auto record = CleanupRecord::create(headingOf(restore.value(), m_cleanup, task.program));
+    if (!record) return record.error();
+    RestoreRun run(restore.value(), record.value(), m_trash,
+                   reportFor(m_cleanup, restore.value().expected(), files));
+    if (const Result<void> planned = run.plan(); !planned) return planned.error();
+    return withLeftOut(run.carryOut(files, task));
+}
+
+} // namespace songsweep

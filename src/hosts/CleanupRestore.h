@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hosts/RestoreReport.h"
+#include "platform/Result.h"
+#include "platform/Trash.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace songsweep {
+
+/// What comes of a track whose file is neither at its place nor in the Trash.
+enum class LostFiles : std::uint8_t { tracksComeBack, tracksStayAway };
+
+/// Takes a clean-up back: its tracks go into the library again, then its files come from the Trash.
+///
+/// The library first, because a track whose file is missing is told by every program, and a file without a
+/// track by none. Locked, backed up and recorded like the clean-up itself, so that a kill at any moment
+/// leaves nothing that the next restore does not bring back. What is there already is left alone, and nothing
+/// is written over. Only tracks that were deleted come back, and where the clean-up was killed all it may
+/// have deleted. Blocks for as long as two rewrites of the library and the moves take; any thread.
+///
+///     CleanupRestore restore(library, std::move(record), desktop.trash());
+///     auto foreseen = restore.foresee();
+///     auto done = restore.carryOut({.program = "Songsweep 1.0", .purpose = "the command restore"});
+class CleanupRestore {
+  public:
+    /// Who restores, and how that is followed.
+    struct Task {
+        std::string program; ///< named in the record
+        std::string purpose; ///< told to others who find the library locked
+        /// Asked before the library is written and before each file.
+        std::function<bool()> isCancelled = [] { return false; };
+        /// Told before each file: how many tracks and files are done, of how many.
+        std::function<void(std::size_t done, std::size_t all)> progress = [](std::size_t, std::size_t) {};
+    };
+
+    CleanupRestore(std::string library, RecordedCleanup cleanup, Trash& trash,
+                   LostFiles lostFiles = LostFiles::tracksComeBack);
+
+    /// What would come back now, and what cannot. Changes nothing and needs no lock.
+    Result<RestoreReport> foresee() const;
+
+    /// An error where nothing was begun.
+    Result<RestoreReport> carryOut(const Task& task) const;
+
+  private:
+    RestoreReport withLeftOut(RestoreReport report) const;
+
+    std::string m_library;
+    RecordedCleanup m_cleanup;            // with the tracks that are wanted
+    std::vector<RestoredTrack> m_leftOut; // those that are not, though the clean-up took them
+    Trash& m_trash;
+};
+
+} // namespace songsweep

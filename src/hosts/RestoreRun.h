@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "hosts/CleanupRestore.h"
+#include "libraryfile/CleanupRecord.h"
+#include "platform/Trash.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace songsweep {
+
+/// The steps of one restore that has begun, each written down before it is done: entries, files, outcomes.
+class RestoreRun {
+  public:
+    RestoreRun(LibraryRestore& restore, CleanupRecord& record, Trash& trash, RestoreReport report);
+
+    /// Writes down what is planned; nothing is done after an error.
+    Result<void> plan();
+
+    RestoreReport carryOut(const std::vector<FileReturn>& files, const CleanupRestore::Task& task);
+
+  private:
+    bool writeEntries();
+    void moveFiles(const std::vector<FileReturn>& files, const CleanupRestore::Task& task);
+    void moveFile(std::size_t track, const TrashedFile& place);
+    void fail(const Error& error);
+    void writeOutcomes();
+
+    LibraryRestore& m_restore;
+    CleanupRecord& m_record;
+    Trash& m_trash;
+    RestoreReport m_report;
+};
+
+} // namespace songsweep
