@@ -33,8 +33,8 @@ void nameApplication(const std::string& version) {
 /// Qt ends the process with a core dump where it reaches no display, and says much on the way there.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
     if (type != QtFatalMsg) return;
-    std::fputs("songsweep: no display can be reached for the window; songsweep find, mark, delete and script "
-               "do without one\n",
+    std::fputs("songsweep: no display can be reached for the window; songsweep find, mark, delete, restore "
+               "and script do without one\n",
                stderr);
     std::_Exit(EXIT_FAILURE);
 }

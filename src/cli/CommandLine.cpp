@@ -71,6 +71,16 @@ std::string checkFormat(const std::string& text) {
     return "'" + text + "' is none of text, json, csv";
 }
 
+void addFormat(CLI::App& command, OutputFormat& format) {
+    command
+        .add_option_function<std::string>(
+            "--format", [&format](const std::string& name) { format = formatNamed(name); },
+            "text, json or csv")
+        ->check(checkFormat)
+        ->type_name("FORMAT")
+        ->default_str("text");
+}
+
 void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
     addLibraryOptions(command, raw, " REQUIRED");
     addVerbose(command, raw);
@@ -87,13 +97,7 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
         ->type_name("NAME");
     command.add_flag("--ignore-missing", options.parameters.isignoredead,
                      "Leave out tracks whose files are missing");
-    command
-        .add_option_function<std::string>(
-            "--format", [&options](const std::string& name) { options.format = formatNamed(name); },
-            "text, json or csv")
-        ->check(checkFormat)
-        ->type_name("FORMAT")
-        ->default_str("text");
+    addFormat(command, options.format);
     command.add_option("--output", options.output, "Write the result to a file")->type_name("FILE");
 }
 
@@ -127,6 +131,24 @@ void addDeleteOptions(CLI::App& command, DeleteOptions& options, Raw& raw) {
     command.add_flag("--allow-all-copies", options.allowAllCopies, "Let a group lose every copy");
 }
 
+void addRestoreOptions(CLI::App& command, RestoreOptions& options, Raw& raw) {
+    addLibraryOptions(command, raw, " REQUIRED");
+    addVerbose(command, raw);
+    auto* const list = command.add_flag("--list", options.list, "Print the clean-ups beside the library");
+    command.add_option("--cleanup", options.cleanup, "Which one (default: the newest that is not restored)")
+        ->type_name("NAME")
+        ->excludes(list);
+    auto* const dryRun =
+        command.add_flag("--dry-run", options.dryRun, "Say what would come back and touch nothing");
+    command.add_flag("--yes", options.yes, "Restore")->excludes(dryRun)->excludes(list);
+    dryRun->excludes(list);
+    command
+        .add_flag("--leave-lost", options.leaveLost,
+                  "Leave out tracks whose files are no longer in the Trash")
+        ->excludes(list);
+    addFormat(command, options.format);
+}
+
 void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
     options = raw.library;
     for (const std::string& map : raw.maps) {
@@ -136,9 +158,13 @@ void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
     }
 }
 
-void finishFindOptions(FindOptions& options, const Raw& raw) {
+void finishOptionsOfNamedLibrary(LibraryOptions& options, const Raw& raw) {
     finishLibraryOptions(options, raw);
     if (options.library.empty()) throw CLI::RequiredError("--library");
+}
+
+void finishFindOptions(FindOptions& options, const Raw& raw) {
+    finishOptionsOfNamedLibrary(options, raw);
     for (const std::string& field : raw.same) {
         options.parameters.issamename |= field == "name";
         options.parameters.issameartist |= field == "artist";
@@ -193,6 +219,12 @@ void checkDeleteOptions(const DeleteOptions& options) {
         throw CLI::ValidationError("delete needs --dry-run, to see what would happen, or --yes");
 }
 
+void checkRestoreOptions(const RestoreOptions& options) {
+    if (!options.list && !options.dryRun && !options.yes)
+        throw CLI::ValidationError(
+            "restore needs --list, or --dry-run, to see what would come back, or --yes");
+}
+
 /// An option that counts on both sides of the command is given on one of them.
 void checkGivenOnce(const CLI::App& app, const CLI::App& command) {
     for (const char* name : {"--library", "--itunes-version", "--log"})
@@ -222,10 +254,12 @@ struct Parser {
     FindOptions find;
     MarkOptions mark;
     DeleteOptions remove;
+    RestoreOptions restore;
     ScriptOptions script;
     CLI::App* findCommand = app.add_subcommand("find", "Print the duplicate groups of a library");
     CLI::App* markCommand = app.add_subcommand("mark", "Print what a rule would mark, changing nothing");
     CLI::App* deleteCommand = app.add_subcommand("delete", "Delete what a rule marks");
+    CLI::App* restoreCommand = app.add_subcommand("restore", "Bring back what was deleted");
     CLI::App* scriptCommand = app.add_subcommand("script", "Run an AppleScript text over a library");
 };
 
@@ -238,6 +272,7 @@ Parser::Parser(const std::string& version) {
     addFindOptions(*findCommand, find, raw);
     addMarkOptions(*markCommand, mark, raw);
     addDeleteOptions(*deleteCommand, remove, raw);
+    addRestoreOptions(*restoreCommand, restore, raw);
     addLibraryOptions(*scriptCommand, raw);
     addVerbose(*scriptCommand, raw);
     scriptCommand->add_option("file", script.file, "The text's file, or - for standard input")
@@ -268,6 +303,12 @@ Command Parser::command() {
         checkMarkOptions(remove);
         checkDeleteOptions(remove);
         return remove;
+    }
+    if (*restoreCommand) {
+        finishOptionsOfNamedLibrary(restore, raw);
+        checkTarget("--log", restore.log, restore);
+        checkRestoreOptions(restore);
+        return restore;
     }
     if (*scriptCommand) {
         finishLibraryOptions(script, raw);

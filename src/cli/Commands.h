@@ -16,6 +16,7 @@ class LibrarySession;
 ExitCode runFind(const FindOptions& options, const std::string& version);
 ExitCode runMark(const MarkOptions& options, const std::string& version);
 ExitCode runDelete(const DeleteOptions& options, const std::string& version);
+ExitCode runRestore(const RestoreOptions& options, const std::string& version);
 ExitCode runScript(const ScriptOptions& options, const std::string& version);
 
 /// Marks what a search found by the rule that the options name; its folder is turned into the library's

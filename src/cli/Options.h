@@ -55,6 +55,16 @@ struct DeleteOptions : MarkOptions {
     bool allowAllCopies = false; ///< a group may lose every copy
 };
 
+/// The options of `restore`: the list, or one clean-up and whether it is really taken back.
+struct RestoreOptions : LibraryOptions {
+    bool list = false;
+    std::string cleanup; ///< its name; empty for the newest that is not restored
+    bool dryRun = false;
+    bool yes = false;
+    bool leaveLost = false; ///< tracks whose files are gone for good stay away
+    OutputFormat format = OutputFormat::text;
+};
+
 /// The options of `script`.
 struct ScriptOptions : LibraryOptions {
     std::string file; ///< "-" for standard input

@@ -33,7 +33,7 @@ TEST_F(Usage, TellsTheVersion) {
 TEST_F(Usage, TellsEveryCommandAndOption) {
     const RunResult result = run({"--help"});
     EXPECT_EQ(result.exitCode, 0);
-    for (const char* word : {"find", "mark", "delete", "script"})
+    for (const char* word : {"find", "mark", "delete", "restore", "script"})
         EXPECT_THAT(result.output, HasSubstr(word));
     const std::string help = run({"find", "--help"}).output;
     for (const char* word : {"--library", "--same", "--playlist", "--ignore-missing", "--format", "--output",
@@ -112,8 +112,8 @@ TEST_F(Usage, NamesTheCommandsWhereThereIsNoDisplay) {
     const RunResult result = run({"--library", library()});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.errors,
-              "songsweep: no display can be reached for the window; songsweep find, mark, delete and "
-              "script do without one\n");
+              "songsweep: no display can be reached for the window; songsweep find, mark, delete, "
+              "restore and script do without one\n");
 }
 
 TEST_F(Usage, TellsWhereItLookedForALibrary) {

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "cli/RestoreCommand.h"
+
+#include "cli/CleanupTable.h"
+#include "cli/Commands.h"
+#include "cli/Output.h"
+#include "cli/RestoreOutput.h"
+#include "hosts/CleanupRestore.h"
+#include "platform/Native.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace songsweep::cli {
+
+namespace {
+
+bool isCleanup(const CleanupSummary& cleanup) { return cleanup.heading.kind == RecordHeading::Kind::cleanup; }
+
+/// What a clean-up that took nothing away leaves to do.
+bool tookNothing(const CleanupSummary& cleanup) { return cleanup.end && cleanup.end->tracks == 0; }
+
+/// A user may copy the name from the list, or give the file of the record or of the backup.
+bool isCalled(const CleanupSummary& cleanup, const std::string& name) {
+    const std::filesystem::path file = std::filesystem::path(name).filename();
+    return cleanup.name() == name || std::filesystem::path(cleanup.path).filename() == file ||
+           std::filesystem::path(cleanup.heading.backup).filename() == file;
+}
+
+} // namespace
+
+RestoreCommand::RestoreCommand(const RestoreOptions& options, const std::string& version)
+    : m_options(options)
+    , m_version(version)
+    , m_desktop(nativeDesktop())
+    , m_interrupts([] {}) {}
+
+ExitCode RestoreCommand::run() {
+    Result<std::unique_ptr<CommandLog>> log = CommandLog::open(m_options);
+    if (!log) return fail(log.error().message);
+    m_log = std::move(log).value();
+    Result<std::vector<CleanupSummary>> all = cleanupsOf(m_options.library);
+    if (!all) return fail(all.error().message);
+    std::vector<CleanupSummary> cleanups = std::move(all).value();
+    std::erase_if(cleanups, [](const CleanupSummary& cleanup) { return !isCleanup(cleanup); });
+    // Opened first, so that nothing is done whose outcome cannot be told.
+    Result<Output> output = Output::open({});
+    if (!output) return fail(output.error().message);
+    if (m_options.list) return list(output.value(), cleanups);
+    const Result<CleanupSummary> cleanup = chosen(cleanups);
+    return cleanup ? restore(output.value(), cleanup.value()) : fail(withPath(cleanup.error().message));
+}
+
+ExitCode RestoreCommand::list(Output& output, const std::vector<CleanupSummary>& cleanups) {
+    writeCleanups(output, cleanups, m_options.format);
+    const Result<void> written = output.finish();
+    return written ? ExitCode::done : failToWrite(written.error());
+}
+
+Result<CleanupSummary> RestoreCommand::chosen(const std::vector<CleanupSummary>& cleanups) const {
+    const auto found = std::find_if(cleanups.begin(), cleanups.end(), [this](const CleanupSummary& cleanup) {
+        if (!m_options.cleanup.empty()) return isCalled(cleanup, m_options.cleanup);
+        return !cleanup.isRestored && !tookNothing(cleanup);
+    });
+    if (found != cleanups.end()) return *found;
+    if (m_options.cleanup.empty())
+        return Error{Error::Code::notFound, "there is no clean-up that could be restored; --list shows all"};
+    return Error{Error::Code::notFound,
+                 "there is no clean-up '" + m_options.cleanup + "'; --list shows those that are there"};
+}
+
+ExitCode RestoreCommand::restore(Output& output, const CleanupSummary& cleanup) {
+    Result<RecordedCleanup> record = RecordedCleanup::read(cleanup.path);
+    if (!record) return fail(record.error().message);
+    const CleanupRestore restore(m_options.library, std::move(record).value(), m_desktop->trash(),
+                                 m_options.leaveLost ? LostFiles::tracksStayAway : LostFiles::tracksComeBack);
+    Result<RestoreReport> report = restore.foresee();
+    if (!report) return fail(withPath(report.error().message));
+    // Nothing to do is recorded once, so that a clean-up whose restore was killed at its end is settled too.
+    const bool isSettled = cleanup.isRestored && !report.value().hasWork();
+    if (m_interrupts.heard()) return ExitCode::interrupted;
+    if (m_options.yes && !isSettled)
+        report = restore.carryOut({.program = "Songsweep " + m_version,
+                                   .purpose = "the command restore",
+                                   .isCancelled = [this] { return m_interrupts.heard(); }});
+    if (!report) return fail(withPath(report.error().message));
+    return tellOutcome(output, {cleanup.name(), report.value(), m_options.dryRun});
+}
+
+ExitCode RestoreCommand::tellOutcome(Output& output, const NamedRestore& restore) {
+    const RestoreReport& report = restore.report;
+    if (!report.backup.empty()) m_log->line("The library as it was before: " + report.backup);
+    if (!report.record.empty()) m_log->line("What was done: " + report.record);
+    writeRestore(output, restore, m_options.format);
+    if (const Result<void> written = output.finish(); !written) return fail(written.error().message);
+    if (report.end == RestoreReport::End::failed) return fail(withPath(report.problem));
+    if (report.end == RestoreReport::End::cancelled) return ExitCode::interrupted;
+    return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
+}
+
+ExitCode runRestore(const RestoreOptions& options, const std::string& version) {
+    return RestoreCommand(options, version).run();
+}
+
+} // namespace songsweep::cli

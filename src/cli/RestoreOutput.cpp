@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "cli/RestoreOutput.h"
+
+#include "cli/Csv.h"
+#include "cli/Output.h"
+#include "library/ValueFormats.h"
+#include "platform/FileUrl.h"
+#include "platform/TerminalText.h"
+#include "platform/Utf8.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <string_view>
+
+namespace songsweep::cli {
+
+namespace {
+
+using Entry = RestoredTrack::Entry;
+using File = RestoredTrack::File;
+
+std::string_view wordOf(Entry entry) {
+    constexpr std::string_view words[] = {"restored", "there already", "failed", "not attempted", "left out"};
+    return words[static_cast<std::size_t>(entry)];
+}
+
+std::string_view wordOf(File file) {
+    constexpr std::string_view words[] = {"not asked", "put back", "there already", "missing",
+                                          "kept",      "failed",   "not attempted"};
+    return words[static_cast<std::size_t>(file)];
+}
+
+std::string sentence(Entry entry, bool dryRun) {
+    if (entry == Entry::restored) return dryRun ? "would be restored" : "was restored";
+    if (entry == Entry::isThere) return "is in the library already";
+    if (entry == Entry::failed) return "cannot be restored";
+    return entry == Entry::leftOut ? "is left out" : "was not attempted";
+}
+
+std::string sentence(File file, bool dryRun) {
+    if (file == File::putBack) return dryRun ? ", its file would be put back" : ", its file was put back";
+    if (file == File::isThere) return ", its file is there already";
+    return file == File::notAttempted ? ", its file was not attempted" : "";
+}
+
+/// A name may hold line breaks.
+std::string lineOf(const RestoredTrack& track, bool dryRun) {
+    std::string line = "Track " + track.plan.name + " by " + track.plan.artist + " (" +
+                       track.plan.persistentId + ") " + sentence(track.entry, dryRun) +
+                       sentence(track.file, dryRun);
+    if (!track.reason.empty()) line += ": " + track.reason;
+    if (!track.plan.path.empty()) line += ", " + track.plan.path;
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return line;
+}
+
+std::string summary(const NamedRestore& restore) {
+    const RestoreReport& report = restore.report;
+    std::string line = restore.dryRun ? "Would restore " : "Restored ";
+    line += std::to_string(report.entries()) + " of " + counted(report.tracks.size(), "track") + " of \"" +
+            restore.cleanup + "\", " + counted(report.files(), "file") + " put back";
+    const auto left = std::count_if(report.tracks.begin(), report.tracks.end(),
+                                    [](const RestoredTrack& track) { return !track.dealtWith(); });
+    if (left > 0)
+        line += ", " + counted(static_cast<std::size_t>(left), "track") + " not dealt with as asked";
+    return line;
+}
+
+void writeText(Output& output, const NamedRestore& restore) {
+    const auto write = [&](const std::string& line) {
+        output.write((output.isTerminal() ? terminalLine(line) : line) + "\n");
+    };
+    for (const RestoredTrack& track : restore.report.tracks)
+        write(lineOf(track, restore.dryRun));
+    for (const std::string& note : restore.report.notes)
+        write("Note: " + note);
+    write(summary(restore));
+    if (!restore.report.backup.empty()) write("The library as it was before: " + restore.report.backup);
+    if (!restore.report.record.empty()) write("What was done: " + restore.report.record);
+}
+
+/// A path that is not UTF-8 is told once more as a URL.
+nlohmann::ordered_json jsonOf(const RestoredTrack& track) {
+    nlohmann::ordered_json object;
+    object["pid"] = track.plan.persistentId;
+    object["name"] = track.plan.name;
+    object["artist"] = track.plan.artist;
+    object["location"] = track.plan.path;
+    if (!isUtf8(track.plan.path)) object["locationurl"] = fileUrl(track.plan.path);
+    object["track"] = wordOf(track.entry);
+    object["file"] = wordOf(track.file);
+    object["reason"] = track.reason;
+    object["dealtwith"] = track.dealtWith();
+    return object;
+}
+
+void writeJson(Output& output, const NamedRestore& restore) {
+    nlohmann::ordered_json whole;
+    whole["dryrun"] = restore.dryRun;
+    whole["cleanup"] = restore.cleanup;
+    whole["backup"] = restore.report.backup;
+    whole["record"] = restore.report.record;
+    whole["notes"] = restore.report.notes;
+    whole["outcomes"] = nlohmann::ordered_json::array();
+    for (const RestoredTrack& track : restore.report.tracks)
+        whole["outcomes"].push_back(jsonOf(track));
+    output.write(whole.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
+}
+
+void writeCsv(Output& output, const RestoreReport& report) {
+    output.write("pid,name,artist,location,track,file,reason,dealtwith\r\n");
+    for (const RestoredTrack& track : report.tracks) {
+        std::string row;
+        for (const std::string& field :
+             {track.plan.persistentId, track.plan.name, track.plan.artist, track.plan.path,
+              std::string(wordOf(track.entry)), std::string(wordOf(track.file)), track.reason})
+            row += csvField(field) + ",";
+        output.write(row + csvTruth(track.dealtWith()) + "\r\n");
+    }
+}
+
+} // namespace
+
+void writeRestore(Output& output, const NamedRestore& restore, OutputFormat format) {
+    switch (format) {
+    case OutputFormat::text:
+        return writeText(output, restore);
+    case OutputFormat::json:
+        return writeJson(output, restore);
+    case OutputFormat::csv:
+        return writeCsv(output, restore.report);
+    }
+}
+
+} // namespace songsweep::cli
