@@ -47,7 +47,8 @@ class Look {
         const std::string& path = track.plan.path;
         if (path.empty() || (!track.trash && !wasUnderWay(track))) return {};
         if (!m_seen.insert(path).second) return {};
-        if (isThere(path) && isThatFile(path, track.plan.file)) return {Fate::isThere, {}};
+        if (isThere(path) && isThatFile(path, track.plan.file))
+            return {Fate::isThere, track.trash ? trashedFile(*track.trash) : TrashedFile()};
         const std::optional<TrashedFile> place = placeOf(track);
         if (!place) return {isThere(path) && !track.trash ? Fate::none : Fate::isGone, {}};
         if (isThere(path)) return {Fate::isOccupied, {}};
@@ -55,12 +56,14 @@ class Look {
     }
 
   private:
+    static TrashedFile trashedFile(const TrashPlace& place) { return {place.folder, place.name}; }
+
     /// Nothing tells whether it went: the program was killed meanwhile.
     static bool wasUnderWay(const RecordedCleanup::Track& track) { return track.begun && !track.outcome; }
 
     std::optional<TrashedFile> placeOf(const RecordedCleanup::Track& track) {
         if (!track.trash) return m_trash.findInTrash(track.plan.path, m_begin);
-        const TrashedFile place{track.trash->folder, track.trash->name};
+        const TrashedFile place = trashedFile(*track.trash);
         if (isThere(place.path()) && isThatFile(place.path(), track.plan.file)) return place;
         return std::nullopt;
     }

@@ -67,6 +67,7 @@ RestoreReport RestoreRun::carryOut(const std::vector<FileReturn>& files, const C
         m_report.end = End::cancelled;
     else if (writeEntries())
         moveFiles(files, task);
+    forgetMoved(files);
     writeOutcomes();
     return std::move(m_report);
 }
@@ -118,6 +119,13 @@ void RestoreRun::moveFile(std::size_t index, const TrashedFile& place) {
     if (moved.error().code == Error::Code::notFound) return track.setFileGone();
     if (moved.error().code == Error::Code::alreadyExists) return track.setFileOccupied();
     track.setFile(File::failed, "its file stays in the Trash: " + moved.error().message);
+}
+
+/// A program that was killed in the middle of a move left its file in its place and a record in the Trash.
+void RestoreRun::forgetMoved(const std::vector<FileReturn>& files) {
+    for (std::size_t track = 0; track < files.size(); ++track)
+        if (files[track].fate == FileReturn::Fate::isThere && !files[track].place.name.empty())
+            (void)m_trash.restoreFromTrash(files[track].place, m_report.tracks[track].plan.path);
 }
 
 void RestoreRun::fail(const Error& error) {

@@ -24,6 +24,7 @@ class RestoreRun {
     bool writeEntries();
     void moveFiles(const std::vector<FileReturn>& files, const CleanupRestore::Task& task);
     void moveFile(std::size_t track, const TrashedFile& place);
+    void forgetMoved(const std::vector<FileReturn>& files);
     void fail(const Error& error);
     void writeOutcomes();
 

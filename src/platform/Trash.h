@@ -63,7 +63,7 @@ class Trash {
 
     /// Moves the file from the Trash to the path that it came from; missing folders are made. The error is
     /// `notFound` only where the Trash does not hold that path's file (any more), and `alreadyExists` where
-    /// something has the path. On an error everything is as it was.
+    /// something has the path. On an error everything is as it was, but that a record without its file goes.
     virtual Result<RestoredFile> restoreFromTrash(const TrashedFile& file, const std::string& path) = 0;
 
     /// The file of that path that went to the Trash last, but not before that time (give or take two seconds,

@@ -151,6 +151,13 @@ TEST_F(Restore, LeavesAFileThatWasBroughtBackByHand) {
     expectAllBack();
 }
 
+TEST_F(Restore, HasTheTrashForgetAFileThatIsBack) {
+    deleteTracks();
+    fs::rename(path(inTrash(1)), path(fileName(1))); // as far as a restore came that was killed
+    EXPECT_EQ(restore({"--yes"}).exitCode, 0);
+    expectAllBack();
+}
+
 TEST_F(Restore, TwiceDoesNoHarm) {
     const std::string name = deleteTracks();
     ASSERT_EQ(restore({"--yes"}).exitCode, 0);

@@ -121,6 +121,17 @@ TEST_F(TrashReturnTest, AFileThatLeftTheTrashIsAnErrorOfItsOwn) {
     EXPECT_EQ(restored.error().code, Error::Code::notFound);
 }
 
+TEST_F(TrashReturnTest, ARecordWhoseFileIsGoneGoesTooUnlessItIsAnotherFiles) {
+    const std::string path = m_folder.write("one/a.mp3", "music");
+    const TrashedFile file = trash(path);
+    fs::rename(file.path(), path);
+    EXPECT_FALSE(m_trash.restoreFromTrash(file, m_folder.path() + "/two/a.mp3"));
+    EXPECT_TRUE(fs::exists(record(file)));
+    EXPECT_EQ(m_trash.restoreFromTrash(file, path).error().code, Error::Code::notFound);
+    EXPECT_FALSE(fs::exists(record(file)));
+    EXPECT_EQ(contentsOf(path), "music");
+}
+
 TEST_F(TrashReturnTest, AnotherFileOfThatNameDoesNotComeInItsPlace) {
     const std::string path = m_folder.write("one/a.mp3", "music");
     const TrashedFile file = trash(path);

@@ -69,7 +69,11 @@ class Newest {
 Result<RestoredFile> LinuxTrash::restoreFromTrash(const TrashedFile& file, const std::string& path) {
     if (!path.starts_with('/')) return Error{Error::Code::invalid, "Not an absolute path"};
     const TrashFolder folder = trashFolderOf(file);
-    if (!isThere(file.path())) return Error{Error::Code::notFound, path + " is not in the Trash any more"};
+    if (!isThere(file.path())) {
+        // Left by a program that was killed between the two steps below.
+        if (folder.isRecorded(file.name, path)) ::unlink(folder.recordOf(file.name).c_str());
+        return Error{Error::Code::notFound, path + " is not in the Trash any more"};
+    }
     if (!folder.isRecorded(file.name, path))
         return Error{Error::Code::notFound, file.path() + " is not what " + path + " was"};
     MadeFolders made;
