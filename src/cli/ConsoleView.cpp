@@ -29,6 +29,9 @@ void ConsoleView::tellReadError(const ReadError& error) {
 
 void ConsoleView::setTableVisible(bool visible) { m_hasResults = visible; }
 
-void ConsoleView::updateDeleteConfirmation(const DeleteConfirmationFacts&) { m_handlers.surveyed(); }
+void ConsoleView::updateDeleteConfirmation(const DeleteConfirmationFacts& facts) {
+    m_deleteFacts = facts;
+    m_handlers.surveyed();
+}
 
 } // namespace songsweep::cli

@@ -8,6 +8,7 @@
 #include "app/views/ResultsView.h"
 #include "app/views/SearchView.h"
 #include "cli/ConsoleProgress.h"
+#include "delete/DeleteConfirmationFacts.h"
 
 #include <functional>
 #include <optional>
@@ -34,6 +35,8 @@ class ConsoleView final : public ApplicationView, public SearchView, public Resu
     bool hasResults() const { return m_hasResults; }
     /// Why the search has none, nothing where nobody told.
     const std::optional<std::string>& searchProblem() const { return m_searchProblem; }
+    /// What the delete confirmation says.
+    const DeleteConfirmationFacts& deleteFacts() const { return m_deleteFacts; }
     /// Why the deletion did not begin; nothing where it did.
     const std::optional<std::string>& deletionProblem() const { return m_deletionProblem; }
 
@@ -41,6 +44,7 @@ class ConsoleView final : public ApplicationView, public SearchView, public Resu
     void alertCantBeginDelete(const std::string& reason) override;
     void tellReadError(const ReadError& error) override;
     void setTableVisible(bool visible) override;
+    void beginDeleteConfirmation(const DeleteConfirmationFacts& facts) override { m_deleteFacts = facts; }
     void updateDeleteConfirmation(const DeleteConfirmationFacts& facts) override;
 
   private:
@@ -49,6 +53,7 @@ class ConsoleView final : public ApplicationView, public SearchView, public Resu
     ConsoleProgress m_deleting;
     ConsoleProgress m_searching;
     bool m_hasResults = false;
+    DeleteConfirmationFacts m_deleteFacts;
     std::optional<std::string> m_searchProblem;
     std::optional<std::string> m_deletionProblem;
 };

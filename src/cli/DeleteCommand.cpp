@@ -24,14 +24,25 @@ std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& optio
     return std::nullopt;
 }
 
+/// By what is on the disk now, where files go; the search may have been long ago.
+std::optional<ExitCode> refuseToLoseSongs(const DeleteOptions& options,
+                                          const DeleteConfirmationFacts& facts) {
+    if (!options.files || options.allowAllCopies || facts.groupsLosingEveryFile == 0) return std::nullopt;
+    return fail(refusal(facts.groupsLosingEveryFile));
+}
+
 ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& output) {
     const auto& rows = session.controller().tableDataSource().rows;
-    DeletePlan plan;
+    std::optional<DeletePlan> plan = DeletePlan();
+    DeleteConfirmationFacts facts;
     if (options.files)
-        plan = makeDeletePlan(rows, session.program().files(),
-                              session.program().controllerServices().libraryLocations);
-    if (options.sharedFiles) plan.giveUpSharedFiles();
-    const DeleteReport report = predictedReport(rows, options.files, plan);
+        plan = surveyFiles(SurveyedRows(rows), session.program().files(),
+                           session.program().controllerServices().libraryLocations, facts,
+                           [&] { return session.interrupts().heard(); });
+    if (!plan) return ExitCode::interrupted;
+    if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
+    if (options.sharedFiles) plan->giveUpSharedFiles();
+    const DeleteReport report = predictedReport(rows, options.files, *plan);
     return writeReportTo(output, options, report)
         .value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);
 }
@@ -53,6 +64,8 @@ bool allAttempted(const DeleteReport& report) {
 }
 
 ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output& output) {
+    const DeleteConfirmationFacts& facts = session.askToDelete(options.files);
+    if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
     const bool completed = session.deleteMarked(options.files, !options.sharedFiles);
     const Result<void> written = session.writeLibrary();
     const DeleteReport report = reportOf(session.controller());

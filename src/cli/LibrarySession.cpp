@@ -126,11 +126,15 @@ std::optional<std::string> LibrarySession::choosePlaylist() {
     return withPath("there is no playlist '" + *chosen + "'" + listOf(playlists.value()));
 }
 
+const DeleteConfirmationFacts& LibrarySession::askToDelete(bool deleteFiles) {
+    m_controller->deleteButtonClick();
+    if (deleteFiles && m_controller->getCheckedCount() > 0) waitForSurvey();
+    return m_view.deleteFacts();
+}
+
 bool LibrarySession::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
     if (m_controller->getCheckedCount() == 0) return true;
     m_interrupts.setLastAct([this] { endDeletionAtOnce(); });
-    m_controller->deleteButtonClick();
-    if (deleteFiles) waitForSurvey();
     QCoreApplication::processEvents(); // Ctrl-C may have come while tracks were marked
     if (m_interrupted) {
         m_controller->delConfCancelButtonClick();

@@ -31,7 +31,10 @@ class LibrarySession {
     /// Searches. The exit code of what went wrong, told on standard error; nothing on success.
     std::optional<ExitCode> search();
 
-    /// Deletes the tracks that are marked. False when it was interrupted. Write the library afterwards.
+    /// What the confirmation says of deleting the marked tracks; with files, once they were looked at.
+    const DeleteConfirmationFacts& askToDelete(bool deleteFiles);
+
+    /// Says yes to it, and deletes them. False when it was interrupted. Write the library afterwards.
     bool deleteMarked(bool deleteFiles, bool leaveSharedFiles);
 
     /// Why the deletion did not begin; nothing where it did.

@@ -79,9 +79,11 @@ QString missingLine(const DeleteConfirmationFacts& facts) {
                   QStringLiteral("%1 files are missing already."));
 }
 
-QString warning(const DeleteConfirmationFacts& facts) {
-    if (facts.groupsLosingEveryCopy == 0) return {};
-    return worded(facts.groupsLosingEveryCopy, QStringLiteral("No copy of 1 song will be left."),
+QString warning(const DeleteConfirmationFacts& facts, bool withFiles) {
+    const int lost =
+        withFiles && !facts.filesPending ? facts.groupsLosingEveryFile : facts.groupsLosingEveryCopy;
+    if (lost == 0) return {};
+    return worded(lost, QStringLiteral("No copy of 1 song will be left."),
                   QStringLiteral("No copy of %1 songs will be left."));
 }
 

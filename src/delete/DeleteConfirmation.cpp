@@ -25,6 +25,7 @@ DeleteConfirmation::DeleteConfirmation(QWidget* parent)
     , m_ui(std::make_unique<Ui::DeleteConfirmation>()) {
     m_ui->setupUi(this);
     setUpButtons();
+    reserveRoomOfWarning();
     connect(m_ui->delConfFileCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
     connect(m_ui->delConfSharedCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
     setFacts({});
@@ -66,6 +67,12 @@ void DeleteConfirmation::setUpButtons() {
             [this] { Q_EMIT deleteRequested(deletesFiles(), leavesSharedFiles()); });
 }
 
+void DeleteConfirmation::reserveRoomOfWarning() {
+    QSizePolicy policy = m_ui->delConfWarning->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_ui->delConfWarning->setSizePolicy(policy);
+}
+
 void DeleteConfirmation::updateHeading() {
     const bool some = m_facts.tracks > 0;
     m_ui->delConfHeadingLabel->setText(confirmationTexts::heading(m_facts));
@@ -77,9 +84,6 @@ void DeleteConfirmation::updateHeading() {
 #ifdef Q_OS_MACOS
     m_deleteButton->setShortcut(Qt::CTRL | Qt::Key_D); // there are no mnemonics; a new text takes it away
 #endif
-    const QString warning = confirmationTexts::warning(m_facts);
-    m_ui->delConfWarningLabel->setText(warning);
-    m_ui->delConfWarning->setVisible(!warning.isEmpty());
     setAccessibleDescription(m_ui->delConfHeadingLabel->text() + QChar::Space +
                              m_ui->delConfTextLabel->text());
 }
@@ -87,6 +91,7 @@ void DeleteConfirmation::updateHeading() {
 void DeleteConfirmation::updateLines() {
     const bool shared = leavesSharedFiles();
     const bool waits = deletesFiles() && m_facts.filesPending;
+    showWarning(confirmationTexts::warning(m_facts, deletesFiles()));
     m_deleteButton->setEnabled(!waits);
     if (!deletesFiles()) {
         showLines(confirmationTexts::filesStayLine(m_facts), {}, {});
@@ -105,6 +110,11 @@ void DeleteConfirmation::showLines(const QString& trash, const QString& shared, 
     showLine(m_ui->delConfTrashLabel, trash);
     showLine(m_ui->delConfSharedCK, shared);
     showLine(m_ui->delConfMissingLabel, missing);
+}
+
+void DeleteConfirmation::showWarning(const QString& text) {
+    showLive(*m_ui->delConfWarningLabel, text);
+    m_ui->delConfWarning->setVisible(!text.isEmpty());
 }
 
 } // namespace songsweep

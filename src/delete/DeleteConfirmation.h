@@ -19,8 +19,9 @@ class DeleteConfirmation;
 ///
 /// Return and Escape both cancel; deleting needs a deliberate key or click. Whether files go to the Trash is
 /// kept from one confirmation to the next; leaving files that other tracks use is on again each time. The
-/// room of the lines about files is reserved, so that nothing moves when the box is switched or when the
-/// files have been looked at; until then files cannot be deleted, but tracks can. Main thread.
+/// room of the lines about files and of the warning is reserved, so that nothing moves when the box is
+/// switched or when the files have been looked at; until then files cannot be deleted, but tracks can. Main
+/// thread.
 class DeleteConfirmation : public QDialog {
     Q_OBJECT
 
@@ -45,8 +46,10 @@ class DeleteConfirmation : public QDialog {
 
   private:
     void setUpButtons();
+    void reserveRoomOfWarning();
     void updateHeading();
     void updateLines();
+    void showWarning(const QString& text);
     void showLines(const QString& trash, const QString& shared, const QString& missing);
 
     std::unique_ptr<Ui::DeleteConfirmation> m_ui;

@@ -6,18 +6,28 @@
 #include "delete/MarkedFiles.h"
 #include "delete/MarkedIds.h"
 #include "delete/Obstacles.h"
+#include "delete/TrackFacts.h"
+#include "delete/WorkingCopy.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace songsweep {
 
 namespace {
 
+template <class List>
+auto at(const List& list, std::size_t place) {
+    return list.begin() + static_cast<std::ptrdiff_t>(place);
+}
+
 /// One look at all files; each step ends early, and the plan is worth nothing, once it is stopped.
 class Survey {
   public:
     Survey(const SurveyedRows& rows, const Files& files, const std::function<bool()>& isStopped)
         : m_rows(rows)
+        , m_files(files)
         , m_isStopped(isStopped)
         , m_entries(files)
         , m_markedFiles(files) {}
@@ -43,6 +53,19 @@ class Survey {
             shareAll();
     }
 
+    void lookAtCopiesThatStay(DeleteConfirmationFacts& facts) {
+        facts.groupsLosingEveryFile = 0;
+        std::size_t marked = 0;
+        std::size_t other = 0;
+        for (const SurveyedRows::Song& song : m_rows.songs) {
+            const bool losesFile = anyFileGoes(marked, song.markedEnd);
+            const bool isLost = losesFile ? !anyCopyStays(other, song.othersEnd) : song.losesEveryCopy;
+            facts.groupsLosingEveryFile += isLost ? 1 : 0;
+            marked = song.markedEnd;
+            other = song.othersEnd;
+        }
+    }
+
     void count(DeleteConfirmationFacts& facts) const {
         facts.missingFiles = static_cast<int>(m_rows.marked.size() - m_plan.files.size());
         facts.libraryUnknown = m_plan.libraryUnknown;
@@ -52,6 +75,21 @@ class Survey {
     DeletePlan plan() && { return std::move(m_plan); }
 
   private:
+    bool anyFileGoes(std::size_t first, std::size_t end) const {
+        const auto goes = [this](const SurveyedRows::Track& track) {
+            const auto file = m_plan.files.find(track.record);
+            return file != m_plan.files.end() && !file->second.obstacle && !trackObstacle(track.pid);
+        };
+        return std::any_of(at(m_rows.marked, first), at(m_rows.marked, end), goes);
+    }
+
+    bool anyCopyStays(std::size_t first, std::size_t end) const {
+        const auto stays = [this](const SurveyedRows::Other& copy) {
+            return !m_isStopped() && !m_ids.contains(copy.pid) && isWorkingCopy(m_files, copy.location);
+        };
+        return std::any_of(at(m_rows.others, first), at(m_rows.others, end), stays);
+    }
+
     /// False where the survey is stopped.
     bool lookAtOther(const std::string& path) {
         if (m_isStopped()) return false;
@@ -67,6 +105,7 @@ class Survey {
     }
 
     const SurveyedRows& m_rows;
+    const Files& m_files;
     const std::function<bool()>& m_isStopped;
     MarkedIds m_ids;
     MarkedEntries m_entries;
@@ -82,11 +121,17 @@ void DeletePlan::giveUpSharedFiles() {
 
 SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept)
     : storage(std::move(kept)) {
-    for (const TrackRecord* const record : rows) {
-        if (record->checkbox) marked.push_back({record, record->pid, record->location});
-        if (!record->checkbox || trackObstacle(record->pid))
-            others.push_back({record->pid, record->location});
+    const MarkedIds ids = markedIdsOf(rows);
+    for (const RowGroup group : groupsOf(rows)) {
+        for (std::size_t row = group.first; row < group.end; ++row)
+            add(*rows[row]);
+        songs.push_back({marked.size(), others.size(), losesEveryCopy(rows, group, ids)});
     }
+}
+
+void SurveyedRows::add(const TrackRecord& record) {
+    if (record.checkbox) marked.push_back({&record, record.pid, record.location});
+    if (!record.checkbox || trackObstacle(record.pid)) others.push_back({record.pid, record.location});
 }
 
 std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& files,
@@ -95,15 +140,10 @@ std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& fil
     Survey survey(rows, files, isStopped);
     survey.lookAtMarked();
     survey.lookAtOthers(locations);
+    survey.lookAtCopiesThatStay(facts);
     if (isStopped()) return std::nullopt;
     survey.count(facts);
     return std::move(survey).plan();
-}
-
-DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
-                          const LibraryLocations& locations) {
-    DeleteConfirmationFacts ignored;
-    return surveyFiles(SurveyedRows(rows), files, locations, ignored, [] { return false; }).value();
 }
 
 } // namespace songsweep

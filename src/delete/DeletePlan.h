@@ -48,7 +48,8 @@ struct DeletePlan {
 /// What a look at the files needs of the rows, taken from them at one moment.
 ///
 /// The records are keys and never read through, so that another thread may look at the files while the rows
-/// change; the texts are those of the storage, which is kept. 24 bytes a marked row, 16 any other.
+/// change; the texts are those of the storage, which is kept. 24 bytes a marked row or a group, 16 any other
+/// row.
 struct SurveyedRows {
     struct Track {
         const TrackRecord* record;
@@ -59,29 +60,38 @@ struct SurveyedRows {
         Text pid;
         Text location;
     };
+    /// The copies of one song: those of both lists before these places and behind those of the song before.
+    struct Song {
+        std::size_t markedEnd = 0;
+        std::size_t othersEnd = 0;
+        bool losesEveryCopy = false; ///< by what the search saw
+    };
 
     explicit SurveyedRows(const std::vector<TrackRecord*>& rows,
                           std::shared_ptr<const TrackStorage> kept = nullptr);
+    void add(const TrackRecord& record);
 
     std::vector<Track> marked;
     std::vector<Other> others; ///< with the marked ones that cannot be deleted
+    std::vector<Song> songs;   ///< every group, in the order of the rows
     std::shared_ptr<const TrackStorage> storage;
 };
 
 /// Looks at the files of the marked rows, and at those of all other tracks of the library; completes the
 /// facts by the counts of files.
 ///
+/// Of a group that loses a file, the copies that are to stay are looked at again, whatever the search saw:
+/// one of them must be a regular file, not empty, and readable, or the group counts as losing every file. A
+/// group whose marked files are all missing already loses none, and is judged as the search saw it.
+///
 /// Two paths are one file when their canonical paths are equal, or their device and inode, where the link
 /// count is above one or size and modification time agree, too. Linear in the rows and the library: one look
-/// at the file system for each track. Without `locations` the library is not known, and the rows that are not
-/// marked stand for it. A track without a persistent ID stays, since nothing can name it, and so does its
-/// file. Nothing where `isStopped`, asked before each look, says so. Any thread.
+/// at the file system for each track, and two for each copy that is to stay. Without `locations` the library
+/// is not known, and the rows that are not marked stand for it. A track without a persistent ID stays, since
+/// nothing can name it, and so does its file. Nothing where `isStopped`, asked before each look, says so. Any
+/// thread.
 std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& files,
                                       const LibraryLocations& locations, DeleteConfirmationFacts& facts,
                                       const std::function<bool()>& isStopped);
-
-/// The plan alone, made at once.
-DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
-                          const LibraryLocations& locations);
 
 } // namespace songsweep

@@ -1,33 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "delete/TrackFacts.h"
 
-#include "delete/MarkedIds.h"
 #include "library/DisplayedList.h"
-#include "library/Groups.h"
 
 #include <algorithm>
 
 namespace songsweep {
 
-namespace {
-
-MarkedIds markedIds(const std::vector<TrackRecord*>& rows) {
+MarkedIds markedIdsOf(const std::vector<TrackRecord*>& rows) {
     MarkedIds ids;
     for (const TrackRecord* const record : rows)
         if (record->checkbox) ids.add(record->pid);
     return ids;
 }
 
-bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group, const MarkedIds& ids) {
+bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group, const MarkedIds& markedIds) {
     const auto first = rows.begin() + static_cast<std::ptrdiff_t>(group.first);
     const auto end = rows.begin() + static_cast<std::ptrdiff_t>(group.end);
     const bool works = std::any_of(first, end, [](const TrackRecord* record) { return !record->isdead; });
-    return std::all_of(first, end, [works, &ids](const TrackRecord* record) {
-        return record->checkbox || (works && record->isdead) || ids.contains(record->pid);
+    return std::all_of(first, end, [works, &markedIds](const TrackRecord* record) {
+        return record->checkbox || (works && record->isdead) || markedIds.contains(record->pid);
     });
 }
-
-} // namespace
 
 DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
     DeleteConfirmationFacts facts;
@@ -37,7 +31,7 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
 }
 
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
-    const MarkedIds ids = markedIds(rows);
+    const MarkedIds ids = markedIdsOf(rows);
     int count = 0;
     for (const RowGroup group : groupsOf(rows))
         count += losesEveryCopy(rows, group, ids) ? 1 : 0;

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "delete/DeleteConfirmationFacts.h"
+#include "delete/MarkedIds.h"
+#include "library/Groups.h"
 #include "library/TrackRecord.h"
 
 #include <vector>
@@ -11,13 +13,18 @@ namespace songsweep {
 /// The facts that no file has to be looked at for: the tracks and the groups. Linear in the rows.
 DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows);
 
-/// The number of groups of which no copy is left.
+/// Whether no copy of the group is left, by what the search saw.
 ///
 /// An entry whose file is missing is no copy while the group has one that works: whoever deletes all that
 /// work, and leaves the empty entry, loses the song. Where none works, as on a drive that is not there, every
 /// entry counts, or nothing could be deleted then. So no group is lost to what the marking rules leave with
 /// except-one, which is a working copy if there is one. An entry with the persistent ID of a marked one is
 /// deleted with it, and so is none that is left.
+bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group, const MarkedIds& markedIds);
+
+/// The number of groups of which no copy is left so.
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
+
+MarkedIds markedIdsOf(const std::vector<TrackRecord*>& rows);
 
 } // namespace songsweep

@@ -4,7 +4,9 @@
 #include "platform/Ascii.h"
 #include "platform/NameForms.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace songsweep {
 
@@ -52,6 +54,14 @@ bool Files::exists(const char* path) const {
 
 std::optional<FileAttributes> Files::attributes(const std::string& path) const {
     return attributesInAnyForm(m_map.map(path).c_str());
+}
+
+bool Files::isReadable(const std::string& path) const {
+    // A pipe is not waited for.
+    const int descriptor = ::open(localPath(path).c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (descriptor < 0) return false;
+    ::close(descriptor);
+    return true;
 }
 
 std::string Files::localPath(const std::string& path) const {

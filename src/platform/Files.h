@@ -46,6 +46,9 @@ class Files {
     /// Nothing where the path names nothing that exists.
     virtual std::optional<FileAttributes> attributes(const std::string& path) const;
 
+    /// Whether this user may read the file there. Opens it and reads nothing.
+    virtual bool isReadable(const std::string& path) const;
+
     /// The local name under which the file exists; the mapped name as written where it does not exist.
     virtual std::string localPath(const std::string& path) const;
 

@@ -28,6 +28,8 @@ class SlowFiles final : public Files {
         return FileAttributes{.size = 1000, .inode = std::hash<std::string>()(path)};
     }
 
+    bool isReadable(const std::string&) const override { return true; }
+
     void goOn() {
         const std::lock_guard lock(m_lock);
         m_goesOn = true;

@@ -228,6 +228,29 @@ TEST_F(MarkAndDelete, RefusesToDeleteEveryCopyOfASong) {
               libraryText({}, {{.name = "Library", .items = {}, .master = true}}));
 }
 
+TEST_F(MarkAndDelete, RefusesToTrashFilesWhoseOtherCopiesAreBroken) {
+    m_folder.write("music/2.mp3", ""); // the one to keep
+    const auto before = tree();
+    for (const char* const end : {"--yes", "--dry-run"}) {
+        const RunResult refused = command("delete", {"--rule", "highest-bitrate", "--files", end});
+        EXPECT_EQ(refused.exitCode, 1) << end;
+        EXPECT_THAT(refused.errors, HasSubstr("no copy of 1 song would be left; nothing was deleted")) << end;
+        EXPECT_EQ(refused.output, "") << end;
+    }
+    EXPECT_EQ(tree(), before);
+    EXPECT_EQ(
+        command("delete", {"--rule", "highest-bitrate", "--files", "--yes", "--allow-all-copies"}).exitCode,
+        0);
+    EXPECT_FALSE(hasFile(1));
+}
+
+TEST_F(MarkAndDelete, LeavesFilesWhoseOtherCopiesAreBrokenWhereTracksGoAlone) {
+    m_folder.write("music/2.mp3", "");
+    EXPECT_EQ(command("delete", {"--rule", "highest-bitrate", "--yes"}).exitCode, 0);
+    EXPECT_EQ(m_folder.read("Library.xml"), libraryText(tracks({2, 4, 5})));
+    EXPECT_TRUE(hasFile(1));
+}
+
 TEST_F(MarkAndDelete, FailsWhereAFileWasKept) {
     fs::create_directories(path("home/data"));
     m_folder.write("home/data/Trash", "in the way of the Trash");

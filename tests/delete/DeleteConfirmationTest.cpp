@@ -172,6 +172,24 @@ TEST_F(DeleteConfirmationTest, WarnsOnlyWhereASongLosesEveryCopy) {
               QStringLiteral("No copy of 2 songs will be left."));
 }
 
+TEST_F(DeleteConfirmationTest, WarnsOfCopiesThatAreFoundBrokenAndDoesNotMove) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(pendingTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    test::open(sheet);
+    const QSize before = sheet.size();
+    DeleteConfirmationFacts facts = threeTracks();
+    facts.groupsLosingEveryFile = 1;
+    sheet.updateFacts(facts);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_TRUE(child<QWidget>(sheet, "delConfWarning").isVisible());
+    EXPECT_EQ(child<QLabel>(sheet, "delConfWarningLabel").text(),
+              QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(sheet.size(), before);
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_FALSE(child<QWidget>(sheet, "delConfWarning").isVisible()) << "the files stay";
+}
+
 TEST_F(DeleteConfirmationTest, SaysThatNothingIsMarkedAndLetsTheDeletionRun) {
     DeleteConfirmation sheet;
     sheet.setFacts({});

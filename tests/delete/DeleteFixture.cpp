@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/DeleteFixture.h"
 
+#include "delete/DeleteConfirmationFacts.h"
 #include "platform/HfsPath.h"
 #include "scripting/interpreter/Lexer.h"
 
@@ -37,6 +38,12 @@ std::string entryOf(std::string_view text) {
 }
 
 } // namespace
+
+DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
+                          const LibraryLocations& locations) {
+    DeleteConfirmationFacts ignored;
+    return surveyFiles(SurveyedRows(rows), files, locations, ignored, [] { return false; }).value();
+}
 
 DeleteFixture::DeleteFixture() {
     m_list.storage = std::make_shared<TrackStorage>();

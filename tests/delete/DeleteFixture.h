@@ -31,6 +31,10 @@ class JournalLog final : public Log {
     std::vector<std::string>& m_journal;
 };
 
+/// The plan alone, made at once.
+DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
+                          const LibraryLocations& locations);
+
 /// A deletion on the main thread, where events are handled as they are posted, over real files.
 ///
 /// The journal holds scripts ("mute", "track PID", "file HFSPATH", "unmute"), events and log lines in their

@@ -3,6 +3,7 @@
 
 #include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeleteFixture.h"
+#include "delete/TrackFacts.h"
 #include "support/BindMount.h"
 
 #include <gmock/gmock.h>
@@ -32,13 +33,15 @@ class DeletePlanTest : public test::DeleteFixture {
         };
     }
     DeletePlan plan(const Others& others, const Files& files) const {
-        return makeDeletePlan(m_list.rows, files, libraryWith(others));
+        return test::makeDeletePlan(m_list.rows, files, libraryWith(others));
     }
     DeletePlan plan(const Others& others = {}) const { return plan(others, m_files); }
+    /// The counts of files; of groups, CopiesThatStay asks.
     DeleteConfirmationFacts facts(const Others& others = {}) const {
         DeleteConfirmationFacts facts;
         const auto isStopped = [] { return false; };
         EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), m_files, libraryWith(others), facts, isStopped));
+        facts.groupsLosingEveryFile = 0;
         return facts;
     }
     /// Whether a survey that is stopped at the n-th time it asks gives a plan.
@@ -124,7 +127,7 @@ TEST_F(DeletePlanTest, AMarkedTrackThatCannotBeDeletedKeepsItsFile) {
     const TrackRecord& b = add(1, "B", true, path("a.mp3"));
     const TrackRecord& c = addFile("", true, "c.mp3");
     EXPECT_THAT(plan().shared, UnorderedElementsAre(&a, &b, &c));
-    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a, &b, &c));
+    EXPECT_THAT(test::makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a, &b, &c));
     EXPECT_EQ(facts(), (DeleteConfirmationFacts{.sharedFiles = 1, .sharedBytes = 5})) << "c stays anyway";
 }
 
@@ -141,7 +144,7 @@ TEST_F(DeletePlanTest, ARowOfAMarkedIdThatIsNotMarkedKeepsItsFile) {
     const LibraryLocations oneEntry = [this](const LocationVisitor& visit) {
         return visit("A", path("a.mp3"));
     };
-    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, UnorderedElementsAre(&a));
+    EXPECT_THAT(test::makeDeletePlan(m_list.rows, m_files, oneEntry).shared, UnorderedElementsAre(&a));
 }
 
 TEST_F(DeletePlanTest, AnEntryOfAMarkedIdElsewhereIsNotTheMarkedOne) {
@@ -156,7 +159,7 @@ TEST_F(DeletePlanTest, AnEntryIsTheMarkedOneUnderAnotherNameOfItsFile) {
     const LibraryLocations oneEntry = [this](const LocationVisitor& visit) {
         return visit("A", path("linked/a.mp3"));
     };
-    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, oneEntry).shared, IsEmpty());
+    EXPECT_THAT(test::makeDeletePlan(m_list.rows, m_files, oneEntry).shared, IsEmpty());
 }
 
 TEST_F(DeletePlanTest, ALibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWanted) {
@@ -167,7 +170,8 @@ TEST_F(DeletePlanTest, ALibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWante
         SurveyedRows(m_list.rows), m_files, [](const LocationVisitor&) { return false; }, facts,
         [] { return false; });
     ASSERT_TRUE(made);
-    EXPECT_EQ(facts, (DeleteConfirmationFacts{.missingFiles = 1, .libraryUnknown = true}));
+    EXPECT_EQ(facts, (DeleteConfirmationFacts{
+                         .missingFiles = 1, .groupsLosingEveryFile = 1, .libraryUnknown = true}));
     made->giveUpSharedFiles();
     EXPECT_THAT(made->shared, UnorderedElementsAre(&a));
 }
@@ -179,17 +183,17 @@ TEST_F(DeletePlanTest, APlanWithoutFilesDoesNotVisitTheLibrary) {
         ++visits;
         return true;
     };
-    makeDeletePlan(m_list.rows, m_files, library);
+    test::makeDeletePlan(m_list.rows, m_files, library);
     EXPECT_EQ(visits, 0);
     addFile("B", true, "b.mp3");
-    makeDeletePlan(m_list.rows, m_files, library);
+    test::makeDeletePlan(m_list.rows, m_files, library);
     EXPECT_EQ(visits, 1);
 }
 
 TEST_F(DeletePlanTest, WithoutALibraryTheUnmarkedRowsStandForIt) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
-    EXPECT_THAT(makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a));
+    EXPECT_THAT(test::makeDeletePlan(m_list.rows, m_files, {}).shared, UnorderedElementsAre(&a));
 }
 
 TEST_F(DeletePlanTest, ALocationThatIsNoPathIsNoFile) {
@@ -237,9 +241,97 @@ TEST_F(DeletePlanTest, AFolderIsNotCountedAsGoingOrMissing) {
 TEST_F(DeletePlanTest, ASurveyThatIsStoppedHasNoPlan) {
     addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");
-    for (int turn = 1; turn <= 4; ++turn) // one for each row, one for each of the library's, at the end
+    // One for each marked row, each of the library's, each copy that stays, and at the end.
+    for (int turn = 1; turn <= 5; ++turn)
         EXPECT_FALSE(answersWhenStoppedAt(turn)) << turn;
-    EXPECT_TRUE(answersWhenStoppedAt(5));
+    EXPECT_TRUE(answersWhenStoppedAt(6));
+}
+
+/// The copies that are to stay, looked at again.
+class CopiesThatStay : public DeletePlanTest {
+  protected:
+    int lost() const { return lost(m_files); }
+    int lost(const Files& files) const {
+        DeleteConfirmationFacts facts;
+        const auto isStopped = [] { return false; };
+        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), files, {}, facts, isStopped));
+        return facts.groupsLosingEveryFile;
+    }
+};
+
+class UnreadableFiles final : public Files {
+  public:
+    bool isReadable(const std::string&) const override { return false; }
+};
+
+TEST_F(CopiesThatStay, AWorkingFileIsEnough) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, path("gone.mp3"));
+    addFile("C", false, "c.mp3");
+    EXPECT_EQ(lost(), 0);
+}
+
+TEST_F(CopiesThatStay, AFileThatWentSinceTheSearchIsNone) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    std::filesystem::remove(path("b.mp3"));
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AnEmptyFileIsNone) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, m_folder.write("b.mp3", ""));
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AFolderIsNone) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, m_folder.path());
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AFileThatCannotBeReadIsNone) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    EXPECT_EQ(lost(UnreadableFiles()), 1);
+}
+
+TEST_F(CopiesThatStay, ATrackWithoutAFileIsNone) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, "msng");
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AreThoseOfTheirOwnGroupAlone) {
+    addFile("A", true, "a.mp3");
+    add(2, "B", true, m_folder.write("b.mp3", "b"));
+    add(2, "C", false, m_folder.write("c.mp3", "c"));
+    add(3, "D", false, m_folder.write("d.mp3", "d"));
+    add(4, "E", true, m_folder.write("e.mp3", "e"));
+    add(4, "F", false, path("gone.mp3"));
+    EXPECT_EQ(lost(), 2);
+}
+
+TEST_F(CopiesThatStay, AMarkedTrackThatCannotBeDeletedIsOne) {
+    addFile("A", true, "a.mp3");
+    addFile("0", true, "b.mp3");
+    EXPECT_EQ(lost(), 0);
+}
+
+TEST_F(CopiesThatStay, AGroupWithoutAFileToLoseIsJudgedAsTheSearchSawIt) {
+    add(1, "A", true, path("gone.mp3")).isdead = true;
+    add(1, "B", false, path("gone too.mp3")).isdead = true;
+    EXPECT_EQ(lost(), 0);
+    add(2, "C", true, path("gone.mp3")).isdead = true;
+    add(2, "D", true, m_folder.path());
+    EXPECT_EQ(lost(), 1) << "a folder stays where it is";
+}
+
+TEST_F(CopiesThatStay, AFileThatCameBackSinceTheSearchIsOne) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3").isdead = true;
+    EXPECT_EQ(groupsLosingEveryCopy(m_list.rows), 1);
+    EXPECT_EQ(lost(), 0);
 }
 
 } // namespace

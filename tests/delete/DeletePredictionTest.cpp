@@ -34,21 +34,21 @@ TEST_F(DeletePredictionTest, TellsWhatBecomesOfTheFilesInEarnest) {
     addFile("E", true, "say \"hi\".mp3");
     add(1, "F", true, path("gone.mp3"));
     add(1, "G", true, m_folder.path());
-    expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
+    expectTheSameInEarnest(test::makeDeletePlan(m_list.rows, m_files, {}));
 }
 
 TEST_F(DeletePredictionTest, TellsWhichTracksStayInEarnest) {
     addFile("AA\"1", true, "a.mp3");
     addFile("0", true, "b.mp3");
     add(1, "", true, path("gone.mp3"));
-    expectTheSameInEarnest(makeDeletePlan(m_list.rows, m_files, {}));
+    expectTheSameInEarnest(test::makeDeletePlan(m_list.rows, m_files, {}));
 }
 
 TEST_F(DeletePredictionTest, TellsThatFilesStayOfALibraryThatCannotBeLookedAt) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("gone.mp3"));
     expectTheSameInEarnest(
-        makeDeletePlan(m_list.rows, m_files, [](const LocationVisitor&) { return false; }));
+        test::makeDeletePlan(m_list.rows, m_files, [](const LocationVisitor&) { return false; }));
     EXPECT_TRUE(exists("a.mp3"));
     EXPECT_EQ(outcomes().front(), "A: deleted, file kept: other tracks that use it could not be looked for");
     EXPECT_FALSE(m_report.allDealtWith());

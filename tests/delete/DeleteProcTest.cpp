@@ -144,7 +144,7 @@ TEST_F(DeleteProcTest, AFolderStaysWithAllThatIsInIt) {
 
 TEST_F(DeleteProcTest, AFolderInThePlaceOfAPlannedFileStays) {
     addFile("A", true, "a.mp3");
-    const DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
+    const DeletePlan plan = test::makeDeletePlan(m_list.rows, m_files, {});
     std::filesystem::remove(path("a.mp3"));
     m_folder.write("a.mp3/b.mp3", "another");
     run(withFiles, plan);
@@ -324,7 +324,7 @@ TEST_F(DeleteProcTest, TheOtherFormOfANameIsAnotherFile) {
 TEST_F(DeleteProcTest, AFileThatIsNotTheOneOfThePlanStays) {
     addFile("A", true, "linked/a.mp3");
     add(1, "B", true, path("new.mp3"));
-    const DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
+    const DeletePlan plan = test::makeDeletePlan(m_list.rows, m_files, {});
     std::filesystem::rename(path("linked"), path("old"));
     m_folder.write("other/a.mp3", "other");
     std::filesystem::create_directory_symlink(path("other"), path("linked"));
@@ -369,7 +369,7 @@ TEST_F(DeleteProcTest, AFileThatATrackUsesThatStaysIsLeft) {
 TEST_F(DeleteProcTest, ASharedFileGoesWhereTheUserWantsIt) {
     addFile("A", true, "a.mp3");
     add(1, "B", false, path("a.mp3"));
-    DeletePlan plan = makeDeletePlan(m_list.rows, m_files, {});
+    DeletePlan plan = test::makeDeletePlan(m_list.rows, m_files, {});
     plan.giveUpSharedFiles();
     run(withFiles, std::move(plan));
     EXPECT_FALSE(exists("a.mp3"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The road from a library file to a smaller one, with the program's own iTunes and Finder.
+#include "delete/DeleteFixture.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
 #include "delete/EmbeddedCleanup.h"
@@ -164,7 +165,7 @@ class EmbeddedDeletionTest : public testing::Test {
         });
         EmbeddedCleanup cleanup(*m_scripts, [] { return true; }, {"a test"});
         DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log, cleanup},
-                   makeDeletePlan(list.rows, m_files, locations))
+                   test::makeDeletePlan(list.rows, m_files, locations))
             .main();
         return report;
     }

@@ -2,6 +2,7 @@
 #include "platform/Files.h"
 
 #include "platform/NameForms.h"
+#include "support/AnotherUser.h"
 #include "support/TemporaryFolder.h"
 
 #include <fcntl.h>
@@ -68,6 +69,29 @@ TEST(Files, TellsTheAttributesOfAFile) {
     EXPECT_EQ(attributes->inode, expected.st_ino);
     EXPECT_EQ(attributes->device, expected.st_dev);
     EXPECT_EQ(attributes->linkCount, 2U);
+}
+
+TEST(Files, KnowsWhetherAFileIsReadable) {
+    const TemporaryFolder folder;
+    const std::string pipe = folder.path() + "/pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const Files files;
+    EXPECT_TRUE(files.isReadable(folder.write("a.mp3", "x")));
+    EXPECT_FALSE(files.isReadable(folder.path() + "/gone.mp3"));
+    EXPECT_TRUE(files.isReadable(pipe)) << "nobody is waited for";
+}
+
+TEST(Files, KnowsThatAFileIsClosedToThisUser) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs to become another user";
+    const TemporaryFolder folder;
+    const std::string closed = folder.write("closed.mp3", "x");
+    const std::string open = folder.write("open.mp3", "x");
+    std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
+    std::filesystem::permissions(closed, std::filesystem::perms(0600));
+    std::filesystem::permissions(open, std::filesystem::perms(0644));
+    const Files files;
+    EXPECT_TRUE(
+        test::holdsForAnotherUser([&] { return files.isReadable(open) && !files.isReadable(closed); }));
 }
 
 TEST(Files, HasNoAttributesOfWhatDoesNotExist) {

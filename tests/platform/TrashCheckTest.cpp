@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "TrashFixture.h"
+#include "support/AnotherUser.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
-#include <functional>
 
 namespace songsweep {
 namespace {
@@ -106,15 +105,6 @@ TEST_F(TrashCheckTest, AFolderThatIsProtected) {
     EXPECT_EQ(std::system(("chattr -i '" + folder + "'").c_str()), 0);
 }
 
-/// Runs as a user who is nobody in particular; the exit code is 0 if all that was checked holds.
-int asAnotherUser(const std::function<bool()>& checks) {
-    const pid_t child = ::fork();
-    if (child == 0) ::_exit(::seteuid(65534) == 0 && checks() ? 0 : 1);
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST_F(TrashCheckTest, FoldersOfOthers) {
     if (::geteuid() != 0) GTEST_SKIP() << "needs to become another user";
     const std::string closed = m_folder.write("closed/a.mp3", "music");
@@ -131,11 +121,10 @@ TEST_F(TrashCheckTest, FoldersOfOthers) {
         const Result<void> foreseen = m_trash.newCheck()->add(path);
         return foreseen ? Error::Code::failed : foreseen.error().code;
     };
-    EXPECT_EQ(asAnotherUser([&] {
-                  return code(closed) == Error::Code::noPermission &&
-                         code(sticky) == Error::Code::noPermission && code(own) == Error::Code::failed;
-              }),
-              0);
+    EXPECT_TRUE(test::holdsForAnotherUser([&] {
+        return code(closed) == Error::Code::noPermission && code(sticky) == Error::Code::noPermission &&
+               code(own) == Error::Code::failed;
+    }));
 }
 
 } // namespace
