@@ -32,6 +32,10 @@ struct ControllerServices {
     /// Every track of the whole library with its file, for finding files that two tracks share; called on a
     /// worker thread.
     LibraryLocations libraryLocations = {};
+    /// Whether the records of a library file's reader, in its order, are the tracks that iTunes finds by
+    /// their persistent IDs; called on a worker thread.
+    std::function<bool(const std::vector<TrackRecord*>&)> areTracksOfITunes =
+        [](const std::vector<TrackRecord*>&) { return true; };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
 };

@@ -95,6 +95,8 @@ ControllerServices Program::controllerServices() {
         .version = m_options.version,
         .unreachableReason = [this] { return unreachableReason(); },
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
+        .areTracksOfITunes =
+            [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
     };
 }
@@ -130,6 +132,13 @@ Result<void> Program::writeLibrary() {
     const Result<void> written = m_scripting.flush();
     if (!written) return Error{written.error().code, withLibraryPath(written.error().message)};
     return {};
+}
+
+/// The system's iTunes cannot be asked so.
+bool Program::areTracksOfITunes(const std::vector<TrackRecord*>& records) {
+    if (!m_scripts.usesEmbedded()) return true;
+    const Result<bool> same = m_scripting.hasTracks(records);
+    return same && same.value();
 }
 
 bool Program::visitLocations(const LocationVisitor& visit) {

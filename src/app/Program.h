@@ -87,6 +87,7 @@ class Program {
   private:
     EmbeddedScripting::Options scriptingOptions();
     std::string withLibraryPath(const std::string& reason) const;
+    bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
     bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;

@@ -7,6 +7,7 @@
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
 #include "library/CaseFolding.h"
+#include "library/Trim.h"
 
 #include <QCoreApplication>
 
@@ -118,11 +119,14 @@ std::optional<std::string> LibrarySession::choosePlaylist() {
         if (!playlists.value().empty()) chosen = playlists.value().front().name;
         return std::nullopt;
     }
-    const std::string wanted = lowercase(*chosen);
-    const bool there =
-        std::any_of(playlists.value().begin(), playlists.value().end(),
-                    [&](const PlaylistInfo& playlist) { return lowercase(playlist.name) == wanted; });
-    if (there) return std::nullopt;
+    const std::string wanted = lowercase(trimmed(*chosen));
+    const auto found =
+        std::find_if(playlists.value().begin(), playlists.value().end(),
+                     [&](const PlaylistInfo& playlist) { return lowercase(playlist.name) == wanted; });
+    if (found != playlists.value().end()) {
+        chosen = found->name;
+        return std::nullopt;
+    }
     return withPath("there is no playlist '" + *chosen + "'" + listOf(playlists.value()));
 }
 

@@ -147,6 +147,13 @@ Result<std::vector<PlaylistInfo>> EmbeddedScripting::playlists() {
     return document.value()->playlists();
 }
 
+Result<bool> EmbeddedScripting::hasTracks(const std::vector<TrackRecord*>& records) {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    if (!document) return document.error();
+    return document.value()->hasTracks(records);
+}
+
 Result<LocationPass> EmbeddedScripting::locationPass() {
     const std::lock_guard lock(m_lock);
     const auto document = currentDocument();

@@ -76,6 +76,9 @@ class EmbeddedScripting final : public AppleScript {
 
     Result<int> trackCount();
     Result<std::vector<PlaylistInfo>> playlists();
+    /// Whether records that a reader made of the library file are the tracks that scripts find, see
+    /// SameTracks.h.
+    Result<bool> hasTracks(const std::vector<TrackRecord*>& records);
     /// Calls back for every track of the library with a location until the callback says false. Texts run
     /// meanwhile as ever. Where the library changes before the end, the pass begins again with the new
     /// version, so that its tracks come too; `busy` where it changes again and again.

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+#include <vector>
+
 namespace songsweep {
 
 class AppleScript;
@@ -11,6 +14,7 @@ template <typename Event>
 class NotificationCenter;
 class Preferences;
 class Sleeper;
+struct TrackRecord;
 
 /// What the readers work with; all of it outlives every worker.
 struct ReaderServices {
@@ -20,6 +24,10 @@ struct ReaderServices {
     Preferences& preferences;
     Sleeper& sleeper;
     Log& log;
+    /// Whether the records, in the order of the library file, are the tracks that iTunes finds by their
+    /// persistent IDs; called on a worker thread.
+    std::function<bool(const std::vector<TrackRecord*>&)> areTracksOfITunes =
+        [](const std::vector<TrackRecord*>&) { return true; };
 };
 
 } // namespace songsweep

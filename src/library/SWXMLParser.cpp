@@ -98,14 +98,24 @@ bool SWXMLParser::readTracks(XmlReader& reader) {
     m_trackCount = walk.trackCount();
     m_list->storage->forgetInterned();
     log("End Parse XML");
-    if (m_trackCount == m_trueTrackCount) {
+    if (agreesWithITunes()) {
         post(EventName::xmlDoneParsing);
         return true;
     }
-    log("trackCount (" + std::to_string(m_trackCount) + ") != trueTrackCount (" +
-        std::to_string(m_trueTrackCount) + ")");
     m_list->records.clear();
     post(EventName::xmlErrorParsing);
+    return false;
+}
+
+/// A track is deleted by its persistent ID: one that iTunes reads in another way would take another track.
+bool SWXMLParser::agreesWithITunes() const {
+    if (m_trackCount != m_trueTrackCount) {
+        log("trackCount (" + std::to_string(m_trackCount) + ") != trueTrackCount (" +
+            std::to_string(m_trueTrackCount) + ")");
+        return false;
+    }
+    if (m_services.areTracksOfITunes(m_list->records)) return true;
+    log("The persistent IDs are not those of iTunes");
     return false;
 }
 

@@ -24,8 +24,9 @@ class XmlReader;
 /// Finds the file by iTunes' preferences, waits until iTunes has rewritten it after a deletion, walks it into
 /// records, and keeps the file tracks of the chosen playlist, asking iTunes for the location of those whose
 /// file is missing. Ends with "addFinish", or with "xmlErrorParsing" or "xmlErrorProcessing" where the file
-/// cannot be had or trusted; "addCancel" besides when cancelled. The first read error is told ("readError"),
-/// and the walk goes on until it is cancelled. One pass, constant time a record.
+/// cannot be had or trusted: its tracks have to be those of iTunes, by their number and their persistent IDs;
+/// "addCancel" besides when cancelled. The first read error is told ("readError"), and the walk goes on until
+/// it is cancelled. One pass, constant time a record.
 class SWXMLParser final : public Operation {
   public:
     /// `trackCount` is iTunes' own count of tracks, which the file has to match; for the next four see
@@ -50,6 +51,7 @@ class SWXMLParser final : public Operation {
     void read();
     bool parse(XmlReader& reader);
     bool readTracks(XmlReader& reader);
+    bool agreesWithITunes() const;
     bool walkWhole(XmlReader& reader, LibraryWalk& walk);
     void tellReadError(const XmlReader& reader);
     void process(Clock::time_point start);

@@ -6,6 +6,7 @@
 #include "libraryfile/LibraryIndex.h"
 #include "libraryfile/LibraryTransaction.h"
 #include "libraryfile/LocationPass.h"
+#include "libraryfile/SameTracks.h"
 #include "libraryfile/TrackFields.h"
 
 #include <array>
@@ -100,6 +101,11 @@ class LibraryDocument {
     /// The place of a track in the library, from 1; 0 where it has none. Linear once, free afterwards, until
     /// something changes.
     std::size_t libraryPlaceOf(TrackPosition track);
+
+    /// Whether records that a reader made of the file are its tracks, see SameTracks.h.
+    bool hasTracks(const std::vector<TrackRecord*>& records) const {
+        return areSameTracks(m_index.tracks, records);
+    }
 
     /// The values of a track; the last few tracks asked for are kept. The pointer is good until the next
     /// call.

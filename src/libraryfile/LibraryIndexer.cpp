@@ -232,7 +232,7 @@ class Indexer {
         PlaylistSlot& playlist = m_index.playlists.back();
         switch (m_key) {
         case LibraryKey::name:
-            playlist.name = decoded(text);
+            playlist.name = trimmed(decoded(text)); // as the reader compares it
             break;
         case LibraryKey::playlistPersistentId:
             playlist.persistentId = decoded(text);

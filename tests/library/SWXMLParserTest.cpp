@@ -164,6 +164,21 @@ TEST_F(SWXMLParserTest, ATrackMoreOrLessThanITunesReportsFailsTheWholeRead) {
     }
 }
 
+TEST_F(SWXMLParserTest, TracksOfOtherIdsThanITunesHasFailTheWholeRead) {
+    useFiveTracks();
+    std::vector<std::string> asked;
+    m_services.areTracksOfITunes = [&](const std::vector<TrackRecord*>& records) {
+        for (const TrackRecord* record : records)
+            asked.push_back(record->trackid.string());
+        return false;
+    };
+    run(all(), fiveTracks);
+    EXPECT_THAT(asked, ElementsAre("101", "103", "105", "107", "109")) << "all, in the order of the file";
+    EXPECT_THAT(m_list->records, IsEmpty());
+    EXPECT_THAT(events(), ElementsAre("xmlModifiedDate", "xmlErrorParsing"));
+    EXPECT_EQ(m_trace.at(10), "The persistent IDs are not those of iTunes");
+}
+
 TEST_F(SWXMLParserTest, TheFirstReadErrorIsToldOnceAndTheWalkGoesOnUntilItIsCancelled) {
     useLibraryText("<plist>\n<dict>\n<key>Tracks</wrong>");
     SWXMLParser parser(m_list, all(), 1, 0, false, 5, 10, m_services);

@@ -79,12 +79,12 @@ TEST(LibraryIndex, ReadsEveryFlagOfAPlaylistInAnyOrder) {
         "<key>Track ID</key><integer>7</integer></dict></array><key>Folder</key><true/><key>Smart Info</key>"
         "<dict><key>Name</key><string>no</string></dict><key>Smart Criteria</key><data>U0xzdA==</data>"
         "<key>Distinguished Kind</key><integer>4</integer><key>Visible</key><false/>"
-        "<key>Playlist Persistent ID</key><string>00AB</string><key>Name</key><string>A &amp; B</string>"
+        "<key>Playlist Persistent ID</key><string>00AB</string><key>Name</key><string> A &amp; B\n</string>"
         "</dict><dict/></array><key>Tracks</key><dict><key>7</key><dict/></dict></dict></plist>");
     ASSERT_TRUE(index) << index.error().message;
     ASSERT_EQ(index.value().playlists.size(), 2U);
     const PlaylistSlot& playlist = index.value().playlists[0];
-    EXPECT_EQ(playlist.name, "A & B");
+    EXPECT_EQ(playlist.name, "A & B") << "without the blanks around it, as readers compare it";
     EXPECT_EQ(playlist.persistentId, "00AB");
     EXPECT_EQ(playlist.distinguishedKind, 4);
     EXPECT_TRUE(playlist.smart);

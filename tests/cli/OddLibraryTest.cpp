@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+// Libraries that the library reader and iTunes read each in its own way.
+#include "ProgramRun.h"
+#include "SampleLibrary.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace songsweep {
+namespace {
+
+using nlohmann::json;
+using test::libraryText;
+using test::RunResult;
+using test::SamplePlaylist;
+using test::SampleTrack;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+void replace(std::string& text, const std::string& from, const std::string& to) {
+    const std::size_t at = text.find(from);
+    ASSERT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), to);
+}
+
+class OddLibrary : public test::ProgramTest {
+  protected:
+    /// Three tracks of which the first two are one song; a master playlist of all and one of the two.
+    std::string text(const std::string& master = "Library", const std::string& other = "Party") const {
+        return libraryText({track(1, "Song"), track(2, "Song"), track(3, "Other")},
+                           {{master, {1, 2, 3}, true}, {other, {1, 2}}});
+    }
+    SampleTrack track(int id, const std::string& name) const {
+        const std::string file = m_folder.write("song" + std::to_string(id) + ".mp3", "x");
+        return {.id = id, .name = name, .artist = "Artist", .milliseconds = 180'000, .path = file};
+    }
+
+    RunResult runOn(const std::string& text, std::vector<std::string> arguments) {
+        m_library = m_folder.write("Library.xml", text);
+        arguments.insert(arguments.begin() + 1, {"--library", m_library});
+        return run(arguments);
+    }
+    std::vector<std::string> foundIds(const std::string& text, std::vector<std::string> arguments = {}) {
+        arguments.insert(arguments.begin(), {"find", "--format", "json"});
+        const RunResult result = runOn(text, arguments);
+        EXPECT_EQ(result.exitCode, 0) << result.errors;
+        EXPECT_EQ(result.errors, "");
+        std::vector<std::string> ids;
+        const json found = json::parse(result.output);
+        for (const json& group : found.at("groups"))
+            for (const json& track : group.at("tracks"))
+                ids.push_back(track.at("pid"));
+        return ids;
+    }
+
+    std::string m_library;
+};
+
+/// The reader keeps what follows the comment, which is another track's ID.
+TEST_F(OddLibrary, NeverLosesATrackThatWasNotListed) {
+    std::string odd = text();
+    replace(odd, "0000000000000002", "AB<!-- c -->0000000000000003");
+    EXPECT_THAT(foundIds(odd), ElementsAre("0000000000000001", "AB0000000000000003"));
+    EXPECT_EQ(runOn(odd, {"delete", "--rule", "kind", "--kind", "mp3", "--except-one", "--yes"}).exitCode, 0);
+    const std::string left = m_folder.read("Library.xml");
+    EXPECT_THAT(left, HasSubstr("<string>Other</string>"));
+    EXPECT_THAT(left, Not(HasSubstr("<!-- c -->")));
+}
+
+TEST_F(OddLibrary, TakesNoIdFromADictionaryInsideATrack) {
+    std::string odd = text();
+    replace(odd, "<key>Persistent ID</key><string>0000000000000002</string>",
+            "<key>Persistent ID</key><string>0000000000000002</string><key>Inner</key>"
+            "<dict><key>Persistent ID</key><string>0000000000000003</string></dict>");
+    EXPECT_THAT(foundIds(odd), ElementsAre("0000000000000001", "0000000000000002"));
+}
+
+/// The order in which Python's plistlib writes, and other programs that sort keys.
+TEST_F(OddLibrary, FindsTheDuplicatesWherePlaylistsComeBeforeTracks) {
+    std::string odd = text();
+    const std::size_t begin = odd.find("<key>Playlists</key>");
+    const std::string playlists = odd.substr(begin, odd.find("</dict>\n</plist>") - begin);
+    odd.erase(begin, playlists.size());
+    odd.insert(odd.find("<key>Tracks</key>"), playlists);
+    EXPECT_THAT(foundIds(odd), ElementsAre("0000000000000001", "0000000000000002"));
+    EXPECT_THAT(foundIds(odd, {"--playlist", "Party"}), ElementsAre("0000000000000001", "0000000000000002"));
+}
+
+TEST_F(OddLibrary, KnowsPlaylistsWhoseNamesEndInABlank) {
+    for (const std::vector<std::string>& playlist :
+         {std::vector<std::string>(), {"--playlist", "party"}, {"--playlist", "Party "}})
+        EXPECT_THAT(foundIds(text("Library ", "Party "), playlist),
+                    ElementsAre("0000000000000001", "0000000000000002"));
+}
+
+} // namespace
+} // namespace songsweep
