@@ -36,8 +36,13 @@ struct ControllerServices {
     /// their persistent IDs; called on a worker thread.
     std::function<bool(const std::vector<TrackRecord*>&)> areTracksOfITunes =
         [](const std::vector<TrackRecord*>&) { return true; };
+    /// Whether the library could be written if a deletion began now; called on a worker thread.
+    std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
+
+    /// What is asked before a deletion.
+    SurveySources surveySources() const;
 };
 
 } // namespace songsweep

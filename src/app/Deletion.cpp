@@ -52,8 +52,8 @@ void Deletion::deleteButtonClick() {
 
 void Deletion::startSurvey(const DeleteConfirmationFacts& facts) {
     const DisplayedList& list = m_results.tableDataSource();
-    auto survey = std::make_unique<FileSurvey>(SurveyedRows(list.rows, list.storage), facts, m_services.files,
-                                               m_services.libraryLocations, m_workers.center);
+    auto survey = std::make_unique<FileSurvey>(SurveyedRows(list.rows, list.storage), facts,
+                                               m_services.surveySources(), m_workers.center);
     m_pendingSurvey = survey->serial();
     m_surveys.add(std::move(survey));
 }

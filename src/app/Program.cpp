@@ -2,6 +2,7 @@
 #include "app/Program.h"
 
 #include "library/RecentLibrary.h"
+#include "libraryfile/CleanupForesight.h"
 #include "platform/GivenLibrary.h"
 #include "platform/Log.h"
 #include "platform/Native.h"
@@ -97,6 +98,7 @@ ControllerServices Program::controllerServices() {
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
         .areTracksOfITunes =
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
+        .libraryForesight = [this] { return foreseeWriting(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
     };
 }
@@ -139,6 +141,13 @@ bool Program::areTracksOfITunes(const std::vector<TrackRecord*>& records) {
     if (!m_scripts.usesEmbedded()) return true;
     const Result<bool> same = m_scripting.hasTracks(records);
     return same && same.value();
+}
+
+Result<void> Program::foreseeWriting() {
+    if (!m_scripts.usesEmbedded()) return {};
+    const Result<void> foreseen = foreseeCleanup(m_scripting.libraryPath());
+    if (!foreseen) return Error{foreseen.error().code, withLibraryPath(foreseen.error().message)};
+    return {};
 }
 
 bool Program::visitLocations(const LocationVisitor& visit) {

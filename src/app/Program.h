@@ -88,6 +88,7 @@ class Program {
     EmbeddedScripting::Options scriptingOptions();
     std::string withLibraryPath(const std::string& reason) const;
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
+    Result<void> foreseeWriting();
     bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;

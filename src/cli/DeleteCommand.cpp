@@ -31,29 +31,44 @@ std::optional<ExitCode> refuseToLoseSongs(const DeleteOptions& options,
     return fail(refusal(facts.groupsLosingEveryFile));
 }
 
-ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& output) {
-    const auto& rows = session.controller().tableDataSource().rows;
-    std::optional<DeletePlan> plan = DeletePlan();
-    DeleteConfirmationFacts facts;
-    if (options.files)
-        plan = surveyFiles(SurveyedRows(rows), session.program().files(),
-                           session.program().controllerServices().libraryLocations, facts,
-                           [&] { return session.interrupts().heard(); });
-    if (!plan) return ExitCode::interrupted;
-    if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
-    if (options.sharedFiles) plan->giveUpSharedFiles();
-    const DeleteReport report = predictedReport(rows, options.files, *plan);
-    return writeReportTo(output, options, report)
-        .value_or(report.allDealtWith() ? ExitCode::done : ExitCode::failed);
-}
-
-/// Tracks of a deletion that was cancelled before it began are not attempted.
-DeleteReport reportOf(const AppController& controller) {
-    if (const DeleteReport* const report = controller.lastDeleteReport()) return *report;
+/// All of them, of a deletion that never began.
+DeleteReport nothingAttempted(const AppController& controller) {
     DeleteReport report;
     for (const TrackRecord* const record : controller.tableDataSource().rows)
         if (record->checkbox) report.outcomes.push_back(outcomeOf(*record));
     return report;
+}
+
+/// Nothing where it was interrupted.
+std::optional<DeletePlan> planOf(LibrarySession& session, const DeleteOptions& options,
+                                 DeleteConfirmationFacts& facts) {
+    if (!options.files) return DeletePlan();
+    auto plan = surveyFiles(SurveyedRows(session.controller().tableDataSource().rows),
+                            session.program().controllerServices().surveySources(), facts,
+                            [&] { return session.interrupts().heard(); });
+    if (plan && options.sharedFiles) plan->giveUpSharedFiles();
+    return plan;
+}
+
+ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& output) {
+    DeleteConfirmationFacts facts;
+    const auto plan = planOf(session, options, facts);
+    if (!plan) return ExitCode::interrupted;
+    if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
+    const Result<void> writable = session.program().controllerServices().libraryForesight();
+    const bool begins = writable || session.controller().getCheckedCount() == 0;
+    const DeleteReport report =
+        begins ? predictedReport(session.controller().tableDataSource().rows, options.files, *plan)
+               : nothingAttempted(session.controller());
+    if (const auto problem = writeReportTo(output, options, report)) return *problem;
+    if (!begins) return fail(writable.error().message);
+    return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
+}
+
+/// Tracks of a deletion that was cancelled before it began are not attempted.
+DeleteReport reportOf(const AppController& controller) {
+    const DeleteReport* const report = controller.lastDeleteReport();
+    return report ? *report : nothingAttempted(controller);
 }
 
 /// Ctrl-C that comes after the last track cancels nothing.

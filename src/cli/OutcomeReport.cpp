@@ -28,14 +28,17 @@ std::string summary(const DeleteReport& report, bool dryRun) {
     const int failed = countIf(report, [](const auto& outcome) { return !outcome.dealtWith; });
     std::string line = dryRun ? "Would delete " : "Deleted ";
     line += std::to_string(deleted) + " of " + std::to_string(report.outcomes.size()) + " tracks";
-    if (trashed > 0) line += ", files of " + std::to_string(trashed) + " in the Trash";
-    if (failed > 0) line += ", " + std::to_string(failed) + " not dealt with as asked";
+    if (trashed > 0)
+        line += (dryRun ? ", and move files of " : ", files of ") + std::to_string(trashed) +
+                (dryRun ? " to the Trash" : " in the Trash");
+    if (failed > 0)
+        line += ", " + std::to_string(failed) + (dryRun ? " could not be" : " not") + " dealt with as asked";
     return line;
 }
 
 void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
     for (const DeleteOutcome& outcome : report.outcomes) {
-        const std::string line = outcomeLine(outcome);
+        const std::string line = outcomeLine(outcome, dryRun ? Tense::conditional : Tense::past);
         output.write((output.isTerminal() ? terminalLine(line) : line) + "\n");
     }
     output.write(summary(report, dryRun) + "\n");
@@ -66,13 +69,13 @@ void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
     output.write(whole.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
 }
 
-void writeCsvOutcomes(Output& output, const DeleteReport& report) {
-    output.write("pid,name,artist,location,track,file,reason,dealtwith\r\n");
+void writeCsvOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
+    output.write("pid,name,artist,location,track,file,reason,dealtwith,dryrun\r\n");
     for (const DeleteOutcome& outcome : report.outcomes) {
         output.write(csvField(outcome.pid) + "," + csvField(outcome.name) + "," + csvField(outcome.artist) +
                      "," + csvField(outcome.location) + "," + trackWord(outcome.track) + "," +
                      fileWord(outcome.file) + "," + csvField(outcome.reason) + "," +
-                     csvTruth(outcome.dealtWith) + "\r\n");
+                     csvTruth(outcome.dealtWith) + "," + csvTruth(dryRun) + "\r\n");
     }
 }
 
@@ -85,7 +88,7 @@ void writeOutcomes(Output& output, const DeleteReport& report, bool dryRun, Outp
     case OutputFormat::json:
         return writeJsonOutcomes(output, report, dryRun);
     case OutputFormat::csv:
-        return writeCsvOutcomes(output, report);
+        return writeCsvOutcomes(output, report, dryRun);
     }
 }
 

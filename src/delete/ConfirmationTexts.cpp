@@ -79,9 +79,16 @@ QString missingLine(const DeleteConfirmationFacts& facts) {
                   QStringLiteral("%1 files are missing already."));
 }
 
+QString refusedLine(const DeleteConfirmationFacts& facts) {
+    if (facts.refusedFiles == 0) return {};
+    return worded(facts.refusedFiles, QStringLiteral("1 file cannot go to the Trash, and is kept."),
+                  QStringLiteral("%1 files cannot go to the Trash, and are kept."));
+}
+
 QString warning(const DeleteConfirmationFacts& facts, bool withFiles) {
     const int lost =
         withFiles && !facts.filesPending ? facts.groupsLosingEveryFile : facts.groupsLosingEveryCopy;
+    if (lost == 0 && !facts.libraryObstacle.empty()) return QStringLiteral("The library cannot be written.");
     if (lost == 0) return {};
     return worded(lost, QStringLiteral("No copy of 1 song will be left."),
                   QStringLiteral("No copy of %1 songs will be left."));

@@ -27,7 +27,8 @@ QString libraryUnknownLine(const DeleteConfirmationFacts& facts);
 QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString missingLine(const DeleteConfirmationFacts& facts);
-/// `withFiles` is the user's choice.
+QString refusedLine(const DeleteConfirmationFacts& facts);
+/// What will be lost for good, or else what is in the way of all; `withFiles` is the user's choice.
 QString warning(const DeleteConfirmationFacts& facts, bool withFiles);
 
 /// Bytes in megabytes, written as sizes are in the table: one tenth above the truncated value.

@@ -89,31 +89,34 @@ void DeleteConfirmation::updateHeading() {
 }
 
 void DeleteConfirmation::updateLines() {
-    const bool shared = leavesSharedFiles();
-    const bool waits = deletesFiles() && m_facts.filesPending;
+    m_deleteButton->setEnabled(!deletesFiles() || !m_facts.filesPending);
     showWarning(confirmationTexts::warning(m_facts, deletesFiles()));
-    m_deleteButton->setEnabled(!waits);
-    if (!deletesFiles()) {
-        showLines(confirmationTexts::filesStayLine(m_facts), {}, {});
-    } else if (waits) {
-        showLines(confirmationTexts::filesPendingLine(), {}, {});
-    } else if (m_facts.libraryUnknown) {
-        showLines(confirmationTexts::libraryUnknownLine(m_facts), {},
-                  confirmationTexts::missingLine(m_facts));
-    } else {
-        showLines(confirmationTexts::trashLine(m_facts, shared),
-                  confirmationTexts::sharedLine(m_facts, shared), confirmationTexts::missingLine(m_facts));
-    }
+    showLines(lines());
 }
 
-void DeleteConfirmation::showLines(const QString& trash, const QString& shared, const QString& missing) {
-    showLine(m_ui->delConfTrashLabel, trash);
-    showLine(m_ui->delConfSharedCK, shared);
-    showLine(m_ui->delConfMissingLabel, missing);
+DeleteConfirmation::Lines DeleteConfirmation::lines() const {
+    using namespace confirmationTexts;
+    if (!deletesFiles()) return {.trash = filesStayLine(m_facts)};
+    if (m_facts.filesPending) return {.trash = filesPendingLine()};
+    if (m_facts.libraryUnknown)
+        return {.trash = libraryUnknownLine(m_facts), .missing = missingLine(m_facts)};
+    return {.trash = trashLine(m_facts, leavesSharedFiles()),
+            .shared = sharedLine(m_facts, leavesSharedFiles()),
+            .missing = missingLine(m_facts),
+            .refused = refusedLine(m_facts)};
+}
+
+void DeleteConfirmation::showLines(const Lines& lines) {
+    showLine(m_ui->delConfTrashLabel, lines.trash);
+    showLine(m_ui->delConfSharedCK, lines.shared);
+    showLine(m_ui->delConfMissingLabel, lines.missing);
+    showLine(m_ui->delConfRefusedLabel, lines.refused);
+    m_ui->delConfRefusedLabel->setToolTip(QString::fromStdString(m_facts.refusal));
 }
 
 void DeleteConfirmation::showWarning(const QString& text) {
     showLive(*m_ui->delConfWarningLabel, text);
+    m_ui->delConfWarningLabel->setToolTip(QString::fromStdString(m_facts.libraryObstacle));
     m_ui->delConfWarning->setVisible(!text.isEmpty());
 }
 

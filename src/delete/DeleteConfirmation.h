@@ -50,7 +50,14 @@ class DeleteConfirmation : public QDialog {
     void updateHeading();
     void updateLines();
     void showWarning(const QString& text);
-    void showLines(const QString& trash, const QString& shared, const QString& missing);
+    struct Lines {
+        QString trash = {};
+        QString shared = {};
+        QString missing = {};
+        QString refused = {};
+    };
+    Lines lines() const;
+    void showLines(const Lines& lines);
 
     std::unique_ptr<Ui::DeleteConfirmation> m_ui;
     QPushButton* m_cancelButton = nullptr;

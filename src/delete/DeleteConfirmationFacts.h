@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace songsweep {
 
@@ -14,11 +15,14 @@ struct DeleteConfirmationFacts {
     int sharedFiles = 0;           ///< files that a track that stays uses too
     std::int64_t sharedBytes = 0;  ///< their sizes, for the case that they are not left
     int missingFiles = 0;
-    int groupsLosingEveryCopy = 0; ///< by what the search saw
-    int groupsLosingEveryFile = 0; ///< groups of which no copy is left if files go, too
-    bool embeddedLibrary = false;  ///< the library is a file that this program itself writes
-    bool libraryUnknown = false;   ///< the other tracks could not be looked at, so that no file goes
-    bool filesPending = false;     ///< the files are still looked at: the file counts say nothing yet
+    int refusedFiles = 0;             ///< files that the Trash will refuse
+    std::string refusal = {};         ///< why it will one of them; a phrase
+    std::string libraryObstacle = {}; ///< why the library will not be written; "" where nothing is in the way
+    int groupsLosingEveryCopy = 0;    ///< by what the search saw
+    int groupsLosingEveryFile = 0;    ///< groups of which no copy is left if files go, too
+    bool embeddedLibrary = false;     ///< the library is a file that this program itself writes
+    bool libraryUnknown = false;      ///< the other tracks could not be looked at, so that no file goes
+    bool filesPending = false;        ///< the files are still looked at: the file counts say nothing yet
 
     bool operator==(const DeleteConfirmationFacts&) const = default;
 };

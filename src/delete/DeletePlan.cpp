@@ -6,6 +6,7 @@
 #include "delete/MarkedFiles.h"
 #include "delete/MarkedIds.h"
 #include "delete/Obstacles.h"
+#include "delete/RefusedFiles.h"
 #include "delete/TrackFacts.h"
 #include "delete/WorkingCopy.h"
 
@@ -25,12 +26,12 @@ auto at(const List& list, std::size_t place) {
 /// One look at all files; each step ends early, and the plan is worth nothing, once it is stopped.
 class Survey {
   public:
-    Survey(const SurveyedRows& rows, const Files& files, const std::function<bool()>& isStopped)
+    Survey(const SurveyedRows& rows, const SurveySources& sources, const std::function<bool()>& isStopped)
         : m_rows(rows)
-        , m_files(files)
+        , m_sources(sources)
         , m_isStopped(isStopped)
-        , m_entries(files)
-        , m_markedFiles(files) {}
+        , m_entries(sources.files)
+        , m_markedFiles(sources.files) {}
 
     void lookAtMarked() {
         for (const SurveyedRows::Track& track : m_rows.marked) {
@@ -41,7 +42,8 @@ class Survey {
         }
     }
 
-    void lookAtOthers(const LibraryLocations& locations) {
+    void lookAtOthers() {
+        const LibraryLocations& locations = m_sources.locations;
         if (m_markedFiles.empty()) return;
         for (const SurveyedRows::Other& row : m_rows.others) {
             const bool isDoomed = m_ids.contains(row.pid);
@@ -51,6 +53,25 @@ class Survey {
                 return m_entries.take(pid, path) ? !m_isStopped() : lookAtOther(path);
             }))
             shareAll();
+    }
+
+    /// Files that a track that stays uses come last, since they go only if the user says so.
+    void askTheTrash() {
+        if (m_sources.trash == nullptr) return;
+        RefusedFiles refused(m_sources.files, *m_sources.trash);
+        for (const bool isShared : {false, true})
+            for (const SurveyedRows::Track& track : m_rows.marked) {
+                if (m_isStopped()) return;
+                const auto file = m_plan.files.find(track.record);
+                if (m_plan.shared.contains(track.record) == isShared && goes(file, track))
+                    file->second.obstacle = refused.reasonFor(track.location);
+            }
+    }
+
+    void askTheLibrary(DeleteConfirmationFacts& facts) const {
+        if (m_isStopped()) return;
+        const Result<void> writable = m_sources.libraryForesight();
+        facts.libraryObstacle = writable ? std::string() : writable.error().message;
     }
 
     void lookAtCopiesThatStay(DeleteConfirmationFacts& facts) {
@@ -69,23 +90,29 @@ class Survey {
     void count(DeleteConfirmationFacts& facts) const {
         facts.missingFiles = static_cast<int>(m_rows.marked.size() - m_plan.files.size());
         facts.libraryUnknown = m_plan.libraryUnknown;
-        if (!m_plan.libraryUnknown) m_markedFiles.count(m_plan.shared, facts);
+        if (!m_plan.libraryUnknown) m_markedFiles.count(m_plan, facts);
     }
 
     DeletePlan plan() && { return std::move(m_plan); }
 
   private:
+    using PlannedFiles = std::unordered_map<const TrackRecord*, PlannedFile>;
+
+    bool goes(PlannedFiles::const_iterator file, const SurveyedRows::Track& track) const {
+        return file != m_plan.files.end() && file->second.obstacle.empty() && !trackObstacle(track.pid);
+    }
+
     bool anyFileGoes(std::size_t first, std::size_t end) const {
-        const auto goes = [this](const SurveyedRows::Track& track) {
-            const auto file = m_plan.files.find(track.record);
-            return file != m_plan.files.end() && !file->second.obstacle && !trackObstacle(track.pid);
-        };
-        return std::any_of(at(m_rows.marked, first), at(m_rows.marked, end), goes);
+        return std::any_of(at(m_rows.marked, first), at(m_rows.marked, end),
+                           [this](const SurveyedRows::Track& track) {
+                               return goes(m_plan.files.find(track.record), track);
+                           });
     }
 
     bool anyCopyStays(std::size_t first, std::size_t end) const {
         const auto stays = [this](const SurveyedRows::Other& copy) {
-            return !m_isStopped() && !m_ids.contains(copy.pid) && isWorkingCopy(m_files, copy.location);
+            return !m_isStopped() && !m_ids.contains(copy.pid) &&
+                   isWorkingCopy(m_sources.files, copy.location);
         };
         return std::any_of(at(m_rows.others, first), at(m_rows.others, end), stays);
     }
@@ -105,7 +132,7 @@ class Survey {
     }
 
     const SurveyedRows& m_rows;
-    const Files& m_files;
+    const SurveySources& m_sources;
     const std::function<bool()>& m_isStopped;
     MarkedIds m_ids;
     MarkedEntries m_entries;
@@ -134,13 +161,15 @@ void SurveyedRows::add(const TrackRecord& record) {
     if (!record.checkbox || trackObstacle(record.pid)) others.push_back({record.pid, record.location});
 }
 
-std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& files,
-                                      const LibraryLocations& locations, DeleteConfirmationFacts& facts,
+std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const SurveySources& sources,
+                                      DeleteConfirmationFacts& facts,
                                       const std::function<bool()>& isStopped) {
-    Survey survey(rows, files, isStopped);
+    Survey survey(rows, sources, isStopped);
+    survey.askTheLibrary(facts);
     survey.lookAtMarked();
-    survey.lookAtOthers(locations);
+    survey.lookAtOthers();
     survey.lookAtCopiesThatStay(facts);
+    survey.askTheTrash();
     if (isStopped()) return std::nullopt;
     survey.count(facts);
     return std::move(survey).plan();

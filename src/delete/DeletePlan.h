@@ -3,6 +3,7 @@
 
 #include "library/DisplayedList.h"
 #include "library/TrackRecord.h"
+#include "platform/Result.h"
 
 #include <functional>
 #include <memory>
@@ -16,6 +17,7 @@
 namespace songsweep {
 
 class Files;
+class Trash;
 struct DeleteConfirmationFacts;
 
 /// Is told every track of the whole library that has a location: its persistent ID ("" for none) and its
@@ -24,11 +26,19 @@ using LocationVisitor = std::function<bool(std::string_view pid, const std::stri
 /// Visits them all; false where it could not. Called on any thread.
 using LibraryLocations = std::function<bool(const LocationVisitor&)>;
 
+/// What a survey asks. Files and Trash outlive it.
+struct SurveySources {
+    const Files& files;
+    LibraryLocations locations = {}; ///< not set: the library is not known
+    Trash* trash = nullptr;          ///< null: nobody foresees what it refuses
+    /// Whether the library could be written if the deletion began now; any thread.
+    std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
+};
+
 /// The file of a marked track as it was when it was looked at.
 struct PlannedFile {
-    std::string path; ///< canonical and local; the same for tracks that share it
-    const char* obstacle =
-        nullptr; ///< why it stays whatever the user wants; null where nothing is in the way
+    std::string path;     ///< canonical and local; the same for tracks that share it
+    std::string obstacle; ///< why it will stay whatever the user wants; "" where nothing is in the way
 };
 
 /// What a deletion with files has to know before anything is deleted. A value; the records are those of the
@@ -84,14 +94,16 @@ struct SurveyedRows {
 /// one of them must be a regular file, not empty, and readable, or the group counts as losing every file. A
 /// group whose marked files are all missing already loses none, and is judged as the search saw it.
 ///
+/// Foresees what will keep a file from the Trash, in the order of the rows, as there may be room for some
+/// alone, and what will keep the library from being written. Makes nothing.
+///
 /// Two paths are one file when their canonical paths are equal, or their device and inode, where the link
-/// count is above one or size and modification time agree, too. Linear in the rows and the library: one look
-/// at the file system for each track, and two for each copy that is to stay. Without `locations` the library
-/// is not known, and the rows that are not marked stand for it. A track without a persistent ID stays, since
-/// nothing can name it, and so does its file. Nothing where `isStopped`, asked before each look, says so. Any
-/// thread.
-std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const Files& files,
-                                      const LibraryLocations& locations, DeleteConfirmationFacts& facts,
-                                      const std::function<bool()>& isStopped);
+/// count is above one or size and modification time agree, too. Linear in the rows and the library: three
+/// looks at the file system for each marked track, one for each other, and two for each copy that is to stay.
+/// Without `locations` the library is not known, and the rows that are not marked stand for it. A track
+/// without a persistent ID stays, since nothing can name it, and so does its file. Nothing where `isStopped`,
+/// asked before each look, says so. Any thread.
+std::optional<DeletePlan> surveyFiles(const SurveyedRows& rows, const SurveySources& sources,
+                                      DeleteConfirmationFacts& facts, const std::function<bool()>& isStopped);
 
 } // namespace songsweep

@@ -14,7 +14,7 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
         outcome.file = File::missing;
     } else if (isKeptByPlan(record, plan, outcome)) {
         return;
-    } else if (file->second.obstacle) {
+    } else if (!file->second.obstacle.empty()) {
         outcome.keepFile(file->second.obstacle);
     } else {
         outcome.file = File::trashed;

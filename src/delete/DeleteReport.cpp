@@ -5,6 +5,19 @@
 
 namespace songsweep {
 
+namespace {
+
+std::string expectation(DeleteOutcome::Track track) {
+    return track == DeleteOutcome::Track::deleted ? "would be deleted" : "would stay";
+}
+
+std::string expectation(DeleteOutcome::File file) {
+    if (file == DeleteOutcome::File::missing) return "is missing";
+    return file == DeleteOutcome::File::trashed ? "would go to the Trash" : "would stay";
+}
+
+} // namespace
+
 std::string trackWord(DeleteOutcome::Track track) {
     switch (track) {
     case DeleteOutcome::Track::deleted:
@@ -56,16 +69,18 @@ DeleteOutcome outcomeOf(const TrackRecord& record) {
     return outcome;
 }
 
-std::string outcomeText(const DeleteOutcome& outcome) {
-    std::string text = trackWord(outcome.track);
-    if (outcome.file != DeleteOutcome::File::notAsked) text += ", file " + fileWord(outcome.file);
+std::string outcomeText(const DeleteOutcome& outcome, Tense tense) {
+    const bool isDone = tense == Tense::past;
+    std::string text = isDone ? trackWord(outcome.track) : expectation(outcome.track);
+    if (outcome.file != DeleteOutcome::File::notAsked)
+        text += ", file " + (isDone ? fileWord(outcome.file) : expectation(outcome.file));
     if (!outcome.reason.empty()) text += ": " + outcome.reason;
     return text;
 }
 
-std::string outcomeLine(const DeleteOutcome& outcome) {
+std::string outcomeLine(const DeleteOutcome& outcome, Tense tense) {
     std::string line = "Track " + outcome.name + " by " + outcome.artist + " (" + outcome.pid + ") ";
-    line += outcomeText(outcome);
+    line += outcomeText(outcome, tense);
     if (!outcome.location.empty()) line += ", " + outcome.location;
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');

@@ -47,11 +47,15 @@ std::string trackWord(DeleteOutcome::Track track);
 /// "trashed", "missing", "kept", "not asked".
 std::string fileWord(DeleteOutcome::File file);
 
-/// The outcome in words: "deleted, file trashed", "deleted, file kept: the Trash refuses it".
-std::string outcomeText(const DeleteOutcome& outcome);
+/// Whether an outcome has come about, or is what a deletion would come to.
+enum class Tense { past, conditional };
+
+/// The outcome in words: "deleted, file trashed", "deleted, file kept: the Trash refuses it", or "would be
+/// deleted, file would go to the Trash".
+std::string outcomeText(const DeleteOutcome& outcome, Tense tense = Tense::past);
 
 /// A line for the log: "Track Song by Artist (00A1B2C3D4E5F607) deleted, file trashed, /music/song.mp3". Line
 /// breaks in names are blanks there.
-std::string outcomeLine(const DeleteOutcome& outcome);
+std::string outcomeLine(const DeleteOutcome& outcome, Tense tense = Tense::past);
 
 } // namespace songsweep

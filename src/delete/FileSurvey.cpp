@@ -8,17 +8,16 @@
 
 namespace songsweep {
 
-FileSurvey::FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, const Files& files,
-                       LibraryLocations locations, NotificationCenter<WorkerEvent>& center)
+FileSurvey::FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, SurveySources sources,
+                       NotificationCenter<WorkerEvent>& center)
     : m_rows(std::move(rows))
-    , m_facts(facts)
-    , m_files(files)
-    , m_locations(std::move(locations))
+    , m_facts(std::move(facts))
+    , m_sources(std::move(sources))
     , m_center(center) {}
 
 void FileSurvey::main() {
     m_facts.filesPending = false;
-    auto plan = surveyFiles(m_rows, m_files, m_locations, m_facts, [this] { return isCancelled(); });
+    auto plan = surveyFiles(m_rows, m_sources, m_facts, [this] { return isCancelled(); });
     if (!plan) return;
     auto answer = std::make_shared<SurveyAnswer>(SurveyAnswer{std::move(*plan), m_facts});
     m_center.post({EventName::surveyDone, std::move(answer), this});

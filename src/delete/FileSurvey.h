@@ -27,17 +27,16 @@ struct SurveyAnswer {
 /// the file system and says nothing.
 class FileSurvey final : public Operation {
   public:
-    /// `facts` are those that need no file system. Files and centre outlive the survey.
-    FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, const Files& files,
-               LibraryLocations locations, NotificationCenter<WorkerEvent>& center);
+    /// `facts` are those that need no file system. The centre outlives the survey.
+    FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, SurveySources sources,
+               NotificationCenter<WorkerEvent>& center);
 
     void main() override;
 
   private:
     SurveyedRows m_rows;
     DeleteConfirmationFacts m_facts;
-    const Files& m_files;
-    LibraryLocations m_locations;
+    SurveySources m_sources;
     NotificationCenter<WorkerEvent>& m_center;
 };
 

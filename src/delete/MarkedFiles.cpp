@@ -8,17 +8,32 @@
 
 namespace songsweep {
 
+namespace {
+
+/// Why the file goes under none of its tracks' names; null where it goes.
+const std::string* refusalOf(const MarkedFile& file, const DeletePlan& plan) {
+    const std::string* refusal = nullptr;
+    for (const TrackRecord* const track : file.tracks) {
+        refusal = &plan.files.at(track).obstacle;
+        if (refusal->empty()) return nullptr;
+    }
+    return refusal;
+}
+
+} // namespace
+
 std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     const std::string path = track.location.string();
     const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
     if (!attributes) return std::nullopt;
-    PlannedFile planned = {canonicalPath(m_files.localPath(path)), fileObstacle(path, attributes->kind)};
+    const char* const obstacle = fileObstacle(path, attributes->kind);
+    PlannedFile planned = {canonicalPath(m_files.localPath(path)), obstacle ? obstacle : ""};
     const auto [name, isNew] = m_byKey[keyOf(*attributes)].try_emplace(planned.path);
     MarkedFile& file = name->second;
     if (isNew) m_bySight.emplace(sightOf(*attributes), &file);
     file.tracks.push_back(track.record);
     file.attributes = *attributes;
-    file.canGo = file.canGo || (!planned.obstacle && !trackObstacle(track.pid));
+    file.canGo = file.canGo || (!obstacle && !trackObstacle(track.pid));
     return planned;
 }
 
@@ -42,13 +57,17 @@ std::vector<const MarkedFile*> MarkedFiles::filesAt(const std::string& path) con
     return found;
 }
 
-void MarkedFiles::count(const std::unordered_set<const TrackRecord*>& shared,
-                        DeleteConfirmationFacts& facts) const {
+void MarkedFiles::count(const DeletePlan& plan, DeleteConfirmationFacts& facts) const {
     for (const auto& [key, names] : m_byKey) {
         bool isCounted = false;
         for (const auto& [name, file] : names) {
             if (!file.canGo) continue;
-            const bool isShared = shared.contains(file.tracks.front());
+            if (const std::string* const refusal = refusalOf(file, plan)) {
+                ++facts.refusedFiles;
+                facts.refusal = *refusal;
+                continue;
+            }
+            const bool isShared = plan.shared.contains(file.tracks.front());
             (isShared ? facts.sharedFiles : facts.filesToTrash) += 1;
             // The other names of a file take no room of their own.
             if (file.attributes.linkCount > 1 && std::exchange(isCounted, true)) continue;

@@ -39,8 +39,8 @@ class MarkedFiles {
     /// The marked files that the path leads to, under this name or another one; one may come twice.
     std::vector<const MarkedFile*> filesAt(const std::string& path) const;
 
-    /// Adds the counts of files and bytes to the facts.
-    void count(const std::unordered_set<const TrackRecord*>& shared, DeleteConfirmationFacts& facts) const;
+    /// Adds the counts of files and bytes to the facts, by the plan that was made of them.
+    void count(const DeletePlan& plan, DeleteConfirmationFacts& facts) const;
 
   private:
     /// A file as the file system knows it: device and inode. Some file systems repeat them, so that they

@@ -30,7 +30,8 @@ std::unique_ptr<QDialog> deleteConfirmation() {
     auto sheet = std::make_unique<DeleteConfirmation>();
     DeleteConfirmationFacts facts;
     facts.tracks = 123;
-    facts.filesToTrash = facts.sharedFiles = facts.missingFiles = facts.groupsLosingEveryCopy = 123;
+    facts.filesToTrash = facts.sharedFiles = facts.missingFiles = facts.refusedFiles = 123;
+    facts.groupsLosingEveryCopy = facts.groupsLosingEveryFile = 123;
     facts.bytesToTrash = 123'456'789'012;
     facts.embeddedLibrary = true;
     sheet->setFacts(facts);

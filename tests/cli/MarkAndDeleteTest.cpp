@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ProgramRun.h"
-#include "SampleLibrary.h"
+#include "TwoGroups.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,46 +20,7 @@ using test::SampleTrack;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-/// Two groups: "A" with bit rates 128, 320 and 192, "B" with 128 twice.
-class MarkAndDelete : public test::ProgramTest {
-  protected:
-    MarkAndDelete() {
-        for (int id = 1; id <= 5; ++id)
-            m_folder.write("music/" + std::to_string(id) + ".mp3", "music");
-        m_library = m_folder.write("Library.xml", libraryText(tracks({1, 2, 3, 4, 5})));
-    }
-
-    std::vector<SampleTrack> tracks(const std::vector<int>& ids) const {
-        const std::map<int, std::pair<const char*, int>> all = {
-            {1, {"A", 128}}, {2, {"A", 320}}, {3, {"A", 192}}, {4, {"B", 128}}, {5, {"B", 128}}};
-        std::vector<SampleTrack> chosen;
-        chosen.reserve(ids.size());
-        for (const int id : ids)
-            chosen.push_back({.id = id,
-                              .name = all.at(id).first,
-                              .artist = "X",
-                              .milliseconds = 1000,
-                              .bitRate = all.at(id).second,
-                              .path = path("music/" + std::to_string(id) + ".mp3")});
-        return chosen;
-    }
-    RunResult command(const std::string& name, std::vector<std::string> options) {
-        options.insert(options.begin(), {name, "--library", m_library});
-        return run(options);
-    }
-    /// Every file below the test's folder with its contents.
-    std::map<std::string, std::string> tree() const {
-        std::map<std::string, std::string> files;
-        for (const auto& entry : fs::recursive_directory_iterator(m_folder.path()))
-            files[entry.path().string()] =
-                entry.is_regular_file() ? m_folder.read(fs::relative(entry.path(), m_folder.path()).string())
-                                        : "";
-        return files;
-    }
-    bool hasFile(int id) const { return fs::exists(path("music/" + std::to_string(id) + ".mp3")); }
-
-    std::string m_library;
-};
+class MarkAndDelete : public test::TwoGroups {};
 
 TEST_F(MarkAndDelete, MarksWhatARuleLosesAndSaysWhy) {
     const auto before = tree();
@@ -291,7 +251,7 @@ TEST_F(MarkAndDelete, TellsOutcomesInJsonAndCsv) {
     EXPECT_EQ(outcomes.at("outcomes").size(), 2U);
     EXPECT_EQ(outcomes.at("outcomes").at(0).at("pid"), "0000000000000001");
     EXPECT_THAT(command("delete", {"--rule", "highest-bitrate", "--dry-run", "--format", "csv"}).output,
-                ::testing::StartsWith("pid,name,artist,location,track,file,reason,dealtwith\r\n"));
+                ::testing::StartsWith("pid,name,artist,location,track,file,reason,dealtwith,dryrun\r\n"));
 }
 
 } // namespace

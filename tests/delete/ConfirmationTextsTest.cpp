@@ -87,6 +87,21 @@ TEST(ConfirmationTexts, WarnOfTheSongsThatLoseEveryFileWhereFilesGo) {
     EXPECT_EQ(texts::warning(facts, true), QStringLiteral("No copy of 1 song will be left."));
 }
 
+TEST(ConfirmationTexts, TellOfFilesThatTheTrashRefuses) {
+    EXPECT_EQ(texts::refusedLine({.refusedFiles = 0}), QString());
+    EXPECT_EQ(texts::refusedLine({.refusedFiles = 1}),
+              QStringLiteral("1 file cannot go to the Trash, and is kept."));
+    EXPECT_EQ(texts::refusedLine({.refusedFiles = 2}),
+              QStringLiteral("2 files cannot go to the Trash, and are kept."));
+}
+
+TEST(ConfirmationTexts, WarnOfTheLibraryUnlessThereIsWorse) {
+    DeleteConfirmationFacts facts = {.libraryObstacle = "cannot write in /music"};
+    EXPECT_EQ(texts::warning(facts, false), QStringLiteral("The library cannot be written."));
+    facts.groupsLosingEveryCopy = 1;
+    EXPECT_EQ(texts::warning(facts, false), QStringLiteral("No copy of 1 song will be left."));
+}
+
 TEST(ConfirmationTexts, WriteMegabytesAsTheSizeColumnDoes) {
     EXPECT_EQ(texts::megabytes(0), QStringLiteral("0.1 MB"));
     EXPECT_EQ(texts::megabytes(5'242'880), QStringLiteral("5.1 MB"));

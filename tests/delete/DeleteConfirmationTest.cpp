@@ -38,6 +38,8 @@ QStringList visibleLines(const DeleteConfirmation& sheet) {
     if (!trash.isHidden()) lines.append(trash.text());
     if (!shared.isHidden()) lines.append(shared.text());
     if (!missing.isHidden()) lines.append(missing.text());
+    const auto& refused = child<QLabel>(sheet, "delConfRefusedLabel");
+    if (!refused.isHidden()) lines.append(refused.text());
     return lines;
 }
 
@@ -158,6 +160,34 @@ TEST_F(DeleteConfirmationTest, KeepsFocusAndPlaceWhenTheFilesWereLookedAt) {
     EXPECT_EQ(sheet.size(), before);
     EXPECT_EQ(sheet.focusWidget(), &child<QCheckBox>(sheet, "delConfFileCK"));
     EXPECT_EQ(test::filledButtons(sheet), QStringList(QStringLiteral("&Cancel")));
+}
+
+TEST_F(DeleteConfirmationTest, TellsOfFilesThatTheTrashRefusesAndWhy) {
+    DeleteConfirmationFacts facts = threeTracks();
+    facts.refusedFiles = 2;
+    facts.refusal = "there is no Trash for files of /music";
+    DeleteConfirmation sheet;
+    sheet.setFacts(facts);
+    test::open(sheet);
+    const QSize before = sheet.size();
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_EQ(visibleLines(sheet).value(3), QStringLiteral("2 files cannot go to the Trash, and are kept."));
+    EXPECT_EQ(child<QLabel>(sheet, "delConfRefusedLabel").toolTip(),
+              QStringLiteral("there is no Trash for files of /music"));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(sheet.size(), before);
+}
+
+TEST_F(DeleteConfirmationTest, WarnsThatTheLibraryCannotBeWrittenOnceThatIsKnown) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(pendingTracks());
+    DeleteConfirmationFacts facts = threeTracks();
+    facts.libraryObstacle = "cannot write in /music: Permission denied";
+    sheet.updateFacts(facts);
+    EXPECT_FALSE(child<QWidget>(sheet, "delConfWarning").isHidden());
+    const auto& warning = child<QLabel>(sheet, "delConfWarningLabel");
+    EXPECT_EQ(warning.text(), QStringLiteral("The library cannot be written."));
+    EXPECT_EQ(warning.toolTip(), QStringLiteral("cannot write in /music: Permission denied"));
 }
 
 TEST_F(DeleteConfirmationTest, WarnsOnlyWhereASongLosesEveryCopy) {

@@ -42,7 +42,7 @@ std::string entryOf(std::string_view text) {
 DeletePlan makeDeletePlan(const std::vector<TrackRecord*>& rows, const Files& files,
                           const LibraryLocations& locations) {
     DeleteConfirmationFacts ignored;
-    return surveyFiles(SurveyedRows(rows), files, locations, ignored, [] { return false; }).value();
+    return surveyFiles(SurveyedRows(rows), {files, locations}, ignored, [] { return false; }).value();
 }
 
 DeleteFixture::DeleteFixture() {

@@ -5,6 +5,7 @@
 #include "delete/DeleteFixture.h"
 #include "delete/TrackFacts.h"
 #include "support/BindMount.h"
+#include "support/RecordingTrash.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@
 namespace songsweep {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
@@ -40,7 +42,7 @@ class DeletePlanTest : public test::DeleteFixture {
     DeleteConfirmationFacts facts(const Others& others = {}) const {
         DeleteConfirmationFacts facts;
         const auto isStopped = [] { return false; };
-        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), m_files, libraryWith(others), facts, isStopped));
+        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), {m_files, libraryWith(others)}, facts, isStopped));
         facts.groupsLosingEveryFile = 0;
         return facts;
     }
@@ -48,7 +50,7 @@ class DeletePlanTest : public test::DeleteFixture {
     bool answersWhenStoppedAt(int turn) const {
         DeleteConfirmationFacts facts;
         int asked = 0;
-        return surveyFiles(SurveyedRows(m_list.rows), m_files, libraryWith({}), facts,
+        return surveyFiles(SurveyedRows(m_list.rows), {m_files, libraryWith({})}, facts,
                            [&] { return ++asked >= turn; })
             .has_value();
     }
@@ -166,9 +168,9 @@ TEST_F(DeletePlanTest, ALibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWante
     const TrackRecord& a = addFile("A", true, "a.mp3");
     add(1, "B", true, path("gone.mp3"));
     DeleteConfirmationFacts facts;
-    auto made = surveyFiles(
-        SurveyedRows(m_list.rows), m_files, [](const LocationVisitor&) { return false; }, facts,
-        [] { return false; });
+    auto made =
+        surveyFiles(SurveyedRows(m_list.rows), {m_files, [](const LocationVisitor&) { return false; }}, facts,
+                    [] { return false; });
     ASSERT_TRUE(made);
     EXPECT_EQ(facts, (DeleteConfirmationFacts{
                          .missingFiles = 1, .groupsLosingEveryFile = 1, .libraryUnknown = true}));
@@ -241,10 +243,105 @@ TEST_F(DeletePlanTest, AFolderIsNotCountedAsGoingOrMissing) {
 TEST_F(DeletePlanTest, ASurveyThatIsStoppedHasNoPlan) {
     addFile("A", true, "a.mp3");
     addFile("B", false, "b.mp3");
-    // One for each marked row, each of the library's, each copy that stays, and at the end.
-    for (int turn = 1; turn <= 5; ++turn)
+    // For the library, each marked row, each of the library's, each copy that stays, and at the end.
+    for (int turn = 1; turn <= 6; ++turn)
         EXPECT_FALSE(answersWhenStoppedAt(turn)) << turn;
-    EXPECT_TRUE(answersWhenStoppedAt(6));
+    EXPECT_TRUE(answersWhenStoppedAt(7));
+}
+
+/// A Trash that has no room for a file but for the first ones.
+class FullTrash final : public test::RecordingTrash {
+  public:
+    explicit FullTrash(int room)
+        : RecordingTrash(m_calls)
+        , m_room(room) {}
+    std::unique_ptr<TrashCheck> newCheck() override { return std::make_unique<Check>(*this); }
+
+    std::vector<std::string> asked;
+
+  private:
+    class Check final : public TrashCheck {
+      public:
+        explicit Check(FullTrash& trash)
+            : m_trash(trash) {}
+        Result<void> add(const std::string& path) override {
+            m_trash.asked.push_back(path);
+            if (m_trash.m_room-- > 0) return {};
+            return Error{Error::Code::noSpace, "there is no room"};
+        }
+
+      private:
+        FullTrash& m_trash;
+    };
+
+    std::vector<std::string> m_calls;
+    int m_room;
+};
+
+/// What the Trash will refuse.
+class FilesThatTheTrashRefuses : public DeletePlanTest {
+  protected:
+    DeletePlan planWith(FullTrash& trash, const Others& others = {}) {
+        SurveySources sources = {m_files, libraryWith(others)};
+        sources.trash = &trash;
+        m_facts = {};
+        return surveyFiles(SurveyedRows(m_list.rows), sources, m_facts, [] { return false; }).value();
+    }
+
+    DeleteConfirmationFacts m_facts;
+};
+
+TEST_F(FilesThatTheTrashRefuses, AreCountedApartAndSayWhy) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    const TrackRecord& b = addFile("B", true, "b.mp3");
+    FullTrash trash(1);
+    const DeletePlan plan = planWith(trash);
+    EXPECT_EQ(plan.files.at(&a).obstacle, "");
+    EXPECT_EQ(plan.files.at(&b).obstacle, "there is no room");
+    EXPECT_EQ(m_facts.filesToTrash, 1);
+    EXPECT_EQ(m_facts.bytesToTrash, 5);
+    EXPECT_EQ(m_facts.refusedFiles, 1);
+    EXPECT_EQ(m_facts.refusal, "there is no room");
+}
+
+TEST_F(FilesThatTheTrashRefuses, AreAskedAboutOnceAndOnlyIfTheyAreToGo) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    add(1, "C", true, path("a.mp3"));
+    add(1, "D", true, m_folder.path());
+    add(1, "E", true, path("gone.mp3"));
+    addFile("0", true, "without an ID.mp3");
+    FullTrash trash(9);
+    planWith(trash);
+    EXPECT_THAT(trash.asked, ElementsAre(path("a.mp3")));
+}
+
+TEST_F(FilesThatTheTrashRefuses, LeaveTheRoomToThoseThatNobodyElseUses) {
+    const TrackRecord& shared = addFile("A", true, "a.mp3");
+    const TrackRecord& b = addFile("B", true, "b.mp3");
+    FullTrash trash(1);
+    const DeletePlan plan = planWith(trash, {{"X", path("a.mp3")}});
+    EXPECT_EQ(plan.files.at(&b).obstacle, "");
+    EXPECT_EQ(plan.files.at(&shared).obstacle, "there is no room");
+}
+
+TEST_F(FilesThatTheTrashRefuses, AreLookedForUntilTheSurveyIsStopped) {
+    addFile("A", true, "a.mp3");
+    FullTrash trash(9);
+    SurveySources sources = {m_files};
+    sources.trash = &trash;
+    int asked = 0;
+    const auto isStopped = [&] { return ++asked > 2; }; // the library, the file
+    EXPECT_FALSE(surveyFiles(SurveyedRows(m_list.rows), sources, m_facts, isStopped));
+    EXPECT_THAT(trash.asked, IsEmpty());
+}
+
+TEST_F(DeletePlanTest, TheFactsTellWhyTheLibraryWillNotBeWritten) {
+    SurveySources sources = {m_files};
+    sources.libraryForesight = [] { return Error{Error::Code::noPermission, "it is closed"}; };
+    DeleteConfirmationFacts facts;
+    EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), sources, facts, [] { return false; }));
+    EXPECT_EQ(facts.libraryObstacle, "it is closed");
 }
 
 /// The copies that are to stay, looked at again.
@@ -254,7 +351,7 @@ class CopiesThatStay : public DeletePlanTest {
     int lost(const Files& files) const {
         DeleteConfirmationFacts facts;
         const auto isStopped = [] { return false; };
-        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), files, {}, facts, isStopped));
+        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), {files}, facts, isStopped));
         return facts.groupsLosingEveryFile;
     }
 };

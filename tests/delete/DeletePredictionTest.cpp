@@ -9,6 +9,7 @@
 namespace songsweep {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 
 class DeletePredictionTest : public test::DeleteFixture {
@@ -35,6 +36,24 @@ TEST_F(DeletePredictionTest, TellsWhatBecomesOfTheFilesInEarnest) {
     add(1, "F", true, path("gone.mp3"));
     add(1, "G", true, m_folder.path());
     expectTheSameInEarnest(test::makeDeletePlan(m_list.rows, m_files, {}));
+}
+
+TEST_F(DeletePredictionTest, SpeaksOfWhatWouldBe) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true, path("gone.mp3"));
+    add(1, "C", true, m_folder.path());
+    add(1, "", true);
+    std::vector<std::string> texts;
+    for (const bool withFiles : {true, false})
+        for (const DeleteOutcome& outcome :
+             predictedReport(m_list.rows, withFiles, test::makeDeletePlan(m_list.rows, m_files, {})).outcomes)
+            texts.push_back(outcomeText(outcome, Tense::conditional));
+    EXPECT_THAT(texts,
+                ElementsAre("would be deleted, file would go to the Trash",
+                            "would be deleted, file is missing",
+                            "would be deleted, file would stay: it is a folder",
+                            "would stay, file is missing: it has no persistent ID", "would be deleted",
+                            "would be deleted", "would be deleted", "would stay: it has no persistent ID"));
 }
 
 TEST_F(DeletePredictionTest, TellsWhichTracksStayInEarnest) {

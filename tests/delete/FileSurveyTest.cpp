@@ -36,7 +36,7 @@ class FileSurveyTest : public testing::Test {
     std::unique_ptr<FileSurvey> survey(const LibraryLocations& locations = {}) {
         return std::make_unique<FileSurvey>(SurveyedRows(m_list.rows, m_list.storage),
                                             DeleteConfirmationFacts{.tracks = 7, .filesPending = true},
-                                            m_files, locations, m_center);
+                                            SurveySources{m_files, locations}, m_center);
     }
 
     test::TemporaryFolder m_folder;

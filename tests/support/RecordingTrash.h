@@ -14,7 +14,7 @@ struct NoTrashCheck final : TrashCheck {
 };
 
 /// A Trash that only notes what it is asked for, and refuses where told to.
-class RecordingTrash final : public Trash {
+class RecordingTrash : public Trash {
   public:
     explicit RecordingTrash(std::vector<std::string>& calls)
         : m_calls(calls) {}
