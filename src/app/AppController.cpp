@@ -47,11 +47,15 @@ AppController::AppController(ControllerServices services, ControllerViews views)
     , m_search(m_services, views, {m_center, m_queue}, m_results, m_progress)
     , m_deletion(m_services, views, {m_center, m_queue}, m_results, m_search.readers(), m_progress,
                  [this] { reportIdle(); })
+    , m_restoring(m_services, views.restore, {m_center, m_queue})
     , m_queue(m_center, m_services.log) {
     m_queue.setIdleHandler([this] { reportIdle(); });
 }
 
-AppController::~AppController() { m_deletion.stop(); }
+AppController::~AppController() {
+    m_deletion.stop();
+    m_restoring.stop();
+}
 
 void AppController::reportIdle() const {
     if (m_idleHandler) m_idleHandler();
@@ -71,6 +75,7 @@ void AppController::awakeFromNib(const std::function<bool()>& redirectLog) {
 bool AppController::applicationShouldTerminate() {
     m_progress.stop();
     m_deletion.stop();
+    m_restoring.stop();
     m_queue.cancelAllOperations();
     m_center.close();
     return true;
@@ -180,6 +185,20 @@ void AppController::cancelButtonClick() {
     m_deletion.cancelButtonClick();
 }
 
+// Restoring.
+
+void AppController::restoreMenuClick() {
+    if (isIdle() && !m_services.libraryFile().empty()) {
+        m_restoring.begin();
+    } else {
+        m_view.beep();
+    }
+}
+
+void AppController::restoreOkButtonClick() {
+    if (isIdle()) m_restoring.restoreOkButtonClick();
+}
+
 // The worker events: the program's main loop is the chain of these reactions.
 
 /// One row of the dispatch; an event's place in the table is its number, so that a million of them find their
@@ -222,6 +241,12 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
          }},
         {N::readError, silent, [](A& a, const E& e) { take(e, a.m_search, &Search::onReadError); }},
         {N::surveyDone, silent, [](A& a, const E& e) { a.m_deletion.onSurveyDone(e); }},
+        {N::cleanupsListed, silent, [](A& a, const E& e) { a.m_restoring.onCleanupsListed(e); }},
+        {N::restoreForeseen, silent, [](A& a, const E& e) { a.m_restoring.onRestoreForeseen(e); }},
+        {N::restoreProgress, silent,
+         [](A& a, const E& e) { take(e, a.m_restoring, &Restoring::onRestoreProgress); }},
+        {N::restoreFinish, silent,
+         [](A& a, const E& e) { take(e, a.m_restoring, &Restoring::onRestoreFinish); }},
     });
     static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
     if (m_search.isStale(event)) return;

@@ -6,6 +6,7 @@
 #include "app/Links.h"
 #include "app/Marks.h"
 #include "app/ProgressDisplay.h"
+#include "app/Restoring.h"
 #include "app/Results.h"
 #include "app/Search.h"
 #include "app/TrackActions.h"
@@ -81,6 +82,13 @@ class AppController {
     void beginDelete() { m_deletion.beginDelete(); }
     void cancelButtonClick();
 
+    // Restoring.
+    /// Opens the restore sheet, or beeps where the library is the system's or a worker runs.
+    void restoreMenuClick();
+    void restoreCleanupChosen(int index, LostFiles lostFiles) { m_restoring.chooseCleanup(index, lostFiles); }
+    void restoreOkButtonClick();
+    void restoreCancelButtonClick() { m_restoring.restoreCancelButtonClick(); }
+
     // What views and commands look at.
     const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
@@ -120,6 +128,7 @@ class AppController {
     TrackActions m_trackActions;
     Search m_search;
     Deletion m_deletion;
+    Restoring m_restoring;
     std::function<void()> m_idleHandler;
     bool m_userCancelled = false;
     OperationQueue m_queue; ///< last, so that its workers end before what they use

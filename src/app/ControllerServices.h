@@ -38,6 +38,10 @@ struct ControllerServices {
         [](const std::vector<TrackRecord*>&) { return true; };
     /// Whether the library could be written if a deletion began now; called on a worker thread.
     std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
+    /// The library file that the embedded iTunes works on, for restoring; "" where it is the system's.
+    std::function<std::string()> libraryFile = [] { return std::string(); };
+    /// Writes what is pending of it. Called on a worker thread.
+    std::function<Result<void>()> writeLibrary = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
 

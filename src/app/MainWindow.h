@@ -80,6 +80,7 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     void markButtonClick();
     void deleteButtonClick();
     void deleteMarkedMenuClick();
+    void restoreMenuClick();
     void cancelformButtonClick();
     void openLibrary(const std::string& path);
     void markMenuClick(std::int32_t tag);

@@ -87,6 +87,7 @@ void MainWindow::connectFileMenu() {
     connect(m_ui->openLibraryMenuitem, &QAction::triggered, this, &MainWindow::chooseLibrary);
     connect(m_ui->searchMenuitem, &QAction::triggered, this, &MainWindow::startButtonClick);
     connect(m_ui->deleteMarkedMenuitem, &QAction::triggered, this, &MainWindow::deleteMarkedMenuClick);
+    connect(m_ui->restoreMenuitem, &QAction::triggered, this, &MainWindow::restoreMenuClick);
     connect(m_ui->closeMenuitem, &QAction::triggered, this, &MainWindow::close);
     connect(m_ui->quitMenuitem, &QAction::triggered, this, &MainWindow::quit);
 #ifdef Q_OS_MACOS

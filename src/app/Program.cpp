@@ -99,6 +99,9 @@ ControllerServices Program::controllerServices() {
         .areTracksOfITunes =
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
         .libraryForesight = [this] { return foreseeWriting(); },
+        .libraryFile =
+            [this] { return m_scripts.usesEmbedded() ? m_scripting.libraryPath() : std::string(); },
+        .writeLibrary = [this] { return writeLibrary(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
     };
 }

@@ -24,6 +24,7 @@ WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLi
     connectParametersDialog();
     connectMarkDialog();
     connectDeletion();
+    connectRestoring();
     connectApplication();
 }
 
@@ -34,6 +35,7 @@ void WindowActions::connectToolbarAndMenus() {
     connect(window, &MainWindow::markButtonClick, this, [=] { controller->markButtonClick(); });
     connect(window, &MainWindow::deleteButtonClick, this, [=] { controller->deleteButtonClick(); });
     connect(window, &MainWindow::deleteMarkedMenuClick, this, [=] { controller->deleteMarkedMenuClick(); });
+    connect(window, &MainWindow::restoreMenuClick, this, [=] { controller->restoreMenuClick(); });
     connect(window, &MainWindow::cancelformButtonClick, this, [=] { controller->cancelformButtonClick(); });
     connect(window, &MainWindow::markMenuClick, this,
             [=](std::int32_t tag) { controller->markMenuClick(tag); });
@@ -129,11 +131,24 @@ void WindowActions::connectDeletion() {
             [this] { m_windows.mainWindow().tableview().setFocus(Qt::OtherFocusReason); });
 }
 
+void WindowActions::connectRestoring() {
+    RestoreSheet* sheet = &m_windows.restoreSheet();
+    connect(sheet, &RestoreDialog::chosen, this,
+            [this](int index, LostFiles lostFiles) { m_controller.restoreCleanupChosen(index, lostFiles); });
+    connect(sheet, &RestoreDialog::restoreRequested, this, [this] { m_controller.restoreOkButtonClick(); });
+    connect(sheet, &RestoreDialog::cancelRequested, this,
+            [this] { m_controller.restoreCancelButtonClick(); });
+    connect(sheet, &RestoreDialog::detailsRequested, this, [this](const std::vector<std::string>& lines) {
+        m_windows.showDetails(QStringLiteral("Restored tracks"), lines);
+    });
+}
+
 void WindowActions::connectApplication() {
     MainWindow* window = &m_windows.mainWindow();
     connect(window, &MainWindow::quit, this, &WindowActions::quit);
     m_windows.deleteConfirmation().addAction(&window->quitMenuitem());
     m_windows.progressWindow().addAction(&window->quitMenuitem());
+    m_windows.restoreSheet().addAction(&window->quitMenuitem());
     // Qt's own rule would quit with the last window on macOS, too, from where it can be reopened.
     QApplication::setQuitOnLastWindowClosed(false);
 #ifndef Q_OS_MACOS

@@ -32,6 +32,7 @@ class WindowActions : public QObject {
     void connectParametersDialog();
     void connectMarkDialog();
     void connectDeletion();
+    void connectRestoring();
     void connectApplication();
     void chooseLibrary(const std::string& path);
     void updateMarkPreview();

@@ -3,6 +3,7 @@
 
 #include "app/Alerts.h"
 #include "app/BringToFront.h"
+#include "app/DetailsDialog.h"
 
 #include <QApplication>
 
@@ -13,6 +14,7 @@ Windows::Windows(Log& log)
     , m_paramWindow(&m_mainWindow)
     , m_markWindow(&m_mainWindow)
     , m_deleteConfirmation(&m_mainWindow)
+    , m_restoreSheet(&m_mainWindow)
     , m_progressWindow(&m_mainWindow)
     , m_aboutWindow(&m_mainWindow) {}
 
@@ -24,6 +26,7 @@ ControllerViews Windows::views() {
             .results = m_mainWindow,
             .mark = m_markWindow,
             .deletion = m_deleteConfirmation,
+            .restore = m_restoreSheet,
             .progress = m_progressWindow,
             .formprogress = m_mainWindow};
 }
@@ -46,6 +49,12 @@ void Windows::alertCantOpen(const std::string& reason) {
 
 void Windows::alertCantBeginDelete(const std::string& reason) {
     alertCantWrite(reason + "\nNothing was deleted.");
+}
+
+void Windows::showDetails(const QString& title, const std::vector<std::string>& lines) {
+    QWidget* const parent =
+        m_restoreSheet.isVisible() ? static_cast<QWidget*>(&m_restoreSheet) : &m_mainWindow;
+    (new DetailsDialog(title, lines, parent))->open();
 }
 
 QMessageBox* Windows::alertCantWrite(const std::string& reason) {

@@ -7,10 +7,13 @@
 #include "app/MarkWindow.h"
 #include "app/ParametersDialog.h"
 #include "app/ProgressSheet.h"
+#include "app/RestoreSheet.h"
 #include "app/views/ApplicationView.h"
 #include "app/views/ControllerViews.h"
 
 #include <functional>
+#include <string>
+#include <vector>
 
 class QMessageBox;
 
@@ -31,6 +34,7 @@ class Windows final : public ApplicationView {
     ParametersDialog& paramWindow() { return m_paramWindow; }
     MarkWindow& markWindow() { return m_markWindow; }
     DeleteSheet& deleteConfirmation() { return m_deleteConfirmation; }
+    RestoreSheet& restoreSheet() { return m_restoreSheet; }
     ProgressSheet& progressWindow() { return m_progressWindow; }
     AboutDialog& aboutWindow() { return m_aboutWindow; }
 
@@ -39,6 +43,8 @@ class Windows final : public ApplicationView {
 
     /// Tells that a library cannot be read, and why.
     void alertCantOpen(const std::string& reason);
+    /// A list of lines over the front window.
+    void showDetails(const QString& title, const std::vector<std::string>& lines);
     /// That the library file was not written. Gives the alert, which goes away when answered.
     QMessageBox* alertCantWrite(const std::string& reason);
 
@@ -56,6 +62,7 @@ class Windows final : public ApplicationView {
     ParametersDialog m_paramWindow;
     MarkWindow m_markWindow;
     DeleteSheet m_deleteConfirmation;
+    RestoreSheet m_restoreSheet;
     ProgressSheet m_progressWindow;
     AboutDialog m_aboutWindow;
     std::function<void(int)> m_cantAccessEnded;

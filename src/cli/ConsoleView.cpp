@@ -11,6 +11,7 @@ ControllerViews ConsoleView::views() {
             .results = *this,
             .mark = m_noMarkDialog,
             .deletion = *this,
+            .restore = m_noRestoreSheet,
             .progress = m_deleting,
             .formprogress = m_searching};
 }

@@ -15,11 +15,6 @@ namespace songsweep::cli {
 
 namespace {
 
-bool isCleanup(const CleanupSummary& cleanup) { return cleanup.heading.kind == RecordHeading::Kind::cleanup; }
-
-/// What a clean-up that took nothing away leaves to do.
-bool tookNothing(const CleanupSummary& cleanup) { return cleanup.end && cleanup.end->tracks == 0; }
-
 /// A user may copy the name from the list, or give the file of the record or of the backup.
 bool isCalled(const CleanupSummary& cleanup, const std::string& name) {
     const std::filesystem::path file = std::filesystem::path(name).filename();
@@ -42,7 +37,7 @@ ExitCode RestoreCommand::run() {
     Result<std::vector<CleanupSummary>> all = cleanupsOf(m_options.library);
     if (!all) return fail(all.error().message);
     std::vector<CleanupSummary> cleanups = std::move(all).value();
-    std::erase_if(cleanups, [](const CleanupSummary& cleanup) { return !isCleanup(cleanup); });
+    std::erase_if(cleanups, [](const CleanupSummary& cleanup) { return !cleanup.isCleanup(); });
     // Opened first, so that nothing is done whose outcome cannot be told.
     Result<Output> output = Output::open({});
     if (!output) return fail(output.error().message);
@@ -60,7 +55,7 @@ ExitCode RestoreCommand::list(Output& output, const std::vector<CleanupSummary>&
 Result<CleanupSummary> RestoreCommand::chosen(const std::vector<CleanupSummary>& cleanups) const {
     const auto found = std::find_if(cleanups.begin(), cleanups.end(), [this](const CleanupSummary& cleanup) {
         if (!m_options.cleanup.empty()) return isCalled(cleanup, m_options.cleanup);
-        return !cleanup.isRestored && !tookNothing(cleanup);
+        return cleanup.isOpen();
     });
     if (found != cleanups.end()) return *found;
     if (m_options.cleanup.empty())

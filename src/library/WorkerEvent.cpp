@@ -26,6 +26,10 @@ std::string_view text(EventName name) {
         "tableviewSpacebar",
         "readError",
         "surveyDone",
+        "cleanupsListed",
+        "restoreForeseen",
+        "restoreProgress",
+        "restoreFinish",
     };
     return texts.at(static_cast<std::size_t>(name));
 }

@@ -10,14 +10,16 @@
 
 namespace songsweep {
 
+struct CleanupListing;
 struct DeleteReport;
 struct ReadError;
+struct RestoreAnswer;
 struct SurveyAnswer;
 struct TrackRecord;
 class Operation;
 
-/// The events by which workers report, in the order in which the dispatch compares them; the last two are
-/// news for the controller alone, and never logged.
+/// The events by which workers report, in the order in which the dispatch compares them; those from
+/// "readError" on are news for the controller alone, and never logged.
 enum class EventName {
     addFinish,
     xmlDoneParsing,
@@ -38,14 +40,18 @@ enum class EventName {
     tableviewSpacebar,
     readError,
     surveyDone,
+    cleanupsListed,
+    restoreForeseen,
+    restoreProgress,
+    restoreFinish,
 };
 
-inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::surveyDone) + 1;
+inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::restoreFinish) + 1;
 
 /// The event's text, as the log shows it ("addFinish").
 std::string_view text(EventName name);
 
-/// The payload of "progressx": work units done.
+/// The payload of "progressx", work units done, and of "restoreProgress", percent.
 struct ProgressUnits {
     int prg = 0;
 };
@@ -54,7 +60,8 @@ struct ProgressUnits {
 /// worker, which is the receiver's from then on.
 using WorkerEventPayload =
     std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes, std::shared_ptr<ReadError>,
-                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>>;
+                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>,
+                 std::shared_ptr<CleanupListing>, std::shared_ptr<RestoreAnswer>>;
 
 /// One event on its way from a worker to the main thread. A value; the record stays its storage's.
 struct WorkerEvent {

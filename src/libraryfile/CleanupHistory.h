@@ -21,6 +21,10 @@ struct CleanupSummary {
 
     /// The name by which a user calls it.
     std::string name() const { return cleanupName(path); }
+    /// It deleted; a restore did not.
+    bool isCleanup() const { return heading.kind == RecordHeading::Kind::cleanup; }
+    /// A clean-up that may have taken away what no restore has brought back.
+    bool isOpen() const { return isCleanup() && !isRestored && !(end && end->tracks == 0); }
 };
 
 /// The clean-ups and restores of a library, by the records beside it, the newest first. Reads the beginning

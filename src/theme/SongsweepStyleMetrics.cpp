@@ -27,6 +27,7 @@ std::optional<int> controlMetric(QStyle::PixelMetric metric) {
     case QStyle::PM_LayoutHorizontalSpacing:
     case QStyle::PM_LayoutVerticalSpacing:
     case QStyle::PM_RadioButtonLabelSpacing:
+    case QStyle::PM_HeaderMargin:
         return 8;
     case QStyle::PM_IndicatorWidth:
     case QStyle::PM_IndicatorHeight:

@@ -4,6 +4,7 @@
 #include "app/ParametersDialog.h"
 #include "app/ProgressSheet.h"
 #include "delete/DeleteConfirmation.h"
+#include "delete/RestoreDialog.h"
 #include "dupes/MarkDialog.h"
 #include "support/ThemedTest.h"
 #include "support/Widgets.h"
@@ -56,6 +57,26 @@ std::unique_ptr<QDialog> parametersDialog() {
     return dialog;
 }
 
+std::unique_ptr<QDialog> restoreDialog() {
+    auto dialog = std::make_unique<RestoreDialog>();
+    CleanupListing listing;
+    listing.cleanups.resize(20);
+    for (CleanupSummary& cleanup : listing.cleanups) {
+        cleanup.heading.date = "2026-12-31T23:59:59Z";
+        cleanup.end = RecordEnd{RecordEnd::How::complete, "", 123456, 123456, 123'456'789'012};
+    }
+    dialog->setListing(listing, 0);
+    RestoreAnswer answer;
+    answer.report.tracks.resize(123);
+    answer.report.notes = {std::string(40, 'W') + " " + std::string(40, 'W')};
+    for (RestoredTrack& track : answer.report.tracks) {
+        track.entry = RestoredTrack::Entry::restored;
+        track.setFileGone();
+    }
+    dialog->setForeseen(answer);
+    return dialog;
+}
+
 class DialogLook : public test::ThemedTest, public testing::WithParamInterface<Opener> {};
 
 TEST_P(DialogLook, IsAsWideAsDesigned) {
@@ -95,7 +116,7 @@ TEST_P(DialogLook, GrowsWhenTheFontChangesWhileItIsOpen) {
 INSTANTIATE_TEST_SUITE_P(
     , DialogLook,
     testing::Values(Opener{"Parameters", parametersDialog, 440}, Opener{"Mark", markDialog, 500},
-                    Opener{"Delete", deleteConfirmation, 464},
+                    Opener{"Delete", deleteConfirmation, 464}, Opener{"Restore", restoreDialog, 560},
                     Opener{"Progress", [] { return std::make_unique<ProgressSheet>(); }, 400},
                     Opener{"About", [] { return std::make_unique<AboutDialog>(); }, 380}),
     [](const testing::TestParamInfo<Opener>& each) { return std::string(each.param.name); });

@@ -51,6 +51,7 @@ TEST_F(MainWindowMenuTest, EveryMenuItemAsksForItsActionAndForNoOther) {
     const std::vector<Wish> wishes = {
         {"searchMenuitem", &MainWindow::startButtonClick},
         {"deleteMarkedMenuitem", &MainWindow::deleteMarkedMenuClick},
+        {"restoreMenuitem", &MainWindow::restoreMenuClick},
         {"autoMarkMenuitem", &MainWindow::markButtonClick},
         {"playMenuitem", &MainWindow::playMenuClick},
         {"showinFinderMenuitem", &MainWindow::showinFinderMenuClick},

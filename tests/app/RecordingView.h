@@ -6,6 +6,7 @@
 #include "app/views/DeleteView.h"
 #include "app/views/MarkView.h"
 #include "app/views/ProgressView.h"
+#include "app/views/RestoreView.h"
 #include "app/views/ResultsView.h"
 #include "app/views/SearchView.h"
 #include "delete/DeleteConfirmationFacts.h"
@@ -22,13 +23,14 @@ class RecordingView final : public ApplicationView,
                             public SearchView,
                             public ResultsView,
                             public MarkView,
-                            public DeleteView {
+                            public DeleteView,
+                            public RestoreView {
   public:
     std::vector<std::string> calls;
     std::vector<int> selection;
     std::function<void(const std::string&)> onCall; ///< told of each call
 
-    ControllerViews views() { return {*this, *this, *this, *this, *this, m_progress, m_formprogress}; }
+    ControllerViews views() { return {*this, *this, *this, *this, *this, *this, m_progress, m_formprogress}; }
 
     bool has(const std::string& call) const {
         return std::find(calls.begin(), calls.end(), call) != calls.end();

@@ -29,6 +29,10 @@ TEST(WorkerEventTest, EveryEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::tableviewSpacebar), "tableviewSpacebar");
     EXPECT_EQ(text(EventName::readError), "readError");
     EXPECT_EQ(text(EventName::surveyDone), "surveyDone");
+    EXPECT_EQ(text(EventName::cleanupsListed), "cleanupsListed");
+    EXPECT_EQ(text(EventName::restoreForeseen), "restoreForeseen");
+    EXPECT_EQ(text(EventName::restoreProgress), "restoreProgress");
+    EXPECT_EQ(text(EventName::restoreFinish), "restoreFinish");
 }
 
 TEST(WorkerEventTest, TheTwoCountsAreCountsAndNothingElseIs) {

@@ -7,6 +7,7 @@ class ApplicationView;
 class DeleteView;
 class MarkView;
 class ProgressView;
+class RestoreView;
 class ResultsView;
 class SearchView;
 
@@ -17,6 +18,7 @@ struct ControllerViews {
     ResultsView& results;
     MarkView& mark;
     DeleteView& deletion;
+    RestoreView& restore;
     ProgressView& progress;     ///< the bar of the sheet, while deleting
     ProgressView& formprogress; ///< the bar of the main window, while searching
 };

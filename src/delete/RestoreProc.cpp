@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "delete/RestoreProc.h"
+
+#include "library/WorkerEvent.h"
+#include "operations/NotificationCenter.h"
+
+namespace songsweep {
+
+namespace {
+
+std::shared_ptr<RestoreAnswer> answerOf(Result<RestoreReport> report) {
+    auto answer = std::make_shared<RestoreAnswer>();
+    if (report)
+        answer->report = std::move(report).value();
+    else
+        answer->problem = report.error().message;
+    return answer;
+}
+
+Result<CleanupRestore> restoreFor(const RestoreOrder& order, Trash& trash) {
+    Result<RecordedCleanup> record = RecordedCleanup::read(order.record);
+    if (!record) return record.error();
+    return CleanupRestore(order.library, std::move(record).value(), trash, order.lostFiles);
+}
+
+} // namespace
+
+void RestoreForesight::main() {
+    const Result<CleanupRestore> restore = restoreFor(m_order, m_services.trash);
+    auto answer = answerOf(restore ? restore.value().foresee() : restore.error());
+    if (isCancelled()) return;
+    m_services.center.post({EventName::restoreForeseen, std::move(answer), this});
+}
+
+void RestoreProc::main() { m_services.center.post({EventName::restoreFinish, answerOf(restore()), this}); }
+
+Result<RestoreReport> RestoreProc::restore() {
+    if (const Result<void> written = m_services.writeLibrary(); !written) return written.error();
+    const Result<CleanupRestore> restore = restoreFor(m_order, m_services.trash);
+    if (!restore) return restore.error();
+    return restore.value().carryOut(
+        {.program = m_services.program,
+         .purpose = "the window",
+         .isCancelled = [this] { return isCancelled(); },
+         .progress = [this](std::size_t done, std::size_t all) { tellProgress(done, all); }});
+}
+
+void RestoreProc::tellProgress(std::size_t done, std::size_t all) {
+    constexpr std::size_t hundred = 100;
+    const auto percent = static_cast<int>(all == 0 ? 0 : done * hundred / all);
+    if (percent == m_percent) return;
+    m_percent = percent;
+    m_services.center.post({EventName::restoreProgress, ProgressUnits{percent}, this});
+}
+
+} // namespace songsweep
