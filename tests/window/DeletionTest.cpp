@@ -114,6 +114,7 @@ class LongDeletionInAWindow : public DeletionFixture {
         ASSERT_TRUE(comes("the sheet", [&] {
             return m_input.activeWindow() == "Songsweep" && m_input.activeWindowNumber() != mainWindow;
         }));
+        ASSERT_TRUE(comes("the first track's end", [this] { return m_screen.valueOf("Progress") > 0; }));
     }
     /// What was deleted by the time the program ended was written, and nothing else is gone.
     void expectTheDeletedWritten() const {
@@ -131,7 +132,7 @@ class LongDeletionInAWindow : public DeletionFixture {
         return count;
     }
 
-    static constexpr int pairs = 3000;
+    static constexpr int pairs = 15000;
 };
 
 TEST_F(LongDeletionInAWindow, EndsWithTheProgramAndWhatIsDeletedByThenIsWritten) {

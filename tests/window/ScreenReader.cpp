@@ -15,6 +15,7 @@ const QString connectionName = QStringLiteral("screen-reader");
 const QString rootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
 constexpr const char* accessible = "org.a11y.atspi.Accessible";
 constexpr const char* tableInterface = "org.a11y.atspi.Table";
+constexpr const char* valueInterface = "org.a11y.atspi.Value";
 
 // Numbers of the accessibility bus.
 constexpr unsigned tableRole = 55;
@@ -163,11 +164,22 @@ bool ScreenReader::shows(const std::string& text) const {
     return std::find(shown.begin(), shown.end(), text) != shown.end();
 }
 
-QRect ScreenReader::placeOf(const std::string& name) const {
+std::optional<ScreenReader::Path> ScreenReader::named(const std::string& name) const {
     const auto objects = visibleObjects();
     const auto found = std::find_if(objects.begin(), objects.end(),
                                     [&](const Path& object) { return nameOf(object) == name; });
-    return found == objects.end() ? QRect() : extents(*found);
+    if (found == objects.end()) return std::nullopt;
+    return *found;
+}
+
+QRect ScreenReader::placeOf(const std::string& name) const {
+    const auto object = named(name);
+    return object ? extents(*object) : QRect();
+}
+
+double ScreenReader::valueOf(const std::string& name) const {
+    const auto object = named(name);
+    return object ? property(*object, valueInterface, "CurrentValue").toDouble() : 0;
 }
 
 ScreenReader::Path ScreenReader::table() const {

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,8 @@ class ScreenReader {
     bool shows(const std::string& text) const;
     /// Where something of this name is on the screen; null where it is not to be seen.
     QRect placeOf(const std::string& name) const;
+    /// What a bar of this name shows; 0 where it is not to be seen.
+    double valueOf(const std::string& name) const;
 
     /// A row of the results table.
     struct Row {
@@ -62,6 +65,7 @@ class ScreenReader {
     QVariant property(const Path& object, const char* interface, const char* name) const;
     std::vector<Path> childrenOf(const Path& object) const;
     std::string nameOf(const Path& object) const;
+    std::optional<Path> named(const std::string& name) const;
     bool hasState(const Path& object, unsigned state) const;
     bool isTable(const Path& object) const;
     QRect extents(const Path& object) const;
