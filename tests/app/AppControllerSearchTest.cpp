@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/ControllerFixture.h"
 
+#include <algorithm>
+
 namespace songsweep::test {
 namespace {
 
@@ -42,6 +44,15 @@ TEST_F(AppControllerSearchTest, TheDialogAsksForThePlaylistsOnce) {
     controller->startButtonClick();
     EXPECT_THAT(view.calls, ElementsAre("showParamWindow"));
     EXPECT_EQ(iTunes.texts().size(), asked);
+}
+
+TEST_F(AppControllerSearchTest, TheDialogListsAPlaylistThatIsTheOnlyOneOnce) {
+    iTunes.fails = [](const std::string& text) { return text.find("whose smart") != std::string::npos; };
+    iTunes.playlists = {"Library"};
+    controller->startButtonClick();
+    const auto listed = std::count(view.calls.begin(), view.calls.end(), "addPlaylist Library");
+    controller->startButtonClick();
+    EXPECT_EQ(std::count(view.calls.begin(), view.calls.end(), "addPlaylist Library"), listed);
 }
 
 TEST_F(AppControllerSearchTest, CancelOnlyClosesTheDialog) {
@@ -145,6 +156,21 @@ TEST_F(AppControllerSearchTest, ASearchThatMissedItsPlaylistIsNotShownAsOneOfIt)
     runUntilIdle();
     EXPECT_FALSE(controller->missedPlaylist());
     EXPECT_THAT(view.calls, Contains("setSearchedText Lib\"rary: same name, artist"));
+}
+
+TEST_F(AppControllerSearchTest, TheFirstPlaylistIsFoundThoughAnotherIsTheMusicPlaylist) {
+    iTunes.version = "9.0";
+    iTunes.playlists = {"Party", "Library"};
+    addTracks(4);
+    iTunes.onScript = [this](const std::string& text) {
+        // Only the first question is answered by another order, as by a library that is sorted meanwhile.
+        if (text.find("playlist 1") != std::string::npos) iTunes.playlists = {"Library", "Party"};
+    };
+    SearchParameters choices = sameNameAndArtist();
+    choices.playlist = "Party";
+    controller->paramOkButtonClick(choices);
+    runUntilIdle();
+    EXPECT_FALSE(controller->missedPlaylist());
 }
 
 TEST_F(AppControllerSearchTest, WithNoFieldAndNoPlaylistTheSearchRunsAllTheSame) {

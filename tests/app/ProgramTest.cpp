@@ -122,5 +122,15 @@ TEST_F(ProgramTest, TellsOnceOnTheMainThreadThatTheLibraryCannotBeWritten) {
     EXPECT_EQ(reasons.size(), 1U);
 }
 
+TEST_F(ProgramTest, AFailedWriteHurtsNobodyWhoDoesNotAsk) {
+    const TemporaryFolder folder;
+    const std::string file = folder.write("Library.xml", fiveTracks());
+    Program& program = start(file, nullptr);
+    ASSERT_TRUE(program.scripting().run("tell application \"iTunes\" to delete track 1 of playlist 1"));
+    ASSERT_TRUE(std::filesystem::remove(file));
+    EXPECT_FALSE(program.writeLibrary());
+    handleWaitingEvents();
+}
+
 } // namespace
 } // namespace songsweep::test

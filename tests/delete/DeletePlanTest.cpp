@@ -66,6 +66,19 @@ class OneNumberFiles final : public Files {
     }
 };
 
+/// A file system whose files grow whenever they are looked at.
+class GrowingFiles final : public Files {
+  public:
+    std::optional<FileAttributes> attributes(const std::string& path) const override {
+        auto attributes = Files::attributes(path);
+        if (attributes) attributes->size += m_looks++;
+        return attributes;
+    }
+
+  private:
+    mutable std::uint64_t m_looks = 0;
+};
+
 TEST_F(DeletePlanTest, AMarkedTrackDoesNotShareWithItselfOrAnotherMarkedOne) {
     addFile("A", true, "a.mp3");
     add(1, "B", true, path("a.mp3"));
@@ -76,6 +89,12 @@ TEST_F(DeletePlanTest, ATrackOutsideOfTheResultsCanShareAFile) {
     const TrackRecord& a = addFile("A", true, "a.mp3");
     addFile("B", true, "b.mp3");
     EXPECT_THAT(plan({{"X", path("a.mp3")}, {"Y", path("c.mp3")}}).shared, UnorderedElementsAre(&a));
+}
+
+TEST_F(DeletePlanTest, AFileIsSharedThoughItHasChangedSinceItWasLookedAt) {
+    const TrackRecord& a = addFile("A", true, "a.mp3");
+    const GrowingFiles files;
+    EXPECT_THAT(plan({{"X", path("a.mp3")}}, files).shared, UnorderedElementsAre(&a));
 }
 
 TEST_F(DeletePlanTest, ALinkedFolderLeadsToTheSameFile) {

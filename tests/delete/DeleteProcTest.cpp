@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <stdexcept>
 
@@ -140,6 +141,15 @@ TEST_F(DeleteProcTest, AFolderStaysWithAllThatIsInIt) {
     EXPECT_TRUE(exists("Album/3.mp3"));
     EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: it is a folder"));
     EXPECT_FALSE(m_report.allDealtWith());
+}
+
+TEST_F(DeleteProcTest, WhatIsNoRegularFileStays) {
+    ASSERT_EQ(::mkfifo(path("pipe.mp3").c_str(), 0600), 0);
+    add(1, "A", true, path("pipe.mp3"));
+    run(withFiles);
+    EXPECT_THAT(journal("file"), IsEmpty());
+    EXPECT_TRUE(exists("pipe.mp3"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file kept: it is no regular file"));
 }
 
 TEST_F(DeleteProcTest, AFolderInThePlaceOfAPlannedFileStays) {

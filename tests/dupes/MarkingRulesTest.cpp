@@ -180,5 +180,15 @@ TEST(MarkingRulesTest, LookingAtTheEffectMarksNothing) {
     EXPECT_TRUE(markEffect(rows.rows(), choice).inForce);
 }
 
+TEST(MarkingRulesTest, OnlyAKindOrAFolderCanMatchNoRow) {
+    MarkRows rows;
+    rows.add(1, {.location = rows.text("/music/a.mp3")});
+    EXPECT_TRUE(matchesRow(rows.rows(), {MarkType::kind, exceptOne, "MP3"}));
+    EXPECT_FALSE(matchesRow(rows.rows(), {MarkType::kind, exceptOne, "M4A"}));
+    EXPECT_TRUE(matchesRow(rows.rows(), {MarkType::folder, exceptOne, "/music"}));
+    EXPECT_FALSE(matchesRow(rows.rows(), {MarkType::folder, exceptOne, "/sounds"}));
+    EXPECT_TRUE(matchesRow(rows.rows(), {MarkType::lowestBitrate, exceptOne, ""}));
+}
+
 } // namespace
 } // namespace songsweep

@@ -15,6 +15,7 @@ using test::contentOf;
 using test::manyTracks;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 using FinderApplicationTest = test::EmbeddedScriptingFixture;
 
 TEST_F(FinderApplicationTest, FinderMovesAFileToTheTrash) {
@@ -45,6 +46,20 @@ TEST_F(FinderApplicationTest, FilesHaveNoLock) {
               Descriptor(Descriptor::Value(false)));
     EXPECT_THAT(failure("tell application \"Finder\" to set locked of " + alias + " to true"),
                 HasSubstr("files cannot be locked here"));
+}
+
+TEST_F(FinderApplicationTest, AFileKeepsItsName) {
+    open(manyTracks(1));
+    const std::string alias = "alias \"" + hfsPath(m_folder.write("a.mp3", "")).value() + "\"";
+    const std::string refused =
+        failure("tell application \"Finder\" to set name of " + alias + " to \"b.mp3\"");
+    EXPECT_NE(refused, "(no failure)");
+    EXPECT_THAT(refused, Not(HasSubstr("locked")));
+}
+
+TEST_F(FinderApplicationTest, FinderKnowsItsName) {
+    open(manyTracks(1));
+    EXPECT_EQ(text("tell application \"Finder\" to get name"), "Finder");
 }
 
 TEST_F(FinderApplicationTest, AFileGoesAfterTheDeletionsThatWereToldBefore) {

@@ -38,6 +38,24 @@ TEST_F(ITunesApplicationTest, AnswersTheQuestionsOfASearch) {
     EXPECT_EQ(text(test::versionText), "12.0");
 }
 
+TEST_F(ITunesApplicationTest, OnlyTheApplicationCanBeActivated) {
+    open(manyTracks(1));
+    run("tell application \"iTunes\" to activate");
+    EXPECT_NE(failure("tell application \"iTunes\" to activate track 1 of playlist 1"), "(no failure)");
+}
+
+TEST_F(ITunesApplicationTest, DeletingNothingIsAnError) {
+    open(manyTracks(1));
+    EXPECT_NE(failure("tell application \"iTunes\" to delete"), "(no failure)");
+    EXPECT_EQ(text(test::trackCountText), "1");
+}
+
+TEST_F(ITunesApplicationTest, PlayingNothingIsAnError) {
+    open(manyTracks(1));
+    EXPECT_NE(failure("tell application \"iTunes\" to play"), "(no failure)");
+    EXPECT_THAT(m_desktop.calls, ElementsAre());
+}
+
 TEST_F(ITunesApplicationTest, APlaylistNameThatBreaksTheTextFailsIt) {
     open(manyTracks(1));
     EXPECT_NE(failure(test::playlistIndexText("say \"hi\" to")), "(no failure)");
