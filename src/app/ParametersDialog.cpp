@@ -3,7 +3,6 @@
 
 #include "app/BringToFront.h"
 #include "theme/Announcement.h"
-#include "theme/ToolTips.h"
 #include "ui_ParametersDialog.h"
 
 #include <QPushButton>
@@ -23,7 +22,7 @@ ParametersDialog::ParametersDialog(QWidget* parent)
         connect(field, &QCheckBox::toggled, this, &ParametersDialog::updateWarning);
     // A name too long for the box is cut there, so that the dialog does not grow with it.
     connect(m_ui->paramLocationCB, &QComboBox::currentTextChanged, m_ui->paramLocationCB,
-            [list = m_ui->paramLocationCB](const QString& name) { list->setToolTip(plainToolTip(name)); });
+            [list = m_ui->paramLocationCB](const QString& name) { list->setToolTip(name); });
     updateWarning();
 }
 
@@ -49,8 +48,7 @@ void ParametersDialog::addPlaylist(const std::string& name) {
     const int selected = m_ui->paramLocationCB->currentIndex();
     const QString text = QString::fromStdString(name);
     m_ui->paramLocationCB->addItem(text);
-    m_ui->paramLocationCB->setItemData(m_ui->paramLocationCB->count() - 1, plainToolTip(text),
-                                       Qt::ToolTipRole);
+    m_ui->paramLocationCB->setItemData(m_ui->paramLocationCB->count() - 1, text, Qt::ToolTipRole);
     m_ui->paramLocationCB->setCurrentIndex(selected); // a first item selects itself
 }
 

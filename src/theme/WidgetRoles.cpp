@@ -83,7 +83,9 @@ void applyIcon(QLabel& label) {
     label.setPixmap(themedIcon(*icon).pixmap(QSize(size, size), label.devicePixelRatioF()));
 }
 
+/// Names of tracks and files may look like markup, in labels and in tool tips, which are labels, too.
 void applyLabel(QLabel& label) {
+    label.setTextFormat(Qt::PlainText);
     applyRole(label);
     applyIcon(label);
     if (label.property("baseIndent").isValid()) label.setIndent(grown(label, "baseIndent"));

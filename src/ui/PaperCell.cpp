@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/PaperCell.h"
 
-#include "theme/ToolTips.h"
 #include "ui/TrackTableModel.h"
 
 #include <QAbstractItemView>
@@ -56,7 +55,7 @@ bool PaperCell::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QSty
     if (text.isEmpty() || !wantsToolTip(option, text))
         QToolTip::hideText();
     else
-        QToolTip::showText(event->globalPos(), plainToolTip(text), view->viewport(), option.rect);
+        QToolTip::showText(event->globalPos(), text, view->viewport(), option.rect);
     return true;
 }
 

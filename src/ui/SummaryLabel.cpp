@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/SummaryLabel.h"
 
-#include "theme/ToolTips.h"
-
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -28,7 +26,7 @@ QSize SummaryLabel::minimumSizeHint() const {
 
 bool SummaryLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QLabel::event(event);
-    const QString whole = shownText() == text() ? QString() : plainToolTip(text());
+    const QString whole = shownText() == text() ? QString() : text();
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole, this);
     return true;
 }

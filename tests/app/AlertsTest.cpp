@@ -4,6 +4,7 @@
 #include "support/ThemedTest.h"
 #include "support/Widgets.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -106,6 +107,15 @@ TEST_F(Alerts, GiveTheReasonWhereThereIsOne) {
     QMessageBox& box = openCantAccess(QStringLiteral("The library file cannot be read"));
     EXPECT_EQ(box.informativeText(), QStringLiteral("The library file cannot be read"));
     EXPECT_TRUE(test::clippedControls(box).isEmpty()) << test::clippedControls(box).join(u' ').toStdString();
+    box.close();
+}
+
+TEST_F(Alerts, ShowMarkupAsItIs) {
+    QMessageBox& box = openCantAccess(QStringLiteral("<a href=\"https://songsweep.example\">x</a>"));
+    const auto labels = box.findChildren<QLabel*>();
+    ASSERT_GE(labels.size(), 2);
+    for (const QLabel* label : labels)
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
     box.close();
 }
 

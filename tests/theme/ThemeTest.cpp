@@ -14,6 +14,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -224,6 +225,17 @@ TEST_F(StyledWindow, HonoursRolesAndLengthsThatGrow) {
     m_window.setFont(twice);
     EXPECT_EQ(heading.font().pixelSize(), 30);
     EXPECT_EQ(helper.minimumWidth(), 200);
+}
+
+TEST_F(StyledWindow, ShowsMarkupAsItIsInToolTips) {
+    m_window.show();
+    QToolTip::showText(m_window.pos(), QStringLiteral("<b>bold</b>"), &m_window);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto tip = std::find_if(windows.begin(), windows.end(),
+                                  [](const QWidget* each) { return each->inherits("QTipLabel"); });
+    ASSERT_NE(tip, windows.end());
+    EXPECT_EQ(qobject_cast<QLabel*>(*tip)->textFormat(), Qt::PlainText);
+    QToolTip::hideText();
 }
 
 TEST_F(StyledWindow, ShowsMnemonicsOnlyWhileAltIsHeld) {
