@@ -33,6 +33,7 @@ Text TrackStorage::store(std::string_view text) {
 }
 
 Text TrackStorage::intern(std::string_view text, Text likely) {
+    text = text.substr(0, text.find('\0')); // as whoever reads it will
     const char* const bytes = likely.c_str();
     if (std::strncmp(bytes, text.data(), text.size()) == 0 && bytes[text.size()] == '\0') return likely;
     return m_impl->interned.intern(text, m_impl->texts);

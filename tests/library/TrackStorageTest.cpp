@@ -75,6 +75,15 @@ TEST(TrackStorage, LooksAtTheLikelyTextFirst) {
     EXPECT_EQ(storage.intern("", stored), "");
 }
 
+TEST(TrackStorage, EndsATextAtItsFirstZero) {
+    TrackStorage storage;
+    const Text a = storage.intern("a");
+    const std::string_view zeros("a\0\0\0\0\0\0\0", 8);
+    EXPECT_EQ(storage.intern(zeros, a).c_str(), a.c_str());
+    EXPECT_EQ(storage.intern(zeros).c_str(), a.c_str());
+    EXPECT_EQ(storage.intern(std::string_view("\0\0", 2), a), "");
+}
+
 TEST(TrackStorage, KeepsTheTextsWhenItForgetsTheirIndex) {
     TrackStorage storage;
     const Text text = storage.intern("Artist");
