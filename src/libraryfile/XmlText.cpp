@@ -57,6 +57,14 @@ char predefined(std::string_view name) {
     return '\0';
 }
 
+/// Appends bytes as they stand in a file, with line ends as XML has them.
+void appendPlain(std::string& out, std::string_view text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
+        out += text[i] == '\r' ? '\n' : text[i];
+    }
+}
+
 /// Decodes one run of bytes, entity by entity, into one text.
 class Decoder {
   public:
@@ -81,8 +89,10 @@ class Decoder {
     bool decodeSpecial(std::string_view& raw, int depth) {
         if (raw.front() == '&') return decodeReference(raw, depth);
         if (raw.front() == '<') return decodeMarkup(raw);
-        m_text += '\n';
-        raw.remove_prefix(raw.starts_with("\r\n") ? 2 : 1);
+        // An entity's line ends are what its references say.
+        const bool isLineEnd = depth == 0;
+        m_text += isLineEnd ? '\n' : '\r';
+        raw.remove_prefix(isLineEnd && raw.starts_with("\r\n") ? 2 : 1);
         return true;
     }
 
@@ -105,7 +115,7 @@ class Decoder {
         if (raw.starts_with("<![CDATA[")) {
             const std::size_t end = raw.find("]]>");
             if (end == std::string_view::npos) return false;
-            appendPlain(raw.substr(9, end - 9));
+            appendPlain(m_text, raw.substr(9, end - 9));
             raw.remove_prefix(end + 3);
             return true;
         }
@@ -114,13 +124,6 @@ class Decoder {
         if (end == std::string_view::npos) return false;
         raw.remove_prefix(end + close.size());
         return true;
-    }
-
-    void appendPlain(std::string_view text) {
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-            m_text += text[i] == '\r' ? '\n' : text[i];
-        }
     }
 
     const XmlEntities& m_entities;
@@ -134,7 +137,7 @@ std::optional<std::string> entityReplacement(std::string_view literal) {
     std::string text;
     while (!literal.empty()) {
         const std::size_t reference = literal.find("&#");
-        text.append(literal.substr(0, reference));
+        appendPlain(text, literal.substr(0, reference));
         if (reference == std::string_view::npos) break;
         literal.remove_prefix(reference);
         const std::size_t end = literal.find(';');

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "libraryfile/XmlText.h"
+
+#include <gtest/gtest.h>
+
+namespace songsweep {
+namespace {
+
+TEST(XmlText, EndsLinesByALineFeed) { EXPECT_EQ(decodeXmlText("a\r\nb\rc\nd", {}), "a\nb\nc\nd"); }
+
+TEST(XmlText, KeepsACarriageReturnThatIsReferredTo) {
+    EXPECT_EQ(decodeXmlText("a&#13;b&#xD;&#10;c", {}), "a\rb\r\nc");
+}
+
+TEST(XmlText, KeepsACarriageReturnThatAnEntityRefersTo) {
+    const auto replacement = entityReplacement("x&#13;&#10;y\r\nz");
+    ASSERT_TRUE(replacement);
+    EXPECT_EQ(*replacement, "x\r\ny\nz");
+    EXPECT_EQ(decodeXmlText("&e;", {{"e", *replacement}}), "x\r\ny\nz");
+}
+
+} // namespace
+} // namespace songsweep
