@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -29,10 +30,10 @@ Error cannotWrite(const std::string& path, int errorNumber) {
 }
 
 /// What is there already; nothing where a new file is made.
-std::optional<mode_t> modeOf(const std::string& path) {
+std::optional<struct stat> statusOf(const std::string& path) {
     struct stat status = {};
     if (::stat(path.c_str(), &status) != 0) return {};
-    return status.st_mode;
+    return status;
 }
 
 mode_t modeOfNewFiles() {
@@ -72,13 +73,26 @@ std::size_t largestPieceOf(int descriptor) {
     return isFile ? bufferSize : PIPE_BUF;
 }
 
+/// Gives one file the contents of another.
+bool overwrite(int from, int to) {
+    std::array<char, bufferSize> piece{};
+    off_t done = 0;
+    for (;;) {
+        const ssize_t count = ::pread(from, piece.data(), piece.size(), done);
+        if (count == 0) return ::ftruncate(to, done) == 0 && ::fsync(to) == 0;
+        if (count < 0 || ::pwrite(to, piece.data(), static_cast<std::size_t>(count), done) != count)
+            return false;
+        done += count;
+    }
+}
+
 } // namespace
 
 Result<Output> Output::open(const std::string& path, Interrupted interrupted) {
     if (path.empty()) return Output({}, {}, STDOUT_FILENO, std::move(interrupted));
-    const std::optional<mode_t> mode = modeOf(path);
-    if (mode && S_ISDIR(*mode)) return cannotWrite(path, EISDIR);
-    if (mode && !S_ISREG(*mode)) { // a device or a pipe is written to, never replaced
+    const std::optional<struct stat> present = statusOf(path);
+    if (present && S_ISDIR(present->st_mode)) return cannotWrite(path, EISDIR);
+    if (present && !S_ISREG(present->st_mode)) { // a device or a pipe is written to, never replaced
         const int descriptor = openSpecial(path, interrupted);
         if (descriptor < 0 && errno == ECANCELED) return Error{Error::Code::cancelled, "interrupted"};
         if (descriptor < 0) return cannotWrite(path, errno);
@@ -88,8 +102,14 @@ Result<Output> Output::open(const std::string& path, Interrupted interrupted) {
     std::string temporary = file + ".XXXXXX";
     const int descriptor = ::mkstemp(temporary.data());
     if (descriptor < 0) return cannotWrite(path, errno);
-    (void)::fchmod(descriptor, mode ? *mode & 0777U : modeOfNewFiles());
-    return Output(file, temporary, descriptor, std::move(interrupted));
+    Output output(file, temporary, descriptor, std::move(interrupted));
+    if (present && ::fchown(descriptor, present->st_uid, present->st_gid) != 0) {
+        // Only its contents can become others then, not the file itself.
+        output.m_target = ::open(file.c_str(), O_WRONLY | O_CLOEXEC);
+        if (output.m_target < 0) return cannotWrite(path, errno);
+    }
+    (void)::fchmod(descriptor, present ? present->st_mode & 0777U : modeOfNewFiles());
+    return output;
 }
 
 Output::Output(std::string path, std::string temporaryPath, int descriptor, Interrupted interrupted)
@@ -104,6 +124,7 @@ Output::Output(Output&& other) noexcept
     : m_path(std::move(other.m_path))
     , m_temporaryPath(std::exchange(other.m_temporaryPath, {}))
     , m_descriptor(std::exchange(other.m_descriptor, -1))
+    , m_target(std::exchange(other.m_target, -1))
     , m_interrupted(std::move(other.m_interrupted))
     , m_terminal(other.m_terminal)
     , m_largestPiece(other.m_largestPiece)
@@ -113,6 +134,7 @@ Output::Output(Output&& other) noexcept
 
 Output::~Output() {
     if (m_descriptor > STDERR_FILENO) ::close(m_descriptor);
+    if (m_target >= 0) ::close(m_target);
     if (!m_temporaryPath.empty()) ::unlink(m_temporaryPath.c_str());
 }
 
@@ -156,14 +178,19 @@ bool Output::waitUntilWritable() {
 
 Result<void> Output::finish() {
     flush();
-    if (m_error.message.empty() && !m_temporaryPath.empty()) {
-        if (::fsync(m_descriptor) != 0 || ::rename(m_temporaryPath.c_str(), m_path.c_str()) != 0)
-            m_error = cannotWrite(m_path, errno);
-        else
-            m_temporaryPath.clear();
-    }
+    if (m_error.message.empty() && !m_temporaryPath.empty()) takePlace();
     if (!m_error.message.empty()) return m_error;
     return {};
+}
+
+void Output::takePlace() {
+    const bool replaced =
+        m_target >= 0 ? overwrite(m_descriptor, m_target)
+                      : ::fsync(m_descriptor) == 0 && ::rename(m_temporaryPath.c_str(), m_path.c_str()) == 0;
+    if (!replaced)
+        m_error = cannotWrite(m_path, errno);
+    else if (m_target < 0)
+        m_temporaryPath.clear();
 }
 
 } // namespace songsweep::cli

@@ -20,7 +20,8 @@ class Output {
     using Interrupted = std::function<bool()>;
 
     /// Standard output for an empty path. A file is written beside its name first; an error where it cannot.
-    /// Where a link or a file stands already, the link stays and the file keeps its mode.
+    /// Where a link or a file stands already, the link stays and the file keeps its owner and its mode: one
+    /// whose owner cannot be given to another file gets its contents at the end, in place.
     static Result<Output> open(
         const std::string& path, Interrupted interrupted = [] { return false; });
 
@@ -43,11 +44,13 @@ class Output {
   private:
     Output(std::string path, std::string temporaryPath, int descriptor, Interrupted interrupted);
     void flush();
+    void takePlace();
     bool waitUntilWritable();
 
     std::string m_path;
     std::string m_temporaryPath;
     int m_descriptor;
+    int m_target = -1; ///< the file whose contents are replaced; -1 where the file itself is
     Interrupted m_interrupted;
     bool m_terminal;
     std::size_t m_largestPiece;

@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -68,6 +70,13 @@ class Find : public test::ProgramTest {
     RunResult find(std::vector<std::string> options) {
         options.insert(options.begin(), {"find", "--library", m_library});
         return run(options);
+    }
+    static void expectRights(const std::string& path, uid_t user, gid_t group, mode_t mode) {
+        struct stat status = {};
+        ASSERT_EQ(::stat(path.c_str(), &status), 0);
+        EXPECT_EQ(status.st_uid, user);
+        EXPECT_EQ(status.st_gid, group);
+        EXPECT_EQ(status.st_mode & 07777U, mode);
     }
     ordered_json json(std::vector<std::string> options) {
         options.insert(options.end(), {"--format", "json"});
@@ -271,6 +280,33 @@ TEST_F(Find, WritesWhereALinkLeadsThatLedNowhere) {
     ASSERT_EQ(find({"--output", path("link")}).exitCode, 0);
     EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
     EXPECT_EQ(m_folder.read("new"), find({}).output);
+}
+
+TEST_F(Find, KeepsTheOwnerAndTheModeOfWhatItReplaces) {
+    if (::geteuid() != 0) GTEST_SKIP() << "no file can be given to another user";
+    const std::string result = m_folder.write("result", "old");
+    ASSERT_EQ(::chown(result.c_str(), 1234, 5678), 0);
+    ASSERT_EQ(::chmod(result.c_str(), 0640), 0);
+    ASSERT_EQ(find({"--output", result}).exitCode, 0);
+    EXPECT_EQ(m_folder.read("result"), find({}).output);
+    expectRights(result, 1234, 5678, 0640);
+}
+
+TEST_F(Find, ReplacesTheContentsOfAFileWhoseOwnerItCannotGive) {
+    if (::geteuid() != 0) GTEST_SKIP() << "no file can be another user's";
+    const std::string expected = find({}).output;
+    const std::string result = m_folder.write("result", std::string(1'000'000, 'o'));
+    ASSERT_EQ(::chmod(result.c_str(), 0666), 0);
+    ASSERT_EQ(::chmod(m_folder.path().c_str(), 0777), 0);
+    m_beforeStart = [] { static_cast<void>(::setuid(65534)); };
+    ASSERT_EQ(find({"--output", result}).exitCode, 0);
+    EXPECT_EQ(m_folder.read("result"), expected);
+    expectRights(result, 0, 0, 0666);
+    for (const auto& entry : std::filesystem::directory_iterator(m_folder.path()))
+        EXPECT_FALSE(entry.path().filename().string().starts_with("result.")) << entry.path();
+    ASSERT_EQ(::chmod(result.c_str(), 0644), 0);
+    EXPECT_EQ(find({"--output", result}).exitCode, 1) << "a file of another user is not replaced";
+    EXPECT_EQ(m_folder.read("result"), expected);
 }
 
 TEST_F(Find, ComparesWhatTheDialogDoes) {
