@@ -19,8 +19,8 @@ class InterruptWatch {
     /// The handler is called on the thread of the application object, from its event loop.
     explicit InterruptWatch(std::function<void()> handler);
 
-    /// Whether there was a signal. Any thread.
-    bool heard() const { return m_heard; }
+    /// Whether there was a signal, told already or not. Any thread.
+    bool heard() const { return m_heard || SignalWatch::hasSignal(); }
 
     /// What the first signal does at once, on a thread of its own, so that the main thread is not waited for.
     /// Done now where one was heard already.

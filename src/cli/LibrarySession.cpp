@@ -9,8 +9,6 @@
 #include "library/CaseFolding.h"
 #include "library/Trim.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cstdio>
 
@@ -139,7 +137,8 @@ const DeleteConfirmationFacts& LibrarySession::askToDelete(bool deleteFiles) {
 bool LibrarySession::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
     if (m_controller->getCheckedCount() == 0) return true;
     m_interrupts.setLastAct([this] { endDeletionAtOnce(); });
-    QCoreApplication::processEvents(); // Ctrl-C may have come while tracks were marked
+    // Ctrl-C may have come while tracks were marked, so late that nobody was told yet.
+    m_interrupted |= m_interrupts.heard();
     if (m_interrupted) {
         m_controller->delConfCancelButtonClick();
     } else {

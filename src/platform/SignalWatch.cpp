@@ -14,11 +14,13 @@ namespace {
 
 /// The pipe of the present watch, or -1. Static, as a signal handler can reach nothing else.
 std::atomic<int> presentPipe{-1};
-static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<bool> signalCame{false};
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
 void tell(int) {
     const int formerError = errno;
     const char byte = 0;
+    signalCame = true;
     // A pipe that is full has told enough.
     [[maybe_unused]] const ssize_t written = ::write(presentPipe, &byte, 1);
     errno = formerError;
@@ -36,6 +38,7 @@ SignalWatch::SignalWatch(std::function<void(int)> handler)
     m_readingEnd = ends[0];
     m_writingEnd = ends[1];
     presentPipe = m_writingEnd;
+    signalCame = false;
     m_thread = std::thread([this] { watch(); });
     replaceActions();
 }
@@ -49,6 +52,8 @@ SignalWatch::~SignalWatch() {
     m_thread.join();
     ::close(m_readingEnd);
 }
+
+bool SignalWatch::hasSignal() { return signalCame; }
 
 void SignalWatch::replaceActions() {
     struct sigaction action {};

@@ -24,6 +24,9 @@ class SignalWatch {
     SignalWatch& operator=(const SignalWatch&) = delete;
     ~SignalWatch(); ///< the signals do again what they did before
 
+    /// Whether a signal has come, be the handler called already or not. Any thread.
+    static bool hasSignal();
+
   private:
     void replaceActions();
     void watch();

@@ -25,6 +25,18 @@ TEST(SignalWatch, TellsOfEachSignalByItsNumber) {
     }
 }
 
+TEST(SignalWatch, KnowsOfASignalBeforeItHasToldOfIt) {
+    for (int watches = 0; watches < 2; ++watches) {
+        std::atomic<bool> mayEnd = false;
+        const SignalWatch watch([&](int) { mayEnd.wait(false); });
+        EXPECT_FALSE(SignalWatch::hasSignal()) << "those before a watch are none of it";
+        ASSERT_EQ(::raise(SIGTERM), 0);
+        EXPECT_TRUE(SignalWatch::hasSignal());
+        mayEnd = true;
+        mayEnd.notify_all();
+    }
+}
+
 TEST(SignalWatch, LeavesTheSignalsAsTheyWereBefore) {
     struct sigaction before {};
     struct sigaction during {};
