@@ -5,6 +5,7 @@
 #include "library/ValueFormats.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
+#include "platform/ExceptionReason.h"
 #include "platform/Log.h"
 #include "scripting/AppleScript.h"
 
@@ -21,6 +22,12 @@ constexpr std::int32_t batchSize = 50;
 /// Scripts that fail one after the other before iTunes counts as gone, and no batch is divided any longer.
 /// One bad track makes six of them fail at most.
 constexpr int mostFailuresInARow = 16;
+
+/// The reason without its place in the script, which tells nothing of the library.
+std::string withoutPosition(const std::string& message) {
+    const bool hasPosition = message.starts_with("line ") && message.find(", column ") < message.find(": ");
+    return hasPosition ? message.substr(message.find(": ") + 2) : message;
+}
 
 } // namespace
 
@@ -56,10 +63,12 @@ AddProc::AddProc(std::shared_ptr<TrackList> list, SearchParameters parameters, s
 
 void AddProc::main() {
     m_services.log.line("Applescript Parsing");
+    m_list->coverage = {};
     std::exception_ptr failure;
     try {
         readPlaylist();
     } catch (...) {
+        m_list->coverage.brokenOff = exceptionReason();
         failure = std::current_exception();
     }
     m_list->storage->forgetInterned();
@@ -80,7 +89,9 @@ void AddProc::readPlaylist() {
 std::int32_t AddProc::trackCount() {
     const auto result = m_services.scripts.executeAndReturnError(
         "tell application \"iTunes\" to get count of tracks of playlist " + std::to_string(m_musicInt));
+    if (!result) m_list->coverage.brokenOff = withoutPosition(result.error().message);
     const std::int32_t count = result ? integerValue(result.value().stringValue().value_or("")) : 0;
+    m_list->coverage.playlistTracks = count;
     m_services.log.line(std::to_string(count));
     return count;
 }
@@ -94,8 +105,10 @@ bool AddProc::readBatch(std::int32_t first, std::int32_t last) {
     for (std::int32_t i = 1; i <= last - first + 1; ++i) {
         if (isCancelled()) return false;
         const Descriptor* const item = tracks->descriptorAtIndex(i);
-        if (!item || (m_searchparams.isignoredead && isDeadTrackItem(*item))) continue;
-        m_list->records.push_back(&makeRecord(*m_list->storage, *item));
+        if (!item)
+            noteUnread(1, "iTunes gave fewer tracks than it was asked for");
+        else if (!m_searchparams.isignoredead || !isDeadTrackItem(*item))
+            m_list->records.push_back(&makeRecord(*m_list->storage, *item));
     }
     return true;
 }
@@ -110,7 +123,14 @@ bool AddProc::readHalves(std::int32_t first, std::int32_t last, const std::strin
     }
     m_services.log.line("Tracks " + std::to_string(first) + " to " + std::to_string(last) +
                         " could not be read: " + reason);
+    noteUnread(last - first + 1, reason);
     return true;
+}
+
+void AddProc::noteUnread(int tracks, const std::string& reason) {
+    SearchCoverage& coverage = m_list->coverage;
+    if (coverage.unreadTracks == 0) coverage.unreadReason = withoutPosition(reason);
+    coverage.unreadTracks += tracks;
 }
 
 void AddProc::postEnd() {

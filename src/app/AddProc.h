@@ -17,6 +17,7 @@ namespace songsweep {
 /// Serves iTunes before version 10, and every library whose file cannot be read. Appends to the track list;
 /// ends with "addFinish", or with "addCancel" and an empty list. One script a batch, never one a track, but
 /// for a batch that fails: its halves are asked for in turn, so that the track to blame is left out alone.
+/// What could not be read is told by the list's coverage.
 class AddProc final : public Operation {
   public:
     /// `musicInt` is the playlist's index in iTunes, from 1.
@@ -29,6 +30,7 @@ class AddProc final : public Operation {
     void readPlaylist();
     bool readBatch(std::int32_t first, std::int32_t last);
     bool readHalves(std::int32_t first, std::int32_t last, const std::string& reason);
+    void noteUnread(int tracks, const std::string& reason);
     std::int32_t trackCount();
     void postEnd();
 

@@ -26,8 +26,9 @@ QMessageBox* openWarning(QWidget* parent, const QString& message, const QString&
 
 } // namespace
 
-QMessageBox* openNoDuplicates(QWidget* parent) {
+QMessageBox* openNoDuplicates(QWidget* parent, const QString& explanation) {
     auto* box = new AlertBox(QMessageBox::NoIcon, QStringLiteral("No duplicates found."), parent);
+    box->setInformativeText(explanation);
     addOkButton(*box);
     box->open();
     return box;

@@ -14,8 +14,8 @@ namespace songsweep::alerts {
 /// What the buttons of an alert are called in its end handler: the first, the second.
 enum ReturnCode { firstButton = 1000, secondButton = 1001 };
 
-/// "No duplicates found."
-QMessageBox* openNoDuplicates(QWidget* parent);
+/// "No duplicates found."; `explanation`, where it is not empty, is a second paragraph.
+QMessageBox* openNoDuplicates(QWidget* parent, const QString& explanation = {});
 
 /// That iTunes does not answer, with "OK" and "Help". `reason` is a second paragraph, or empty; `ended` is
 /// told the return code, `firstButton` also for Escape.

@@ -25,6 +25,10 @@ constexpr const char* cantAccessMessage = "Can't access iTunes. If there is a di
 /// What a text that is not there reads as where a text is built from it.
 const std::string missingText = "(null)";
 
+std::string wholeLibraryNote(const SearchParameters& parameters) {
+    return "the whole library was searched, not “" + parameters.playlist.value_or("") + "”";
+}
+
 } // namespace
 
 Search::Search(const ControllerServices& services, const ControllerViews& views, Workers workers,
@@ -83,14 +87,29 @@ void Search::paramOkButtonClick(SearchParameters choices) {
         m_applicationView.alertCantAccess(cantAccessMessage, m_services.unreachableReason());
         return;
     }
-    m_knowsPlaylist = knowsPlaylist(index);
+    m_libraryCount = trackCount;
+    m_isLibrary = isLibraryChosen(index);
+    m_knowsPlaylist = index > 0 || m_isLibrary;
     begin(index > 0 ? index : 1, trackCount);
     showSearching();
 }
 
 /// The library's own playlist is searched whether its name was found or not.
-bool Search::knowsPlaylist(std::int32_t index) const {
-    return index > 0 || !m_params.playlist || m_params.playlist == m_queries.getMusicPlaylistName();
+bool Search::isLibraryChosen(std::int32_t index) const {
+    if (index > 0) return index == 1;
+    return !m_params.playlist || m_params.playlist == m_queries.getMusicPlaylistName();
+}
+
+bool Search::missedPlaylist() const {
+    return askedForWholeLibrary() || m_list1->coverage.playlist == SearchCoverage::Playlist::none;
+}
+
+SearchVerdict Search::verdict() const {
+    return SearchVerdict::of({.playlist = m_params.playlist,
+                              .isLibrary = m_isLibrary || askedForWholeLibrary(),
+                              .libraryTracks = m_libraryCount,
+                              .listedTracks = m_listedCount,
+                              .coverage = m_list1->coverage});
 }
 
 void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
@@ -176,9 +195,12 @@ void Search::onReadError(const std::shared_ptr<ReadError>& error) { m_view.tellR
 void Search::onBuildFinish() {
     m_searching = false;
     m_progress.closeProgressWindow(ProgressBar::formprogress);
-    const auto playlist = missedPlaylist() ? ChosenPlaylist::missed : ChosenPlaylist::searched;
-    m_results.showFound(searchSummary(m_params, playlist));
-    if (m_results.tableDataSource().rows.empty()) m_applicationView.alertNoDuplicates();
+    std::vector<std::string> notes = verdict().notes;
+    const auto playlist = askedForWholeLibrary() ? ChosenPlaylist::missed : ChosenPlaylist::searched;
+    m_results.showFound(searchSummary(m_params, playlist, notes));
+    if (!m_results.tableDataSource().rows.empty()) return;
+    if (askedForWholeLibrary()) notes.insert(notes.begin(), wholeLibraryNote(m_params));
+    m_applicationView.alertNoDuplicates(notes);
 }
 
 void Search::onAddCancel() {

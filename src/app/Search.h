@@ -3,6 +3,7 @@
 
 #include "app/ITunesQueries.h"
 #include "app/ReaderChoice.h"
+#include "app/SearchVerdict.h"
 #include "app/Workers.h"
 
 #include <cstdint>
@@ -31,9 +32,11 @@ class Search {
     bool isRunning() const { return m_searching; }
     /// Records left for the grouping when the last reading ended.
     int listedCount() const { return m_listedCount; }
-    /// Whether the whole library was searched though a playlist was chosen: iTunes was asked track by track
-    /// and did not find the playlist by its name.
-    bool missedPlaylist() const { return m_asksITunes && !m_knowsPlaylist; }
+    /// Whether the search was not one of the chosen playlist: iTunes, asked track by track, did not find it
+    /// by its name and gave the whole library, or the library file has none of that name.
+    bool missedPlaylist() const;
+    /// What the search that has ended covered.
+    SearchVerdict verdict() const;
     /// Whether the sender was cancelled before the present search began: its end is no news of this search.
     bool isStale(const WorkerEvent& event) const;
     ReaderChoice& readers() { return m_readers; }
@@ -63,7 +66,8 @@ class Search {
     void begin(std::int32_t playlistIndex, std::int32_t trackCount);
     void startAddProc();
     void showSearching();
-    bool knowsPlaylist(std::int32_t index) const;
+    bool isLibraryChosen(std::int32_t index) const;
+    bool askedForWholeLibrary() const { return m_asksITunes && !m_knowsPlaylist; }
 
     const ControllerServices& m_services;
     ApplicationView& m_applicationView;
@@ -80,6 +84,8 @@ class Search {
     bool m_searching = false;
     bool m_asksITunes = false;
     bool m_knowsPlaylist = true;
+    bool m_isLibrary = true; ///< chosen
+    int m_libraryCount = 0;
     int m_listedCount = 0;
     int m_playlistCount = 0;
 };

@@ -5,7 +5,8 @@
 
 namespace songsweep {
 
-std::string searchSummary(const SearchParameters& parameters, ChosenPlaylist playlist) {
+std::string searchSummary(const SearchParameters& parameters, ChosenPlaylist playlist,
+                          const std::vector<std::string>& notes) {
     struct Field {
         bool chosen;
         const char* name;
@@ -20,6 +21,8 @@ std::string searchSummary(const SearchParameters& parameters, ChosenPlaylist pla
     }
     std::string place = parameters.playlist.value_or("");
     if (playlist == ChosenPlaylist::missed) place = "Whole library, not “" + place + "”";
+    for (const std::string& note : notes)
+        place += " (" + note + ")";
     return place + ": " + (names.empty() ? "everything" : names);
 }
 

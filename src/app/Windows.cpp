@@ -9,6 +9,13 @@
 
 namespace songsweep {
 
+namespace {
+
+/// "Part of a message" for "part of a message".
+QString asSentence(const QString& text) { return text.left(1).toUpper() + text.mid(1); }
+
+} // namespace
+
 Windows::Windows(Log& log)
     : m_mainWindow(log)
     , m_paramWindow(&m_mainWindow)
@@ -41,7 +48,12 @@ void Windows::alertCantAccess(const std::string& message, const std::string& rea
                            m_cantAccessEnded);
 }
 
-void Windows::alertNoDuplicates() { alerts::openNoDuplicates(&m_mainWindow); }
+void Windows::alertNoDuplicates(const std::vector<std::string>& notes) {
+    QStringList paragraphs;
+    for (const std::string& note : notes)
+        paragraphs += asSentence(QString::fromStdString(note));
+    alerts::openNoDuplicates(&m_mainWindow, paragraphs.join(QLatin1Char('\n')));
+}
 
 void Windows::alertCantOpen(const std::string& reason) {
     alerts::openCantOpenLibrary(&m_mainWindow, QString::fromStdString(reason));

@@ -54,7 +54,7 @@ class Windows final : public ApplicationView {
     void setAboutLabel(const std::string& text) override;
     void beep() override;
     void alertCantAccess(const std::string& message, const std::string& reason) override;
-    void alertNoDuplicates() override;
+    void alertNoDuplicates(const std::vector<std::string>& notes) override;
     void alertCantBeginDelete(const std::string& reason) override;
 
   private:

@@ -60,7 +60,7 @@ std::optional<ExitCode> markByRule(LibrarySession& session, const MarkOptions& o
 ExitCode runFind(const FindOptions& options, const std::string& version) {
     LibrarySession session(options, version);
     if (const auto problem = session.search()) return *problem;
-    return writeResult(options, session.report(), session.interrupts()).value_or(ExitCode::done);
+    return writeResult(options, session.report(), session.interrupts()).value_or(session.searchedCode());
 }
 
 ExitCode runMark(const MarkOptions& options, const std::string& version) {
@@ -70,7 +70,7 @@ ExitCode runMark(const MarkOptions& options, const std::string& version) {
     SearchReport report = session.report();
     MarkVerdicts verdicts(report.rows, session.controller().lastMarkChoice().value_or(MarkChoice()));
     report.reason = [&](int row) { return verdicts.of(static_cast<std::size_t>(row)).reason; };
-    return writeResult(options, report, session.interrupts()).value_or(ExitCode::done);
+    return writeResult(options, report, session.interrupts()).value_or(session.searchedCode());
 }
 
 } // namespace songsweep::cli

@@ -105,8 +105,9 @@ ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
     // Opened first, so that nothing is deleted whose outcome cannot be told.
     Result<Output> output = Output::open(options.output);
     if (!output) return fail(output.error().message);
-    return options.dryRun ? predict(session, options, output.value())
-                          : carryOut(session, options, output.value());
+    const ExitCode code = options.dryRun ? predict(session, options, output.value())
+                                         : carryOut(session, options, output.value());
+    return code == ExitCode::done ? session.searchedCode() : code;
 }
 
 } // namespace songsweep::cli

@@ -49,9 +49,10 @@ std::string dump(const Json& value) { return value.dump(-1, ' ', false, Json::er
 } // namespace
 
 void writeJson(Output& output, const SearchReport& report) {
-    output.write("{\n  \"tracks\": " + std::to_string(report.tracks) +
-                 ",\n  \"listed\": " + std::to_string(report.listed) +
-                 ",\n  \"songs\": " + std::to_string(report.rows.size()) + ",\n  \"groups\": [");
+    output.write("{\n  \"tracks\": " + std::to_string(report.tracks) + ",\n  \"listed\": " +
+                 std::to_string(report.listed) + ",\n  \"songs\": " + std::to_string(report.rows.size()));
+    if (!report.notes.empty()) output.write(",\n  \"notes\": " + dump(report.notes));
+    output.write(",\n  \"groups\": [");
     for (const RowGroup group : groupsOf(report.rows)) {
         output.write(group.first == 0 ? "\n" : ",\n");
         output.write("    {\"gid\": " + std::to_string(report.rows.at(group.first)->gid) + ", \"tracks\": [");

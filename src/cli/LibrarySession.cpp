@@ -41,11 +41,17 @@ std::optional<ExitCode> LibrarySession::search() {
     if (m_interrupted) return ExitCode::interrupted;
     if (m_view.searchProblem()) return fail(withPath(*m_view.searchProblem()));
     if (!m_view.hasResults()) return fail(withPath("the search ended without a result"));
-    if (m_controller->missedPlaylist())
+    if (m_playlistGiven && m_controller->missedPlaylist())
         return fail(withPath("the search could not be limited to the playlist '" +
                              m_options.parameters.playlist.value_or("") + "'"));
+    for (const std::string& note : m_controller->searchVerdict().notes)
+        tell(withPath(note));
     warn();
     return std::nullopt;
+}
+
+ExitCode LibrarySession::searchedCode() const {
+    return m_controller->searchVerdict().isComplete ? ExitCode::done : ExitCode::failed;
 }
 
 /// Looks at files once more only where the search met none that is here.
@@ -113,6 +119,7 @@ std::optional<std::string> LibrarySession::choosePlaylist() {
     if (!playlists) return withPath(playlists.error().message);
     m_trackCount = count.value();
     std::optional<std::string>& chosen = m_options.parameters.playlist;
+    m_playlistGiven = chosen.has_value();
     if (!chosen) {
         if (!playlists.value().empty()) chosen = playlists.value().front().name;
         return std::nullopt;
@@ -171,6 +178,7 @@ void LibrarySession::endDeletionAtOnce() {
 SearchReport LibrarySession::report() {
     return {.tracks = m_trackCount,
             .listed = m_controller->listedCount(),
+            .notes = m_controller->searchVerdict().notes,
             .rows = m_controller->tableDataSource().rows};
 }
 

@@ -50,6 +50,9 @@ class LibrarySession {
     Program& program() { return *m_program; }
     SearchReport report();
 
+    /// What a command answers that did all that it was to: a failure where the search was not complete.
+    ExitCode searchedCode() const;
+
   private:
     void warn();
     std::optional<std::string> prepare();
@@ -73,6 +76,7 @@ class LibrarySession {
     std::unique_ptr<Program> m_program;
     std::unique_ptr<AppController> m_controller;
     int m_trackCount = 0;
+    bool m_playlistGiven = false;
 };
 
 /// Writes the search's report to where the options say, until Ctrl-C. The exit code of a failure, nothing on

@@ -88,6 +88,8 @@ void writeText(Output& output, const SearchReport& report) {
             output.write(table.line(cellsFor(output, report, static_cast<int>(row))));
     }
     output.write((report.rows.empty() ? "" : "\n") + summaryLine(report) + "\n");
+    for (const std::string& note : report.notes)
+        output.write((output.isTerminal() ? terminalLine(note) : note) + "\n");
 }
 
 } // namespace songsweep::cli

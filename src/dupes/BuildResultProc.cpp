@@ -5,6 +5,7 @@
 #include "library/KeySort.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
+#include "platform/ExceptionReason.h"
 
 #include <utility>
 
@@ -48,6 +49,8 @@ void BuildResultProc::main() {
         sortList();
         group();
     } catch (...) {
+        m_list->records = {}; // may be the memory that was short
+        m_list->coverage.brokenOff = exceptionReason();
         finish();
         throw;
     }

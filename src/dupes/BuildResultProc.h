@@ -23,7 +23,8 @@ bool isSameTag(const TrackRecord& a, const TrackRecord& b, const SearchParameter
 ///
 /// Sorts the list by what is compared, gives each record that is the same as a neighbour the number of its
 /// group, counted from 1, and posts it ("step2"); "progress" before each comparison. Ends with "buildFinish",
-/// or "addCancel" when cancelled, and leaves the list empty in any case. Texts are folded once a record; one
+/// or "addCancel" when cancelled, and leaves the list empty in any case; an exception is
+/// noted in the list's coverage. Texts are folded once a record; one
 /// sort, one pass.
 class BuildResultProc final : public Operation {
   public:

@@ -22,7 +22,10 @@ LibraryWalk::LibraryWalk(TrackList& list, PlaylistItems& songlist, const std::op
 
 void LibraryWalk::openDict() {
     ++m_depth;
-    if (m_depth == 2) m_secondLevelSeen = true;
+    if (m_depth == 2) {
+        m_secondLevelSeen = true;
+        m_isChosen = m_isMaster = false;
+    }
     if (m_depth == 3 && m_section == Section::tracks) makeRecord();
 }
 
@@ -61,7 +64,9 @@ void LibraryWalk::readText(std::string_view text) {
 
 void LibraryWalk::readKey(std::string_view text) {
     m_currentKey = libraryKey(text);
-    if (m_section != Section::playlists || m_depth != 1) return;
+    if (m_section != Section::playlists) return;
+    if (m_depth == 2 && m_currentKey == LibraryKey::master) noteMaster();
+    if (m_depth != 1) return;
     if (m_currentKey == LibraryKey::playlists) {
         m_inPlaylists = true;
         m_log.line("Playlists Begin");
@@ -74,8 +79,20 @@ void LibraryWalk::readKey(std::string_view text) {
 
 void LibraryWalk::readPlaylistName(std::string_view name) {
     m_collecting = !m_playlistFound && m_playlist && lowercase(name) == *m_playlist;
-    if (m_collecting) m_playlistFound = true;
+    if (m_collecting) m_playlistFound = m_isChosen = true;
+    m_choseMaster |= m_isChosen && m_isMaster;
     m_log.line(m_collecting ? "Music Playlist Begin" : "Music Playlist End");
+}
+
+/// The key stands before the playlist's name or behind it.
+void LibraryWalk::noteMaster() {
+    m_isMaster = m_metMaster = true;
+    m_choseMaster |= m_isChosen;
+}
+
+SearchCoverage::Playlist LibraryWalk::playlist() const {
+    if (!m_playlistFound) return SearchCoverage::Playlist::none;
+    return m_metMaster && !m_choseMaster ? SearchCoverage::Playlist::other : SearchCoverage::Playlist::chosen;
 }
 
 } // namespace songsweep

@@ -60,6 +60,9 @@ class LibraryWalk {
     /// Records made.
     std::int32_t trackCount() const { return m_trackCount; }
 
+    /// The playlist whose items were listed.
+    SearchCoverage::Playlist playlist() const;
+
   private:
     enum class Section { tracks, playlists, done };
     enum class ElementName { none, key, other };
@@ -82,6 +85,7 @@ class LibraryWalk {
     void readText(std::string_view text);
     void readKey(std::string_view text);
     void readPlaylistName(std::string_view name);
+    void noteMaster();
 
     TrackList& m_list;
     PlaylistItems& m_songlist;
@@ -99,6 +103,10 @@ class LibraryWalk {
     bool m_inPlaylists = false;
     bool m_playlistFound = false;
     bool m_collecting = false;
+    bool m_isChosen = false; // of the playlist at hand, as the next
+    bool m_isMaster = false;
+    bool m_metMaster = false;
+    bool m_choseMaster = false;
     std::int32_t m_trackCount = 0;
     int m_progressCount = 0;
 };

@@ -5,13 +5,13 @@
 #include "library/WorkerEvent.h"
 #include "library/XmlReader.h"
 #include "operations/NotificationCenter.h"
+#include "platform/ExceptionReason.h"
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/Sleeper.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <exception>
 #include <utility>
 
 namespace songsweep {
@@ -27,17 +27,6 @@ constexpr std::chrono::milliseconds restAfterReadError(10);
 std::string asText(double seconds) {
     char buffer[64];
     return {buffer, static_cast<std::size_t>(std::snprintf(buffer, sizeof buffer, "%f", seconds))};
-}
-
-/// What the exception in flight says of itself.
-std::string currentReason() {
-    try {
-        throw;
-    } catch (const std::exception& exception) {
-        return exception.what();
-    } catch (...) {
-        return "unknown";
-    }
 }
 
 } // namespace
@@ -84,7 +73,7 @@ bool SWXMLParser::parse(XmlReader& reader) {
     try {
         return readTracks(reader);
     } catch (...) {
-        fail(EventName::xmlErrorParsing, currentReason());
+        fail(EventName::xmlErrorParsing, exceptionReason());
         return false;
     }
 }
@@ -96,6 +85,8 @@ bool SWXMLParser::readTracks(XmlReader& reader) {
     if (!walkWhole(reader, walk)) return false;
     walk.finish();
     m_trackCount = walk.trackCount();
+    m_list->coverage.playlist = walk.playlist();
+    m_list->coverage.playlistTracks = static_cast<int>(m_songlist.count());
     m_list->storage->forgetInterned();
     log("End Parse XML");
     if (agreesWithITunes()) {
@@ -151,7 +142,7 @@ void SWXMLParser::process(Clock::time_point start) {
         post(EventName::addFinish);
     } catch (...) {
         log("Exception occured");
-        fail(EventName::xmlErrorProcessing, currentReason());
+        fail(EventName::xmlErrorProcessing, exceptionReason());
     }
 }
 

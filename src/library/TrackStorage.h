@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/SearchCoverage.h"
 #include "library/TrackRecord.h"
 
 #include <cstddef>
@@ -41,12 +42,14 @@ class TrackStorage {
     std::unique_ptr<Impl> m_impl;
 };
 
-/// The track list: the records that a reader fills in and the grouping consumes, with their storage.
+/// The track list: the records that a reader fills in and the grouping consumes, with their storage, and what
+/// both could not do.
 ///
 /// Every search has a list of its own, which its workers hold by shared pointer.
 struct TrackList {
     std::shared_ptr<TrackStorage> storage = std::make_shared<TrackStorage>();
     std::vector<TrackRecord*> records;
+    SearchCoverage coverage;
 };
 
 } // namespace songsweep

@@ -202,9 +202,16 @@ Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
     const auto bytes = m_file->read(m_index.tracks[track].range());
     if (!bytes) return bytes.error();
     auto parsed = TrackFields::parse(bytes.value(), m_index.entities);
-    if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
+    if (!parsed) return unreadable(track);
     cached = {track, std::move(*parsed)};
     return &cached.fields;
+}
+
+/// An entry that was whole when it was indexed is torn, or has a fault that the index passes over.
+Error LibraryDocument::unreadable(TrackPosition track) const {
+    if (m_file->stamp() != m_index.stamp) return {Error::Code::busy, m_path + " is being rewritten"};
+    return {Error::Code::invalid,
+            "the entry of track " + std::to_string(m_index.tracks[track].trackId) + " is not well formed"};
 }
 
 LocationPass LibraryDocument::locations() const {

@@ -173,6 +173,7 @@ class LibraryDocument {
 
     LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index);
     void adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table);
+    Error unreadable(TrackPosition track) const;
     void forgetLists();
     Result<void> write();
     Result<void> writeIn(LibraryTransaction& transaction);

@@ -208,6 +208,7 @@ TEST_F(AddProcTest, AFailingCountScriptReadsNothing) {
     makeReader()->main();
     EXPECT_THAT(events, ElementsAre("addFinish"));
     EXPECT_THAT(log.lines(), ElementsAre("Applescript Parsing", "0"));
+    EXPECT_EQ(list->coverage.brokenOff, "told to fail");
 }
 
 /// Whether a batch script asks for the track.
@@ -231,6 +232,39 @@ TEST_F(AddProcTest, ATrackThatCannotBeReadIsLeftOutAlone) {
             << "in their order";
     EXPECT_THAT(log.lines(),
                 ElementsAre("Applescript Parsing", "60", "Tracks 17 to 17 could not be read: told to fail"));
+    EXPECT_EQ(list->coverage.unreadTracks, 1);
+    EXPECT_EQ(list->coverage.unreadReason, "told to fail");
+    EXPECT_EQ(list->coverage.playlistTracks, 60);
+}
+
+TEST_F(AddProcTest, TheFirstReasonIsKeptWithoutItsPlaceInTheScript) {
+    addTracks(100);
+    iTunes.fails = [](const std::string& text) { return asksFor(text, 17) || asksFor(text, 60); };
+    iTunes.failure = [](const std::string& text) {
+        return asksFor(text, 60) ? "another" : "line 5, column 14: the entry is: bad";
+    };
+    makeReader()->main();
+    EXPECT_EQ(list->coverage.unreadTracks, 2);
+    EXPECT_EQ(list->coverage.unreadReason, "the entry is: bad");
+    iTunes.failure = [](const std::string&) { return "line 20: of the library"; };
+    makeReader()->main();
+    EXPECT_EQ(list->coverage.unreadReason, "line 20: of the library");
+}
+
+TEST_F(AddProcTest, ABatchThatIsTooShortLeavesTracksUnread) {
+    addTracks(3);
+    iTunes.trackCount = 5;
+    makeReader()->main();
+    EXPECT_EQ(list->records.size(), 3U);
+    EXPECT_EQ(list->coverage.unreadTracks, 2);
+    EXPECT_EQ(list->coverage.unreadReason, "iTunes gave fewer tracks than it was asked for");
+}
+
+TEST_F(AddProcTest, WhatAnotherReaderNotedIsForgotten) {
+    addTracks(3);
+    list->coverage.playlist = SearchCoverage::Playlist::none;
+    makeReader()->main();
+    EXPECT_EQ(list->coverage.playlist, SearchCoverage::Playlist::chosen);
 }
 
 TEST_F(AddProcTest, EachOfManyTracksThatCannotBeReadIsLeftOutAlone) {
@@ -242,6 +276,7 @@ TEST_F(AddProcTest, EachOfManyTracksThatCannotBeReadIsLeftOutAlone) {
     };
     makeReader()->main();
     EXPECT_EQ(list->records.size(), 180U);
+    EXPECT_EQ(list->coverage.unreadTracks, 20);
 }
 
 TEST_F(AddProcTest, AnITunesThatIsGoneIsNotAskedForEveryTrack) {
@@ -250,6 +285,7 @@ TEST_F(AddProcTest, AnITunesThatIsGoneIsNotAskedForEveryTrack) {
     makeReader()->main();
     EXPECT_TRUE(list->records.empty());
     EXPECT_LT(iTunes.texts().size(), 60U);
+    EXPECT_EQ(list->coverage.unreadTracks, 1000);
     EXPECT_EQ(events.back(), "addFinish");
 }
 
@@ -261,6 +297,7 @@ TEST_F(AddProcTest, AnExceptionStillPostsTheEndAndLeavesTheOperation) {
     EXPECT_THROW(makeReader()->main(), std::runtime_error);
     EXPECT_THAT(events, ElementsAre("progressx 50", "addFinish"));
     EXPECT_EQ(list->records.size(), 50U);
+    EXPECT_EQ(list->coverage.brokenOff, "lost");
 }
 
 TEST_F(AddProcTest, AppendsToWhatIsThere) {

@@ -55,6 +55,16 @@ TEST_F(Alerts, SayThatNothingWasFoundWithOneButtonAndNoIcon) {
     EXPECT_TRUE(box.isNull());
 }
 
+TEST_F(Alerts, ExplainBelowThatNothingWasSearched) {
+    QMessageBox& box = *alerts::openNoDuplicates(
+        &m_window, QStringLiteral("0 of 12000 tracks were searched: the library file "
+                                  "has no playlist named “Music”"));
+    EXPECT_EQ(box.text(), QStringLiteral("No duplicates found."));
+    EXPECT_TRUE(box.informativeText().startsWith(QStringLiteral("0 of 12000 tracks were searched")));
+    EXPECT_TRUE(test::clippedControls(box).isEmpty()) << test::clippedControls(box).join(u' ').toStdString();
+    box.close();
+}
+
 TEST_F(Alerts, TellThatITunesDoesNotAnswer) {
     QMessageBox& box = openCantAccess();
     EXPECT_EQ(box.text(), cantAccess);

@@ -173,6 +173,35 @@ TEST_F(AppControllerSearchTest, TheFirstPlaylistIsFoundThoughAnotherIsTheMusicPl
     EXPECT_FALSE(controller->missedPlaylist());
 }
 
+TEST_F(AppControllerSearchTest, AnAllClearNamesWhatWasSearchedInsteadOfThePlaylist) {
+    iTunes.version = "9.0";
+    iTunes.playlists = {"Library", "Par\"ty"};
+    addTracks(1);
+    SearchParameters choices = sameNameAndArtist();
+    choices.playlist = "Par\"ty";
+    controller->paramOkButtonClick(choices);
+    runUntilIdle();
+    EXPECT_THAT(view.explanations, ElementsAre("the whole library was searched, not “Par\"ty”"));
+    choices.playlist = "Library";
+    controller->paramOkButtonClick(choices);
+    runUntilIdle();
+    EXPECT_THAT(view.explanations, ElementsAre());
+}
+
+TEST_F(AppControllerSearchTest, ATrackThatCannotBeReadIsToldBesideTheResults) {
+    iTunes.version = "9.0";
+    addTracks(4);
+    iTunes.fails = [](const std::string& text) {
+        return text.find("from 4 to 4 ") != std::string::npos || text.find("to 4 \n") != std::string::npos;
+    };
+    controller->paramOkButtonClick(sameNameAndArtist());
+    runUntilIdle();
+    EXPECT_FALSE(controller->searchVerdict().isComplete);
+    EXPECT_THAT(view.calls,
+                Contains("setSearchedText Library (1 track could not be read: told to fail): same "
+                         "name, artist"));
+}
+
 TEST_F(AppControllerSearchTest, WithNoFieldAndNoPlaylistTheSearchRunsAllTheSame) {
     iTunes.version = "9.0";
     addTracks(3);

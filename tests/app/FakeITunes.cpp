@@ -44,7 +44,7 @@ Result<Descriptor> FakeITunes::executeAndReturnError(std::string_view source) {
     onScript(text);
     const std::lock_guard lock(m_mutex);
     m_texts.push_back(text);
-    if (fails(text)) return Error{Error::Code::failed, "told to fail"};
+    if (fails(text)) return Error{Error::Code::failed, failure(text)};
     return answer(text);
 }
 

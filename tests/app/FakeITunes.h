@@ -39,6 +39,10 @@ class FakeITunes final : public AppleScript {
     std::optional<std::int64_t> trackCount; ///< when iTunes is to report another number than it has
     /// Decides which texts fail.
     std::function<bool(const std::string&)> fails = [](const std::string&) { return false; };
+    /// The reason of a text that fails.
+    std::function<std::string(const std::string&)> failure = [](const std::string&) {
+        return "told to fail";
+    };
     std::function<void(const std::string&)> onScript = [](const std::string&) {};
 
     Result<Descriptor> executeAndReturnError(std::string_view source) override;

@@ -66,7 +66,10 @@ class RecordingView final : public ApplicationView,
     void alertCantAccess(const std::string& message, const std::string& reason) override {
         note("alertCantAccess " + message + "|" + reason);
     }
-    void alertNoDuplicates() override { note("alertNoDuplicates"); }
+    void alertNoDuplicates(const std::vector<std::string>& notes) override {
+        note("alertNoDuplicates");
+        explanations = notes;
+    }
     void alertCantBeginDelete(const std::string& reason) override { note("alertCantBeginDelete " + reason); }
     void fillKinds(const std::vector<std::string>& kinds) override {
         std::string all;
@@ -87,6 +90,7 @@ class RecordingView final : public ApplicationView,
     }
     void endDeleteConfirmation() override { note("endDeleteConfirmation"); }
 
+    std::vector<std::string> explanations;  ///< of the last search that found nothing
     DeleteConfirmationFacts deleteFacts;    ///< the last ones
     std::vector<double> progressValues;     ///< of the bar in the sheet
     std::vector<double> formprogressValues; ///< of the bar in the main window

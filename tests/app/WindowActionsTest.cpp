@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "WindowsFixture.h"
 #include "dupes/MarkingRules.h"
+#include "libraryfile/LibraryFixture.h"
 #include "support/EventLoop.h"
 #include "support/TestData.h"
 #include "ui/SWTableView.h"
@@ -266,6 +267,18 @@ TEST_F(WindowActionsTest, ASearchWithoutAResultShowsTheEmptyTableAndTheAlert) {
     EXPECT_EQ(label("statusBottomLabel"), QString());
     EXPECT_EQ(label("searchedLabel"), QString());
     EXPECT_FALSE(button("autoMarkButton").isEnabled());
+}
+
+TEST_F(WindowActionsTest, ASearchOfNothingIsExplained) {
+    const std::string nameless =
+        libraryXml({{1, "A1", ""}, {2, "A2", ""}}, {{"", "<key>Master</key><true/>", {1, 2}}});
+    Q_EMIT window().openLibrary(folder.write("nameless.xml", nameless));
+    search();
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->text(), QStringLiteral("No duplicates found."));
+    EXPECT_EQ(alert()->informativeText(),
+              QStringLiteral("0 of 2 tracks were searched: the library has no name "
+                             "by which it is found in its file"));
 }
 
 TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {

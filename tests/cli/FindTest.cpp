@@ -218,9 +218,12 @@ TEST_F(Find, PutsAllTracksIntoOneGroupWhereNothingIsCompared) {
 
 TEST_F(Find, ListsNothingWhereThereAreNoPlaylists) {
     m_library = m_folder.write("Library.xml", libraryText(sampleTracks(), {}));
-    const ordered_json result = json({});
+    const RunResult found = find({"--format", "json"});
+    EXPECT_EQ(found.exitCode, 1);
+    const ordered_json result = ordered_json::parse(found.output);
     EXPECT_EQ(result.at("tracks"), 6);
     EXPECT_EQ(result.at("listed"), 0);
+    EXPECT_THAT(result.at("notes").at(0), HasSubstr("0 of 6 tracks were searched"));
     EXPECT_EQ(result.at("groups"), ordered_json::array());
 }
 

@@ -95,5 +95,69 @@ TEST_F(OddLibrary, KnowsPlaylistsWhoseNamesEndInABlank) {
                     ElementsAre("0000000000000001", "0000000000000002"));
 }
 
+TEST_F(OddLibrary, IsNeverCleanWhereNothingWasSearched) {
+    std::string nameless = text();
+    replace(nameless, "\t\t\t<key>Name</key><string>Library</string>\n", "");
+    const std::string noPlaylists = libraryText({track(1, "Song"), track(2, "Song")}, {});
+    for (const std::string& odd : {nameless, noPlaylists}) {
+        const RunResult found = runOn(odd, {"find"});
+        EXPECT_EQ(found.exitCode, 1);
+        EXPECT_THAT(found.errors, HasSubstr("Library.xml: 0 of "));
+        EXPECT_THAT(found.errors, HasSubstr(" tracks were searched: the library "));
+        EXPECT_THAT(found.output, HasSubstr("0 songs in 0 groups\n0 of "));
+        const json notes = json::parse(runOn(odd, {"find", "--format", "json"}).output).at("notes");
+        EXPECT_THAT(notes.at(0), HasSubstr(" tracks were searched: the library "));
+        EXPECT_EQ(runOn(odd, {"mark", "--rule", "longest"}).exitCode, 1);
+        EXPECT_EQ(runOn(odd, {"delete", "--rule", "longest", "--dry-run"}).exitCode, 1);
+    }
+}
+
+TEST_F(OddLibrary, IsNotClearedByAPlaylistOfTheLibrarysName) {
+    const std::string odd =
+        libraryText({track(1, "Song"), track(2, "Song")}, {{"Library", {1}}, {"Library", {1, 2}, true}});
+    const RunResult found = runOn(odd, {"find"});
+    EXPECT_EQ(found.exitCode, 1);
+    EXPECT_THAT(found.errors, HasSubstr("1 of 2 tracks were searched: the first playlist named “Library” in "
+                                        "the library file is not the library"));
+}
+
+/// The reader takes the name in two pieces, none of which is it: as where it was renamed meanwhile.
+TEST_F(OddLibrary, IsNotSearchedWhereAPlaylistThatWasGivenIsMissed) {
+    std::string odd = text();
+    replace(odd, "<string>Party</string>", "<string>Par<!-- c -->ty</string>");
+    const RunResult found = runOn(odd, {"find", "--playlist", "Party"});
+    EXPECT_EQ(found.exitCode, 1);
+    EXPECT_EQ(found.output, "");
+    EXPECT_THAT(found.errors, HasSubstr("the search could not be limited to the playlist 'Party'"));
+    EXPECT_EQ(runOn(odd, {"find"}).exitCode, 0);
+}
+
+TEST_F(OddLibrary, TellsOfAnEmptyPlaylistWithoutAFailure) {
+    const std::string empty = libraryText({track(1, "Song")}, {{"Library", {1}, true}, {"None", {}}});
+    const RunResult found = runOn(empty, {"find", "--playlist", "None"});
+    EXPECT_EQ(found.exitCode, 0);
+    EXPECT_THAT(found.errors, HasSubstr("0 of 1 tracks were searched: the playlist “None” lists none"));
+}
+
+TEST_F(OddLibrary, LeavesOutABrokenTrackAndFails) {
+    std::string broken = text();
+    replace(broken, "<string>Other</string>", "<string>This & That</string>");
+    for (const std::string command : {"find", "mark"}) {
+        std::vector<std::string> arguments = {command, "--itunes-version", "9.2.1", "--format", "json"};
+        if (command == "mark") arguments.insert(arguments.end(), {"--rule", "longest"});
+        const RunResult found = runOn(broken, arguments);
+        EXPECT_EQ(found.exitCode, 1);
+        EXPECT_THAT(found.errors,
+                    HasSubstr("1 track could not be read: the entry of track 3 is not well formed"));
+        EXPECT_EQ(json::parse(found.output).at("songs"), 2);
+    }
+}
+
+TEST_F(OddLibrary, IsSearchedInAPlaylistWhoseNameBreaksAScript) {
+    for (const std::string name : {"Par\"ty", "Par\\ty"})
+        EXPECT_THAT(foundIds(text("Library", name), {"--playlist", name}),
+                    ElementsAre("0000000000000001", "0000000000000002"));
+}
+
 } // namespace
 } // namespace songsweep

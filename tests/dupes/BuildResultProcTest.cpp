@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <functional>
 #include <map>
+#include <new>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -204,6 +205,20 @@ TEST_F(BuildResultProcTest, AnExceptionStillEmptiesTheListAndPostsTheFinalEvent)
     EXPECT_THROW(run({.issamename = true}), std::runtime_error);
     EXPECT_THAT(m_events, ElementsAre("progress Song", "step2 Song 1", "buildFinish"));
     EXPECT_THAT(m_list->records, IsEmpty());
+    EXPECT_EQ(m_list->coverage.brokenOff, "defect");
+}
+
+TEST_F(BuildResultProcTest, MemoryThatRunsOutBreaksTheGroupingOff) {
+    add({.name = "Song"});
+    add({.name = "Song"});
+    std::string toldAtTheEnd;
+    m_onEvent = [&](const WorkerEvent& event, BuildResultProc&) {
+        if (event.name == EventName::progress) throw std::bad_alloc();
+        toldAtTheEnd = m_list->coverage.brokenOff;
+    };
+    EXPECT_THROW(run({.issamename = true}), std::bad_alloc);
+    EXPECT_EQ(m_events.back(), "buildFinish");
+    EXPECT_EQ(toldAtTheEnd, "out of memory");
 }
 
 TEST_F(BuildResultProcTest, TwoGroupingsDoNotShareTheirParameters) {

@@ -14,6 +14,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Playlist = SearchCoverage::Playlist;
 
 /// Feeds a walk by hand, in the words of a library file.
 class LibraryWalkTest : public testing::Test {
@@ -68,6 +69,14 @@ class LibraryWalkTest : public testing::Test {
             close("dict");
         }
         close("array");
+    }
+
+    void openMaster(std::string_view name) {
+        open("dict");
+        value("Name", name);
+        key("Master");
+        open("true");
+        close("true");
     }
 
     std::vector<std::string> names() const {
@@ -313,6 +322,74 @@ TEST_F(LibraryWalkTest, ADateThatIsNoneEndsTheWalk) {
     key("Date Added");
     open("date");
     EXPECT_THROW(text("someday"), std::runtime_error);
+}
+
+TEST_F(LibraryWalkTest, TellsWhetherItMetThePlaylist) {
+    EXPECT_EQ(m_walk.playlist(), Playlist::none);
+    openTracks();
+    openPlaylists();
+    playlist("Another", {"1"});
+    EXPECT_EQ(m_walk.playlist(), Playlist::none);
+    playlist("My Music", {"1"});
+    EXPECT_EQ(m_walk.playlist(), Playlist::chosen) << "no playlist is marked as the library";
+}
+
+TEST_F(LibraryWalkTest, KnowsTheLibraryByItsMark) {
+    openTracks();
+    openPlaylists();
+    openMaster("My Music");
+    close("dict");
+    playlist("My Music", {"1"});
+    EXPECT_EQ(m_walk.playlist(), Playlist::chosen);
+}
+
+TEST_F(LibraryWalkTest, KnowsAPlaylistThatComesBeforeTheLibrary) {
+    openTracks();
+    openPlaylists();
+    playlist("My Music", {"1"});
+    EXPECT_EQ(m_walk.playlist(), Playlist::chosen);
+    openMaster("My Music");
+    close("dict");
+    EXPECT_EQ(m_walk.playlist(), Playlist::other);
+}
+
+TEST_F(LibraryWalkTest, KnowsTheMarkBeforeTheNameToo) {
+    openTracks();
+    openPlaylists();
+    playlist("Another", {});
+    open("dict");
+    key("Master");
+    open("true");
+    close("true");
+    value("Name", "My Music");
+    close("dict");
+    EXPECT_EQ(m_walk.playlist(), Playlist::chosen);
+}
+
+TEST_F(LibraryWalkTest, TakesNoMarkOfTheNextPlaylist) {
+    openTracks();
+    openPlaylists();
+    playlist("My Music", {"1"});
+    open("dict");
+    key("Master");
+    open("true");
+    close("true");
+    value("Name", "Library");
+    close("dict");
+    EXPECT_EQ(m_walk.playlist(), Playlist::other);
+}
+
+TEST_F(LibraryWalkTest, TakesNoMarkOfAnItem) {
+    openTracks();
+    openPlaylists();
+    playlist("My Music", {});
+    open("dict");
+    value("Name", "Another");
+    key("Playlist Items");
+    open("array");
+    open("dict");
+    key("Master");
+    EXPECT_EQ(m_walk.playlist(), Playlist::chosen);
 }
 
 } // namespace

@@ -182,6 +182,17 @@ TEST_F(LibraryDocumentTest, APassOverTheFilesSaysThatTheLibraryIsAnotherAtItsEnd
     EXPECT_EQ(seen, 1) << "the version that it is of stays readable";
 }
 
+TEST_F(LibraryDocumentTest, NamesATrackWhoseEntryIsNotWellFormed) {
+    LibraryDocument& library = open(libraryXml(
+        {{1, "A1", "<key>Name</key><string>A</string>"}, {2, "A2", "<key>Name</key><string>A & B</string>"}},
+        {}));
+    EXPECT_TRUE(library.fields(0));
+    const auto fields = library.fields(1);
+    ASSERT_FALSE(fields);
+    EXPECT_EQ(fields.error().code, Error::Code::invalid);
+    EXPECT_EQ(fields.error().message, "the entry of track 2 is not well formed");
+}
+
 TEST_F(LibraryDocumentTest, ADeletedTrackIsGoneAtOnce) {
     LibraryDocument& library =
         open(libraryXml({{1, "A1", ""}, {2, "A2", ""}}, {{"All", "", {1, 2}}, {"P", "", {1, 1, 2}}}));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace songsweep {
 
@@ -23,7 +24,8 @@ class ApplicationView {
 
     /// "Can't access iTunes. ..." with "OK" and "Help"; `reason` is its informative text, or empty.
     virtual void alertCantAccess(const std::string& /*message*/, const std::string& /*reason*/) {}
-    virtual void alertNoDuplicates() {}
+    /// "No duplicates found."; the notes tell, a paragraph each, what was not searched.
+    virtual void alertNoDuplicates(const std::vector<std::string>& /*notes*/) {}
     /// That the library could not be written, so that nothing is deleted.
     virtual void alertCantBeginDelete(const std::string& /*reason*/) {}
 };
