@@ -14,7 +14,8 @@ ProgramOptions programOptions(const cli::LibraryOptions& options) {
     return {.library = options.library,
             .map = options.map,
             .iTunesVersion = options.iTunesVersion,
-            .version = SONGSWEEP_VERSION};
+            .version = SONGSWEEP_VERSION,
+            .mapRules = options.mapRules};
 }
 
 } // namespace

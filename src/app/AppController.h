@@ -98,6 +98,7 @@ class AppController {
     const Progress& progress() const { return m_progress.progress(); }
     bool missedPlaylist() const { return m_search.missedPlaylist(); }
     SearchVerdict searchVerdict() const { return m_search.verdict(); }
+    const std::vector<std::string>& libraryWarnings() const { return m_search.warnings(); }
     bool isSearching() const { return m_search.isRunning(); }
     bool isDeleting() const { return m_deletion.isOn(); }
     /// Whether the rows are a worker's now, so that nobody else may look at them.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/MapRule.h"
 #include "delete/DeletePlan.h"
 #include "platform/Result.h"
 
@@ -44,6 +45,8 @@ struct ControllerServices {
     std::function<Result<void>()> writeLibrary = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
+    /// The rules by which files are looked for elsewhere than the library says.
+    std::vector<MapRule> mapRules = {};
 
     /// What is asked before a deletion.
     SurveySources surveySources() const;

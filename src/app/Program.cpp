@@ -103,6 +103,7 @@ ControllerServices Program::controllerServices() {
             [this] { return m_scripts.usesEmbedded() ? m_scripting.libraryPath() : std::string(); },
         .writeLibrary = [this] { return writeLibrary(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
+        .mapRules = m_options.mapRules,
     };
 }
 

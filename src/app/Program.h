@@ -3,6 +3,7 @@
 
 #include "app/ChosenScripts.h"
 #include "app/ControllerServices.h"
+#include "app/MapRule.h"
 #include "app/OpenedLibrary.h"
 #include "delete/EmbeddedCleanup.h"
 #include "hosts/EmbeddedScripting.h"
@@ -30,6 +31,7 @@ struct ProgramOptions {
     std::string iTunesVersion = "12.0";
     std::string version;                ///< of this program
     std::string purpose = "the window"; ///< who cleans up, for others that want to meanwhile
+    std::vector<MapRule> mapRules = {}; ///< of the map, to tell one that is of no use
 };
 
 /// iTunes' preferences, but for a library that the user named: that one comes first then.

@@ -115,6 +115,7 @@ SearchVerdict Search::verdict() const {
 void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
     m_readers.choose(m_queries.majorVersion(), playlistIndex, trackCount);
     m_list1 = std::make_shared<TrackList>();
+    m_warnings = std::make_shared<LibraryLook::Warnings>();
     m_listedCount = 0;
     m_results.begin(m_list1->storage);
     m_progress.setValue(0);
@@ -162,7 +163,14 @@ void Search::onAddFinish() {
     } else {
         m_progress.progress().beginPhase(90, 10);
     }
+    startLibraryLook();
     m_workers.queue.add(std::make_unique<BuildResultProc>(m_list1, m_params, m_workers.center));
+}
+
+void Search::startLibraryLook() {
+    if (!m_services.libraryLocations) return;
+    const FilePlaces places = {m_services.files, m_services.libraryLocations, m_services.mapRules};
+    m_workers.queue.add(std::make_unique<LibraryLook>(m_list1, places, m_warnings));
 }
 
 void Search::onXmlDoneParsing() {
@@ -196,6 +204,7 @@ void Search::onBuildFinish() {
     m_searching = false;
     m_progress.closeProgressWindow(ProgressBar::formprogress);
     std::vector<std::string> notes = verdict().notes;
+    notes.insert(notes.end(), m_warnings->begin(), m_warnings->end());
     const auto playlist = askedForWholeLibrary() ? ChosenPlaylist::missed : ChosenPlaylist::searched;
     m_results.showFound(searchSummary(m_params, playlist, notes));
     if (!m_results.tableDataSource().rows.empty()) return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ITunesQueries.h"
+#include "app/LibraryLook.h"
 #include "app/ReaderChoice.h"
 #include "app/SearchVerdict.h"
 #include "app/Workers.h"
@@ -37,6 +38,8 @@ class Search {
     bool missedPlaylist() const;
     /// What the search that has ended covered.
     SearchVerdict verdict() const;
+    /// That the library's files are looked for in the wrong place; for when the search has ended.
+    const std::vector<std::string>& warnings() const { return *m_warnings; }
     /// Whether the sender was cancelled before the present search began: its end is no news of this search.
     bool isStale(const WorkerEvent& event) const;
     ReaderChoice& readers() { return m_readers; }
@@ -65,6 +68,7 @@ class Search {
   private:
     void begin(std::int32_t playlistIndex, std::int32_t trackCount);
     void startAddProc();
+    void startLibraryLook();
     void showSearching();
     bool isLibraryChosen(std::int32_t index) const;
     bool askedForWholeLibrary() const { return m_asksITunes && !m_knowsPlaylist; }
@@ -80,6 +84,7 @@ class Search {
 
     SearchParameters m_params;
     std::shared_ptr<TrackList> m_list1 = std::make_shared<TrackList>();
+    std::shared_ptr<LibraryLook::Warnings> m_warnings = std::make_shared<LibraryLook::Warnings>();
     std::uint64_t m_serial = 0; ///< of the present search's first worker
     bool m_searching = false;
     bool m_asksITunes = false;

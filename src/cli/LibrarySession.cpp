@@ -3,7 +3,6 @@
 
 #include "cli/CommandLog.h"
 #include "cli/Commands.h"
-#include "cli/LibraryWarnings.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
 #include "library/CaseFolding.h"
@@ -46,24 +45,13 @@ std::optional<ExitCode> LibrarySession::search() {
                              m_options.parameters.playlist.value_or("") + "'"));
     for (const std::string& note : m_controller->searchVerdict().notes)
         tell(withPath(note));
-    warn();
+    for (const std::string& warning : m_controller->libraryWarnings())
+        tell(withPath("warning: " + warning));
     return std::nullopt;
 }
 
 ExitCode LibrarySession::searchedCode() const {
     return m_controller->searchVerdict().isComplete ? ExitCode::done : ExitCode::failed;
-}
-
-/// Looks at files once more only where the search met none that is here.
-void LibrarySession::warn() {
-    const auto& rows = m_controller->tableDataSource().rows;
-    const bool metFile =
-        std::any_of(rows.begin(), rows.end(), [](const TrackRecord* row) { return !row->isdead; });
-    const LibraryLocations locations = m_program->controllerServices().libraryLocations;
-    for (const std::string& rule : uselessMaps(m_options.mapRules, locations))
-        tell(withPath(rule));
-    if (metFile) return;
-    if (const auto warning = allFilesMissing(m_program->files(), locations)) tell(withPath(*warning));
 }
 
 void LibrarySession::runUntilIdle() {
@@ -91,7 +79,7 @@ std::optional<std::string> LibrarySession::prepare() {
     m_interrupts.setFirstAct([log = m_log] { log->endSoon(); });
     m_program =
         std::make_unique<Program>(ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion,
-                                                 m_version, "the command delete"},
+                                                 m_version, "the command delete", m_options.mapRules},
                                   *m_log);
     if (const Result<void> read = m_program->scripting().readLibrary(); !read)
         return withPath(read.error().message);

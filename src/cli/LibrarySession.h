@@ -54,7 +54,6 @@ class LibrarySession {
     ExitCode searchedCode() const;
 
   private:
-    void warn();
     std::optional<std::string> prepare();
     std::optional<std::string> lockLibrary();
     std::optional<std::string> choosePlaylist();

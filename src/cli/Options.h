@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/MapRule.h"
 #include "library/SearchParameters.h"
 #include "platform/PathMap.h"
 
@@ -14,12 +15,6 @@ namespace songsweep::cli {
 enum class ExitCode { done = 0, failed = 1, usage = 2, interrupted = 130 };
 
 enum class OutputFormat { text, json, csv };
-
-/// One `--map FROM=TO`.
-struct MapRule {
-    std::string from;
-    std::string to;
-};
 
 /// Which library, and how it is looked at: the options that every command and the window know.
 struct LibraryOptions {

@@ -281,6 +281,21 @@ TEST_F(WindowActionsTest, ASearchOfNothingIsExplained) {
                              "by which it is found in its file"));
 }
 
+TEST_F(WindowActionsTest, ALibraryAllOfWhoseFilesAreMissingIsToldBesideTheResults) {
+    const std::string values =
+        "<key>Name</key><string>Song</string>"
+        "<key>Total Time</key><integer>1000</integer><key>Track Type</key><string>File</string>"
+        "<key>Location</key><string>file:///Users/ann/a.mp3</string>";
+    const std::string missing =
+        libraryXml({{1, "A1", values}, {2, "A2", values}}, {{"Library", "<key>Master</key><true/>", {1, 2}}});
+    Q_EMIT window().openLibrary(folder.write("missing.xml", missing));
+    search();
+    EXPECT_EQ(rows().size(), 2U);
+    EXPECT_TRUE(label("searchedLabel")
+                    .startsWith(QStringLiteral("Library (none of the library's files is here; if they came "
+                                               "from another machine, --map FROM=TO tells where")));
+}
+
 TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
     search();
     Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));

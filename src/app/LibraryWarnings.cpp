@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "cli/LibraryWarnings.h"
+#include "app/LibraryWarnings.h"
 
 #include "platform/Files.h"
 
 #include <algorithm>
 
-namespace songsweep::cli {
+namespace songsweep {
 
 namespace {
 
@@ -22,15 +22,15 @@ bool covers(const MapRule& rule, const std::string& path) {
 std::vector<std::string> uselessMaps(const std::vector<MapRule>& rules, const LibraryLocations& locations) {
     std::vector<MapRule> left = rules;
     std::string first;
-    if (!left.empty())
-        locations([&](std::string_view, const std::string& path) {
-            if (first.empty()) first = path;
-            std::erase_if(left, [&](const MapRule& rule) { return covers(rule, path); });
-            return !left.empty();
-        });
+    const auto strikeOut = [&](std::string_view, const std::string& path) {
+        if (first.empty()) first = path;
+        std::erase_if(left, [&](const MapRule& rule) { return covers(rule, path); });
+        return !left.empty();
+    };
+    if (rules.empty() || !locations(strikeOut)) return {};
     std::vector<std::string> warnings;
     for (const MapRule& rule : left)
-        warnings.push_back("warning: --map " + rule.from + "=" + rule.to +
+        warnings.push_back("--map " + rule.from + "=" + rule.to +
                            " changes nothing, as no path of the library begins so" +
                            (first.empty() ? std::string() : "; its first is " + first));
     return warnings;
@@ -45,10 +45,9 @@ std::optional<std::string> allFilesMissing(const Files& files, const LibraryLoca
         return !isOneHere;
     });
     if (!looked || isOneHere || first.empty()) return std::nullopt;
-    return "warning: none of the library's files is here; if they came from another machine, --map FROM=TO "
-           "tells "
+    return "none of the library's files is here; if they came from another machine, --map FROM=TO tells "
            "where they are now (the first is " +
            first + ")";
 }
 
-} // namespace songsweep::cli
+} // namespace songsweep
