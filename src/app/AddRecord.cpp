@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AddRecord.h"
 
-#include "library/ValueFormats.h"
+#include "library/LibraryValues.h"
 #include "platform/Epochs.h"
 #include "scripting/Descriptor.h"
 
@@ -85,7 +85,7 @@ TrackRecord& makeRecord(TrackStorage& storage, const Descriptor& item) {
     setDateAdded(record, item);
     record.timev = TimestringToSec(record.time);
     const Descriptor* const rating = item.descriptorAtIndex(ratingItem);
-    record.rating = rating ? rating->int32Value() / 20 : 0;
+    record.rating = rating ? starsOf(rating->int32Value()) : 0;
     record.isdead = record.location == missingLocation;
     const Descriptor* const artworks = item.descriptorAtIndex(artworksItem);
     record.hasartwork = artworks && artworks->numberOfItems() > 0;

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/TrackValues.h"
 
+#include "library/LibraryValues.h"
 #include "library/LocationUrl.h"
 #include "library/Trim.h"
-#include "library/ValueFormats.h"
 #include "platform/Files.h"
 #include "platform/LocalTime.h"
 
-#include <algorithm>
 #include <charconv>
 
 namespace songsweep {
@@ -18,8 +17,11 @@ using interpreter::Value;
 
 Value duration(std::string_view milliseconds) {
     if (milliseconds.empty()) return std::string();
-    return SecToTime(integerValue(milliseconds));
+    return durationOf(milliseconds);
 }
+
+/// The text of a value, or what a record begins with where the file gives none.
+std::string_view givenOr(Text initial, std::string_view text) { return text.empty() ? initial.view() : text; }
 
 Value location(std::string_view url, const Files& files) {
     auto path = pathOfFileUrl(url);
@@ -63,10 +65,9 @@ std::optional<Value> trackValue(const TrackFields& fields, ITunesProperty proper
     case ITunesProperty::rating:
         return std::int64_t{integerValue(text(LibraryKey::rating))};
     case ITunesProperty::persistentId:
-        return std::string(text(LibraryKey::persistentId).empty() ? "0" : text(LibraryKey::persistentId));
+        return std::string(givenOr(TrackRecord().pid, text(LibraryKey::persistentId)));
     case ITunesProperty::playedCount:
-        return text(LibraryKey::playCount).empty() ? Value(std::int64_t{0})
-                                                   : numberOrText(text(LibraryKey::playCount));
+        return numberOrText(givenOr(TrackRecord().playcount, text(LibraryKey::playCount)));
     case ITunesProperty::location:
         return location(text(LibraryKey::location), files);
     default:
@@ -75,8 +76,7 @@ std::optional<Value> trackValue(const TrackFields& fields, ITunesProperty proper
 }
 
 std::size_t artworkCount(const TrackFields& fields) {
-    return static_cast<std::size_t>(
-        std::max(integerValue(trimmed(fields.text(LibraryKey::artworkCount))), 0));
+    return static_cast<std::size_t>(artworkCountOf(trimmed(fields.text(LibraryKey::artworkCount))));
 }
 
 } // namespace songsweep

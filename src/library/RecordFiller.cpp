@@ -2,7 +2,7 @@
 #include "library/RecordFiller.h"
 
 #include "library/CaseFolding.h"
-#include "library/ValueFormats.h"
+#include "library/LibraryValues.h"
 
 #include <stdexcept>
 
@@ -38,13 +38,13 @@ void RecordFiller::store(TrackRecord& record, LibraryKey key, std::string_view t
         append(record.location, text);
         return;
     case LibraryKey::rating:
-        record.rating = integerValue(text) / 20;
+        record.rating = starsOf(integerValue(text));
         return;
     case LibraryKey::playCount:
         record.playcount = m_storage.intern(text);
         return;
     case LibraryKey::artworkCount:
-        record.hasartwork |= integerValue(text) > 0;
+        record.hasartwork |= artworkCountOf(text) > 0;
         return;
     case LibraryKey::trackType:
         record.isfile |= lowercase(text) == "file";
@@ -82,7 +82,7 @@ bool RecordFiller::join(Text& field, std::string_view piece) {
 }
 
 void RecordFiller::storeDuration(TrackRecord& record, std::string_view milliseconds) {
-    const std::string time = SecToTime(integerValue(milliseconds));
+    const std::string time = durationOf(milliseconds);
     record.timev = TimestringToSec(time);
     record.time = m_storage.intern(time);
 }
