@@ -72,6 +72,10 @@ Result<void> LibraryDocument::refresh() {
     std::size_t deleted = 0;
     if (m_deletedCount > 0)
         deleted = m_memory.carryOver(m_index, m_byPersistentId, fresh.file, fresh.index, table);
+    if (!m_changes.isEmpty() && !m_changes.carryOver(m_index, m_byPersistentId, fresh.index, table))
+        m_lostChanges =
+            Error{Error::Code::failed, m_path + " was changed by another program meanwhile, so that "
+                                                "tracks or playlists were not changed"};
     adopt(std::move(fresh.file), std::move(fresh.index), std::move(table));
     m_deletedCount = deleted;
     return {};
@@ -82,8 +86,7 @@ void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTa
     m_index = std::move(index);
     m_byPersistentId = std::move(table);
     m_playlistOrder = presentationOrder(m_index.playlists);
-    m_cache.fill({});
-    m_values = {};
+    forgetValues();
     m_byTrackId.clear();
     m_deletedCount = 0;
     forgetLists();
@@ -123,10 +126,11 @@ const LibraryDocument::Listed& LibraryDocument::listed(std::size_t playlist) {
     const std::vector<ItemSlot>& items = m_index.playlists[m_playlistOrder[playlist]].items;
     for (std::uint32_t item = 0; item < items.size(); ++item) {
         const TrackPosition track = items[item].track;
-        if (track == LibraryIndex::noTrack || isDeleted(track)) continue;
+        if (track == LibraryIndex::noTrack || isDeleted(track) || isTakenOut(playlist, item)) continue;
         list->tracks.push_back(track);
         list->items.push_back(item);
     }
+    listAdded(playlist, *list);
     return *list;
 }
 
@@ -188,7 +192,7 @@ std::size_t LibraryDocument::libraryPlaceOf(TrackPosition track) {
 
 Result<const EntryValues*> LibraryDocument::values(TrackPosition track) {
     if (m_values.track == track) return &m_values.values;
-    const auto bytes = m_file->read(m_index.tracks[track].range());
+    const auto bytes = entryOf(track);
     if (!bytes) return bytes.error();
     auto parsed = EntryValues::parse(bytes.value(), m_index.entities);
     if (!parsed) return Error{Error::Code::busy, m_path + " is being rewritten"};
@@ -199,7 +203,7 @@ Result<const EntryValues*> LibraryDocument::values(TrackPosition track) {
 Result<const TrackFields*> LibraryDocument::fields(TrackPosition track) {
     Cached& cached = m_cache[track % m_cache.size()];
     if (cached.track == track) return &cached.fields;
-    const auto bytes = m_file->read(m_index.tracks[track].range());
+    const auto bytes = entryOf(track);
     if (!bytes) return bytes.error();
     auto parsed = TrackFields::parse(bytes.value(), m_index.entities);
     if (!parsed) return unreadable(track);

@@ -3,6 +3,7 @@
 
 #include "libraryfile/DeletionMemory.h"
 #include "libraryfile/EntryValues.h"
+#include "libraryfile/LibraryChanges.h"
 #include "libraryfile/LibraryIndex.h"
 #include "libraryfile/LibraryTransaction.h"
 #include "libraryfile/LocationPass.h"
@@ -120,10 +121,23 @@ class LibraryDocument {
     /// the track's bytes are needed to know it again and cannot be read.
     Result<void> remove(TrackPosition track);
     bool isDeleted(TrackPosition track) const { return m_index.tracks[track].deleted; }
+
+    /// Gives a key of a track's entry another value, or takes it out; seen at once by `fields` and `values`.
+    /// An error where the entry does not allow it, see EntryEdit.h.
+    Result<void> setValue(TrackPosition track, ValueChange change);
+    /// Takes an item out of a playlist that is not the library, by its number in `itemsOf`; the track stays.
+    void takeOut(std::size_t playlist, std::uint32_t item);
+    bool isTakenOut(std::size_t playlist, std::uint32_t item) const;
+    /// Puts a track at the end of a playlist that is not the library, and gives the number of its item. An
+    /// error where the track has no track ID that is its alone.
+    Result<std::uint32_t> add(std::size_t playlist, TrackPosition track);
+
     /// The number of deletions that `flush` has yet to write.
     std::size_t pendingDeletions() const { return m_deletedCount; }
+    /// The number of other changes that it has yet to write, or to say that they were lost.
+    std::size_t pendingChanges() const { return m_changes.count() + (m_lostChanges ? 1 : 0); }
 
-    /// Writes the deletions, all in one go; nothing to do without any.
+    /// Writes the deletions and all other changes in one go; nothing to do without any.
     ///
     /// All other bytes stay as they are. They go to a temporary file beside the library, which is flushed,
     /// read back, compared, and put in its place, so that at any moment the old version or the new one is
@@ -133,10 +147,12 @@ class LibraryDocument {
     /// and the deletions are forgotten, so that nobody writes later what was reported as not written.
     ///
     /// A track that another program has changed beyond recognition stays: after a success, ask
-    /// `tracksWithPersistentId` whether the library on the disk still names it.
+    /// `tracksWithPersistentId` whether the library on the disk still names it. Other changes are made in
+    /// what another program wrote meanwhile where their tracks have a persistent ID, and no playlist is
+    /// concerned; else nothing is written, and that is an error.
     Result<void> flush();
 
-    /// Forgets the deletions that are not written: their tracks are there as before.
+    /// Forgets all that is not written: the library is as before.
     void rollback();
 
     /// Why the last `flush` failed; nothing after one that succeeded.
@@ -180,6 +196,12 @@ class LibraryDocument {
     Result<void> replaceLibrary(LibraryTransaction& transaction);
     Result<void> checkWellFormednessOnce();
     const Listed& listed(std::size_t playlist);
+    void listAdded(std::size_t playlist, Listed& list) const;
+    Result<std::string> entryOf(TrackPosition track) const;
+    void forgetValues();
+    bool isChanged() const { return m_deletedCount > 0 || pendingChanges() > 0; }
+    Result<LibraryIndex> withoutDeletions(LibraryTransaction& transaction);
+    Result<LibraryIndex> withChanges(LibraryTransaction& transaction);
     std::vector<TrackPosition> libraryTracks() const;
 
     std::string m_path;
@@ -196,7 +218,9 @@ class LibraryDocument {
     CachedValues m_values; // of the track asked for last
     std::size_t m_deletedCount = 0;
     DeletionMemory m_memory;
-    FileStamp m_wellFormed; // the version of the file that the full parser has accepted
+    LibraryChanges m_changes;
+    std::optional<Error> m_lostChanges; // another program's version has no place for them
+    FileStamp m_wellFormed;             // the version of the file that the full parser has accepted
     std::optional<LibraryTransaction> m_transaction; // of the clean-up, while there is one
     std::optional<Backup> m_backup;
     std::optional<Error> m_lastWriteError;

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/Attempt.h"
+#include "libraryfile/ChangePlan.h"
 #include "libraryfile/LibraryDocument.h"
 #include "libraryfile/LibraryRewrite.h"
 #include "libraryfile/WellFormedness.h"
+
+#include <algorithm>
 
 namespace songsweep {
 
@@ -32,7 +35,7 @@ Result<void> LibraryDocument::beginCleanup(const CleanupLock::Request& request) 
 void LibraryDocument::endCleanup() { m_transaction.reset(); }
 
 Result<void> LibraryDocument::flush() {
-    if (m_deletedCount == 0) return {};
+    if (!isChanged()) return {};
     auto written = write();
     m_lastWriteError.reset();
     if (!written) {
@@ -43,7 +46,10 @@ Result<void> LibraryDocument::flush() {
 }
 
 void LibraryDocument::rollback() {
-    if (m_deletedCount == 0) return;
+    if (!isChanged()) return;
+    m_changes.clear();
+    m_lostChanges.reset();
+    forgetValues();
     for (TrackSlot& track : m_index.tracks)
         track.deleted = false;
     m_deletedCount = 0;
@@ -70,10 +76,9 @@ Result<void> LibraryDocument::writeIn(LibraryTransaction& transaction) {
     auto written = attempt([&]() -> Result<void> {
         // Under the lock, as another program may have written while this one waited.
         if (auto refreshed = refresh(); !refreshed) return refreshed;
-        if (m_deletedCount == 0) return {};
+        if (m_lostChanges) return *m_lostChanges;
+        if (!isChanged()) return {};
         if (auto checked = checkWellFormednessOnce(); !checked) return checked;
-        auto prepared = transaction.prepare(*m_file, m_index.stamp, m_index.stamp.size);
-        if (!prepared) return prepared;
         return replaceLibrary(transaction);
     });
     m_backup = transaction.backup();
@@ -87,18 +92,39 @@ Result<void> LibraryDocument::checkWellFormednessOnce() {
     return {};
 }
 
-Result<void> LibraryDocument::replaceLibrary(LibraryTransaction& transaction) {
+Result<LibraryIndex> LibraryDocument::withoutDeletions(LibraryTransaction& transaction) {
+    auto prepared = transaction.prepare(*m_file, m_index.stamp, m_index.stamp.size);
+    if (!prepared) return prepared.error();
     const auto check = [&](const LibraryFile&, const LibraryIndex& readBack) -> Result<void> {
         const auto deleted = [&](TrackPosition track) { return isDeleted(track); };
         if (!isRemainderOf(m_index, readBack, deleted)) return transaction.readsBackOtherwise();
         return {};
     };
-    auto replaced = transaction.replace(*m_file, m_index.stamp,
-                                        piecesWithout(*m_file, rangesOfDeletions(m_index)), check);
+    return transaction.replace(*m_file, m_index.stamp, piecesWithout(*m_file, rangesOfDeletions(m_index)),
+                               check);
+}
+
+/// What is new is looked at by a full parser, too, as other programs are to read it.
+Result<LibraryIndex> LibraryDocument::withChanges(LibraryTransaction& transaction) {
+    const auto plan = ChangePlan::of(*m_file, m_index, m_changes);
+    if (!plan) return plan.error();
+    auto prepared =
+        transaction.prepare(*m_file, m_index.stamp, std::max(plan.value().size(), m_index.stamp.size));
+    if (!prepared) return prepared.error();
+    const auto check = [&](const LibraryFile& written, const LibraryIndex& readBack) -> Result<void> {
+        if (!plan.value().isResult(readBack)) return transaction.readsBackOtherwise();
+        return checkWellFormedness(written);
+    };
+    return transaction.replace(*m_file, m_index.stamp, plan.value().pieces(), check);
+}
+
+Result<void> LibraryDocument::replaceLibrary(LibraryTransaction& transaction) {
+    auto replaced = m_changes.isEmpty() ? withoutDeletions(transaction) : withChanges(transaction);
     if (!replaced) return replaced.error();
 
-    // The deletions are on disk; whatever happens to the file from here on is a change like any other.
+    // All is on disk; whatever happens to the file from here on is a change like any other.
     m_deletedCount = 0;
+    m_changes.clear();
     m_memory = {};
     m_wellFormed = replaced.value().stamp;
     auto file = LibraryFile::open(m_path);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/XmlText.h"
 
+#include "platform/Utf8.h"
+
 #include <charconv>
 #include <cstdint>
 
@@ -146,6 +148,23 @@ std::optional<std::string> entityReplacement(std::string_view literal) {
         literal.remove_prefix(end + 1);
     }
     return text;
+}
+
+std::optional<std::string> encodeXmlText(std::string_view text) {
+    if (!isUtf8(text) || text.find("\xEF\xBF\xBE") != std::string_view::npos ||
+        text.find("\xEF\xBF\xBF") != std::string_view::npos)
+        return {};
+    std::string raw;
+    for (const char c : text) {
+        const bool isControl = static_cast<unsigned char>(c) < 0x20;
+        if (isControl && c != '\t' && c != '\n' && c != '\r') return {};
+        if (c == '&' || c == '<' || c == '>' || c == '\r') {
+            raw += "&#" + std::to_string(int(c)) + ";";
+        } else {
+            raw += c;
+        }
+    }
+    return raw;
 }
 
 std::optional<std::string> decodeXmlText(std::string_view raw, const XmlEntities& entities) {

@@ -18,6 +18,10 @@ using XmlEntities = std::map<std::string, std::string, std::less<>>;
 /// followed to a fixed depth and length; nothing where they go beyond, or where a reference is broken.
 std::optional<std::string> decodeXmlText(std::string_view raw, const XmlEntities& entities);
 
+/// A text (UTF-8) as raw bytes between two tags, with the references that iTunes writes. Nothing for one with
+/// a character that XML does not know, and for bytes that are not UTF-8.
+std::optional<std::string> encodeXmlText(std::string_view text);
+
 /// The replacement text of an entity declared with this literal: only character references are replaced at
 /// the declaration, the rest where the entity is used. Nothing where a reference is broken.
 std::optional<std::string> entityReplacement(std::string_view literal);
