@@ -26,6 +26,18 @@ std::vector<interpreter::NamedApplication> applications(ITunesServices& services
              {"com.apple.finder"}}};
 }
 
+/// How much a library has yet to write.
+std::size_t pendingOf(const LibraryDocument* document) {
+    return document ? document->pendingDeletions() + document->pendingChanges() : 0;
+}
+
+/// "3 tracks deleted", "3 tracks deleted, 2 changes"
+std::string pendingText(const LibraryDocument& document) {
+    const std::string deletions = std::to_string(document.pendingDeletions()) + " tracks deleted";
+    if (document.pendingChanges() == 0) return deletions;
+    return deletions + ", " + std::to_string(document.pendingChanges()) + " changes";
+}
+
 } // namespace
 
 EmbeddedScripting::EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files, Options options)
@@ -68,9 +80,9 @@ Result<void> EmbeddedScripting::runLast(std::string_view source) {
 
 Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view source) {
     m_library.beginScript();
-    const std::size_t before = m_library.opened() ? m_library.opened()->pendingDeletions() : 0;
+    const std::size_t before = pendingOf(m_library.opened());
     auto result = m_interpreter.run(source);
-    noteDeletions(before);
+    noteChanges(before);
     if (auto deleted = deleteFilesOfScript(); !deleted) return deleted.error();
     return result;
 }
@@ -98,8 +110,8 @@ Result<void> EmbeddedScripting::deleteFilesOfScript() {
     return deleted;
 }
 
-void EmbeddedScripting::noteDeletions(std::size_t before) {
-    if (m_library.opened() == nullptr || m_library.opened()->pendingDeletions() == before) return;
+void EmbeddedScripting::noteChanges(std::size_t before) {
+    if (pendingOf(m_library.opened()) == before) return;
     const bool writerWaits = m_schedule.due().has_value(); // It looks again when its time has come.
     m_schedule.changed(WriteSchedule::Clock::now());
     if (!writerWaits) m_scheduleChanged.notify_all();
@@ -191,16 +203,16 @@ Result<void> EmbeddedScripting::flushLocked() {
 
 Result<void> EmbeddedScripting::writePending(LibraryDocument& document) {
     m_schedule.written();
-    const std::size_t deletions = document.pendingDeletions();
-    if (deletions == 0) return {};
+    if (pendingOf(&document) == 0) return {};
+    const std::string what = pendingText(document);
     auto written = document.flush();
-    tellOfWrite(written, deletions);
+    tellOfWrite(written, what);
     return written;
 }
 
-void EmbeddedScripting::tellOfWrite(const Result<void>& written, std::size_t deletions) {
+void EmbeddedScripting::tellOfWrite(const Result<void>& written, const std::string& what) {
     if (m_log != nullptr)
-        m_log->line(written ? "Library written : " + std::to_string(deletions) + " tracks deleted"
+        m_log->line(written ? "Library written : " + what
                             : "Library not written : " + written.error().message);
     if (!written && !m_toldOfFailure) m_writeFailed(written.error());
     m_toldOfFailure = !written;

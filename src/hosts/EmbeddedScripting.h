@@ -29,9 +29,10 @@ class Log;
 /// Runs AppleScript texts against an iTunes and a Finder of the program's own, over one library XML file.
 ///
 /// Texts run one at a time, whichever thread sends them. The file is indexed when the first text asks iTunes
-/// something, and looked at again by each later one. Deletions are seen at once and written together, a
-/// little after the last one, by a thread of this object's own; the destructor writes what is left. A library
-/// that is refused, or missing, fails the texts that tell iTunes; `libraryError` has the reason.
+/// something, and looked at again by each later one. Deletions and other changes are seen at once and written
+/// together, a little after the last one, by a thread of this object's own; the destructor writes what is
+/// left. A library that is refused, or missing, fails the texts that tell iTunes; `libraryError` has the
+/// reason.
 ///
 /// A file never goes to the Trash before a deletion that was told earlier is on the disk. Within a clean-up
 /// files are held until a written library does not name their tracks; outside of one the text that deletes a
@@ -111,8 +112,8 @@ class EmbeddedScripting final : public AppleScript {
     Result<void> writePending(LibraryDocument& document);
     Result<void> deleteFile(const std::string& path);
     Result<void> deleteFilesOfScript();
-    void tellOfWrite(const Result<void>& written, std::size_t deletions);
-    void noteDeletions(std::size_t before);
+    void tellOfWrite(const Result<void>& written, const std::string& what);
+    void noteChanges(std::size_t before);
     void writeWhenDue(const std::stop_token& stop);
 
     mutable std::mutex m_lock; // of everything below, and held while a text runs

@@ -84,6 +84,10 @@ ITunesApplication::candidates(TermCode elementClass, const interpreter::Property
 }
 
 Result<std::optional<Value>> ITunesApplication::perform(const Command& command) {
+    if (static_cast<ITunesCommand>(command.code) == ITunesCommand::duplicate) {
+        auto made = duplicate(command);
+        return made ? Result<std::optional<Value>>(std::move(made).value()) : made.error();
+    }
     const auto done = [&]() -> Result<void> {
         switch (static_cast<ITunesCommand>(command.code)) {
         case ITunesCommand::activate:
@@ -97,6 +101,8 @@ Result<std::optional<Value>> ITunesApplication::perform(const Command& command) 
         case ITunesCommand::deleteObject:
             if (!command.direct) return Error{Error::Code::invalid, "there is nothing to delete"};
             return deleteTracks(*command.direct);
+        case ITunesCommand::duplicate:
+            break;
         }
         return Error{Error::Code::notSupported, "the command is not known"};
     }();
@@ -127,8 +133,6 @@ Result<std::string> ITunesApplication::fileOf(const Value& value) {
 }
 
 Result<void> ITunesApplication::deleteTracks(const Value& value) {
-    const auto library = m_services.library.document();
-    if (!library) return library.error();
     if (const auto* items = interpreter::listItems(value)) {
         for (const Value& item : *items)
             if (auto deleted = deleteTracks(item); !deleted) return deleted;
@@ -136,7 +140,33 @@ Result<void> ITunesApplication::deleteTracks(const Value& value) {
     }
     const auto track = trackOf(value);
     if (!track) return Error{Error::Code::notSupported, "only tracks can be deleted"};
-    return library.value()->remove(track->track());
+    return track->remove();
+}
+
+/// The tracks as they are in the playlist: one, or a list of several.
+Result<Value> ITunesApplication::duplicate(const Command& command) {
+    const Value* const to = command.argument(static_cast<TermCode>(ITunesParameter::to));
+    const auto* const object = to ? std::get_if<ObjectPointer>(to) : nullptr;
+    const auto playlist = object ? std::dynamic_pointer_cast<PlaylistObject>(*object) : nullptr;
+    if (!playlist || !command.direct)
+        return Error{Error::Code::notSupported, "tracks are duplicated to a playlist"};
+    const auto addOne = [&](const Value& value) -> Result<ObjectPointer> {
+        const auto track = trackOf(value);
+        if (!track) return Error{Error::Code::notSupported, "only tracks can be duplicated"};
+        return playlist->add(*track);
+    };
+    const auto* const items = interpreter::listItems(*command.direct);
+    if (!items) {
+        auto added = addOne(*command.direct);
+        return added ? Result<Value>(std::move(added).value()) : added.error();
+    }
+    std::vector<Value> all;
+    for (const Value& item : *items) {
+        auto added = addOne(item);
+        if (!added) return added.error();
+        all.emplace_back(std::move(added).value());
+    }
+    return interpreter::makeList(std::move(all));
 }
 
 } // namespace songsweep

@@ -8,8 +8,8 @@ namespace songsweep {
 /// The embedded iTunes: the application that scripts tell, over one library file.
 ///
 /// It has a name, a version, playlists (all of them user playlists, the library first) and the tracks of the
-/// library; it plays, stops and deletes. A track that is deleted goes from the library, whichever playlist it
-/// was named by.
+/// library; it plays, stops, deletes and duplicates. A track that is deleted goes from the library where it
+/// was named by the library, else from the playlist that it was named by.
 class ITunesApplication final : public interpreter::HostApplication {
   public:
     explicit ITunesApplication(ITunesServices& services)
@@ -30,6 +30,7 @@ class ITunesApplication final : public interpreter::HostApplication {
     Result<void> play(const interpreter::Command& command);
     Result<std::string> fileOf(const interpreter::Value& value);
     Result<void> deleteTracks(const interpreter::Value& value);
+    Result<interpreter::Value> duplicate(const interpreter::Command& command);
     Result<std::size_t> playlistCount() const;
 
     ITunesServices& m_services;

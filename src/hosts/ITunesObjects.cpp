@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/ITunesObjects.h"
 
+#include "hosts/TrackChanges.h"
 #include "hosts/TrackProperties.h"
 #include "hosts/TrackValues.h"
 #include "library/PersistentId.h"
@@ -32,13 +33,28 @@ class ArtworkObject final : public ITunesObject {
     std::string m_specifier;
 };
 
+std::string quotedName(const interpreter::Terminology& words, TermCode property) {
+    const auto term = std::ranges::find(words.properties, property, &interpreter::PropertyTerm::code);
+    return term == words.properties.end() ? "such property" : "“" + term->name + "”";
+}
+
+/// Whether tracks can be put into a playlist and taken out of it. What is in the others is not theirs to say.
+Result<void> checkChangeable(const LibraryDocument& document, std::size_t playlist) {
+    const PlaylistSlot& slot = document.playlist(playlist);
+    if (!slot.smart && !slot.folder && slot.distinguishedKind == 0) return {};
+    return Error{Error::Code::notSupported,
+                 "playlist " + std::to_string(playlist + 1) + " is filled by iTunes and cannot be changed"};
+}
+
 } // namespace
 
 Error ITunesObject::noSuchProperty(TermCode property) const {
-    const auto& known = terminology().properties;
-    const auto term = std::ranges::find(known, property, &interpreter::PropertyTerm::code);
-    const std::string name = term == known.end() ? std::string("such property") : "“" + term->name + "”";
-    return {Error::Code::notFound, specifier() + " has no " + name};
+    return {Error::Code::notFound, specifier() + " has no " + quotedName(terminology(), property)};
+}
+
+Result<void> ITunesObject::setProperty(TermCode property, const Value&) {
+    return Error{Error::Code::notSupported,
+                 quotedName(terminology(), property) + " of " + specifier() + " cannot be set"};
 }
 
 std::string PlaylistObject::specifier() const { return "playlist " + std::to_string(m_index + 1); }
@@ -127,6 +143,20 @@ Result<std::optional<Candidates>> PlaylistObject::candidates(TermCode elementCla
     return std::optional(std::move(found));
 }
 
+Result<ObjectPointer> PlaylistObject::add(const TrackObject& track) {
+    const auto document = library();
+    if (!document) return document.error();
+    LibraryDocument& tracks = *document.value();
+    if (m_index == 0) return Error{Error::Code::notSupported, "the library has each track once"};
+    if (auto changeable = checkChangeable(tracks, m_index); !changeable) return changeable.error();
+    if (tracks.isDeleted(track.track())) return Error{Error::Code::notFound, "the track has been deleted"};
+    const auto item = tracks.add(m_index, track.track());
+    if (!item) return item.error();
+    return ObjectPointer(std::make_shared<TrackObject>(
+        services(), track.track(), TrackObject::Place{m_index, item.value()},
+        "track " + std::to_string(tracks.tracksOf(m_index).size()) + " of " + specifier()));
+}
+
 Result<Value> SourceObject::property(TermCode property) {
     if (static_cast<ITunesProperty>(property) == ITunesProperty::name) return Value(std::string("Library"));
     if (static_cast<ITunesProperty>(property) == ITunesProperty::index) return Value(std::int64_t{1});
@@ -172,6 +202,27 @@ Result<Value> TrackObject::property(TermCode code) {
     auto value = trackValue(*values.value(), property, services().files);
     if (!value) return noSuchProperty(code);
     return std::move(*value);
+}
+
+Result<void> TrackObject::setProperty(TermCode property, const Value& value) {
+    const auto document = libraryWithTrack();
+    if (!document) return document.error();
+    const auto changes = changesOf(static_cast<ITunesProperty>(property), value);
+    if (!changes) return changes.error();
+    if (changes.value().empty()) return ITunesObject::setProperty(property, value);
+    for (const ValueChange& change : changes.value())
+        if (auto set = document.value()->setValue(m_track, change); !set) return set;
+    return {};
+}
+
+Result<void> TrackObject::remove() const {
+    const auto document = library();
+    if (!document) return document.error();
+    LibraryDocument& tracks = *document.value();
+    if (m_place.playlist == 0) return tracks.remove(m_track);
+    if (auto changeable = checkChangeable(tracks, m_place.playlist); !changeable) return changeable;
+    tracks.takeOut(m_place.playlist, m_place.item);
+    return {};
 }
 
 /// The place that the track has now in its playlist.

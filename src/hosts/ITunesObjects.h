@@ -34,12 +34,16 @@ class ITunesObject : public interpreter::HostObject {
   protected:
     ITunesServices& services() const { return m_services; }
     Result<LibraryDocument*> library() const { return m_services.library.document(); }
+    /// Refused, with the name of the property.
+    Result<void> setProperty(interpreter::TermCode property, const interpreter::Value& value) override;
     /// "playlist 2 has no “genre”"
     Error noSuchProperty(interpreter::TermCode property) const;
 
   private:
     ITunesServices& m_services;
 };
+
+class TrackObject;
 
 /// A playlist by its place, counted from 0, in the order of the library document.
 class PlaylistObject final : public ITunesObject {
@@ -57,6 +61,9 @@ class PlaylistObject final : public ITunesObject {
     /// certain, and tracks by database ID.
     Result<std::optional<interpreter::Candidates>> candidates(interpreter::TermCode elementClass,
                                                               const interpreter::PropertyTest& test) override;
+
+    /// Puts a track at the end, and gives it as it is there.
+    Result<interpreter::ObjectPointer> add(const TrackObject& track);
 
   private:
     using Tracks = std::vector<LibraryDocument::TrackPosition>;
@@ -102,13 +109,17 @@ class TrackObject final : public ITunesObject {
 
     std::string specifier() const override { return m_specifier; }
     Result<interpreter::Value> property(interpreter::TermCode property) override;
+    /// Seen at once, and written as deletions are.
+    Result<void> setProperty(interpreter::TermCode property, const interpreter::Value& value) override;
     Result<std::size_t> count(interpreter::TermCode elementClass) override;
     Result<interpreter::ObjectPointer> element(interpreter::TermCode elementClass,
                                                std::size_t index) override;
     bool isSame(const interpreter::HostObject& other) const override;
 
+    /// Deletes the track, where it was named by its place in the library; else takes it out of the playlist.
+    Result<void> remove() const;
+
     LibraryDocument::TrackPosition track() const { return m_track; }
-    Place place() const { return m_place; }
 
   private:
     Result<LibraryDocument*> libraryWithTrack() const;

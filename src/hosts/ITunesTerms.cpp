@@ -57,8 +57,13 @@ interpreter::Terminology iTunesTerminology() {
              elements("track", "tracks", ITunesClass::track),
              elements("file track", "file tracks", ITunesClass::track),
              elements("artwork", "artworks", ITunesClass::artwork)},
-            {command("activate", ITunesCommand::activate), command("play", ITunesCommand::play),
-             command("stop", ITunesCommand::stop), command("delete", ITunesCommand::deleteObject)}};
+            {command("activate", ITunesCommand::activate),
+             command("play", ITunesCommand::play),
+             command("stop", ITunesCommand::stop),
+             command("delete", ITunesCommand::deleteObject),
+             {"duplicate",
+              static_cast<interpreter::TermCode>(ITunesCommand::duplicate),
+              {{"to", static_cast<interpreter::TermCode>(ITunesParameter::to)}}}}};
 }
 
 } // namespace songsweep

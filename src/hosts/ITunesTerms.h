@@ -48,7 +48,9 @@ enum class ITunesClass : interpreter::TermCode {
     artwork
 };
 
-enum class ITunesCommand : interpreter::TermCode { activate, play, stop, deleteObject };
+enum class ITunesCommand : interpreter::TermCode { activate, play, stop, deleteObject, duplicate };
+
+enum class ITunesParameter : interpreter::TermCode { to };
 
 /// The words of the embedded iTunes.
 interpreter::Terminology iTunesTerminology();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/EmbeddedScriptingFixture.h"
 #include "platform/HfsPath.h"
-#include "scripting/SourceNotation.h"
 #include "support/SystemTexts.h"
 
 #include <gmock/gmock.h>
@@ -169,87 +168,6 @@ TEST_F(ITunesApplicationTest, DeletesATrackByItsPlace) {
                 ElementsAre("Song 0 & more", "Song 2 & more"));
     EXPECT_THAT(failure("tell application \"iTunes\" to delete playlist 1"),
                 HasSubstr("only tracks can be deleted"));
-}
-
-/// Three tracks, one of them twice in a playlist.
-std::string smallLibrary() {
-    return libraryXml(
-        {{11, "A1", "<key>Name</key><string>One</string><key>Genre</key><string>Rock</string>"},
-         {12, "A2", "<key>Name</key><string>Two</string><key>Year</key><integer>1999</integer>"},
-         {13, "A3", "<key>Name</key><string>Three</string><key>Disabled</key><true/>"}},
-        {{"Library", "<key>Master</key><true/>", {13, 11, 12}},
-         {"Twice", "", {12, 11, 12}},
-         {"Smart", "<key>Smart Info</key><data/>", {11}}});
-}
-
-std::string shown(const Descriptor& result) { return sourceNotation(result); }
-
-TEST_F(ITunesApplicationTest, KnowsWhatElseTheFileSaysOfATrack) {
-    open(smallLibrary());
-    const auto get = [&](const std::string& what) {
-        return shown(run("tell application \"iTunes\" to get " + what));
-    };
-    EXPECT_EQ(get("{name, genre, year, enabled} of every track"),
-              "{{\"Three\", \"One\", \"Two\"}, {\"\", \"Rock\", \"\"}, {0, 0, 1999}, {false, true, true}}");
-    EXPECT_EQ(get("name of every track whose genre is \"rock\""), "{\"One\"}");
-    EXPECT_EQ(get("name of every track whose enabled is false"), "{\"Three\"}");
-    EXPECT_EQ(get("duration of track 1"), "missing value");
-}
-
-TEST_F(ITunesApplicationTest, FindsATrackByItsDatabaseId) {
-    open(smallLibrary());
-    const auto get = [&](const std::string& what) {
-        return shown(run("tell application \"iTunes\" to get " + what));
-    };
-    EXPECT_EQ(get("name of track id 12"), "\"Two\"");
-    EXPECT_EQ(get("{id, database ID} of track \"Three\""), "{13, 13}");
-    EXPECT_EQ(get("name of every track of playlist \"Twice\" whose database ID is 12"), "{\"Two\", \"Two\"}");
-    EXPECT_EQ(get("name of every track whose id > 11 and id is not 12.0"), "{\"Three\"}");
-    EXPECT_EQ(get("exists track id 14"), "false");
-    EXPECT_EQ(get("track id 12"), "track id 12 of playlist 1 of application \"iTunes\"");
-    run("tell application \"iTunes\" to delete track id 12");
-    EXPECT_EQ(get("exists track id 12"), "false");
-    EXPECT_EQ(get("name of track id 13"), "\"Three\"");
-    EXPECT_THAT(failure("tell application \"iTunes\" to get playlist id 1"),
-                HasSubstr("playlist 1 has no “id”"));
-}
-
-TEST_F(ITunesApplicationTest, TheIndexOfATrackIsItsPlaceInItsPlaylist) {
-    open(smallLibrary());
-    const auto get = [&](const std::string& what) {
-        return shown(run("tell application \"iTunes\" to get " + what));
-    };
-    EXPECT_EQ(get("index of every track"), "{1, 2, 3}");
-    EXPECT_EQ(get("index of track id 12"), "3");
-    EXPECT_EQ(get("index of every track of playlist \"Twice\""), "{1, 2, 3}");
-    EXPECT_EQ(get("index of every track of playlist \"Twice\" whose persistent ID is \"A2\""), "{1, 3}");
-    EXPECT_EQ(
-        shown(run("tell application \"iTunes\" \nset t to track id 12 \ndelete track id 13 \nindex of t \n"
-                  "end tell")),
-        "2");
-}
-
-TEST_F(ITunesApplicationTest, TheLibraryIsTheOnlySource) {
-    open(smallLibrary());
-    const auto get = [&](const std::string& what) {
-        return shown(run("tell application \"iTunes\" to get " + what));
-    };
-    EXPECT_EQ(get("name of library playlist 1"), "\"Library\"");
-    EXPECT_EQ(get("count of tracks of library playlist 1 of source 1"), "3");
-    EXPECT_EQ(get("{name of source 1, count of sources}"), "{\"Library\", 1}");
-    EXPECT_EQ(get("name of user playlist \"Twice\" of source \"Library\""), "\"Twice\"");
-    EXPECT_EQ(get("exists library playlist 2"), "false");
-    EXPECT_THAT(failure("tell application \"iTunes\" to get track 1 of source 1"),
-                HasSubstr("there are no such elements"));
-}
-
-TEST_F(ITunesApplicationTest, AnErrorNamesThePropertyThatAnObjectHasNot) {
-    open(smallLibrary());
-    EXPECT_THAT(failure("tell application \"iTunes\" to get genre of playlist 2"),
-                HasSubstr("playlist 2 has no “genre”"));
-    EXPECT_THAT(failure("tell application \"iTunes\" to get smart of track 1"),
-                HasSubstr("track 1 of playlist 1 has no “smart”"));
-    EXPECT_THAT(failure("tell application \"iTunes\" to get lyrics of track 1"), HasSubstr("“lyrics”"));
 }
 
 TEST_F(ITunesApplicationTest, AnswersUnderAllItsNames) {
