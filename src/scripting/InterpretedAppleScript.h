@@ -19,7 +19,10 @@ class InterpretedAppleScript final : public AppleScript {
     Result<Descriptor> executeAndReturnError(std::string_view source) override;
 
     /// As above, but tells a script without a result (nothing) from one whose result is the missing value.
-    Result<std::optional<Descriptor>> run(std::string_view source) { return m_interpreter.run(source); }
+    using Places = interpreter::Interpreter::Places;
+    Result<std::optional<Descriptor>> run(std::string_view source, Places places = Places::told) {
+        return m_interpreter.run(source, places);
+    }
 
   private:
     interpreter::Interpreter m_interpreter;

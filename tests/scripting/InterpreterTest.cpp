@@ -103,6 +103,15 @@ std::vector<TextCase> failures() {
 
 INSTANTIATE_TEST_SUITE_P(Failures, InterpreterFailureTest, testing::ValuesIn(failures()));
 
+TEST(InterpreterTest, LeavesThePlaceOfAFailureOutWhereItIsOfNoUse) {
+    using interpreter::Interpreter;
+    Interpreter interpreter({});
+    EXPECT_EQ(interpreter.run("5\n1 / 0", Interpreter::Places::leftOut).error().message,
+              "a number cannot be divided by zero");
+    EXPECT_EQ(interpreter.run("5\n1 / 0", Interpreter::Places::told).error().message,
+              "line 2, column 3: a number cannot be divided by zero");
+}
+
 TEST(InterpreterTest, AsksForTheDateWheneverATextDoes) {
     std::int64_t asked = 0;
     interpreter::Interpreter interpreter({}, [&] { return interpreter::Date{++asked}; });

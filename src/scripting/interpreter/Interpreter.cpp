@@ -20,12 +20,12 @@ Result<std::optional<Descriptor>> resultOf(Context& context, const Program& prog
 Interpreter::Interpreter(std::vector<NamedApplication> applications, std::function<Date()> now)
     : m_services{Applications(std::move(applications)), std::move(now)} {}
 
-Result<std::optional<Descriptor>> Interpreter::run(std::string_view source) {
+Result<std::optional<Descriptor>> Interpreter::run(std::string_view source, Places places) {
     const std::lock_guard lock(m_lock);
     TRY(const Program& program, parsedProgram(source, m_services.applications));
     Context context(m_services, program.variableCount);
     Result<std::optional<Descriptor>> result = resultOf(context, program);
-    if (result) return result;
+    if (result || places == Places::leftOut) return result;
     return Error{result.error().code, locatedText(context.errorPosition(), result.error().message)};
 }
 

@@ -23,11 +23,15 @@ namespace songsweep::interpreter {
 /// Thread-safe: one text runs at a time, a second caller waits.
 class Interpreter {
   public:
+    /// Whether the reason why a text stopped running begins with the place, "line 2, column 5: …". Who did
+    /// not write the text has no use for it.
+    enum class Places { told, leftOut };
+
     explicit Interpreter(std::vector<NamedApplication> applications, std::function<Date()> now = systemDate);
 
-    /// The value of the last statement, nothing where it has none; or why the text could not be read or
-    /// stopped running: "line 2, column 5: …".
-    Result<std::optional<Descriptor>> run(std::string_view source);
+    /// The value of the last statement, nothing where it has none; or why the text could not be read, with
+    /// the place in any case, or stopped running.
+    Result<std::optional<Descriptor>> run(std::string_view source, Places places = Places::told);
 
   private:
     const Services m_services;
