@@ -3,6 +3,7 @@
 
 #include "app/MapRule.h"
 #include "delete/DeletePlan.h"
+#include "delete/SharedIds.h"
 #include "platform/Result.h"
 
 #include <functional>
@@ -37,6 +38,9 @@ struct ControllerServices {
     /// their persistent IDs; called on a worker thread.
     std::function<bool(const std::vector<TrackRecord*>&)> areTracksOfITunes =
         [](const std::vector<TrackRecord*>&) { return true; };
+    /// The tracks of the whole library that share a persistent ID, where iTunes tells; called on a worker
+    /// thread.
+    TracksOfId tracksOfId = {};
     /// Whether the library could be written if a deletion began now; called on a worker thread.
     std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
     /// The library file that the embedded iTunes works on, for restoring; "" where it is the system's.

@@ -105,8 +105,8 @@ void Deletion::startWorker() {
     progress.beginPhase(0, 100);
     m_deletedBefore = m_readers.deletedSinceRead();
     if (progress.total > 0) m_readers.setDeletedSinceRead(true);
-    const DeleteServices services = {m_workers.center, m_services.scripts, m_services.files, m_services.log,
-                                     m_services.cleanup};
+    const DeleteServices services = {m_workers.center, m_services.scripts, m_services.files,
+                                     m_services.log,   m_services.cleanup, m_services.tracksOfId};
     m_workers.queue.add(std::make_unique<DeleteProc>(m_results.tableDataSource(), m_deleteFiles, services,
                                                      std::exchange(m_plan, {})));
 }

@@ -98,6 +98,7 @@ ControllerServices Program::controllerServices() {
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
         .areTracksOfITunes =
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
+        .tracksOfId = [this](std::string_view pid) { return tracksOfId(pid); },
         .libraryForesight = [this] { return foreseeWriting(); },
         .libraryFile =
             [this] { return m_scripts.usesEmbedded() ? m_scripting.libraryPath() : std::string(); },
@@ -145,6 +146,11 @@ bool Program::areTracksOfITunes(const std::vector<TrackRecord*>& records) {
     if (!m_scripts.usesEmbedded()) return true;
     const Result<bool> same = m_scripting.hasTracks(records);
     return same && same.value();
+}
+
+/// The system's iTunes is not asked: it gives no ID twice.
+std::vector<std::string> Program::tracksOfId(std::string_view pid) {
+    return m_scripts.usesEmbedded() ? m_scripting.tracksOfId(pid) : std::vector<std::string>();
 }
 
 Result<void> Program::foreseeWriting() {

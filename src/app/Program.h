@@ -90,6 +90,7 @@ class Program {
     EmbeddedScripting::Options scriptingOptions();
     std::string withLibraryPath(const std::string& reason) const;
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
+    std::vector<std::string> tracksOfId(std::string_view pid);
     Result<void> foreseeWriting();
     bool visitLocations(const LocationVisitor& visit);
 

@@ -58,7 +58,8 @@ ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& 
     const Result<void> writable = session.program().controllerServices().libraryForesight();
     const bool begins = writable || session.controller().getCheckedCount() == 0;
     const DeleteReport report =
-        begins ? predictedReport(session.controller().tableDataSource().rows, options.files, *plan)
+        begins ? predictedReport(session.controller().tableDataSource().rows, options.files, *plan,
+                                 session.program().controllerServices().tracksOfId)
                : nothingAttempted(session.controller());
     if (const auto problem = writeReportTo(output, options, report)) return *problem;
     if (!begins) return fail(writable.error().message);

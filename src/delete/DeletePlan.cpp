@@ -81,6 +81,7 @@ class Survey {
         for (const SurveyedRows::Song& song : m_rows.songs) {
             const bool losesFile = anyFileGoes(marked, song.markedEnd);
             const bool isLost = losesFile ? !anyCopyStays(other, song.othersEnd) : song.losesEveryCopy;
+            if (losesFile && !isLost) m_plan.keptSongs.insert(song.gid);
             facts.groupsLosingEveryFile += isLost ? 1 : 0;
             marked = song.markedEnd;
             other = song.othersEnd;
@@ -111,8 +112,7 @@ class Survey {
 
     bool anyCopyStays(std::size_t first, std::size_t end) const {
         const auto stays = [this](const SurveyedRows::Other& copy) {
-            return !m_isStopped() && !m_ids.contains(copy.pid) &&
-                   isWorkingCopy(m_sources.files, copy.location);
+            return !m_isStopped() && isWorkingCopy(m_sources.files, copy.location);
         };
         return std::any_of(at(m_rows.others, first), at(m_rows.others, end), stays);
     }
@@ -148,11 +148,10 @@ void DeletePlan::giveUpSharedFiles() {
 
 SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept)
     : storage(std::move(kept)) {
-    const MarkedIds ids = markedIdsOf(rows);
     for (const RowGroup group : groupsOf(rows)) {
         for (std::size_t row = group.first; row < group.end; ++row)
             add(*rows[row]);
-        songs.push_back({marked.size(), others.size(), losesEveryCopy(rows, group, ids)});
+        songs.push_back({marked.size(), others.size(), rows[group.first]->gid, losesEveryCopy(rows, group)});
     }
 }
 

@@ -5,6 +5,8 @@
 #include "library/TrackRecord.h"
 #include "platform/Result.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -50,6 +52,8 @@ struct DeletePlan {
     bool libraryUnknown = false;
     /// Of each marked track whose file exists.
     std::unordered_map<const TrackRecord*, PlannedFile> files;
+    /// Groups that lose a file, and of which a copy that works was seen that stays.
+    std::unordered_set<std::int32_t> keptSongs;
 
     /// Lets shared files go, too, as somebody asked who knows their number; not where that is unknown.
     void giveUpSharedFiles();
@@ -74,6 +78,7 @@ struct SurveyedRows {
     struct Song {
         std::size_t markedEnd = 0;
         std::size_t othersEnd = 0;
+        std::int32_t gid = 0;
         bool losesEveryCopy = false; ///< by what the search saw
     };
 

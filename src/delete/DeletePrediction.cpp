@@ -21,22 +21,35 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
     }
 }
 
-DeleteOutcome predictedOutcome(const TrackRecord& record, bool isDelFile, const DeletePlan& plan) {
-    DeleteOutcome outcome = outcomeOf(record);
+void predictTrack(const TrackRecord& record, const SharedIds& ids, DeleteOutcome& outcome) {
     const char* const obstacle = trackObstacle(record.pid);
-    outcome.track = obstacle ? DeleteOutcome::Track::failed : DeleteOutcome::Track::deleted;
-    outcome.dealtWith = !obstacle;
-    if (obstacle) outcome.addReason(obstacle);
-    if (isDelFile) predictFile(record, plan, outcome);
-    return outcome;
+    const std::string reason = obstacle ? obstacle : ids.reasonToKeep(record);
+    outcome.track = reason.empty() ? DeleteOutcome::Track::deleted : DeleteOutcome::Track::failed;
+    outcome.dealtWith = reason.empty();
+    if (!reason.empty()) outcome.addReason(reason);
+}
+
+/// The file of a track that stays stays with it.
+void predictKeptFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome) {
+    outcome.file = plan.files.contains(&record) ? DeleteOutcome::File::kept : DeleteOutcome::File::missing;
 }
 
 } // namespace
 
-DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFile, const DeletePlan& plan) {
+DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFile, const DeletePlan& plan,
+                             const TracksOfId& tracksOfId) {
     DeleteReport report;
+    const SharedIds ids(rows, tracksOfId);
     for (const TrackRecord* const record : rows) {
-        if (record->checkbox) report.outcomes.push_back(predictedOutcome(*record, isDelFile, plan));
+        if (!record->checkbox) continue;
+        DeleteOutcome& outcome = report.outcomes.emplace_back(outcomeOf(*record));
+        predictTrack(*record, ids, outcome);
+        if (!isDelFile) continue;
+        if (outcome.track == DeleteOutcome::Track::deleted) {
+            predictFile(*record, plan, outcome);
+        } else {
+            predictKeptFile(*record, plan, outcome);
+        }
     }
     return report;
 }

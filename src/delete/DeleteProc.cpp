@@ -14,6 +14,12 @@
 
 namespace songsweep {
 
+namespace {
+
+constexpr const char* lastCopyReason = "the copy that was to stay is no longer there, or does not work";
+
+} // namespace
+
 /// Compacts a list front to back: rows that stay move down over those that went, and the list is cut to its
 /// new length when the compaction ends, however the loop does.
 class DeleteProc::Compaction {
@@ -41,6 +47,7 @@ DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices servi
     : m_list(list)
     , m_isDelFile(isDelFile)
     , m_services(services)
+    , m_keptSongs(std::move(plan.keptSongs))
     , m_fileDeletion(services.scripts, services.files, std::move(plan)) {}
 
 void DeleteProc::main() {
@@ -98,6 +105,8 @@ void DeleteProc::unmute(std::exception_ptr& failure) {
 /// False when the operation was cancelled, or the library could not be written, before the last row.
 bool DeleteProc::deleteRows() {
     const std::size_t count = m_list.rows.size();
+    m_sharedIds.emplace(m_list.rows, m_services.tracksOfId);
+    m_stayingCopies.emplace(m_list.rows, m_keptSongs, m_services.files);
     Compaction compaction(m_list.rows);
     for (std::size_t pass = 0; pass < count; ++pass) {
         if (isCancelled()) return false;
@@ -124,8 +133,20 @@ void DeleteProc::deleteMarked(TrackRecord& record) {
     m_report->outcomes.push_back(std::move(outcome));
 }
 
+/// By what is known only now that its turn has come.
+std::string DeleteProc::reasonToKeep(const TrackRecord& record) {
+    std::string reason = m_sharedIds->reasonToKeep(record);
+    if (reason.empty() && !m_stayingCopies->isLeftOf(record)) reason = lastCopyReason;
+    return reason;
+}
+
 /// iTunes calls it no error when nothing has the ID, so that a track without one would count as deleted.
 void DeleteProc::deleteTrack(const TrackRecord& record, DeleteOutcome& outcome) {
+    if (const std::string reason = reasonToKeep(record); !reason.empty()) {
+        outcome.track = DeleteOutcome::Track::failed;
+        outcome.addReason(reason);
+        return;
+    }
     const Result<void> deleted =
         canStandInText(record.pid) ? run(deleteTexts::deleteTrack(record.pid)) : Result<void>();
     const char* const obstacle = trackObstacle(record.pid);

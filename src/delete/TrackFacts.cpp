@@ -7,19 +7,12 @@
 
 namespace songsweep {
 
-MarkedIds markedIdsOf(const std::vector<TrackRecord*>& rows) {
-    MarkedIds ids;
-    for (const TrackRecord* const record : rows)
-        if (record->checkbox) ids.add(record->pid);
-    return ids;
-}
-
-bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group, const MarkedIds& markedIds) {
+bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group) {
     const auto first = rows.begin() + static_cast<std::ptrdiff_t>(group.first);
     const auto end = rows.begin() + static_cast<std::ptrdiff_t>(group.end);
     const bool works = std::any_of(first, end, [](const TrackRecord* record) { return !record->isdead; });
-    return std::all_of(first, end, [works, &markedIds](const TrackRecord* record) {
-        return record->checkbox || (works && record->isdead) || markedIds.contains(record->pid);
+    return std::all_of(first, end, [works](const TrackRecord* record) {
+        return record->checkbox || (works && record->isdead);
     });
 }
 
@@ -31,10 +24,9 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
 }
 
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
-    const MarkedIds ids = markedIdsOf(rows);
     int count = 0;
     for (const RowGroup group : groupsOf(rows))
-        count += losesEveryCopy(rows, group, ids) ? 1 : 0;
+        count += losesEveryCopy(rows, group) ? 1 : 0;
     return count;
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "delete/DeleteConfirmationFacts.h"
-#include "delete/MarkedIds.h"
 #include "library/Groups.h"
 #include "library/TrackRecord.h"
 
@@ -18,13 +17,10 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows);
 /// An entry whose file is missing is no copy while the group has one that works: whoever deletes all that
 /// work, and leaves the empty entry, loses the song. Where none works, as on a drive that is not there, every
 /// entry counts, or nothing could be deleted then. So no group is lost to what the marking rules leave with
-/// except-one, which is a working copy if there is one. An entry with the persistent ID of a marked one is
-/// deleted with it, and so is none that is left.
-bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group, const MarkedIds& markedIds);
+/// except-one, which is a working copy if there is one.
+bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group);
 
 /// The number of groups of which no copy is left so.
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
-
-MarkedIds markedIdsOf(const std::vector<TrackRecord*>& rows);
 
 } // namespace songsweep

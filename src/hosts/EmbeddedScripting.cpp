@@ -3,6 +3,7 @@
 
 #include "hosts/FinderApplication.h"
 #include "hosts/ITunesApplication.h"
+#include "library/QuotedTrack.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
@@ -60,28 +61,32 @@ EmbeddedScripting::~EmbeddedScripting() {
 }
 
 Result<Descriptor> EmbeddedScripting::executeAndReturnError(std::string_view source) {
-    auto result = run(source);
+    auto result = run(source, Places::leftOut);
     if (!result) return result.error();
     return std::move(result).value().value_or(Descriptor());
 }
 
 Result<std::optional<Descriptor>> EmbeddedScripting::run(std::string_view source) {
+    return run(source, Places::told);
+}
+
+Result<std::optional<Descriptor>> EmbeddedScripting::run(std::string_view source, Places places) {
     const std::lock_guard lock(m_lock);
     if (m_ended) return Error{Error::Code::failed, "the program ends"};
-    return runLocked(source);
+    return runLocked(source, places);
 }
 
 Result<void> EmbeddedScripting::runLast(std::string_view source) {
     const std::lock_guard lock(m_lock);
     m_ended = true;
-    static_cast<void>(runLocked(source)); // What matters is written also where it fails.
+    static_cast<void>(runLocked(source, Places::leftOut)); // What matters is written also where it fails.
     return flushLocked();
 }
 
-Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view source) {
+Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view source, Places places) {
     m_library.beginScript();
     const std::size_t before = pendingOf(m_library.opened());
-    auto result = m_interpreter.run(source);
+    auto result = m_interpreter.run(source, places);
     noteChanges(before);
     if (auto deleted = deleteFilesOfScript(); !deleted) return deleted.error();
     return result;
@@ -164,6 +169,22 @@ Result<bool> EmbeddedScripting::hasTracks(const std::vector<TrackRecord*>& recor
     const auto document = currentDocument();
     if (!document) return document.error();
     return document.value()->hasTracks(records);
+}
+
+std::vector<std::string> EmbeddedScripting::tracksOfId(std::string_view persistentId) {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    if (!document) return {};
+    const auto tracks = document.value()->tracksWithPersistentId(persistentId);
+    std::vector<std::string> named;
+    if (tracks.size() < 2) return named; // the usual case, in which no name is read
+    for (const auto track : tracks) {
+        const auto values = document.value()->fields(track);
+        named.push_back(values ? quotedTrack(values.value()->text(LibraryKey::name),
+                                             values.value()->text(LibraryKey::artist))
+                               : "one that cannot be read");
+    }
+    return named;
 }
 
 Result<LocationPass> EmbeddedScripting::locationPass() {

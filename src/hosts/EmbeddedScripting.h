@@ -59,10 +59,10 @@ class EmbeddedScripting final : public AppleScript {
     EmbeddedScripting(std::string libraryPath, Desktop& desktop, Files& files, Options options);
     ~EmbeddedScripting() override;
 
-    /// Runs a text; an error says position and reason.
+    /// Runs a text of the program's own; an error says the reason, and no place in a text that nobody knows.
     Result<Descriptor> executeAndReturnError(std::string_view source) override;
 
-    /// The same, but nothing for a text without a result.
+    /// Runs a user's text; an error says place and reason. Nothing for a text without a result.
     Result<std::optional<Descriptor>> run(std::string_view source);
 
     /// Writes what is left of the present library and turns to another file, which is indexed when it is
@@ -80,6 +80,9 @@ class EmbeddedScripting final : public AppleScript {
     /// Whether records that a reader made of the library file are the tracks that scripts find, see
     /// SameTracks.h.
     Result<bool> hasTracks(const std::vector<TrackRecord*>& records);
+    /// The tracks that share a persistent ID, each as "“Song” by Artist"; none where one alone has it, or
+    /// where the library cannot be read.
+    std::vector<std::string> tracksOfId(std::string_view persistentId);
     /// Calls back for every track of the library with a location until the callback says false. Texts run
     /// meanwhile as ever. Where the library changes before the end, the pass begins again with the new
     /// version, so that its tracks come too; `busy` where it changes again and again.
@@ -105,9 +108,12 @@ class EmbeddedScripting final : public AppleScript {
     std::string backup() const;
 
   private:
+    using Places = InterpretedAppleScript::Places;
+
+    Result<std::optional<Descriptor>> run(std::string_view source, Places places);
     Result<LibraryDocument*> currentDocument();
     Result<LocationPass> locationPass();
-    Result<std::optional<Descriptor>> runLocked(std::string_view source);
+    Result<std::optional<Descriptor>> runLocked(std::string_view source, Places places);
     Result<void> flushLocked();
     Result<void> writePending(LibraryDocument& document);
     Result<void> deleteFile(const std::string& path);

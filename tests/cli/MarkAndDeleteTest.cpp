@@ -19,6 +19,7 @@ using test::RunResult;
 using test::SampleTrack;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 class MarkAndDelete : public test::TwoGroups {};
 
@@ -211,12 +212,32 @@ TEST_F(MarkAndDelete, LeavesFilesWhoseOtherCopiesAreBrokenWhereTracksGoAlone) {
     EXPECT_TRUE(hasFile(1));
 }
 
+TEST_F(MarkAndDelete, TakesAlongNoTrackThatSharesAPersistentId) {
+    std::string text = m_folder.read("Library.xml");
+    const std::string id = "0000000000000002";
+    text.replace(text.find(id), id.size(), "0000000000000001"); // track 2 stays, 1 is marked
+    m_folder.write("Library.xml", text);
+    for (const char* const end : {"--dry-run", "--yes"}) {
+        const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", end});
+        EXPECT_EQ(result.exitCode, 1) << result.errors;
+        EXPECT_THAT(result.output, HasSubstr("“A” by X, which is not marked, has its persistent ID, too"));
+        EXPECT_THAT(result.output, HasSubstr("elete"));
+        EXPECT_THAT(result.output, HasSubstr(" 1 of 2 tracks"));
+    }
+    EXPECT_TRUE(hasFile(1));
+    EXPECT_TRUE(hasFile(2));
+    EXPECT_FALSE(hasFile(3));
+    for (const char* const track : {"\t\t<key>1</key>\n", "\t\t<key>2</key>\n"})
+        EXPECT_THAT(m_folder.read("Library.xml"), HasSubstr(track));
+}
+
 TEST_F(MarkAndDelete, FailsWhereAFileWasKept) {
     fs::create_directories(path("home/data"));
     m_folder.write("home/data/Trash", "in the way of the Trash");
     const RunResult result = command("delete", {"--rule", "highest-bitrate", "--files", "--yes"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output, HasSubstr("file kept: "));
+    EXPECT_THAT(result.output, Not(HasSubstr("column"))) << "a place in a text that nobody knows";
     EXPECT_TRUE(hasFile(1));
     EXPECT_TRUE(hasFile(3));
 }

@@ -74,7 +74,7 @@ TrackRecord& DeleteFixture::addFile(const char* pid, bool marked, const std::str
 }
 
 void DeleteFixture::run(bool deleteFiles, DeletePlan plan) {
-    DeleteProc operation(m_list, deleteFiles, {m_center, m_scripts, m_files, m_log, m_cleanup},
+    DeleteProc operation(m_list, deleteFiles, {m_center, m_scripts, m_files, m_log, m_cleanup, m_tracksOfId},
                          std::move(plan));
     m_operation = &operation;
     operation.main();

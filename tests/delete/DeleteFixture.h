@@ -75,6 +75,7 @@ class DeleteFixture : public testing::Test {
     DisplayedList m_list;
     Files m_files;
     DeleteReport m_report;
+    TracksOfId m_tracksOfId; ///< not set: the library does not tell
 
   private:
     void note(const std::string& entry);

@@ -16,7 +16,7 @@ class DeletePredictionTest : public test::DeleteFixture {
   protected:
     /// Predicts a deletion with files, then runs it: both are to come to the same.
     void expectTheSameInEarnest(const DeletePlan& plan) {
-        const DeleteReport predicted = predictedReport(m_list.rows, true, plan);
+        const DeleteReport predicted = predictedReport(m_list.rows, true, plan, m_tracksOfId);
         EXPECT_THAT(wholeJournal(), IsEmpty());
         run(true, plan);
         ASSERT_EQ(predicted.outcomes.size(), m_report.outcomes.size());
@@ -61,6 +61,21 @@ TEST_F(DeletePredictionTest, TellsWhichTracksStayInEarnest) {
     addFile("0", true, "b.mp3");
     add(1, "", true, path("gone.mp3"));
     expectTheSameInEarnest(test::makeDeletePlan(m_list.rows, m_files, {}));
+}
+
+TEST_F(DeletePredictionTest, TellsWhichTracksShareTheirIdsInEarnest) {
+    addFile("A", true, "a.mp3");
+    addFile("A", false, "b.mp3");
+    addFile("C", true, "c.mp3");
+    addFile("D", true, "d.mp3");
+    add(1, "C", true, path("gone.mp3"));
+    m_tracksOfId = [](std::string_view pid) {
+        return pid == "D" ? std::vector<std::string>{"“One” by X", "“Two” by Y"} : std::vector<std::string>();
+    };
+    expectTheSameInEarnest(test::makeDeletePlan(m_list.rows, m_files, {}));
+    EXPECT_TRUE(exists("a.mp3"));
+    EXPECT_FALSE(exists("c.mp3"));
+    EXPECT_TRUE(exists("d.mp3"));
 }
 
 TEST_F(DeletePredictionTest, TellsThatFilesStayOfALibraryThatCannotBeLookedAt) {

@@ -164,7 +164,8 @@ class EmbeddedDeletionTest : public testing::Test {
                 report = **told;
         });
         EmbeddedCleanup cleanup(*m_scripts, [] { return true; }, {"a test"});
-        DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log, cleanup},
+        const TracksOfId tracksOfId = [this](std::string_view pid) { return m_scripts->tracksOfId(pid); };
+        DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log, cleanup, tracksOfId},
                    test::makeDeletePlan(list.rows, m_files, locations))
             .main();
         return report;
@@ -211,17 +212,34 @@ TEST_F(EmbeddedDeletionTest, TheLosingCopiesLeaveTheLibraryAndAllElseStays) {
     EXPECT_THAT(search(2).rows, IsEmpty());
 }
 
-TEST_F(EmbeddedDeletionTest, AnEntryOfTheSameIdThatIsNotMarkedKeepsItsFile) {
-    writeLibrary({"a.mp3", "a2.mp3"});
-    replaceAll("a2.mp3", "a.mp3");
+TEST_F(EmbeddedDeletionTest, AnEntryOfTheSameIdThatIsNotMarkedIsNotTakenAlong) {
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
     replaceAll(test::persistentIdOf(101), test::persistentIdOf(100));
-    DisplayedList list = search(2);
+    DisplayedList list = search(4);
     markItems(list.rows, MarkType::highestBitrate, true);
-    EXPECT_EQ(groupsLosingEveryCopy(list.rows), 1);
+    EXPECT_EQ(groupsLosingEveryCopy(list.rows), 0);
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(2));
+    EXPECT_EQ(outcomeText(report.outcomes[0]),
+              "failed, file kept: “Song 0”, which is not marked, has its persistent ID, too");
+    EXPECT_TRUE(report.outcomes[1].dealtWith);
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {102}));
+}
+
+TEST_F(EmbeddedDeletionTest, AnEntryOfTheSameIdThatWasNotFoundIsNotTakenAlong) {
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3"});
+    replaceAll(test::persistentIdOf(102), test::persistentIdOf(100));
+    DisplayedList list = search(3);
+    ASSERT_THAT(list.rows, SizeIs(2));
+    markItems(list.rows, MarkType::highestBitrate, true);
     const DeleteReport report = deleteMarked(list);
     ASSERT_THAT(report.outcomes, SizeIs(1));
-    EXPECT_EQ(outcomeText(report.outcomes[0]), "deleted, file kept: a track that is not marked uses it too");
+    EXPECT_EQ(outcomeText(report.outcomes[0]),
+              "failed, file kept: 2 tracks of the library have its persistent ID (“Song 0”, “Song 1”), of "
+              "which 1 is marked");
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_EQ(libraryText(), m_text);
 }
 
 TEST_F(EmbeddedDeletionTest, WhiteSpaceAroundALocationHidesNoSharedFile) {
