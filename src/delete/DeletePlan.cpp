@@ -64,7 +64,7 @@ class Survey {
                 if (m_isStopped()) return;
                 const auto file = m_plan.files.find(track.record);
                 if (m_plan.shared.contains(track.record) == isShared && goes(file, track))
-                    file->second.obstacle = refused.reasonFor(track.location);
+                    file->second.refusal = refused.reasonFor(track.location);
             }
     }
 
@@ -100,7 +100,7 @@ class Survey {
     using PlannedFiles = std::unordered_map<const TrackRecord*, PlannedFile>;
 
     bool goes(PlannedFiles::const_iterator file, const SurveyedRows::Track& track) const {
-        return file != m_plan.files.end() && file->second.obstacle.empty() && !trackObstacle(track.pid);
+        return file != m_plan.files.end() && !file->second.obstacle && !trackObstacle(track.pid);
     }
 
     bool anyFileGoes(std::size_t first, std::size_t end) const {

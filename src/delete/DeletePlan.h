@@ -39,8 +39,10 @@ struct SurveySources {
 
 /// The file of a marked track as it was when it was looked at.
 struct PlannedFile {
-    std::string path;     ///< canonical and local; the same for tracks that share it
-    std::string obstacle; ///< why it will stay whatever the user wants; "" where nothing is in the way
+    std::string path; ///< canonical and local; the same for tracks that share it
+    const char* obstacle =
+        nullptr;              ///< why it stays whatever the user wants; null where nothing is in the way
+    std::string refusal = {}; ///< why the Trash will refuse it, as far as that can be foreseen
 };
 
 /// What a deletion with files has to know before anything is deleted. A value; the records are those of the

@@ -14,8 +14,10 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
         outcome.file = File::missing;
     } else if (isKeptByPlan(record, plan, outcome)) {
         return;
-    } else if (!file->second.obstacle.empty()) {
+    } else if (file->second.obstacle) {
         outcome.keepFile(file->second.obstacle);
+    } else if (!file->second.refusal.empty()) {
+        outcome.keepFile(file->second.refusal);
     } else {
         outcome.file = File::trashed;
     }

@@ -10,12 +10,13 @@ namespace songsweep {
 
 namespace {
 
-/// Why the file goes under none of its tracks' names; null where it goes.
+/// Why the Trash takes the file under none of its tracks' names; null where it goes.
 const std::string* refusalOf(const MarkedFile& file, const DeletePlan& plan) {
     const std::string* refusal = nullptr;
     for (const TrackRecord* const track : file.tracks) {
-        refusal = &plan.files.at(track).obstacle;
-        if (refusal->empty()) return nullptr;
+        const PlannedFile& planned = plan.files.at(track);
+        if (!planned.obstacle && planned.refusal.empty()) return nullptr;
+        if (!planned.refusal.empty()) refusal = &planned.refusal;
     }
     return refusal;
 }
@@ -26,14 +27,13 @@ std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     const std::string path = track.location.string();
     const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
     if (!attributes) return std::nullopt;
-    const char* const obstacle = fileObstacle(path, attributes->kind);
-    PlannedFile planned = {canonicalPath(m_files.localPath(path)), obstacle ? obstacle : ""};
+    PlannedFile planned = {canonicalPath(m_files.localPath(path)), fileObstacle(path, attributes->kind)};
     const auto [name, isNew] = m_byKey[keyOf(*attributes)].try_emplace(planned.path);
     MarkedFile& file = name->second;
     if (isNew) m_bySight.emplace(sightOf(*attributes), &file);
     file.tracks.push_back(track.record);
     file.attributes = *attributes;
-    file.canGo = file.canGo || (!obstacle && !trackObstacle(track.pid));
+    file.canGo = file.canGo || (!planned.obstacle && !trackObstacle(track.pid));
     return planned;
 }
 

@@ -315,8 +315,8 @@ TEST_F(FilesThatTheTrashRefuses, AreCountedApartAndSayWhy) {
     const TrackRecord& b = addFile("B", true, "b.mp3");
     FullTrash trash(1);
     const DeletePlan plan = planWith(trash);
-    EXPECT_EQ(plan.files.at(&a).obstacle, "");
-    EXPECT_EQ(plan.files.at(&b).obstacle, "there is no room");
+    EXPECT_EQ(plan.files.at(&a).refusal, "");
+    EXPECT_EQ(plan.files.at(&b).refusal, "there is no room");
     EXPECT_EQ(m_facts.filesToTrash, 1);
     EXPECT_EQ(m_facts.bytesToTrash, 5);
     EXPECT_EQ(m_facts.refusedFiles, 1);
@@ -340,8 +340,8 @@ TEST_F(FilesThatTheTrashRefuses, LeaveTheRoomToThoseThatNobodyElseUses) {
     const TrackRecord& b = addFile("B", true, "b.mp3");
     FullTrash trash(1);
     const DeletePlan plan = planWith(trash, {{"X", path("a.mp3")}});
-    EXPECT_EQ(plan.files.at(&b).obstacle, "");
-    EXPECT_EQ(plan.files.at(&shared).obstacle, "there is no room");
+    EXPECT_EQ(plan.files.at(&b).refusal, "");
+    EXPECT_EQ(plan.files.at(&shared).refusal, "there is no room");
 }
 
 TEST_F(FilesThatTheTrashRefuses, AreLookedForUntilTheSurveyIsStopped) {
