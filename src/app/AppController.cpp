@@ -48,6 +48,8 @@ AppController::AppController(ControllerServices services, ControllerViews views)
     , m_deletion(m_services, views, {m_center, m_queue}, m_results, m_search.readers(), m_progress,
                  [this] { reportIdle(); })
     , m_restoring(m_services, views.restore, {m_center, m_queue})
+    , m_notices({m_services.desktop, m_services.log, [this](const auto& record) { beginRestore(record); }},
+                views.notice)
     , m_queue(m_center, m_services.log) {
     m_queue.setIdleHandler([this] { reportIdle(); });
 }
@@ -102,7 +104,9 @@ void AppController::startButtonClick() {
 }
 
 void AppController::paramOkButtonClick(SearchParameters choices) {
-    if (!isDeleting()) m_search.paramOkButtonClick(std::move(choices));
+    if (isDeleting()) return;
+    m_notices.close();
+    m_search.paramOkButtonClick(std::move(choices));
 }
 
 void AppController::cancelformButtonClick() {
@@ -114,6 +118,7 @@ bool AppController::resetForLibrary() {
     if (!isIdle()) return false;
     m_search.forgetLibrary();
     m_results.forget();
+    m_notices.close();
     return true;
 }
 
@@ -187,9 +192,11 @@ void AppController::cancelButtonClick() {
 
 // Restoring.
 
-void AppController::restoreMenuClick() {
+void AppController::restoreMenuClick() { beginRestore({}); }
+
+void AppController::beginRestore(const std::string& record) {
     if (isIdle() && !m_services.libraryFile().empty()) {
-        m_restoring.begin();
+        m_restoring.begin(record);
     } else {
         m_view.beep();
     }
@@ -197,6 +204,10 @@ void AppController::restoreMenuClick() {
 
 void AppController::restoreOkButtonClick() {
     if (isIdle()) m_restoring.restoreOkButtonClick();
+}
+
+void AppController::tellDeletion() {
+    if (const DeleteReport* const report = m_deletion.lastReport()) m_notices.tellDeletion(*report);
 }
 
 // The worker events: the program's main loop is the chain of these reactions.
@@ -233,8 +244,16 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
         {N::progress, silent, [](A& a, const E&) { a.m_progress.count(1); }},
         {N::deleteAddCount, silent, [](A& a, const E&) { a.m_progress.count(1); }},
         {N::deleteValidity, silent, [](A& a, const E&) { a.m_results.validity(); }},
-        {N::deleteFinish, silent, [](A& a, const E& e) { a.m_deletion.onDeleteFinish(e); }},
-        {N::deleteCancel, silent, [](A& a, const E& e) { a.m_deletion.onDeleteCancel(e); }},
+        {N::deleteFinish, silent,
+         [](A& a, const E& e) {
+             a.m_deletion.onDeleteFinish(e);
+             a.tellDeletion();
+         }},
+        {N::deleteCancel, silent,
+         [](A& a, const E& e) {
+             a.m_deletion.onDeleteCancel(e);
+             a.tellDeletion();
+         }},
         {N::tableviewSpacebar, silent,
          [](A& a, const E&) {
              if (a.isIdle()) a.m_marks.toggleSelectedRows();
@@ -246,7 +265,11 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
         {N::restoreProgress, silent,
          [](A& a, const E& e) { take(e, a.m_restoring, &Restoring::onRestoreProgress); }},
         {N::restoreFinish, silent,
-         [](A& a, const E& e) { take(e, a.m_restoring, &Restoring::onRestoreFinish); }},
+         [](A& a, const E& e) {
+             take(e, a.m_restoring, &Restoring::onRestoreFinish);
+             if (const RestoreAnswer* const answer = a.m_restoring.lastAnswer())
+                 a.m_notices.tellRestore(*answer);
+         }},
     });
     static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
     if (m_search.isStale(event)) return;

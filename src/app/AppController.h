@@ -5,6 +5,7 @@
 #include "app/Deletion.h"
 #include "app/Links.h"
 #include "app/Marks.h"
+#include "app/Notices.h"
 #include "app/ProgressDisplay.h"
 #include "app/Restoring.h"
 #include "app/Results.h"
@@ -88,6 +89,8 @@ class AppController {
     void restoreCleanupChosen(int index, LostFiles lostFiles) { m_restoring.chooseCleanup(index, lostFiles); }
     void restoreOkButtonClick();
     void restoreCancelButtonClick() { m_restoring.restoreCancelButtonClick(); }
+    void noticeActionClick(NoticeAction action) { m_notices.noticeActionClick(action); }
+    void noticeCloseButtonClick() { m_notices.close(); }
 
     // What views and commands look at.
     const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
@@ -116,6 +119,8 @@ class AppController {
   private:
     struct Reaction;
 
+    void beginRestore(const std::string& record);
+    void tellDeletion();
     void threadHandlerSingleFinished2(const WorkerEvent& event);
     /// Null for none, and while the rows are a worker's.
     const TrackRecord* selectedRecord() const;
@@ -131,6 +136,7 @@ class AppController {
     Search m_search;
     Deletion m_deletion;
     Restoring m_restoring;
+    Notices m_notices;
     std::function<void()> m_idleHandler;
     bool m_userCancelled = false;
     OperationQueue m_queue; ///< last, so that its workers end before what they use

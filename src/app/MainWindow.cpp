@@ -4,12 +4,15 @@
 #include "app/BringToFront.h"
 #include "app/Progress.h"
 #include "theme/Announcement.h"
+#include "ui/NoticeBarView.h"
+#include "ui/NoticePageView.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
 #include "ui_MainWindow.h"
 
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QScreen>
 
 namespace songsweep {
@@ -26,6 +29,7 @@ MainWindow::MainWindow(Log& log, QWidget* parent)
     setUpPageKeys();
     setUpTable(log);
     setUpContextMenu();
+    setUpNotice();
     connectFileMenu();
     connectMarkAndTrackMenu();
     connectWindowAndHelpMenu();
@@ -64,7 +68,10 @@ void MainWindow::setPerformLabelVisible(bool visible) {
 void MainWindow::showPage() {
     QWidget* page = m_ui->blankPage;
     QWidget* focus = nullptr;
-    if (m_tableVisible) {
+    if (isNoticePage()) {
+        page = m_ui->noticePage;
+        focus = &m_ui->noticePage->searchButton();
+    } else if (m_tableVisible) {
         page = m_ui->tableviewContainer;
         focus = m_ui->tableview;
     } else if (m_progressVisible) {
@@ -74,6 +81,7 @@ void MainWindow::showPage() {
         page = m_ui->emptyPage;
         focus = m_ui->emptyPage;
     }
+    m_ui->noticeBar->setVisible(m_notice && page != m_ui->noticePage);
     updateSearchedLabel();
     const bool changes = page != m_ui->contentStack->currentWidget();
     m_ui->contentStack->setCurrentWidget(page);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/LayoutLengths.h"
+#include "app/views/NoticeView.h"
 #include "app/views/ProgressView.h"
 #include "app/views/ResultsView.h"
 #include "library/DisplayedList.h"
@@ -32,7 +33,7 @@ class TrackTableModel;
 /// Knows no controller. It is the view of the results and of a search's progress, and says by signals what
 /// the user asks for, each signal named after the action it asks for; who makes the window connects them.
 /// Toolbar and strip never change their size, so that the states differ in their content alone. Main thread.
-class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
+class MainWindow : public QMainWindow, public ResultsView, public ProgressView, public NoticeView {
     Q_OBJECT
   public:
     explicit MainWindow(Log& log, QWidget* parent = nullptr);
@@ -70,6 +71,11 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     void setProgressValue(double percent) override;
     void setProgressText(const std::string& phase) override;
 
+    // NoticeView: a line over the content, or the page where there is no row left
+    void showNotice(const Notice& notice) override;
+    void hideNotice() override;
+    void showNoticeDetails(const std::vector<std::string>& lines) override;
+
     /// Opens at 1280 by 760, or at the screen's free size where that is less.
     void openAtFirstSize();
     /// Brings the window to the front.
@@ -97,6 +103,9 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     void setObjectValue(bool value, songsweep::Column column, int row);
     /// Marks or rows may be others now.
     void tableReloaded();
+    void noticeActionClick(songsweep::NoticeAction action);
+    void noticeClosed();
+    void noticeDetails(const std::vector<std::string>& lines);
     void closed();
     void quit();
 
@@ -112,6 +121,8 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     void setUpPageKeys();
     void setUpTable(Log& log);
     void setUpContextMenu();
+    void setUpNotice();
+    bool isNoticePage() const;
     void connectFileMenu();
     void connectMarkAndTrackMenu();
     void connectWindowAndHelpMenu();
@@ -127,6 +138,7 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView {
     TrackTableModel* m_model;
     std::function<bool()> m_mayOpenLibrary = [] { return true; };
     QString m_searchedText;
+    std::optional<Notice> m_notice;
     bool m_tableVisible = false;
     bool m_performLabelVisible = true;
     bool m_progressVisible = false;

@@ -25,6 +25,7 @@ WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLi
     connectMarkDialog();
     connectDeletion();
     connectRestoring();
+    connectNotices();
     connectApplication();
 }
 
@@ -140,6 +141,16 @@ void WindowActions::connectRestoring() {
             [this] { m_controller.restoreCancelButtonClick(); });
     connect(sheet, &RestoreDialog::detailsRequested, this, [this](const std::vector<std::string>& lines) {
         m_windows.showDetails(QStringLiteral("Restored tracks"), lines);
+    });
+}
+
+void WindowActions::connectNotices() {
+    MainWindow* window = &m_windows.mainWindow();
+    connect(window, &MainWindow::noticeActionClick, this,
+            [this](NoticeAction action) { m_controller.noticeActionClick(action); });
+    connect(window, &MainWindow::noticeClosed, this, [this] { m_controller.noticeCloseButtonClick(); });
+    connect(window, &MainWindow::noticeDetails, this, [this](const std::vector<std::string>& lines) {
+        m_windows.showDetails(QStringLiteral("Details"), lines);
     });
 }
 

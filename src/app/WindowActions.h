@@ -33,6 +33,7 @@ class WindowActions : public QObject {
     void connectMarkDialog();
     void connectDeletion();
     void connectRestoring();
+    void connectNotices();
     void connectApplication();
     void chooseLibrary(const std::string& path);
     void updateMarkPreview();

@@ -34,6 +34,7 @@ ControllerViews Windows::views() {
             .mark = m_markWindow,
             .deletion = m_deleteConfirmation,
             .restore = m_restoreSheet,
+            .notice = m_mainWindow,
             .progress = m_progressWindow,
             .formprogress = m_mainWindow};
 }

@@ -12,6 +12,7 @@ ControllerViews ConsoleView::views() {
             .mark = m_noMarkDialog,
             .deletion = *this,
             .restore = m_noRestoreSheet,
+            .notice = m_noNotice,
             .progress = m_deleting,
             .formprogress = m_searching};
 }

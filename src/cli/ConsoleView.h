@@ -5,6 +5,7 @@
 #include "app/views/ControllerViews.h"
 #include "app/views/DeleteView.h"
 #include "app/views/MarkView.h"
+#include "app/views/NoticeView.h"
 #include "app/views/RestoreView.h"
 #include "app/views/ResultsView.h"
 #include "app/views/SearchView.h"
@@ -52,6 +53,7 @@ class ConsoleView final : public ApplicationView, public SearchView, public Resu
     Handlers m_handlers;
     MarkView m_noMarkDialog;
     RestoreView m_noRestoreSheet;
+    NoticeView m_noNotice;
     ConsoleProgress m_deleting;
     ConsoleProgress m_searching;
     bool m_hasResults = false;

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "library/TrackRecord.h"
+#include "platform/Trash.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,7 @@ struct DeleteOutcome {
     std::string name;
     std::string artist;
     std::string location;
+    std::optional<TrashedFile> trash; ///< where the file lies now, if it is in the Trash and that is known
 
     /// Whether what was asked for was done. A file that was left because a track that is not marked uses it
     /// counts as dealt with: that is what was asked for.
@@ -32,6 +35,8 @@ struct DeleteOutcome {
 
 /// One outcome for each track that was marked when a deletion began, in the order of the rows. A value.
 struct DeleteReport {
+    std::string backup; ///< path of the library as it was; "" where there is none
+    std::string record; ///< path of the record of this deletion; "" where there is none
     std::vector<DeleteOutcome> outcomes;
     std::string notBegun;   ///< why no track was touched; "" where the deletion began
     std::string notWritten; ///< why the deletion ended early, its last part undone; "" where it did not

@@ -17,7 +17,18 @@ namespace {
 
 constexpr std::streamoff longestLine = 64 << 10; // of those at the ends: without the names of tracks
 
-std::optional<CleanupSummary> summaryOf(const std::string& path) {
+void markRestored(std::vector<CleanupSummary>& cleanups) {
+    std::set<std::string> restored;
+    for (const CleanupSummary& cleanup : cleanups)
+        if (cleanup.end && cleanup.end->how == RecordEnd::How::complete)
+            restored.insert(cleanup.heading.restores);
+    for (CleanupSummary& cleanup : cleanups)
+        cleanup.isRestored = restored.contains(cleanup.name());
+}
+
+} // namespace
+
+std::optional<CleanupSummary> cleanupOfRecord(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     std::string text;
     if (!std::getline(file, text)) return {};
@@ -39,17 +50,6 @@ std::optional<CleanupSummary> summaryOf(const std::string& path) {
     return summary;
 }
 
-void markRestored(std::vector<CleanupSummary>& cleanups) {
-    std::set<std::string> restored;
-    for (const CleanupSummary& cleanup : cleanups)
-        if (cleanup.end && cleanup.end->how == RecordEnd::How::complete)
-            restored.insert(cleanup.heading.restores);
-    for (CleanupSummary& cleanup : cleanups)
-        cleanup.isRestored = restored.contains(cleanup.name());
-}
-
-} // namespace
-
 std::string cleanupName(const std::string& recordPath) { return withoutExtension(nameOf(recordPath)); }
 
 Result<std::vector<CleanupSummary>> cleanupsOf(const std::string& library) {
@@ -61,7 +61,7 @@ Result<std::vector<CleanupSummary>> cleanupsOf(const std::string& library) {
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         const std::string path = entry->path().string();
         if (!path.ends_with(".jsonl")) continue;
-        auto summary = summaryOf(path);
+        auto summary = cleanupOfRecord(path);
         // The folder may have been moved since, so the name alone counts.
         if (summary && nameOf(summary->heading.library) == real.filename().string())
             cleanups.push_back(std::move(*summary));

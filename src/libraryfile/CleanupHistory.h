@@ -27,6 +27,10 @@ struct CleanupSummary {
     bool isOpen() const { return isCleanup() && !isRestored && !(end && end->tracks == 0); }
 };
 
+/// What a record says at its beginning and its end; nothing where it is none. Whether it is restored is not
+/// known from it alone.
+std::optional<CleanupSummary> cleanupOfRecord(const std::string& record);
+
 /// The clean-ups and restores of a library, by the records beside it, the newest first. Reads the beginning
 /// and the end of each record, and no more. Files that are no records are left out; an error where the folder
 /// cannot be read.

@@ -78,6 +78,13 @@ void toolButtonLabel(const Canvas& canvas, const QStyleOptionToolButton& button,
         button.icon.paint(&canvas.painter, icon, Qt::AlignCenter, mode);
         return;
     }
+    const bool underlined = style.styleHint(QStyle::SH_UnderlineShortcut, &button, widget) != 0;
+    const int mnemonic = underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    if (button.toolButtonStyle == Qt::ToolButtonTextOnly) {
+        style.drawItemText(&canvas.painter, button.rect, Qt::AlignCenter | mnemonic, button.palette, enabled,
+                           button.text, QPalette::WindowText);
+        return;
+    }
     QRect icon(QPoint(), button.iconSize);
     icon.moveTopLeft(QPoint(button.rect.left() + qRound(leftPadding * canvas.scale),
                             button.rect.top() + (button.rect.height() - icon.height()) / 2));
@@ -87,10 +94,9 @@ void toolButtonLabel(const Canvas& canvas, const QStyleOptionToolButton& button,
         return QStyle::visualRect(button.direction, button.rect, rect);
     };
     button.icon.paint(&canvas.painter, visual(icon), Qt::AlignCenter, mode);
-    const bool underlined = style.styleHint(QStyle::SH_UnderlineShortcut, &button, widget) != 0;
     const int flags =
         static_cast<int>(Qt::AlignVCenter | QStyle::visualAlignment(button.direction, Qt::AlignLeft)) |
-        (underlined ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+        mnemonic;
     style.drawItemText(&canvas.painter, visual(text), flags, button.palette, enabled, button.text,
                        QPalette::WindowText);
 }

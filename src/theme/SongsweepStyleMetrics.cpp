@@ -91,6 +91,8 @@ QSize toolButtonSize(const QStyleOptionToolButton& button, const QSize& text, co
     if (button.toolButtonStyle == Qt::ToolButtonIconOnly || button.text.isEmpty())
         return QSize(grown(28), grown(28)).expandedTo(button.iconSize + QSize(grown(8), grown(8)));
     const int textWidth = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width();
+    if (button.toolButtonStyle == Qt::ToolButtonTextOnly)
+        return {textWidth + 2 * grown(10), std::max(grown(24), text.height())};
     const int width = grown(10) + button.iconSize.width() + grown(8) + textWidth + grown(12);
     return {width, std::max(grown(32), text.height())};
 }

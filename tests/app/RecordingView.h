@@ -5,6 +5,7 @@
 #include "app/views/ControllerViews.h"
 #include "app/views/DeleteView.h"
 #include "app/views/MarkView.h"
+#include "app/views/NoticeView.h"
 #include "app/views/ProgressView.h"
 #include "app/views/RestoreView.h"
 #include "app/views/ResultsView.h"
@@ -24,13 +25,16 @@ class RecordingView final : public ApplicationView,
                             public ResultsView,
                             public MarkView,
                             public DeleteView,
-                            public RestoreView {
+                            public RestoreView,
+                            public NoticeView {
   public:
     std::vector<std::string> calls;
     std::vector<int> selection;
     std::function<void(const std::string&)> onCall; ///< told of each call
 
-    ControllerViews views() { return {*this, *this, *this, *this, *this, *this, m_progress, m_formprogress}; }
+    ControllerViews views() {
+        return {*this, *this, *this, *this, *this, *this, *this, m_progress, m_formprogress};
+    }
 
     bool has(const std::string& call) const {
         return std::find(calls.begin(), calls.end(), call) != calls.end();
@@ -90,7 +94,13 @@ class RecordingView final : public ApplicationView,
     }
     void endDeleteConfirmation() override { note("endDeleteConfirmation"); }
 
+    void showNotice(const Notice& notice) override { notices.push_back(notice); }
+    void hideNotice() override { notices.clear(); }
+    void showNoticeDetails(const std::vector<std::string>& lines) override { noticeDetails = lines; }
+
     std::vector<std::string> explanations;  ///< of the last search that found nothing
+    std::vector<Notice> notices;            ///< shown since the last was hidden
+    std::vector<std::string> noticeDetails; ///< the last ones
     DeleteConfirmationFacts deleteFacts;    ///< the last ones
     std::vector<double> progressValues;     ///< of the bar in the sheet
     std::vector<double> formprogressValues; ///< of the bar in the main window

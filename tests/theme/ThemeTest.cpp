@@ -14,6 +14,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -256,6 +257,15 @@ TEST(Metrics, GrowWithTheFontAndNeverShrink) {
     EXPECT_EQ(scaledLength(20, font), 40);
     font.setPixelSize(9);
     EXPECT_EQ(scaledLength(20, font), 20);
+}
+
+TEST(TextToolButton, KeepsNoRoomForAnIcon) {
+    applyTheme(*qApp);
+    QToolButton button;
+    button.setText(QStringLiteral("Details"));
+    const int text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width();
+    EXPECT_EQ(button.sizeHint().width(), text + 2 * scaledLength(10, &button));
+    EXPECT_LT(button.sizeHint().height(), scaledLength(28, &button)) << "it fits into a line";
 }
 
 } // namespace

@@ -6,6 +6,7 @@ namespace songsweep {
 class ApplicationView;
 class DeleteView;
 class MarkView;
+class NoticeView;
 class ProgressView;
 class RestoreView;
 class ResultsView;
@@ -19,6 +20,7 @@ struct ControllerViews {
     MarkView& mark;
     DeleteView& deletion;
     RestoreView& restore;
+    NoticeView& notice;
     ProgressView& progress;     ///< the bar of the sheet, while deleting
     ProgressView& formprogress; ///< the bar of the main window, while searching
 };

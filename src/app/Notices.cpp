@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "app/Notices.h"
+
+#include "delete/DeletionSummary.h"
+#include "delete/RestoreProc.h"
+#include "delete/RestoreTexts.h"
+#include "libraryfile/CleanupHistory.h"
+#include "platform/Desktop.h"
+#include "platform/Log.h"
+
+namespace songsweep {
+
+namespace {
+
+std::string aTrashedFile(const DeleteReport& report) {
+    for (const DeleteOutcome& outcome : report.outcomes)
+        if (outcome.trash) return outcome.trash->path();
+    return {};
+}
+
+std::optional<std::uint64_t> trashedBytes(const std::string& record) {
+    const auto cleanup = cleanupOfRecord(record);
+    if (!cleanup || !cleanup->end) return std::nullopt;
+    return cleanup->end->bytes;
+}
+
+} // namespace
+
+void Notices::tellDeletion(const DeleteReport& report) {
+    if (report.outcomes.empty() || !report.notBegun.empty()) return; // nothing was done
+    m_details = detailsOf(report);
+    m_trashedFile = aTrashedFile(report);
+    m_backup = report.backup;
+    m_record = report.record;
+    const DeletionSummary summary = summaryOf(report, trashedBytes(report.record));
+    show({summary.title, summary.rest, summary.line(), !report.allDealtWith(), {}});
+}
+
+void Notices::tellRestore(const RestoreAnswer& answer) {
+    if (!answer.problem.empty()) return; // nothing was done, as the sheet says
+    m_details = restoreTexts::details(answer.report);
+    m_trashedFile.clear();
+    m_backup = answer.report.backup;
+    m_record.clear();
+    const std::string title = restoreTexts::title(answer.report);
+    const std::string rest = restoreTexts::rest(answer.report);
+    show({title, rest, rest.empty() ? title : title + ", " + rest, !answer.report.allDealtWith(), {}});
+}
+
+void Notices::show(Notice notice) {
+    if (!m_details.empty()) notice.actions.push_back(NoticeAction::details);
+    if (!m_trashedFile.empty()) notice.actions.push_back(NoticeAction::showTrash);
+    if (!m_backup.empty()) notice.actions.push_back(NoticeAction::showBackup);
+    if (!m_record.empty()) notice.actions.push_back(NoticeAction::restore);
+    m_view.showNotice(notice);
+}
+
+void Notices::close() { m_view.hideNotice(); }
+
+void Notices::noticeActionClick(NoticeAction action) {
+    switch (action) {
+    case NoticeAction::details:
+        return m_view.showNoticeDetails(m_details);
+    case NoticeAction::showTrash:
+        return showInFileManager(m_trashedFile);
+    case NoticeAction::showBackup:
+        return showInFileManager(m_backup);
+    case NoticeAction::restore:
+        return m_services.restore(m_record);
+    }
+}
+
+void Notices::showInFileManager(const std::string& path) {
+    const Result<void> shown = m_services.desktop.showInFileManager(path);
+    if (!shown) m_services.log.line("Cannot show " + path + ": " + shown.error().message);
+}
+
+} // namespace songsweep

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/views/NoticeView.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace songsweep {
+
+class Desktop;
+class Log;
+struct DeleteReport;
+struct RestoreAnswer;
+
+/// Tells what a deletion or a restore came to, over the table, and does what the message's buttons offer.
+///
+/// There is one message at a time; what its buttons need is taken from the report when it is told, so that
+/// later deletions and searches do not change what they mean. Main thread.
+class Notices {
+  public:
+    struct Services {
+        Desktop& desktop;
+        Log& log;
+        /// Opens the restore sheet on the clean-up of that record.
+        std::function<void(const std::string& record)> restore;
+    };
+
+    Notices(Services services, NoticeView& view)
+        : m_services(std::move(services))
+        , m_view(view) {}
+
+    void tellDeletion(const DeleteReport& report);
+    void tellRestore(const RestoreAnswer& answer);
+    void close();
+
+    void noticeActionClick(NoticeAction action);
+
+  private:
+    void show(Notice notice);
+    void showInFileManager(const std::string& path);
+
+    Services m_services;
+    NoticeView& m_view;
+    std::vector<std::string> m_details;
+    std::string m_trashedFile; ///< one of those that went to the Trash, "" for none
+    std::string m_backup;
+    std::string m_record; ///< of what can be restored
+};
+
+} // namespace songsweep

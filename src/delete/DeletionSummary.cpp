@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "delete/DeletionSummary.h"
+
+#include "library/ValueFormats.h"
+
+#include <algorithm>
+
+namespace songsweep {
+
+namespace {
+
+std::size_t count(const DeleteReport& report, DeleteOutcome::Track track) {
+    return static_cast<std::size_t>(
+        std::count_if(report.outcomes.begin(), report.outcomes.end(),
+                      [=](const DeleteOutcome& outcome) { return outcome.track == track; }));
+}
+
+std::size_t count(const DeleteReport& report, DeleteOutcome::File file) {
+    return static_cast<std::size_t>(
+        std::count_if(report.outcomes.begin(), report.outcomes.end(),
+                      [=](const DeleteOutcome& outcome) { return outcome.file == file; }));
+}
+
+void addSentence(std::string& text, std::size_t number, const std::string& noun, const std::string& words) {
+    if (number == 0) return;
+    text += (text.empty() ? "" : " ") + counted(number, noun) + " " + words + ".";
+}
+
+std::string lineOf(const DeleteOutcome& outcome) {
+    std::string line = outcome.name + " – " + outcome.artist + ": " + outcomeText(outcome);
+    if (!outcome.location.empty()) line += ", " + outcome.location;
+    return line;
+}
+
+} // namespace
+
+std::string DeletionSummary::line() const {
+    if (rest.empty()) return title;
+    return title + ", " + rest;
+}
+
+DeletionSummary summaryOf(const DeleteReport& report, std::optional<std::uint64_t> trashedBytes) {
+    using Track = DeleteOutcome::Track;
+    using File = DeleteOutcome::File;
+    const std::size_t all = report.outcomes.size();
+    const std::size_t deleted = count(report, Track::deleted);
+    const std::size_t trashed = count(report, File::trashed);
+    DeletionSummary summary;
+    summary.title =
+        (deleted == all ? "" : std::to_string(deleted) + " of ") + counted(all, "track") + " deleted";
+    const std::string size = trashedBytes ? " (" + megabytes(*trashedBytes) + ")" : std::string();
+    addSentence(summary.rest, trashed, "file", "in the Trash" + size);
+    addSentence(summary.rest, count(report, File::kept), "file", "kept");
+    addSentence(summary.rest, count(report, File::missing), "file", "missing already");
+    addSentence(summary.rest, count(report, Track::failed), "track", "could not be deleted");
+    addSentence(summary.rest, count(report, Track::notAttempted), "track", "not attempted");
+    return summary;
+}
+
+std::vector<std::string> detailsOf(const DeleteReport& report) {
+    std::vector<const DeleteOutcome*> outcomes;
+    for (const DeleteOutcome& outcome : report.outcomes)
+        outcomes.push_back(&outcome);
+    std::stable_partition(outcomes.begin(), outcomes.end(),
+                          [](const DeleteOutcome* outcome) { return !outcome->dealtWith; });
+    std::vector<std::string> lines;
+    for (const DeleteOutcome* outcome : outcomes)
+        lines.push_back(lineOf(*outcome));
+    return lines;
+}
+
+} // namespace songsweep
