@@ -2,6 +2,7 @@
 #include "app/AppController.h"
 
 #include "dupes/LibraryFolder.h"
+#include "hosts/InterruptedCleanup.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
@@ -210,6 +211,10 @@ void AppController::tellDeletion() {
     if (const DeleteReport* const report = m_deletion.lastReport()) m_notices.tellDeletion(*report);
 }
 
+void AppController::tellInterruption(const std::shared_ptr<InterruptedCleanup>& found) {
+    if (isIdle() && found->library == m_services.libraryFile()) m_notices.tellInterruption(*found);
+}
+
 // The worker events: the program's main loop is the chain of these reactions.
 
 /// One row of the dispatch; an event's place in the table is its number, so that a million of them find their
@@ -270,6 +275,8 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
              if (const RestoreAnswer* const answer = a.m_restoring.lastAnswer())
                  a.m_notices.tellRestore(*answer);
          }},
+        {N::interruptionFound, silent,
+         [](A& a, const E& e) { take(e, a, &AppController::tellInterruption); }},
     });
     static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
     if (m_search.isStale(event)) return;

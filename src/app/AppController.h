@@ -86,6 +86,8 @@ class AppController {
     // Restoring.
     /// Opens the restore sheet, or beeps where the library is the system's or a worker runs.
     void restoreMenuClick();
+    /// Once the library is a new one: tells where its newest deletion was killed.
+    void lookForInterruption() { m_restoring.lookForInterruption(); }
     void restoreCleanupChosen(int index, LostFiles lostFiles) { m_restoring.chooseCleanup(index, lostFiles); }
     void restoreOkButtonClick();
     void restoreCancelButtonClick() { m_restoring.restoreCancelButtonClick(); }
@@ -121,6 +123,7 @@ class AppController {
 
     void beginRestore(const std::string& record);
     void tellDeletion();
+    void tellInterruption(const std::shared_ptr<InterruptedCleanup>& found);
     void threadHandlerSingleFinished2(const WorkerEvent& event);
     /// Null for none, and while the rows are a worker's.
     const TrackRecord* selectedRecord() const;

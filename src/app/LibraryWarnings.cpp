@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/LibraryWarnings.h"
 
+#include "hosts/InterruptedCleanup.h"
+#include "libraryfile/CleanupHistory.h"
 #include "platform/Files.h"
 
 #include <algorithm>
@@ -48,6 +50,13 @@ std::optional<std::string> allFilesMissing(const Files& files, const LibraryLoca
     return "none of the library's files is here; if they came from another machine, --map FROM=TO tells "
            "where they are now (the first is " +
            first + ")";
+}
+
+std::string interruption(const InterruptedCleanup& found) {
+    const std::string what = found.kind == RecordHeading::Kind::restore ? "restore" : "deletion";
+    return "warning: the " + what + " of " + found.date + " was interrupted, and " +
+           found.whatCanBePutBack() + " can be put back: songsweep restore --library \"" + found.library +
+           "\" --cleanup \"" + cleanupName(found.record) + "\" --dry-run";
 }
 
 } // namespace songsweep

@@ -4,6 +4,8 @@
 #include "delete/DeletionSummary.h"
 #include "delete/RestoreProc.h"
 #include "delete/RestoreTexts.h"
+#include "hosts/InterruptedCleanup.h"
+#include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
@@ -45,6 +47,20 @@ void Notices::tellRestore(const RestoreAnswer& answer) {
     const std::string title = restoreTexts::title(answer.report);
     const std::string rest = restoreTexts::rest(answer.report);
     show({title, rest, rest.empty() ? title : title + ", " + rest, !answer.report.allDealtWith(), {}});
+}
+
+void Notices::tellInterruption(const InterruptedCleanup& found) {
+    const auto date = parseLibraryDate(found.date);
+    const std::string when = date ? shortDateTime(*date) : found.date;
+    const char* const what =
+        found.kind == RecordHeading::Kind::restore ? "The restore of " : "The deletion of ";
+    m_details.clear();
+    m_trashedFile.clear();
+    m_backup = found.backup;
+    m_record = found.record;
+    const std::string title = what + when + " was interrupted";
+    const std::string rest = found.whatCanBePutBack() + " can be put back.";
+    show({title, rest, title + ". " + rest, true, {}});
 }
 
 void Notices::show(Notice notice) {

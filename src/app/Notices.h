@@ -12,6 +12,7 @@ namespace songsweep {
 class Desktop;
 class Log;
 struct DeleteReport;
+struct InterruptedCleanup;
 struct RestoreAnswer;
 
 /// Tells what a deletion or a restore came to, over the table, and does what the message's buttons offer.
@@ -33,6 +34,7 @@ class Notices {
 
     void tellDeletion(const DeleteReport& report);
     void tellRestore(const RestoreAnswer& answer);
+    void tellInterruption(const InterruptedCleanup& found);
     void close();
 
     void noticeActionClick(NoticeAction action);

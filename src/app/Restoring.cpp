@@ -3,6 +3,7 @@
 
 #include "app/ControllerServices.h"
 #include "app/views/RestoreView.h"
+#include "delete/InterruptionSearch.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
@@ -30,6 +31,12 @@ void Restoring::begin(const std::string& record) {
     m_pending = search->serial();
     m_view.beginRestore();
     m_looks.add(std::move(search));
+}
+
+void Restoring::lookForInterruption() {
+    const std::string library = m_services.libraryFile();
+    if (library.empty()) return;
+    m_looks.add(std::make_unique<InterruptionSearch>(library, m_services.desktop.trash(), m_workers.center));
 }
 
 void Restoring::onCleanupsListed(const WorkerEvent& event) {

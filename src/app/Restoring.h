@@ -30,6 +30,8 @@ class Restoring {
     // What users do.
     /// Opens the sheet; the clean-up of that record is chosen, or the newest one that is not restored.
     void begin(const std::string& record = {});
+    /// Looks whether the newest deletion of the library was killed.
+    void lookForInterruption();
     void chooseCleanup(int index, LostFiles lostFiles);
     void restoreOkButtonClick();
     /// Stops a restore after the step in hand; closes the sheet otherwise.

@@ -52,6 +52,7 @@ int runController(Program& program, Windows& windows, const std::function<bool()
     controller.awakeFromNib(redirectLog);
     windows.mainWindow().openAtFirstSize();
     windows.showMainWindow();
+    controller.lookForInterruption();
     const int exitCode = QApplication::exec();
     controller.applicationShouldTerminate();
     return exitCode;

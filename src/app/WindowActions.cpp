@@ -180,7 +180,7 @@ void WindowActions::chooseLibrary(const std::string& path) {
         return;
     }
     const OpenedLibrary opened = m_openLibrary(path);
-    if (opened.turned) m_controller.resetForLibrary();
+    if (opened.turned && m_controller.resetForLibrary()) m_controller.lookForInterruption();
     if (!opened.problem.empty()) m_windows.alertCantOpen(opened.problem);
 }
 

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "cli/LibrarySession.h"
 
+#include "app/LibraryWarnings.h"
 #include "cli/CommandLog.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
+#include "hosts/InterruptedCleanup.h"
 #include "library/CaseFolding.h"
 #include "library/Trim.h"
+#include "platform/Native.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -34,6 +37,7 @@ LibrarySession::LibrarySession(const FindOptions& options, const std::string& ve
     , m_interrupts([this] { interrupt(); }) {}
 
 std::optional<ExitCode> LibrarySession::search() {
+    warnOfInterruption();
     if (const auto problem = prepare()) return fail(*problem);
     if (!m_interrupted) m_controller->paramOkButtonClick(m_options.parameters);
     if (m_controller->isWorking()) runUntilIdle();
@@ -52,6 +56,13 @@ std::optional<ExitCode> LibrarySession::search() {
 
 ExitCode LibrarySession::searchedCode() const {
     return m_controller->searchVerdict().isComplete ? ExitCode::done : ExitCode::failed;
+}
+
+/// Before this program locks the library itself.
+void LibrarySession::warnOfInterruption() {
+    const auto desktop = nativeDesktop();
+    if (const auto found = findInterruptedCleanup(m_options.library, desktop->trash()))
+        tell(withPath(interruption(*found)));
 }
 
 void LibrarySession::runUntilIdle() {

@@ -54,6 +54,7 @@ class LibrarySession {
     ExitCode searchedCode() const;
 
   private:
+    void warnOfInterruption();
     std::optional<std::string> prepare();
     std::optional<std::string> lockLibrary();
     std::optional<std::string> choosePlaylist();

@@ -30,6 +30,7 @@ std::string_view text(EventName name) {
         "restoreForeseen",
         "restoreProgress",
         "restoreFinish",
+        "interruptionFound",
     };
     return texts.at(static_cast<std::size_t>(name));
 }

@@ -12,6 +12,7 @@ namespace songsweep {
 
 struct CleanupListing;
 struct DeleteReport;
+struct InterruptedCleanup;
 struct ReadError;
 struct RestoreAnswer;
 struct SurveyAnswer;
@@ -44,9 +45,10 @@ enum class EventName {
     restoreForeseen,
     restoreProgress,
     restoreFinish,
+    interruptionFound,
 };
 
-inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::restoreFinish) + 1;
+inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::interruptionFound) + 1;
 
 /// The event's text, as the log shows it ("addFinish").
 std::string_view text(EventName name);
@@ -58,10 +60,10 @@ struct ProgressUnits {
 
 /// What an event brings: nothing, a record, work units, the library file's attributes, or the result of a
 /// worker, which is the receiver's from then on.
-using WorkerEventPayload =
-    std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes, std::shared_ptr<ReadError>,
-                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>,
-                 std::shared_ptr<CleanupListing>, std::shared_ptr<RestoreAnswer>>;
+using WorkerEventPayload = std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes,
+                                        std::shared_ptr<ReadError>, std::shared_ptr<SurveyAnswer>,
+                                        std::shared_ptr<DeleteReport>, std::shared_ptr<CleanupListing>,
+                                        std::shared_ptr<RestoreAnswer>, std::shared_ptr<InterruptedCleanup>>;
 
 /// One event on its way from a worker to the main thread. A value; the record stays its storage's.
 struct WorkerEvent {

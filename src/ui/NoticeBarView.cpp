@@ -4,7 +4,6 @@
 #include "theme/Announcement.h"
 #include "theme/Icons.h"
 #include "theme/Metrics.h"
-#include "theme/ToolTips.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -86,7 +85,7 @@ void NoticeBarView::setActions(const QStringList& labels) {
 void NoticeBarView::elide() {
     const QString shown = m_label->fontMetrics().elidedText(m_text, Qt::ElideRight, m_label->width());
     m_label->setText(shown);
-    m_label->setToolTip(shown == m_text ? QString() : plainToolTip(m_text));
+    m_label->setToolTip(shown == m_text ? QString() : m_text);
 }
 
 void NoticeBarView::applyMetrics() {

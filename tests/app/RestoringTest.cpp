@@ -5,6 +5,7 @@
 #include "support/EventLoop.h"
 #include "support/SampleCleanup.h"
 #include "support/Widgets.h"
+#include "ui/NoticeBarView.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -210,6 +211,50 @@ TEST_F(Restoring, WhatACancelLeftIsBroughtBackByTheNext) {
     }
     EXPECT_EQ(present(), m_whole);
     EXPECT_TRUE(fs::exists(file("1")) && fs::exists(file("3")));
+}
+
+TEST_F(Restoring, TheWindowTellsWhatCameBack) {
+    deleteTwo();
+    ASSERT_NO_FATAL_FAILURE(openSheet());
+    sheetButton("restoreOkButton").click();
+    waitForLines("back in");
+    closeSheet();
+    auto& bar = child<NoticeBarView>(window(), "noticeBar");
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.message(), QStringLiteral("2 tracks restored, 2 files (0.1 MB) put back."));
+}
+
+TEST_F(Restoring, ADeletionThatWasKilledIsToldAndPutBack) {
+    deleteTwo(SampleCleanup::End::killed);
+    ASSERT_NE(present(), m_whole);
+    controller->lookForInterruption();
+    auto& bar = child<NoticeBarView>(window(), "noticeBar");
+    ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
+    EXPECT_THAT(bar.message().toStdString(),
+                ::testing::EndsWith(" was interrupted. 2 tracks and 1 file can be "
+                                    "put back."));
+    child<QAbstractButton>(window(), "noticeButton1").click();
+    ASSERT_TRUE(sheet().isVisible());
+    ASSERT_TRUE(runEventLoopUntil([this] { return sheetButton("restoreOkButton").isEnabled(); }));
+    EXPECT_EQ(cell(0, 1), "Interrupted");
+    sheetButton("restoreOkButton").click();
+    waitForLines("back in");
+    EXPECT_EQ(present(), m_whole);
+    EXPECT_TRUE(fs::exists(file("1")) && fs::exists(file("3")));
+}
+
+TEST_F(Restoring, ADeletionThatCameToItsEndIsNotTold) {
+    deleteTwo();
+    controller->lookForInterruption();
+    ASSERT_NO_FATAL_FAILURE(openSheet()); // the workers run one after the other
+    EXPECT_FALSE(child<NoticeBarView>(window(), "noticeBar").isVisible());
+}
+
+TEST_F(Restoring, ALibraryThatIsOpenedIsLookedAt) {
+    deleteTwo(SampleCleanup::End::killed);
+    Q_EMIT window().openLibrary(library);
+    auto& bar = child<NoticeBarView>(window(), "noticeBar");
+    ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
 }
 
 TEST_F(Restoring, SaysWhereThereIsNothing) {

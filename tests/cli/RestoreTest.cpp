@@ -141,6 +141,42 @@ TEST_F(Restore, TakesBackACleanUpThatWasKilled) {
     expectAllBack();
 }
 
+TEST_F(Restore, IsOfferedWhereTheNewestDeletionWasKilled) {
+    m_isKilled = true;
+    const std::string name = deleteTracks();
+    const std::vector<std::string> find = {"find", "--library", m_library};
+    const std::vector<std::string> remove = {"delete", "--library",       m_library,
+                                             "--rule", "highest-bitrate", "--dry-run"};
+    for (const auto& command : {find, remove})
+        EXPECT_THAT(run(command).errors,
+                    AllOf(HasSubstr(m_library + ": warning: the deletion of 2"),
+                          HasSubstr("Z was interrupted, and 2 tracks and 2 files can be put back: songsweep "
+                                    "restore --library \"" +
+                                    m_library + "\" --cleanup \"" + name + "\" --dry-run\n")));
+    {
+        const auto lock = CleanupLock::acquire(m_library, {"a window"});
+        EXPECT_EQ(run(find).errors, "") << "it may be at it still";
+    }
+    ASSERT_EQ(restore({"--yes"}).exitCode, 0);
+    EXPECT_EQ(run(find).errors, "");
+}
+
+TEST_F(Restore, IsOfferedAgainWhereItWasKilledItself) {
+    const std::string name = deleteTracks();
+    const std::vector<std::string> find = {"find", "--library", m_library};
+    EXPECT_EQ(run(find).errors, "") << "the deletion came to its end";
+    const std::string deleted = library();
+    const json result = json::parse(restore({"--yes", "--format", "json"}).output);
+    const std::string record = fs::path(result.at("record").get<std::string>()).filename();
+    const std::string text = m_folder.read(record);
+    m_folder.write(record, text.substr(0, text.rfind('{'))); // without its end
+    EXPECT_EQ(run(find).errors, "") << "nothing is left to put back";
+    m_folder.write("Library.xml", deleted); // as if it had come no further
+    EXPECT_THAT(run(find).errors,
+                AllOf(HasSubstr("warning: the restore of 2"), HasSubstr("and 2 tracks can be put back: "),
+                      HasSubstr("--cleanup \"" + name + "\" --dry-run\n")));
+}
+
 TEST_F(Restore, LeavesAFileThatWasBroughtBackByHand) {
     deleteTracks();
     fs::rename(path(inTrash(1)), path(fileName(1)));

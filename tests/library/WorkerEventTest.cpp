@@ -33,6 +33,7 @@ TEST(WorkerEventTest, EveryEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::restoreForeseen), "restoreForeseen");
     EXPECT_EQ(text(EventName::restoreProgress), "restoreProgress");
     EXPECT_EQ(text(EventName::restoreFinish), "restoreFinish");
+    EXPECT_EQ(text(EventName::interruptionFound), "interruptionFound");
 }
 
 TEST(WorkerEventTest, TheTwoCountsAreCountsAndNothingElseIs) {

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "delete/InterruptionSearch.h"
+
+#include "hosts/InterruptedCleanup.h"
+#include "library/WorkerEvent.h"
+#include "operations/NotificationCenter.h"
+
+namespace songsweep {
+
+void InterruptionSearch::main() {
+    auto found = findInterruptedCleanup(m_library, m_trash);
+    if (!found || isCancelled()) return;
+    m_center.post(
+        {EventName::interruptionFound, std::make_shared<InterruptedCleanup>(std::move(*found)), this});
+}
+
+} // namespace songsweep
