@@ -29,8 +29,10 @@ ExitCode runScript(const ScriptOptions& options, const std::string& version) {
     const Result<std::optional<Descriptor>> result = program.scripting().run(text.value());
     const Result<void> written = program.scripting().flush();
     const bool noLibrary = program.scripting().libraryPath().empty() && program.scripting().libraryError();
+    // A text that fails may have changed the library before, and both are to be known.
+    if (!written) static_cast<void>(fail(written.error().message));
     if (!result) return fail(noLibrary ? program.unreachableReason() : result.error().message);
-    if (!written) return fail(written.error().message);
+    if (!written) return ExitCode::failed;
     return result.value() ? printResult(*result.value()) : ExitCode::done;
 }
 

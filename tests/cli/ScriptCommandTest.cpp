@@ -72,6 +72,30 @@ TEST_F(ScriptCommand, WritesTheLibraryBeforeItEnds) {
               libraryText({{.id = 1, .name = "A \"b\" \\", .artist = "C", .path = path("a.mp3")}}));
 }
 
+TEST_F(ScriptCommand, WritesWhatATextSets) {
+    const RunResult result = script("tell application \"Music\" \nset name of track 2 to \"D & F\" \n"
+                                    "{name, artist} of every track \nend tell");
+    EXPECT_EQ(result.output, "{{\"A \\\"b\\\" \\\\\", \"D & F\"}, {\"C\", \"E\"}}\n");
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_EQ(m_folder.read("Library.xml"),
+              libraryText({{.id = 1, .name = "A \"b\" \\", .artist = "C", .path = path("a.mp3")},
+                           {.id = 2, .name = "D & F", .artist = "E", .path = path("gone.mp3")}}));
+}
+
+TEST_F(ScriptCommand, TellsOfAWriteThatFailedBesideATextThatFailed) {
+    std::string text = libraryText({{.id = 1, .name = "A", .artist = "B"}});
+    text.insert(text.find("<string>A") + 7, " a=\"1\" a=\"2\"");
+    const std::string file = m_folder.write("Library.xml", text);
+    const std::string set = "tell application \"iTunes\" to set rating of track 1 to 80";
+    for (const std::string end : {"", "\nerror \"boo\""}) {
+        const RunResult result = run({"script", "--library", file, "-"}, set + end);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.errors, HasSubstr("ttribute"));
+        EXPECT_EQ(result.errors.find("boo") != std::string::npos, !end.empty());
+        EXPECT_EQ(m_folder.read("Library.xml"), text);
+    }
+}
+
 TEST_F(ScriptCommand, RefusesALibraryThatIsCutOff) {
     const std::string cut =
         m_folder.write("cut.xml", libraryText({{.id = 1, .name = "A", .artist = "B"}}).substr(0, 250));
