@@ -123,6 +123,18 @@ TEST_F(LibraryChangeTest, AnItemIsPutBehindTheLastOneAsThatIsWritten) {
     EXPECT_EQ(content(), withItems(item(1) + item(2) + item(3) + item(1) + "<!-- end -->"));
 }
 
+TEST_F(LibraryChangeTest, AnItemThatSaysMoreThanItsTrackIsNoPattern) {
+    std::string text = small("a", {1});
+    const std::string id = "<key>Track ID</key><integer>1</integer>";
+    text.insert(text.rfind(id) + id.size(), "<key>More</key><true/>");
+    open(text);
+    ASSERT_TRUE(m_library->add(1, 2));
+    ASSERT_TRUE(m_library->flush());
+    std::string expected = small("a", {1, 3});
+    expected.insert(expected.rfind(id) + id.size(), "<key>More</key><true/>");
+    EXPECT_EQ(content(), expected);
+}
+
 TEST_F(LibraryChangeTest, APlaylistWithoutItemsGetsThem) {
     const auto withPlaylist = [](const std::string& items) {
         return "<plist><dict><key>Tracks</key><dict><key>1</key><dict><key>Track "
@@ -174,6 +186,7 @@ TEST_F(LibraryChangeTest, DeletionsAndChangesAreWrittenTogether) {
     m_library->takeOut(1, 1);
     ASSERT_TRUE(m_library->add(1, 1));
     ASSERT_TRUE(m_library->remove(1));
+    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0, 2));
     ASSERT_TRUE(m_library->flush());
     EXPECT_EQ(content(),
               libraryXml({{1, idA, "<key>Name</key><string>b</string>"}, {3, "C3", ""}},
@@ -270,6 +283,13 @@ TEST_F(LibraryChangeTest, WhatReadsBackOtherwiseIsNoResult) {
     };
     EXPECT_TRUE(isResult(small("bb", {2, 3})));
     EXPECT_FALSE(isResult(small("b", {2, 3}))) << "a longer or a shorter entry";
+    const auto with = [](const std::string& added, const std::string& before) {
+        std::string text = small("bb", {2, 3});
+        return text.insert(text.find(before), added);
+    };
+    EXPECT_FALSE(isResult(with("<key>9</key><dict></dict>", "\n\t\t<key>1</key>")));
+    EXPECT_FALSE(isResult(with("<key>9</key><dict></dict>", "\n\t</dict>\n\t<key>Playlists")));
+    EXPECT_FALSE(isResult(with("2", "Twice")));
     EXPECT_FALSE(isResult(small("bb", {1, 2, 3})));
     EXPECT_FALSE(isResult(small("bb", {3, 2})));
     EXPECT_FALSE(isResult(small("bb", {2})));
