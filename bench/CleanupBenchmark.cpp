@@ -88,7 +88,7 @@ void tellOutcomes(CleanupRecord& record, const std::vector<RecordedTrack>& track
     record.written();
     require(record.trashing(all));
     for (std::size_t i = 0; i < tracks.size(); ++i) {
-        record.trashed(i, {"/home/somebody/.local/share/Trash", "Song.2.mp3"});
+        record.trashed(i, {"/home/somebody/.local/share/Trash/files", "Song.2.mp3"});
         record.outcome(i, {RecordedOutcome::Track::deleted, RecordedOutcome::File::trashed, ""});
     }
     require(record.end(RecordEnd::How::complete, ""));

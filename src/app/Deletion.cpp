@@ -139,7 +139,9 @@ void Deletion::onDeleteCancel(const WorkerEvent& event) {
     end(event);
     m_progress.closeProgressWindow(ProgressBar::progress); // Nobody has, where the deletion failed.
     m_results.showRowsLeft();
-    if (m_report && !m_report->notBegun.empty()) alertNotBegun();
+    if (!m_report) return;
+    if (!m_report->notBegun.empty()) alertNotBegun();
+    if (!m_report->notWritten.empty()) m_applicationView.alertCantGoOnDeleting(m_report->notWritten);
 }
 
 /// The library is as it was read.

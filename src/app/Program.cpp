@@ -59,7 +59,8 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
     , m_preferences(nativePreferences())
     , m_scripting({}, *m_desktop, m_files, scriptingOptions())
     , m_scripts(std::move(systemScripts), m_scripting)
-    , m_cleanup(m_scripting, [this] { return m_scripts.usesEmbedded(); }, {m_options.purpose, lockTimeout}) {
+    , m_cleanup(m_scripting, [this] { return m_scripts.usesEmbedded(); },
+                {{m_options.purpose, lockTimeout}, "Songsweep " + m_options.version}) {
     if (!m_options.library.empty()) {
         m_preferences.choose(absolutePath(m_options.library));
         m_scripts.chooseEmbedded();

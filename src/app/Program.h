@@ -77,8 +77,8 @@ class Program {
     /// write of it cannot be written.
     OpenedLibrary openLibrary(const std::string& path);
 
-    /// `handler` is called on the main thread when the library file cannot be written, once until a write
-    /// succeeds again; with the path and the reason. The deletions are forgotten.
+    /// `handler` is called on the main thread when the library file cannot be written outside of a deletion,
+    /// with the path and the reason. The deletions are forgotten.
     void setWriteFailedHandler(std::function<void(const std::string& reason)> handler);
     /// Writes what is left; the path and the reason where that fails. Once no worker runs.
     Result<void> writeLibrary();

@@ -22,7 +22,6 @@ namespace songsweep {
 namespace {
 
 constexpr const char* libraryIsAsBefore = "The library is as it was before.";
-constexpr const char* willTryAgain = "Songsweep tries again every 30 seconds.";
 
 void nameApplication(const std::string& version) {
     QApplication::setApplicationName(QStringLiteral("Songsweep"));
@@ -77,9 +76,8 @@ int runUntilQuit(ProgramOptions options, InterruptibleLog& log, const std::funct
     });
     Program program(std::move(options), log);
     Windows windows(log);
-    program.setWriteFailedHandler([&windows](const std::string& reason) {
-        windows.alertCantWrite(reason + "\n" + libraryIsAsBefore + " " + willTryAgain);
-    });
+    program.setWriteFailedHandler(
+        [&windows](const std::string& reason) { windows.alertCantWrite(reason + "\n" + libraryIsAsBefore); });
     const int exitCode = runController(program, windows, redirectLog);
     writeLibrary(program, windows);
     return exitCode;

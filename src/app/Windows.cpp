@@ -70,6 +70,10 @@ void Windows::showDetails(const QString& title, const std::vector<std::string>& 
     (new DetailsDialog(title, lines, parent))->open();
 }
 
+void Windows::alertCantGoOnDeleting(const std::string& reason) {
+    alertCantWrite(reason + "\nTracks that the library still has keep their files.");
+}
+
 QMessageBox* Windows::alertCantWrite(const std::string& reason) {
     return alerts::openCantWriteLibrary(m_mainWindow.isVisible() ? &m_mainWindow : nullptr,
                                         QString::fromStdString(reason));

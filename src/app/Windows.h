@@ -56,6 +56,7 @@ class Windows final : public ApplicationView {
     void alertCantAccess(const std::string& message, const std::string& reason) override;
     void alertNoDuplicates(const std::vector<std::string>& notes) override;
     void alertCantBeginDelete(const std::string& reason) override;
+    void alertCantGoOnDeleting(const std::string& reason) override;
 
   private:
     MainWindow m_mainWindow;

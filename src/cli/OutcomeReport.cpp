@@ -42,6 +42,9 @@ void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
         output.write((output.isTerminal() ? terminalLine(line) : line) + "\n");
     }
     output.write(summary(report, dryRun) + "\n");
+    for (const auto& [title, path] :
+         {std::pair("Backup: ", report.backup), std::pair("Record: ", report.record)})
+        if (!path.empty()) output.write(title + (output.isTerminal() ? terminalLine(path) : path) + "\n");
 }
 
 /// A location that is not UTF-8 is told once more as a URL.
@@ -56,12 +59,15 @@ nlohmann::ordered_json jsonOutcome(const DeleteOutcome& outcome) {
     object["file"] = fileWord(outcome.file);
     object["reason"] = outcome.reason;
     object["dealtwith"] = outcome.dealtWith;
+    if (outcome.trash) object["trash"] = outcome.trash->path();
     return object;
 }
 
 void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
     nlohmann::ordered_json whole;
     whole["dryrun"] = dryRun;
+    if (!report.backup.empty()) whole["backup"] = report.backup;
+    if (!report.record.empty()) whole["record"] = report.record;
     whole["outcomes"] = nlohmann::ordered_json::array();
     for (const DeleteOutcome& outcome : report.outcomes) {
         whole["outcomes"].push_back(jsonOutcome(outcome));
@@ -70,12 +76,14 @@ void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
 }
 
 void writeCsvOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
-    output.write("pid,name,artist,location,track,file,reason,dealtwith,dryrun\r\n");
+    output.write("pid,name,artist,location,track,file,reason,dealtwith,dryrun,trash,backup,record\r\n");
     for (const DeleteOutcome& outcome : report.outcomes) {
         output.write(csvField(outcome.pid) + "," + csvField(outcome.name) + "," + csvField(outcome.artist) +
                      "," + csvField(outcome.location) + "," + trackWord(outcome.track) + "," +
                      fileWord(outcome.file) + "," + csvField(outcome.reason) + "," +
-                     csvTruth(outcome.dealtWith) + "," + csvTruth(dryRun) + "\r\n");
+                     csvTruth(outcome.dealtWith) + "," + csvTruth(dryRun) + "," +
+                     csvField(outcome.trash ? outcome.trash->path() : std::string()) + "," +
+                     csvField(report.backup) + "," + csvField(report.record) + "\r\n");
     }
 }
 

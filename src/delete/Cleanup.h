@@ -1,41 +1,60 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "libraryfile/RecordedCleanup.h"
 #include "platform/Result.h"
+#include "platform/Trash.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace songsweep {
+
+struct DeleteReport;
 
 /// The frame of a deletion: what lies behind the texts that are told to iTunes and Finder.
 ///
 /// A library file of the program's own is locked and backed up before the first text, written from time to
-/// time, and files go after their tracks; what became of a track or of a file is known when that has ended.
-/// The system's iTunes acts on each text at once, which is what this class stands for. The worker's thread.
+/// time, and files go after their tracks; what became of a track or of a file is known when that has ended,
+/// and a record tells it afterwards. The system's iTunes acts on each text at once, which is what this class
+/// stands for. The worker's thread. Tracks are called by their numbers in the plan.
 ///
-///     if (const auto begun = cleanup.begin(); !begun) return begun.error();
-///     while (…) if (!cleanup.beginTrack(pid)) break; // then the texts about it
+///     if (const auto begun = cleanup.begin(tracks, files); !begun) return begun.error();
+///     while (…) if (!cleanup.beginTrack(number)) break; // then the texts about it
 ///     const auto written = cleanup.finish();
+///     cleanup.end(report, how);
 class Cleanup {
   public:
+    enum class Files : std::uint8_t { stay, go };
+
+    /// What stays of a clean-up, "" for none.
+    struct Traces {
+        std::string backup; ///< path
+        std::string record; ///< path
+    };
+
     Cleanup() = default;
     Cleanup(const Cleanup&) = delete;
     Cleanup& operator=(const Cleanup&) = delete;
     virtual ~Cleanup() = default;
 
     /// On an error nothing must be deleted.
-    virtual Result<void> begin() { return {}; }
+    virtual Result<void> begin(std::vector<RecordedTrack> /*tracks*/, Files /*files*/) { return {}; }
     /// The next texts are about this track; false where something has failed, so that it must not begin.
-    virtual bool beginTrack(const std::string& /*persistentId*/) { return true; }
+    virtual bool beginTrack(std::size_t /*number*/) { return true; }
     /// Does everything that waits; the reason where the library could not be written. Once after `begin`.
     virtual Result<void> finish() { return {}; }
 
     /// Whether a track that was told to be deleted is still in the library. After `finish`.
-    virtual bool hasTrack(const std::string& /*persistentId*/) { return false; }
-    /// What became of a file that was told to be deleted, by its local path; nothing where only the disk can
-    /// tell. After `finish`.
-    virtual std::optional<Result<void>> fateOfFile(const std::string& /*path*/) { return std::nullopt; }
+    virtual bool hasTrack(std::size_t /*number*/) { return false; }
+    /// What became of the file of a track; nothing where only the disk can tell. After `finish`.
+    virtual std::optional<Result<TrashedFile>> fateOfFile(std::size_t /*number*/) { return std::nullopt; }
+
+    /// Writes down what became of everything. An error says that this could not be written.
+    virtual Result<void> end(const DeleteReport& /*report*/, RecordEnd::How /*how*/) { return {}; }
+    virtual Traces traces() { return {}; }
 };
 
 } // namespace songsweep

@@ -3,6 +3,7 @@
 
 #include "library/DisplayedList.h"
 #include "library/TrackRecord.h"
+#include "libraryfile/LibraryFile.h"
 #include "platform/Result.h"
 
 #include <cstddef>
@@ -43,6 +44,7 @@ struct PlannedFile {
     const char* obstacle =
         nullptr;              ///< why it stays whatever the user wants; null where nothing is in the way
     std::string refusal = {}; ///< why the Trash will refuse it, as far as that can be foreseen
+    FileStamp stamp = {};     ///< links followed
 };
 
 /// What a deletion with files has to know before anything is deleted. A value; the records are those of the

@@ -52,15 +52,32 @@ DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices servi
 
 void DeleteProc::main() {
     std::exception_ptr failure;
-    if (!m_list.rows.empty()) {
-        if (const Result<void> begun = m_services.cleanup.begin(); !begun) {
-            m_report->notBegun = begun.error().message;
-        } else if (deleteAll(failure)) {
-            m_services.center.post({EventName::deleteValidity, {}, this});
-        }
-    }
+    if (!m_list.rows.empty() && begin() && deleteAll(failure))
+        m_services.center.post({EventName::deleteValidity, {}, this});
     postEnd();
     if (failure) std::rethrow_exception(failure);
+}
+
+bool DeleteProc::begin() {
+    const auto files = m_isDelFile ? Cleanup::Files::go : Cleanup::Files::stay;
+    const Result<void> begun = m_services.cleanup.begin(plannedTracks(), files);
+    if (begun) {
+        const Cleanup::Traces traces = m_services.cleanup.traces();
+        m_report->backup = traces.backup;
+        m_report->record = traces.record;
+    } else {
+        m_report->notBegun = begun.error().message;
+        noteNotAttempted();
+    }
+    return begun.hasValue();
+}
+
+/// One for each outcome that is to come, in the same order.
+std::vector<RecordedTrack> DeleteProc::plannedTracks() const {
+    std::vector<RecordedTrack> tracks;
+    for (const TrackRecord* const record : m_list.rows)
+        if (record->checkbox) tracks.push_back(m_fileDeletion.planFor(*record, m_isDelFile));
+    return tracks;
 }
 
 /// True when every row was visited and the library is written.
@@ -73,6 +90,9 @@ bool DeleteProc::deleteAll(std::exception_ptr& failure) {
         failure = std::current_exception();
     }
     finish();
+    endCleanup(failure     ? RecordEnd::How::failed
+               : completed ? RecordEnd::How::complete
+                           : RecordEnd::How::cancelled);
     unmute(failure);
     return completed && !hasFailed();
 }
@@ -81,14 +101,20 @@ bool DeleteProc::deleteAll(std::exception_ptr& failure) {
 void DeleteProc::finish() {
     const Result<void> written = m_services.cleanup.finish();
     if (!written) m_report->notWritten = written.error().message;
-    for (DeleteOutcome& outcome : m_report->outcomes) {
-        if (outcome.track != DeleteOutcome::Track::deleted || !m_services.cleanup.hasTrack(outcome.pid))
-            continue;
+    for (std::size_t number = 0; number < m_report->outcomes.size(); ++number) {
+        DeleteOutcome& outcome = m_report->outcomes[number];
+        if (outcome.track != DeleteOutcome::Track::deleted || !m_services.cleanup.hasTrack(number)) continue;
         outcome.track = DeleteOutcome::Track::failed;
         outcome.dealtWith = false;
         outcome.addReason(written ? "the library still has it" : "the library was not written");
     }
     m_fileDeletion.settle(m_report->outcomes, m_services.cleanup);
+    noteNotAttempted();
+}
+
+void DeleteProc::endCleanup(RecordEnd::How how) {
+    const auto ended = m_services.cleanup.end(*m_report, hasFailed() ? RecordEnd::How::failed : how);
+    if (!ended) m_services.log.line("The record has no end : " + ended.error().message);
 }
 
 bool DeleteProc::hasFailed() const { return !m_report->notBegun.empty() || !m_report->notWritten.empty(); }
@@ -114,7 +140,7 @@ bool DeleteProc::deleteRows() {
             compaction.keep();
             continue;
         }
-        if (!m_services.cleanup.beginTrack(compaction.record().pid.string())) return false;
+        if (!m_services.cleanup.beginTrack(m_report->outcomes.size())) return false;
         deleteMarked(compaction.record());
         compaction.remove();
         m_services.center.post({EventName::deleteAddCount, {}, this});
@@ -172,11 +198,12 @@ void DeleteProc::noteNotAttempted() {
 }
 
 void DeleteProc::postEnd() {
-    noteNotAttempted();
     m_services.center.post(
         {isCancelled() || hasFailed() ? EventName::deleteCancel : EventName::deleteFinish, m_report, this});
     for (const DeleteOutcome& outcome : m_report->outcomes)
         m_services.log.line(outcomeLine(outcome));
+    if (!m_report->backup.empty()) m_services.log.line("Backup : " + m_report->backup);
+    if (!m_report->record.empty()) m_services.log.line("Record : " + m_report->record);
 }
 
 } // namespace songsweep

@@ -7,6 +7,7 @@
 #include "delete/SharedIds.h"
 #include "delete/StayingCopies.h"
 #include "library/DisplayedList.h"
+#include "libraryfile/RecordedCleanup.h"
 #include "operations/Operation.h"
 #include "platform/Result.h"
 
@@ -17,6 +18,7 @@
 #include <optional>
 #include <string>
 #include <unordered_set>
+#include <vector>
 
 namespace songsweep {
 
@@ -58,9 +60,12 @@ class DeleteProc final : public Operation {
   private:
     class Compaction;
 
+    bool begin();
+    std::vector<RecordedTrack> plannedTracks() const;
     bool deleteRows();
     bool deleteAll(std::exception_ptr& failure);
     void finish();
+    void endCleanup(RecordEnd::How how);
     void unmute(std::exception_ptr& failure);
     bool hasFailed() const;
     void deleteMarked(TrackRecord& record);

@@ -82,6 +82,7 @@ std::string outcomeLine(const DeleteOutcome& outcome, Tense tense) {
     std::string line = "Track " + outcome.name + " by " + outcome.artist + " (" + outcome.pid + ") ";
     line += outcomeText(outcome, tense);
     if (!outcome.location.empty()) line += ", " + outcome.location;
+    if (outcome.trash) line += ", in the Trash as " + outcome.trash->name;
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     return line;

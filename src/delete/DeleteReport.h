@@ -59,8 +59,8 @@ enum class Tense { past, conditional };
 /// deleted, file would go to the Trash".
 std::string outcomeText(const DeleteOutcome& outcome, Tense tense = Tense::past);
 
-/// A line for the log: "Track Song by Artist (00A1B2C3D4E5F607) deleted, file trashed, /music/song.mp3". Line
-/// breaks in names are blanks there.
+/// A line for the log: "Track Song by Artist (00A1B2C3D4E5F607) deleted, file trashed, /music/song.mp3, in
+/// the Trash as song.2.mp3". Line breaks in names are blanks there.
 std::string outcomeLine(const DeleteOutcome& outcome, Tense tense = Tense::past);
 
 } // namespace songsweep

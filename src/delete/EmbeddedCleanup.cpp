@@ -1,24 +1,70 @@
 // SPDX-License-Identifier: MIT
 #include "delete/EmbeddedCleanup.h"
 
+#include "delete/DeleteReport.h"
 #include "hosts/EmbeddedScripting.h"
+
+#include <utility>
 
 namespace songsweep {
 
+namespace {
+
+RecordedOutcome::Track recordedTrack(DeleteOutcome::Track track) {
+    switch (track) {
+    case DeleteOutcome::Track::deleted:
+        return RecordedOutcome::Track::deleted;
+    case DeleteOutcome::Track::failed:
+        return RecordedOutcome::Track::failed;
+    case DeleteOutcome::Track::notAttempted:
+        break;
+    }
+    return RecordedOutcome::Track::notAttempted;
+}
+
+RecordedOutcome::File recordedFile(DeleteOutcome::File file) {
+    switch (file) {
+    case DeleteOutcome::File::trashed:
+        return RecordedOutcome::File::trashed;
+    case DeleteOutcome::File::missing:
+        return RecordedOutcome::File::missing;
+    case DeleteOutcome::File::kept:
+        return RecordedOutcome::File::kept;
+    case DeleteOutcome::File::notAsked:
+        break;
+    }
+    return RecordedOutcome::File::notAsked;
+}
+
+std::vector<RecordedOutcome> recordedOutcomes(const DeleteReport& report) {
+    std::vector<RecordedOutcome> outcomes;
+    outcomes.reserve(report.outcomes.size());
+    for (const DeleteOutcome& outcome : report.outcomes)
+        outcomes.push_back({recordedTrack(outcome.track), recordedFile(outcome.file), outcome.reason});
+    return outcomes;
+}
+
+} // namespace
+
 Result<void> EmbeddedCleanup::lock() {
     if (!m_isEmbedded()) return {};
-    return withPath(m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.lock(m_request); }));
+    return withPath(
+        m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.lock(m_identity.request); }));
 }
 
-Result<void> EmbeddedCleanup::begin() {
-    m_isOn = m_isEmbedded();
-    if (!m_isOn) return {};
-    return withPath(m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.begin(m_request); }));
+Result<void> EmbeddedCleanup::begin(std::vector<RecordedTrack> tracks, Files files) {
+    m_isOn = false;
+    if (tracks.empty() || !m_isEmbedded()) return {};
+    auto begun = withPath(m_scripts.withCleanup([&](LibraryCleanup& cleanup) {
+        return cleanup.begin(m_identity.request, {m_identity.program, files == Files::go, std::move(tracks)});
+    }));
+    m_isOn = begun.hasValue();
+    return begun;
 }
 
-bool EmbeddedCleanup::beginTrack(const std::string& persistentId) {
+bool EmbeddedCleanup::beginTrack(std::size_t number) {
     return !m_isOn ||
-           m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.beginTrack(persistentId); });
+           m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.beginTrack(number); });
 }
 
 Result<void> EmbeddedCleanup::finish() {
@@ -26,17 +72,28 @@ Result<void> EmbeddedCleanup::finish() {
     return withPath(m_scripts.withCleanup([](LibraryCleanup& cleanup) { return cleanup.finish(); }));
 }
 
-bool EmbeddedCleanup::hasTrack(const std::string& persistentId) {
-    return m_isOn &&
-           m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.hasTrack(persistentId); });
+bool EmbeddedCleanup::hasTrack(std::size_t number) {
+    return m_isOn && m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.hasTrack(number); });
 }
 
-std::optional<Result<void>> EmbeddedCleanup::fateOfFile(const std::string& path) {
+std::optional<Result<TrashedFile>> EmbeddedCleanup::fateOfFile(std::size_t number) {
     if (!m_isOn) return std::nullopt;
-    const auto fate =
-        m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.fateOfFile(path); });
-    if (!fate) return std::nullopt;
-    return *fate ? Result<void>() : Result<void>(fate->error());
+    return m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.fateOfFile(number); });
+}
+
+Result<void> EmbeddedCleanup::end(const DeleteReport& report, RecordEnd::How how) {
+    if (!m_isOn) return {};
+    m_isOn = false;
+    return m_scripts.withCleanup([&](LibraryCleanup& cleanup) {
+        return cleanup.end(recordedOutcomes(report), how, report.notWritten);
+    });
+}
+
+Cleanup::Traces EmbeddedCleanup::traces() {
+    if (!m_isOn) return {};
+    return m_scripts.withCleanup([](LibraryCleanup& cleanup) {
+        return Traces{cleanup.backup(), cleanup.record()};
+    });
 }
 
 /// A reason that does not say so itself says which library it is about.

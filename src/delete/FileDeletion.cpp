@@ -3,11 +3,13 @@
 
 #include "delete/Cleanup.h"
 #include "delete/DeleteTexts.h"
+#include "delete/MarkedFiles.h"
 #include "delete/Obstacles.h"
 #include "platform/Files.h"
 #include "platform/LocalName.h"
 #include "scripting/AppleScript.h"
 
+#include <charconv>
 #include <exception>
 #include <filesystem>
 
@@ -20,7 +22,37 @@ bool isLink(const std::string& path) {
     return std::filesystem::is_symlink(path, error);
 }
 
+/// As far as the record knows it.
+std::int64_t trackIdOf(const TrackRecord& record) {
+    std::int64_t id = -1;
+    const std::string_view text = record.trackid;
+    std::from_chars(text.data(), text.data() + text.size(), id);
+    return id;
+}
+
+/// Why a file stays that Finder was told of.
+std::string reasonOf(const Result<void>& told, const std::optional<Result<TrashedFile>>& fate) {
+    if (fate && !*fate) return fate->error().message;
+    return told ? "it is still there" : told.error().message;
+}
+
 } // namespace
+
+RecordedTrack FileDeletion::planFor(const TrackRecord& record, bool withFile) const {
+    RecordedTrack track;
+    track.persistentId = record.pid.string();
+    track.trackId = trackIdOf(record);
+    track.name = record.name.string();
+    track.artist = record.artist.string();
+    const PlannedFile* const file = withFile ? plannedFileOf(record) : nullptr;
+    DeleteOutcome outcome;
+    if (file == nullptr) return track;
+    track.kept = isKeptByPlan(record, m_plan, outcome) ? outcome.reason : file->obstacle;
+    if (outcome.file == DeleteOutcome::File::kept) return track;
+    track.path = m_files.localPath(record.location.string()); // What is foreseen may turn out otherwise.
+    track.file = file->stamp;
+    return track;
+}
 
 void FileDeletion::deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number) {
     try {
@@ -31,69 +63,67 @@ void FileDeletion::deleteFileOf(const TrackRecord& record, DeleteOutcome& outcom
 }
 
 void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number) {
-    const std::string file = fileOf(record);
-    const std::string planned = plannedFileOf(record);
-    const auto told = m_names.find(planned);
-    if (file != planned && told != m_names.end()) {
+    const std::optional<FileAttributes> file = fileOf(record);
+    const PlannedFile* const planned = plannedFileOf(record);
+    const bool isPlanned = file && planned && stampOf(*file) == planned->stamp;
+    const auto told = planned && !isPlanned ? m_names.find(planned->path) : m_names.end();
+    if (told != m_names.end()) {
         m_told.push_back({number, told->second, {}});
-    } else if (file.empty()) {
+    } else if (!file) {
         outcome.file = DeleteOutcome::File::missing;
     } else if (isKeptByPlan(record, m_plan, outcome)) {
         return;
-    } else if (file != planned) {
-        outcome.keepFile("it is not the file that was looked at");
-    } else if (const char* const obstacle = obstacleOf(record)) {
+    } else if (const char* const obstacle = kindObstacle(file->kind)) {
         outcome.keepFile(obstacle);
+    } else if (!isPlanned) {
+        outcome.keepFile("it is not the file that was looked at");
+    } else if (const auto hfs = nameableHfsPath(record.location)) {
+        trash(record, *hfs, number);
     } else {
-        trash(record, file, number);
+        outcome.keepFile(unnameable);
     }
 }
 
-void FileDeletion::trash(const TrackRecord& record, const std::string& file, std::size_t number) {
+void FileDeletion::trash(const TrackRecord& record, const std::string& hfs, std::size_t number) {
+    const std::string& file = plannedFileOf(record)->path;
     const std::string name = m_files.localPath(record.location.string());
-    const std::string hfs = nameableHfsPath(record.location).value();
-    if (!isLink(name)) m_names.emplace(file, name); // Of a link, the file is still there afterwards.
+    if (name == file || !isLink(name))
+        m_names.emplace(file, name); // Of a link, the file is still there afterwards.
     m_told.push_back({number, name, tellFinder(deleteTexts::deleteFile(hfs))});
 }
 
 void FileDeletion::keepFileOf(const TrackRecord& record, DeleteOutcome& outcome) const {
-    outcome.file = fileOf(record).empty() ? DeleteOutcome::File::missing : DeleteOutcome::File::kept;
+    outcome.file = fileOf(record) ? DeleteOutcome::File::kept : DeleteOutcome::File::missing;
 }
 
 void FileDeletion::settle(std::vector<DeleteOutcome>& outcomes, Cleanup& cleanup) const {
     for (const Told& told : m_told) {
         DeleteOutcome& outcome = outcomes[told.outcome];
+        const auto fate = cleanup.fateOfFile(told.outcome);
         // The location itself may lead to another file now.
-        const bool isThere = isNameTaken(told.name);
-        const auto fate = cleanup.fateOfFile(told.name);
-        const Result<void>& result = fate ? *fate : told.result;
-        if (!isThere) {
+        const bool isGone = fate ? fate->hasValue() : !isNameTaken(told.name);
+        if (isGone) {
             outcome.file = DeleteOutcome::File::trashed;
+            if (fate) outcome.trash = fate->value();
         } else if (outcome.track != DeleteOutcome::Track::deleted) {
             outcome.file = DeleteOutcome::File::kept; // with its track, for the track's reason
         } else {
-            outcome.keepFile(result ? "it is still there" : result.error().message);
+            outcome.keepFile(reasonOf(told.result, fate));
         }
     }
 }
 
-/// The file that the location leads to at this moment, "" where it leads to none. A location that is no path,
-/// as that of a track without a file, names nothing.
-std::string FileDeletion::fileOf(const TrackRecord& record) const {
+/// The file that the location leads to at this moment. A location that is no path, as that of a track without
+/// a file, names nothing.
+std::optional<FileAttributes> FileDeletion::fileOf(const TrackRecord& record) const {
     const std::string path = record.location.string();
-    return isPath(path) && m_files.exists(path) ? canonicalPath(m_files.localPath(path)) : std::string();
+    return isPath(path) ? m_files.attributes(path) : std::nullopt;
 }
 
-/// Looked at once more: a folder may have taken the place of the file since.
-const char* FileDeletion::obstacleOf(const TrackRecord& record) const {
-    const auto attributes = m_files.attributes(record.location.string());
-    return fileObstacle(record.location, attributes ? attributes->kind : FileAttributes::Kind::other);
-}
-
-/// What tracks that share a file have in common; "" where there was no file.
-std::string FileDeletion::plannedFileOf(const TrackRecord& record) const {
+/// Null where there was no file.
+const PlannedFile* FileDeletion::plannedFileOf(const TrackRecord& record) const {
     const auto planned = m_plan.files.find(&record);
-    return planned == m_plan.files.end() ? std::string() : planned->second.path;
+    return planned == m_plan.files.end() ? nullptr : &planned->second;
 }
 
 /// What is thrown meanwhile is the reason, if the file stays.

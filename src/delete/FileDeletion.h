@@ -3,6 +3,8 @@
 
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
+#include "libraryfile/RecordedCleanup.h"
+#include "platform/Files.h"
 #include "platform/Result.h"
 
 #include <cstddef>
@@ -14,13 +16,13 @@ namespace songsweep {
 
 class AppleScript;
 class Cleanup;
-class Files;
 
 /// Has Finder trash the files of marked tracks, one after the other, and tells what became of them when all
 /// that waits has been done.
 ///
-/// A file goes only where it is still the one that the plan was made of: its location may lead elsewhere by
-/// then, as when the file of the name's other Unicode form has gone before. A worker thread.
+/// A file goes only where it is still the one that the plan was made of, by device, inode, size and time: its
+/// location may lead elsewhere by then, as when the file of the name's other Unicode form has gone before. A
+/// look at the file system for each file before Finder is told, and one after it. A worker thread.
 class FileDeletion {
   public:
     /// Scripts and files outlive it.
@@ -29,6 +31,8 @@ class FileDeletion {
         , m_files(files)
         , m_plan(std::move(plan)) {}
 
+    /// What is planned for a marked track, and for its file if files go.
+    RecordedTrack planFor(const TrackRecord& record, bool withFile) const;
     /// Deals with the track's file; the outcome is the report's next one. An exception of the standard kind,
     /// whatever it comes from, only keeps the file.
     void deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number);
@@ -46,10 +50,9 @@ class FileDeletion {
     };
 
     void decide(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number);
-    void trash(const TrackRecord& record, const std::string& file, std::size_t number);
-    const char* obstacleOf(const TrackRecord& record) const;
-    std::string fileOf(const TrackRecord& record) const;
-    std::string plannedFileOf(const TrackRecord& record) const;
+    void trash(const TrackRecord& record, const std::string& hfs, std::size_t number);
+    std::optional<FileAttributes> fileOf(const TrackRecord& record) const;
+    const PlannedFile* plannedFileOf(const TrackRecord& record) const;
     Result<void> tellFinder(const std::string& text);
 
     AppleScript& m_scripts;

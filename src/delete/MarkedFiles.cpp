@@ -23,11 +23,17 @@ const std::string* refusalOf(const MarkedFile& file, const DeletePlan& plan) {
 
 } // namespace
 
+FileStamp stampOf(const FileAttributes& file) {
+    return {file.device, file.inode, file.size, file.modificationNanoseconds};
+}
+
 std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     const std::string path = track.location.string();
     const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
     if (!attributes) return std::nullopt;
-    PlannedFile planned = {canonicalPath(m_files.localPath(path)), fileObstacle(path, attributes->kind)};
+    PlannedFile planned = {.path = canonicalPath(m_files.localPath(path)),
+                           .obstacle = fileObstacle(path, attributes->kind),
+                           .stamp = stampOf(*attributes)};
     const auto [name, isNew] = m_byKey[keyOf(*attributes)].try_emplace(planned.path);
     MarkedFile& file = name->second;
     if (isNew) m_bySight.emplace(sightOf(*attributes), &file);

@@ -16,6 +16,9 @@
 
 namespace songsweep {
 
+/// By what a change of the file is noticed.
+FileStamp stampOf(const FileAttributes& file);
+
 /// One file under one name, with the marked tracks that use it.
 struct MarkedFile {
     std::vector<const TrackRecord*> tracks;

@@ -11,10 +11,21 @@ const char* trackObstacle(std::string_view pid) {
     return canStandInText(pid) ? nullptr : "its persistent ID cannot be told to iTunes";
 }
 
+const char* kindObstacle(FileAttributes::Kind kind) {
+    switch (kind) {
+    case FileAttributes::Kind::file:
+        return nullptr;
+    case FileAttributes::Kind::folder:
+        return "it is a folder";
+    case FileAttributes::Kind::other:
+        break;
+    }
+    return "it is no regular file";
+}
+
 const char* fileObstacle(std::string_view location, FileAttributes::Kind kind) {
-    if (kind == FileAttributes::Kind::folder) return "it is a folder";
-    if (kind == FileAttributes::Kind::other) return "it is no regular file";
-    return canNameFile(location) ? nullptr : "its name cannot be told to Finder";
+    if (const char* const obstacle = kindObstacle(kind)) return obstacle;
+    return canNameFile(location) ? nullptr : unnameable;
 }
 
 bool isKeptByPlan(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome) {

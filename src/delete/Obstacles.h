@@ -13,8 +13,11 @@ namespace songsweep {
 /// with it. A phrase for an outcome.
 const char* trackObstacle(std::string_view pid);
 
-/// Why what exists at a location stays though it is to be trashed; null where nothing is in the way. A folder
-/// would take the files of other tracks with it.
+/// Why what is no file stays; null for a file. A folder would take the files of other tracks with it.
+const char* kindObstacle(FileAttributes::Kind kind);
+/// Of a file whose path cannot stand in a text.
+inline constexpr const char* unnameable = "its name cannot be told to Finder";
+/// Why what exists at a location stays though it is to be trashed; null where nothing is in the way.
 const char* fileObstacle(std::string_view location, FileAttributes::Kind kind);
 
 /// Whether the file of a marked track stays by the plan, for the sake of its own track or of others; notes it

@@ -88,7 +88,7 @@ Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view 
     const std::size_t before = pendingOf(m_library.opened());
     auto result = m_interpreter.run(source, places);
     noteChanges(before);
-    if (auto deleted = deleteFilesOfScript(); !deleted) return deleted.error();
+    if (auto ended = endText(); !ended) return ended.error();
     return result;
 }
 
@@ -99,20 +99,29 @@ Result<void> EmbeddedScripting::deleteFile(const std::string& path) {
         m_cleanup.holdFile(path);
         return {};
     }
-    if (m_library.opened() && m_library.opened()->pendingDeletions() > 0) {
-        m_heldFiles.hold(path, {});
-        return {};
-    }
-    const Result<TrashedFile> trashed = m_iTunes.desktop.trash().moveToTrash(path);
-    return trashed ? Result<void>() : Result<void>(trashed.error());
+    const auto stamp = LibraryFile::stampOf(path);
+    if (!stamp) return stamp.error();
+    m_filesOfText.push_back({path, stamp.value()});
+    return m_library.opened() && m_library.opened()->pendingDeletions() > 0 ? Result<void>()
+                                                                            : moveFilesOfText();
 }
 
-Result<void> EmbeddedScripting::deleteFilesOfScript() {
-    if (m_heldFiles.isEmpty()) return {};
-    Result<void> deleted = flushLocked();
-    if (deleted) deleted = m_heldFiles.firstError();
-    m_heldFiles.clear();
-    return deleted;
+Result<void> EmbeddedScripting::moveFilesOfText() {
+    Result<void> moved;
+    for (const HeldFile& file : std::exchange(m_filesOfText, {})) {
+        const auto trashed = file.moveTo(m_iTunes.desktop.trash());
+        if (!trashed && moved) moved = trashed.error();
+    }
+    return moved;
+}
+
+/// A text that deletes files has what is pending written first, with what it deleted itself.
+Result<void> EmbeddedScripting::endText() {
+    if (m_filesOfText.empty()) return {};
+    auto written = flushLocked();
+    if (written) return moveFilesOfText();
+    m_filesOfText.clear();
+    return written;
 }
 
 void EmbeddedScripting::noteChanges(std::size_t before) {
@@ -217,9 +226,7 @@ Result<void> EmbeddedScripting::flushLocked() {
         return {};
     }
     if (m_cleanup.isOn()) return m_cleanup.write(*document);
-    auto written = writePending(*document);
-    if (written) m_heldFiles.release(*document, m_iTunes.desktop.trash());
-    return written;
+    return writePending(*document);
 }
 
 Result<void> EmbeddedScripting::writePending(LibraryDocument& document) {
@@ -235,8 +242,7 @@ void EmbeddedScripting::tellOfWrite(const Result<void>& written, const std::stri
     if (m_log != nullptr)
         m_log->line(written ? "Library written : " + what
                             : "Library not written : " + written.error().message);
-    if (!written && !m_toldOfFailure) m_writeFailed(written.error());
-    m_toldOfFailure = !written;
+    if (!written && !m_cleanup.isOn()) m_writeFailed(written.error());
 }
 
 std::size_t EmbeddedScripting::pendingDeletions() const {
@@ -247,11 +253,6 @@ std::size_t EmbeddedScripting::pendingDeletions() const {
 std::optional<Error> EmbeddedScripting::lastWriteError() const {
     const std::lock_guard lock(m_lock);
     return m_library.opened() ? m_library.opened()->lastWriteError() : std::nullopt;
-}
-
-std::string EmbeddedScripting::backup() const {
-    const std::lock_guard lock(m_lock);
-    return m_library.opened() ? m_library.opened()->backup() : std::string();
 }
 
 /// The writer's loop: waits until something is due and writes it, between two texts.

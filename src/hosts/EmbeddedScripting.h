@@ -35,8 +35,9 @@ class Log;
 /// reason.
 ///
 /// A file never goes to the Trash before a deletion that was told earlier is on the disk. Within a clean-up
-/// files are held until a written library does not name their tracks; outside of one the text that deletes a
-/// file has pending deletions written at its end, and fails, with the file in its place, where that fails.
+/// files are held until a written library does not name their tracks, see LibraryCleanup; outside of one the
+/// text that deletes a file has pending deletions written at its end, and fails, with the file in its place,
+/// where that fails.
 ///
 ///     EmbeddedScripting scripts(path, desktop, files);
 ///     scripts.executeAndReturnError("tell application \"iTunes\" to get version");
@@ -49,8 +50,8 @@ class EmbeddedScripting final : public AppleScript {
         WriteSchedule::Times writes;
         LibraryDocument::Options library;
         Log* log = nullptr; ///< told of every write and of every failed one
-        /// Told of the first failed write after one that succeeded. Comes on any thread, and must not call
-        /// back.
+        /// Told of every failed write but those of a clean-up, which tells of them itself. Comes on any
+        /// thread, and must not call back.
         std::function<void(const Error&)> writeFailed = [](const Error&) {};
     };
 
@@ -104,8 +105,6 @@ class EmbeddedScripting final : public AppleScript {
         const std::lock_guard lock(m_lock);
         return act(m_cleanup);
     }
-    /// The backup of the last clean-up, "" while nothing was written.
-    std::string backup() const;
 
   private:
     using Places = InterpretedAppleScript::Places;
@@ -117,14 +116,15 @@ class EmbeddedScripting final : public AppleScript {
     Result<void> flushLocked();
     Result<void> writePending(LibraryDocument& document);
     Result<void> deleteFile(const std::string& path);
-    Result<void> deleteFilesOfScript();
+    Result<void> moveFilesOfText();
+    Result<void> endText();
     void tellOfWrite(const Result<void>& written, const std::string& what);
     void noteChanges(std::size_t before);
     void writeWhenDue(const std::stop_token& stop);
 
     mutable std::mutex m_lock; // of everything below, and held while a text runs
     EmbeddedLibrary m_library;
-    HeldFiles m_heldFiles; ///< of the text that runs, outside of a clean-up
+    std::vector<HeldFile> m_filesOfText; ///< that the text deletes which runs, outside of a clean-up
     LibraryCleanup m_cleanup;
     ITunesServices m_iTunes;
     InterpretedAppleScript m_interpreter;
@@ -133,7 +133,6 @@ class EmbeddedScripting final : public AppleScript {
     LibraryDocument::Options m_libraryOptions;
     Log* m_log;
     std::function<void(const Error&)> m_writeFailed;
-    bool m_toldOfFailure = false;
     std::condition_variable_any m_scheduleChanged;
     std::jthread m_writer; // last, so that it ends first
 };

@@ -48,7 +48,7 @@ class Look {
         if (path.empty() || (!track.trash && !wasUnderWay(track))) return {};
         if (!m_seen.insert(path).second) return {};
         if (isThere(path) && isThatFile(path, track.plan.file))
-            return {Fate::isThere, track.trash ? trashedFile(*track.trash) : TrashedFile()};
+            return {Fate::isThere, track.trash.value_or(TrashedFile())};
         const std::optional<TrashedFile> place = placeOf(track);
         if (!place) return {isThere(path) && !track.trash ? Fate::none : Fate::isGone, {}};
         if (isThere(path)) return {Fate::isOccupied, {}};
@@ -56,14 +56,12 @@ class Look {
     }
 
   private:
-    static TrashedFile trashedFile(const TrashPlace& place) { return {place.folder, place.name}; }
-
     /// Nothing tells whether it went: the program was killed meanwhile.
     static bool wasUnderWay(const RecordedCleanup::Track& track) { return track.begun && !track.outcome; }
 
     std::optional<TrashedFile> placeOf(const RecordedCleanup::Track& track) {
         if (!track.trash) return m_trash.findInTrash(track.plan.path, m_begin);
-        const TrashedFile place = trashedFile(*track.trash);
+        const TrashedFile& place = *track.trash;
         if (isThere(place.path()) && isThatFile(place.path(), track.plan.file)) return place;
         return std::nullopt;
     }

@@ -5,53 +5,40 @@
 #include "platform/Result.h"
 #include "platform/Trash.h"
 
-#include <optional>
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace songsweep {
 
-class LibraryDocument;
+/// A file that is to go to the Trash later, as the very one that it was.
+struct HeldFile {
+    std::string path;                     ///< local
+    FileStamp stamp;                      ///< of a link, that of its file
+    std::vector<std::size_t> tracks = {}; ///< that it belongs to, by their numbers in a plan
+
+    /// Moves it, unless another file has its place, or it was written to, since. A link goes also where its
+    /// file has gone before.
+    Result<TrashedFile> moveTo(Trash& trash) const;
+};
 
 /// Files that are to go to the Trash once the library on the disk names their tracks no more.
 ///
-/// So no kill and no failed write leaves a track in the library whose file is gone. A file goes only as the
-/// very one that it was when it was handed in. What became of each file can be asked until `clear`. Guarded
-/// by the scripts' lock.
+/// So no kill and no failed write leaves a track in the library whose file is gone. In the order in which
+/// they were handed in; a file comes once, whatever the number of its tracks. Guarded by the scripts' lock.
 class HeldFiles {
   public:
-    /// Holds a file, by its local path, for the track of that persistent ID; "" where it belongs to none.
-    /// Tracks that share a file each hold it.
-    void hold(const std::string& path, const std::string& persistentId);
+    void hold(HeldFile file, std::size_t track);
 
-    /// Moves the files whose tracks the library, which has nothing left to write, does not name; the others
-    /// stay held.
-    void release(LibraryDocument& library, Trash& trash);
-    /// Those that are still held stay where they are.
-    void keep(const std::string& reason);
-    /// Forgets everything.
-    void clear();
-
-    /// Of a file that could not be moved; nothing where all could.
-    Result<void> firstError() const;
-
-    bool isEmpty() const { return m_held.empty(); }
-    /// What became of a file; nothing where it is held, or was never handed in.
-    std::optional<Result<TrashedFile>> fateOf(const std::string& path) const;
+    /// Takes out the files of which that is true.
+    std::vector<HeldFile> take(const std::function<bool(const HeldFile&)>& goes);
+    std::vector<HeldFile> takeAll();
 
   private:
-    struct Held {
-        std::string path;
-        std::optional<FileStamp> stamp;
-        std::vector<std::string> persistentIds;
-    };
-
-    static Result<TrashedFile> move(const Held& file, Trash& trash);
-
-    std::vector<Held> m_held;                              // in the order in which they go
-    std::unordered_map<std::string, std::size_t> m_places; // of the held ones, by path
-    std::unordered_map<std::string, Result<TrashedFile>> m_fates;
+    std::vector<HeldFile> m_files;
+    std::unordered_map<std::string, std::size_t> m_places; // in the list, by path
 };
 
 } // namespace songsweep

@@ -3,7 +3,30 @@
 
 #include "hosts/EmbeddedLibrary.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace songsweep {
+
+namespace {
+
+constexpr std::size_t filesABatch = 64; // that are written down, on the disk, before they are moved
+
+std::vector<std::size_t> tracksOf(std::span<const HeldFile> files) {
+    std::vector<std::size_t> tracks;
+    for (const HeldFile& file : files)
+        tracks.insert(tracks.end(), file.tracks.begin(), file.tracks.end());
+    return tracks;
+}
+
+/// The track ID in this version of the library; nothing is known where another track has it now.
+std::int64_t presentId(LibraryDocument& library, const RecordedTrack& track) {
+    for (const auto position : library.tracksWithPersistentId(track.persistentId))
+        if (library.trackId(position) == track.trackId) return track.trackId;
+    return -1;
+}
+
+} // namespace
 
 Result<void> LibraryCleanup::lock(const CleanupLock::Request& request) {
     m_library.beginScript();
@@ -11,21 +34,53 @@ Result<void> LibraryCleanup::lock(const CleanupLock::Request& request) {
     return document ? document.value()->lockForCleanup(request) : Result<void>(document.error());
 }
 
-Result<void> LibraryCleanup::begin(const CleanupLock::Request& request) {
+Result<void> LibraryCleanup::begin(const CleanupLock::Request& request, CleanupPlan plan) {
     if (m_library.opened() != nullptr)
         if (auto written = m_write(*m_library.opened()); !written) return written;
     m_library.beginScript();
     const auto document = m_library.document();
     if (!document) return document.error();
-    auto begun = document.value()->beginCleanup(request);
-    m_files.clear();
-    m_isOn = begun.hasValue();
-    return begun;
+    if (auto begun = document.value()->beginCleanup(request); !begun) return begun;
+    auto recorded = beginRecord(*document.value(), std::move(plan));
+    if (!recorded) document.value()->abandonCleanup();
+    return recorded;
 }
 
-bool LibraryCleanup::beginTrack(const std::string& persistentId) {
-    m_track = persistentId;
+Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan plan) {
+    RecordHeading heading = library.cleanupHeading();
+    heading.program = std::move(plan.program);
+    heading.tracks = plan.tracks.size();
+    heading.withFiles = plan.withFiles;
+    const std::string backup = heading.backup;
+    auto record = CleanupRecord::create(std::move(heading));
+    if (!record) return record.error();
+    for (RecordedTrack& track : plan.tracks) {
+        track.trackId = presentId(library, track);
+        record.value().plan(track);
+    }
+    if (auto planned = record.value().planned(); !planned) {
+        record.value().discard();
+        return planned;
+    }
+    m_backup = backup;
+    m_recordPath = record.value().path();
+    m_record = std::move(record).value();
+    m_plan = std::move(plan.tracks);
+    m_fates.assign(m_plan.size(), std::nullopt);
+    m_written.assign(m_plan.size(), false);
+    m_firstUnwritten = 0;
+    m_track = 0;
+    m_error.reset();
+    return {};
+}
+
+bool LibraryCleanup::beginTrack(std::size_t number) {
+    m_track = number;
     return !m_error;
+}
+
+void LibraryCleanup::holdFile(const std::string& path) {
+    m_files.hold({path, m_plan[m_track].file}, m_track);
 }
 
 Result<void> LibraryCleanup::write(LibraryDocument& library) {
@@ -33,29 +88,84 @@ Result<void> LibraryCleanup::write(LibraryDocument& library) {
         library.rollback(); // What was told meanwhile is not written either.
         return *m_error;
     }
-    auto written = m_write(library);
-    if (written) {
-        m_files.release(library, m_trash);
-    } else {
-        m_error = written.error();
-    }
+    auto written = writeLibrary(library);
+    if (written) written = moveFiles(library);
+    if (!written) m_error = written.error();
     return written;
+}
+
+Result<void> LibraryCleanup::writeLibrary(LibraryDocument& library) {
+    if (library.pendingDeletions() == 0) return m_write(library);
+    auto noted = m_record->writing(library.pendingDeletions());
+    if (!noted) library.rollback();
+    auto written = m_write(library);
+    if (!noted) return noted;
+    if (!written) return written;
+    m_record->written();
+    noteWritten(library);
+    return {};
+}
+
+/// The track in hand may have been told but in part; it is looked at again after the next write.
+void LibraryCleanup::noteWritten(LibraryDocument& library) {
+    for (std::size_t track = m_firstUnwritten; track <= m_track; ++track)
+        m_written[track] = library.tracksWithPersistentId(m_plan[track].persistentId).empty();
+    m_firstUnwritten = m_track;
+}
+
+Result<void> LibraryCleanup::moveFiles(LibraryDocument& library) {
+    const auto files = m_files.take([&](const HeldFile& file) { return isGone(file, library); });
+    Result<void> noted;
+    for (std::span<const HeldFile> rest = files; !rest.empty();) {
+        const auto batch = rest.first(std::min(filesABatch, rest.size()));
+        if (noted) noted = m_record->trashing(tracksOf(batch));
+        for (const HeldFile& file : batch)
+            settle(file, noted ? file.moveTo(m_trash) : Result<TrashedFile>(noted.error()));
+        rest = rest.subspan(batch.size());
+    }
+    return noted;
+}
+
+bool LibraryCleanup::isGone(const HeldFile& file, LibraryDocument& library) const {
+    return std::all_of(file.tracks.begin(), file.tracks.end(), [&](std::size_t track) {
+        return library.tracksWithPersistentId(m_plan[track].persistentId).empty();
+    });
+}
+
+void LibraryCleanup::settle(const HeldFile& file, const Result<TrashedFile>& fate) {
+    for (const std::size_t track : file.tracks) {
+        m_fates[track] = fate;
+        if (fate) m_record->trashed(track, fate.value());
+    }
 }
 
 Result<void> LibraryCleanup::finish() {
-    LibraryDocument* const document = m_library.opened();
-    auto written = document != nullptr ? write(*document) : Result<void>();
-    m_files.keep("its track is still in the library");
-    if (document != nullptr) document->endCleanup();
-    m_isOn = false;
-    m_error.reset();
-    m_track.clear();
+    Result<void> written;
+    if (m_library.opened() != nullptr) written = write(*m_library.opened());
+    const Error kept = {Error::Code::failed, "its track is still in the library"};
+    for (const HeldFile& file : m_files.takeAll())
+        settle(file, kept);
+    m_library.beginScript(); // What is told from here on is what the disk says, whatever a write said.
+    static_cast<void>(m_library.document());
     return written;
 }
 
-bool LibraryCleanup::hasTrack(const std::string& persistentId) const {
+bool LibraryCleanup::hasTrack(std::size_t number) const {
     LibraryDocument* const document = m_library.opened();
-    return document != nullptr && !document->tracksWithPersistentId(persistentId).empty();
+    if (m_library.error() || document == nullptr) return !m_written[number];
+    return !document->tracksWithPersistentId(m_plan[number].persistentId).empty();
+}
+
+Result<void> LibraryCleanup::end(std::span<const RecordedOutcome> outcomes, RecordEnd::How how,
+                                 const std::string& reason) {
+    for (std::size_t track = 0; track < outcomes.size(); ++track)
+        m_record->outcome(track, outcomes[track]);
+    auto ended = m_record->end(how, reason);
+    m_record.reset();
+    if (m_library.opened() != nullptr) m_library.opened()->endCleanup();
+    m_plan.clear();
+    m_error.reset();
+    return ended;
 }
 
 } // namespace songsweep

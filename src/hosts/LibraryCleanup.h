@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "hosts/CleanupPlan.h"
 #include "hosts/HeldFiles.h"
 #include "libraryfile/CleanupLock.h"
-#include "platform/Result.h"
-#include "platform/Trash.h"
+#include "libraryfile/CleanupRecord.h"
 
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace songsweep {
 
 class EmbeddedLibrary;
 class LibraryDocument;
 
-/// What a clean-up adds to the scripts over a library file: one lock from its beginning to its end, files
-/// that wait until their tracks are written out of the library, and an end of all writing with the first that
-/// fails, so that what is told as not done is never done later.
+/// What a clean-up adds to the scripts over a library file: one lock from its beginning to its end, a record
+/// that is ahead of each step, files that wait until their tracks are written out of the library, and an end
+/// of all writing with the first that fails, so that what is told as not done is never done later.
 ///
 /// Apart from the scripts, which run texts and know no order of them. Guarded by the scripts' lock.
 class LibraryCleanup {
@@ -33,36 +35,57 @@ class LibraryCleanup {
 
     /// Locks the library for a clean-up that has yet to begin, and removes what killed programs left.
     Result<void> lock(const CleanupLock::Request& request);
-    /// Writes what is pending, locks the library until `finish`, makes a backup and tries the replacing. An
-    /// error where that fails, so that nothing must be deleted. Takes as long as a copy of the library.
-    Result<void> begin(const CleanupLock::Request& request);
-    bool isOn() const { return m_isOn; }
+    /// Writes what is pending, locks the library until `end`, makes a backup, tries the replacing, and writes
+    /// the plan down. An error where that fails, so that nothing must be deleted; nothing is left of it then.
+    /// Takes as long as a copy of the library.
+    Result<void> begin(const CleanupLock::Request& request, CleanupPlan plan);
+    bool isOn() const { return m_record.has_value(); }
 
-    /// The next texts are about the track of that ID. False where a write has failed: then nothing is written
-    /// any more and no further track must be begun.
-    bool beginTrack(const std::string& persistentId);
+    /// The next texts are about the track of that number in the plan. False where a write has failed: then
+    /// nothing is written any more and no further track must be begun.
+    bool beginTrack(std::size_t number);
     /// A text deletes the file of the track in hand.
-    void holdFile(const std::string& path) { m_files.hold(path, m_track); }
+    void holdFile(const std::string& path);
     /// Writes what is pending, and moves the files whose tracks are gone.
     Result<void> write(LibraryDocument& library);
-    /// Does what is left; the reason where a write of this clean-up failed. Its deletions are forgotten then.
+    /// Does what is left; the reason where something could not be written. What was not is forgotten then.
     Result<void> finish();
 
-    /// Whether the library has a track of that ID.
-    bool hasTrack(const std::string& persistentId) const;
-    /// What became of a file of the last clean-up, by its local path.
-    std::optional<Result<TrashedFile>> fateOfFile(const std::string& path) const {
-        return m_files.fateOf(path);
-    }
+    /// Whether the library on the disk has a track of the plan. After `finish`; of a library that cannot be
+    /// read any more, what the last good write made of it.
+    bool hasTrack(std::size_t number) const;
+    /// What became of the file of a track of the plan; nothing where no text deleted it. After `finish`.
+    std::optional<Result<TrashedFile>> fateOfFile(std::size_t track) const { return m_fates.at(track); }
+
+    /// Writes down what became of the tracks of the plan, and unlocks the library.
+    Result<void> end(std::span<const RecordedOutcome> outcomes, RecordEnd::How how,
+                     const std::string& reason);
+
+    /// Of this clean-up, or of the last one.
+    const std::string& backup() const { return m_backup; }
+    const std::string& record() const { return m_recordPath; }
 
   private:
+    Result<void> beginRecord(LibraryDocument& library, CleanupPlan plan);
+    Result<void> writeLibrary(LibraryDocument& library);
+    Result<void> moveFiles(LibraryDocument& library);
+    void noteWritten(LibraryDocument& library);
+    void settle(const HeldFile& file, const Result<TrashedFile>& fate);
+    bool isGone(const HeldFile& file, LibraryDocument& library) const;
+
     EmbeddedLibrary& m_library;
     Trash& m_trash;
     Write m_write;
+    std::optional<CleanupRecord> m_record; ///< while the clean-up is on
+    std::string m_backup;
+    std::string m_recordPath;
+    std::vector<RecordedTrack> m_plan;
     HeldFiles m_files;
-    bool m_isOn = false;
-    std::optional<Error> m_error; ///< of its first failed write
-    std::string m_track;          ///< the persistent ID of the track in hand
+    std::vector<std::optional<Result<TrashedFile>>> m_fates; ///< by track of the plan
+    std::vector<bool> m_written;      ///< the tracks that a written library does not have
+    std::size_t m_firstUnwritten = 0; ///< the tracks before this one were told before the last write
+    std::optional<Error> m_error;     ///< of the first step that failed
+    std::size_t m_track = 0;          ///< the one in hand
 };
 
 } // namespace songsweep

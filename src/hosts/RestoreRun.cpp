@@ -114,7 +114,7 @@ void RestoreRun::moveFile(std::size_t index, const TrashedFile& place) {
     const Result<RestoredFile> moved = m_trash.restoreFromTrash(place, track.plan.path);
     if (moved) {
         track.file = File::putBack;
-        return m_record.trashed(index, {place.trashFolder, place.name});
+        return m_record.trashed(index, place);
     }
     if (moved.error().code == Error::Code::notFound) return track.setFileGone();
     if (moved.error().code == Error::Code::alreadyExists) return track.setFileOccupied();

@@ -136,10 +136,10 @@ Result<void> CleanupRecord::trashing(std::span<const std::size_t> tracks) {
     return flush();
 }
 
-void CleanupRecord::trashed(std::size_t track, const TrashPlace& place) {
+void CleanupRecord::trashed(std::size_t track, const TrashedFile& place) {
     JsonLine line;
     line.text("step", "trashed").number("track", static_cast<std::int64_t>(track));
-    add(line.text("folder", place.folder).text("name", place.name).finished());
+    add(line.text("folder", place.trashFolder).text("name", place.name).finished());
     handOver();
 }
 
@@ -170,6 +170,11 @@ Result<void> CleanupRecord::end(RecordEnd::How how, const std::string& reason) {
     if (size >= 0 && ::ftruncate(m_descriptor, size) != 0 && ended)
         return systemError(errno, "write", m_path);
     return ended;
+}
+
+void CleanupRecord::discard() {
+    ::unlink(m_path.c_str());
+    m_waiting.clear();
 }
 
 void CleanupRecord::add(const std::string& line) {

@@ -53,9 +53,12 @@ class CleanupRecord {
     /// The files of these tracks are moved now. On the disk.
     Result<void> trashing(std::span<const std::size_t> tracks);
     /// A file lies in the Trash there, or came back from there. Handed to the system at once.
-    void trashed(std::size_t track, const TrashPlace& place);
+    void trashed(std::size_t track, const TrashedFile& place);
 
     void outcome(std::size_t track, const RecordedOutcome& outcome);
+
+    /// Removes the record of what never began.
+    void discard();
 
     /// Counts what the outcomes said. On the disk.
     Result<void> end(RecordEnd::How how, const std::string& reason);

@@ -7,6 +7,7 @@
 #include "libraryfile/LibraryIndex.h"
 #include "libraryfile/LibraryTransaction.h"
 #include "libraryfile/LocationPass.h"
+#include "libraryfile/RecordedCleanup.h"
 #include "libraryfile/SameTracks.h"
 #include "libraryfile/TrackFields.h"
 
@@ -167,11 +168,13 @@ class LibraryDocument {
     /// file.
     Result<void> beginCleanup(const CleanupLock::Request& request);
     void endCleanup();
+    /// Ends a clean-up in which nothing was written, and removes its backup.
+    void abandonCleanup();
+    /// What the record of this clean-up begins with, as far as the library knows it.
+    RecordHeading cleanupHeading() const;
 
     /// The backup of this clean-up, "" while there is none.
     std::string backup() const { return m_backup ? m_backup->path() : std::string(); }
-    /// Whether a write by another program could get lost in the moment of a write, see LibraryReplacement.
-    bool isNarrowed() const { return m_transaction && m_transaction->isNarrowed(); }
 
   private:
     struct Cached {

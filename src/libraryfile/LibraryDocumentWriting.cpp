@@ -34,6 +34,21 @@ Result<void> LibraryDocument::beginCleanup(const CleanupLock::Request& request) 
 
 void LibraryDocument::endCleanup() { m_transaction.reset(); }
 
+void LibraryDocument::abandonCleanup() {
+    if (m_transaction) m_transaction->abandon();
+    m_backup.reset();
+    endCleanup();
+}
+
+RecordHeading LibraryDocument::cleanupHeading() const {
+    RecordHeading heading;
+    heading.library = m_transaction->library();
+    heading.backup = m_backup->path();
+    heading.version = m_backup->version();
+    heading.isNarrowed = m_transaction->isNarrowed();
+    return heading;
+}
+
 Result<void> LibraryDocument::flush() {
     if (!isChanged()) return {};
     auto written = write();

@@ -27,7 +27,7 @@ Result<void> LibraryTransaction::prepare(const LibraryFile& file, const FileStam
     m_room = 0;
     auto reserved = m_replacement.reserve(room);
     if (reserved) m_room = room;
-    if (!reserved && isFirst) removeBackup();
+    if (!reserved && isFirst) abandon();
     return reserved;
 }
 
@@ -43,8 +43,9 @@ Result<void> LibraryTransaction::keepBackup(const LibraryFile& file, const FileS
     return {};
 }
 
-/// A backup of what never began is of no use to anybody, and takes the room that is missing.
-void LibraryTransaction::removeBackup() {
+/// It is of no use to anybody, and takes the room that may be missing.
+void LibraryTransaction::abandon() {
+    if (!m_backup) return;
     ::unlink(m_backup->path().c_str());
     m_backup.reset();
 }

@@ -29,6 +29,9 @@ class LibraryTransaction {
     /// not the library any more.
     Result<void> prepare(const LibraryFile& file, const FileStamp& version, std::uint64_t room);
 
+    /// Removes the backup of what never began.
+    void abandon();
+
     /// Goes on with the backup that an earlier transaction made.
     void adoptBackup(std::optional<Backup> backup) { m_backup = std::move(backup); }
     const std::optional<Backup>& backup() const { return m_backup; }
@@ -55,7 +58,6 @@ class LibraryTransaction {
         , m_replacement(m_lock.library()) {}
 
     Result<void> keepBackup(const LibraryFile& file, const FileStamp& version);
-    void removeBackup();
     Result<LibraryIndex> readBack(const TemporaryFile& written, const Check& check) const;
 
     CleanupLock m_lock; // first, so that it ends last

@@ -71,7 +71,7 @@ class Reader {
 
     bool takePlace(const RecordLine& line) {
         RecordedCleanup::Track* track = trackOf(line);
-        if (track != nullptr) track->trash = TrashPlace{line.text("folder"), line.text("name")};
+        if (track != nullptr) track->trash = TrashedFile{line.text("folder"), line.text("name")};
         return track != nullptr;
     }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "libraryfile/LibraryFile.h"
+#include "platform/Trash.h"
 
 #include <cstdint>
 #include <optional>
@@ -17,18 +18,10 @@ struct RecordedTrack {
     std::string name;
     std::string artist;
     std::string path; ///< of its file, local and as it is; "" where no file is to go
-    std::string kept; ///< why its file stays, "" where it is to go or there is none
+    std::string kept; ///< why its file will stay, as far as is known; "" where it is to go or there is none
     FileStamp file;   ///< of the file, where one is to go
 
     bool operator==(const RecordedTrack&) const = default;
-};
-
-/// Where a file lies in the Trash, as the Trash tells it: the folder that it lies in, and its name there.
-struct TrashPlace {
-    std::string folder;
-    std::string name;
-
-    bool operator==(const TrashPlace&) const = default;
 };
 
 /// What became of a track and of its file.
@@ -78,8 +71,8 @@ struct RecordEnd {
 struct RecordedCleanup {
     struct Track {
         RecordedTrack plan;
-        bool begun = false;              ///< its file was to be moved now
-        std::optional<TrashPlace> trash; ///< where its file went, or came from
+        bool begun = false;               ///< its file was to be moved now
+        std::optional<TrashedFile> trash; ///< where its file went, or came from
         std::optional<RecordedOutcome> outcome;
     };
 

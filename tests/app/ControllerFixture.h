@@ -68,11 +68,13 @@ class NoSleep final : public Sleeper {
     void sleep(std::chrono::milliseconds) override {}
 };
 
-/// A frame that lets a deletion begin or not.
+/// A frame that lets a deletion begin, and write what it did, or not.
 class GivenCleanup final : public Cleanup {
   public:
-    Result<void> begin() override { return mayBegin; }
+    Result<void> begin(std::vector<RecordedTrack>, Files) override { return mayBegin; }
+    Result<void> finish() override { return canWrite; }
     Result<void> mayBegin;
+    Result<void> canWrite;
 };
 
 /// A controller over a fake iTunes and a view that records.

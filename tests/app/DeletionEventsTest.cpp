@@ -120,6 +120,19 @@ TEST_F(DeletionEventsTest, ADeletionThatCouldNotBeWrittenDoesNotBegin) {
     EXPECT_EQ(deletedTracks(), 2);
 }
 
+TEST_F(DeletionEventsTest, ADeletionThatCannotBeWrittenEndsAsACancelledOneAndSaysSo) {
+    addMarkedRows({1, 1});
+    cleanup.canWrite = Error{Error::Code::noSpace, "the disk is full"};
+    confirm();
+    view.calls.clear();
+    controller->beginDelete();
+    runUntilIdle();
+    EXPECT_TRUE(view.has("alertCantGoOnDeleting the disk is full"));
+    EXPECT_TRUE(view.has("endProgress progress"));
+    EXPECT_FALSE(view.has("alertCantBeginDelete the disk is full"));
+    EXPECT_FALSE(controller->isDeleting());
+}
+
 TEST_F(DeletionEventsTest, ITunesIsStoppedBeforeTheDelay) {
     addMarkedRows({1, 1});
     confirm();

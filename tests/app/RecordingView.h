@@ -74,6 +74,9 @@ class RecordingView final : public ApplicationView,
         note("alertNoDuplicates");
         explanations = notes;
     }
+    void alertCantGoOnDeleting(const std::string& reason) override {
+        note("alertCantGoOnDeleting " + reason);
+    }
     void alertCantBeginDelete(const std::string& reason) override { note("alertCantBeginDelete " + reason); }
     void fillKinds(const std::vector<std::string>& kinds) override {
         std::string all;

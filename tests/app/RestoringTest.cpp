@@ -151,7 +151,7 @@ TEST_F(Restoring, NamesLostFilesAndLeavesTheirTracksOutWhereTheUserSaysSo) {
     const std::string record = deleteTwo();
     const auto cleanup = RecordedCleanup::read(record);
     ASSERT_TRUE(cleanup);
-    fs::remove(cleanup.value().tracks.at(0).trash->folder + "/" + cleanup.value().tracks.at(0).trash->name);
+    fs::remove(cleanup.value().tracks.at(0).trash->path());
     ASSERT_NO_FATAL_FAILURE(openSheet());
     EXPECT_THAT(lines(), HasSubstr("1 file is no longer in the Trash; its track is missing it."));
     auto& box = child<QCheckBox>(sheet(), "restoreLeaveLostCK");

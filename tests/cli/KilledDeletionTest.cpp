@@ -3,6 +3,7 @@
 #include "ProgramRun.h"
 #include "libraryfile/LibraryFile.h"
 #include "libraryfile/LibraryFixture.h"
+#include "libraryfile/RecordedCleanup.h"
 #include "libraryfile/WellFormedness.h"
 #include "platform/FileUrl.h"
 
@@ -136,6 +137,59 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
         }
     }
 
+    /// The record was ahead of everything that was done, and behind nothing that it calls done.
+    void checkRecord() {
+        const std::vector<RecordedCleanup> records = recordsThere();
+        if (records.empty()) {
+            EXPECT_TRUE(m_gone.empty());
+            EXPECT_EQ(m_trashed, 0);
+            return;
+        }
+        ASSERT_EQ(records.size(), 1U);
+        const RecordedCleanup& record = records.front();
+        if (!record.isPlanned) {
+            EXPECT_EQ(record.writesBegun, 0U);
+        }
+        if (record.writesBegun == 0) {
+            EXPECT_TRUE(m_gone.empty());
+        }
+        if (record.writesDone > 0) {
+            EXPECT_EQ(m_gone, m_marked);
+        }
+        if (!record.isPlanned) return;
+        ASSERT_EQ(record.tracks.size(), m_marked.size());
+        for (const RecordedCleanup::Track& track : record.tracks)
+            checkTrackOf(record, track);
+    }
+
+    void checkTrackOf(const RecordedCleanup& record, const RecordedCleanup::Track& track) {
+        SCOPED_TRACE(track.plan.path);
+        const bool isThere = fs::exists(track.plan.path);
+        EXPECT_TRUE(isThere || track.begun);
+        if (track.trash) {
+            EXPECT_FALSE(isThere);
+        }
+        if (track.trash) {
+            EXPECT_TRUE(fs::exists(track.trash->path()));
+        }
+        EXPECT_EQ(record.end.has_value() && !track.outcome, false);
+        if (!track.outcome) return;
+        EXPECT_EQ(track.outcome->track, RecordedOutcome::Track::deleted);
+        EXPECT_EQ(track.outcome->file, RecordedOutcome::File::trashed);
+        EXPECT_TRUE(track.trash);
+    }
+
+    std::vector<RecordedCleanup> recordsThere() const {
+        std::vector<RecordedCleanup> records;
+        for (const auto& entry : fs::directory_iterator(m_folder.path())) {
+            if (entry.path().extension() != ".jsonl" || entry.file_size() == 0) continue;
+            auto record = RecordedCleanup::read(entry.path().string());
+            EXPECT_TRUE(record) << record.error().message;
+            if (record) records.push_back(std::move(record).value());
+        }
+        return records;
+    }
+
     /// All is as it was made, so that a second run would be a first one.
     bool isUntouched() const {
         const auto entries = std::distance(fs::directory_iterator(m_folder.path()), {});
@@ -175,6 +229,7 @@ TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
         ASSERT_NO_FATAL_FAILURE(killAfter(delay));
         ASSERT_NO_FATAL_FAILURE(checkLibrary());
         ASSERT_NO_FATAL_FAILURE(checkFiles());
+        ASSERT_NO_FATAL_FAILURE(checkRecord());
         filesLeft += m_trashed < static_cast<int>(m_gone.size()) ? 1 : 0;
         ended += m_gone == m_marked ? 1 : 0;
         ASSERT_NO_FATAL_FAILURE(checkThatTheWorkCanBeCompleted());

@@ -38,6 +38,35 @@ TEST_F(MarkAndDelete, MarksWhatARuleLosesAndSaysWhy) {
     EXPECT_EQ(tree(), before) << "nothing is changed";
 }
 
+TEST_F(MarkAndDelete, NamesTheBackupTheRecordAndEachFileInTheTrash) {
+    const std::vector<std::string> options = {"--rule", "highest-bitrate", "--files", "--yes"};
+    auto withFormat = options;
+    withFormat.insert(withFormat.end(), {"--format", "json"});
+    const std::string before = m_folder.read("Library.xml");
+    const json parsed = json::parse(command("delete", withFormat).output);
+    const std::string backup = parsed.at("backup");
+    EXPECT_EQ(m_folder.read(fs::path(backup).filename().string()), before);
+    EXPECT_TRUE(fs::exists(parsed.at("record").get<std::string>()));
+    for (const json& outcome : parsed.at("outcomes"))
+        EXPECT_TRUE(fs::exists(outcome.at("trash").get<std::string>())) << outcome;
+
+    m_folder.write("Library.xml", before);
+    for (const int id : {1, 3})
+        m_folder.write("music/" + std::to_string(id) + ".mp3", "music");
+    const std::string text = command("delete", options).output;
+    EXPECT_THAT(text, HasSubstr("music/1.mp3, in the Trash as 1.2.mp3\n"));
+    EXPECT_THAT(text, HasSubstr("\nBackup: " + path("Library (")));
+    EXPECT_THAT(text, HasSubstr("\nRecord: " + path("Library (")));
+
+    m_folder.write("Library.xml", before);
+    m_folder.write("music/1.mp3", "music");
+    withFormat.back() = "csv";
+    const std::string csv = command("delete", withFormat).output;
+    for (const std::string& told : {path("home/data/Trash/files/1.3.mp3,"),
+                                    path("Library (before deletions of"), std::string(".jsonl")})
+        EXPECT_THAT(csv, HasSubstr(told));
+}
+
 TEST_F(MarkAndDelete, DeletesNothingWhereTheLibraryCannotBeWritten) {
     fs::create_directory(path("closed"));
     fs::rename(m_library, path("closed/Library.xml"));
@@ -272,7 +301,8 @@ TEST_F(MarkAndDelete, TellsOutcomesInJsonAndCsv) {
     EXPECT_EQ(outcomes.at("outcomes").size(), 2U);
     EXPECT_EQ(outcomes.at("outcomes").at(0).at("pid"), "0000000000000001");
     EXPECT_THAT(command("delete", {"--rule", "highest-bitrate", "--dry-run", "--format", "csv"}).output,
-                ::testing::StartsWith("pid,name,artist,location,track,file,reason,dealtwith,dryrun\r\n"));
+                ::testing::StartsWith("pid,name,artist,location,track,file,reason,dealtwith,dryrun,trash,"
+                                      "backup,record\r\n"));
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ProgramRun.h"
-#include "libraryfile/CleanupRecord.h"
 
 #include <map>
 #include <string>
@@ -10,7 +9,7 @@
 
 namespace songsweep::test {
 
-/// A library out of which the program deletes tracks with their files, and the record of that.
+/// A library out of which the program deletes tracks with their files.
 ///
 /// Of each song there are three copies, of which the middle one stays; two more tracks stay as well. With one
 /// song these are the tracks 1 to 5, of which 1 and 3 go.
@@ -40,9 +39,6 @@ class RecordedDeletionTest : public ProgramTest {
     bool m_isKilled = false; ///< the clean-up while it moved the files
 
   private:
-    std::vector<RecordedTrack> tracksToGo() const;
-    void writeRecord(const RecordHeading& heading, const std::vector<RecordedTrack>& tracks) const;
-
     int m_trackCount;
 };
 

@@ -47,7 +47,7 @@ TEST_F(Restore, IsRecordedWithABackupOfItsOwn) {
     ASSERT_TRUE(record.value().end);
     const RecordEnd expected{RecordEnd::How::complete, "", 2, 2, 14};
     EXPECT_EQ(*record.value().end, expected);
-    EXPECT_EQ(record.value().tracks.at(1).trash, (TrashPlace{path("home/data/Trash/files"), "3.mp3"}));
+    EXPECT_EQ(record.value().tracks.at(1).trash, (TrashedFile{path("home/data/Trash/files"), "3.mp3"}));
 }
 
 TEST_F(Restore, TellsBeforehandAndTouchesNothing) {

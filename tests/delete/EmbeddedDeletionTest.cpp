@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The road from a library file to a smaller one, with the program's own iTunes and Finder.
+#include "FolderTrash.h"
 #include "delete/DeleteFixture.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
@@ -12,13 +13,11 @@
 #include "library/WorkerEvent.h"
 #include "libraryfile/LibraryFixture.h"
 #include "operations/NotificationCenter.h"
-#include "platform/Desktop.h"
 #include "platform/FileUrl.h"
 #include "platform/Files.h"
 #include "platform/Preferences.h"
 #include "platform/Sleeper.h"
 #include "support/RecordingLog.h"
-#include "support/RecordingTrash.h"
 
 #include <QUrl>
 
@@ -34,60 +33,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-/// A Trash that is a folder, or refuses.
-class FolderTrash final : public Trash {
-  public:
-    explicit FolderTrash(std::string folder)
-        : m_folder(std::move(folder)) {
-        std::filesystem::create_directory(m_folder);
-    }
-
-    Result<TrashedFile> moveToTrash(const std::string& path) override {
-        if (beforeMove) beforeMove();
-        if (refuses) return Error{Error::Code::noSpace, "the Trash is full"};
-        const TrashedFile file = {m_folder, std::to_string(++trashed)};
-        std::filesystem::rename(path, file.path());
-        return file;
-    }
-    Result<RestoredFile> restoreFromTrash(const TrashedFile& file, const std::string& path) override {
-        std::filesystem::rename(file.path(), path);
-        return RestoredFile{};
-    }
-    std::optional<TrashedFile> findInTrash(const std::string&,
-                                           std::chrono::system_clock::time_point) override {
-        return std::nullopt;
-    }
-    std::unique_ptr<TrashCheck> newCheck() override { return std::make_unique<test::NoTrashCheck>(); }
-
-    bool refuses = false;
-    std::function<void()> beforeMove;
-    int trashed = 0;
-
-  private:
-    std::string m_folder;
-};
-
-class TrashOnlyDesktop final : public Desktop {
-  public:
-    explicit TrashOnlyDesktop(Trash& trash)
-        : m_trash(trash) {}
-
-    Trash& trash() override { return m_trash; }
-    Result<void> openUrl(const std::string&) override { return {}; }
-    Result<void> showInFileManager(const std::string&) override { return {}; }
-    Result<void> play(const std::string&) override { return {}; }
-    Result<void> stopPlaying() override { return {}; }
-    Result<void> setOutputMuted(bool isMuted) override {
-        muted = isMuted;
-        return {};
-    }
-
-    bool muted = false;
-
-  private:
-    Trash& m_trash;
-};
 
 class OneLibrary final : public Preferences {
   public:
@@ -163,7 +108,7 @@ class EmbeddedDeletionTest : public testing::Test {
             if (const auto* told = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload))
                 report = **told;
         });
-        EmbeddedCleanup cleanup(*m_scripts, [] { return true; }, {"a test"});
+        EmbeddedCleanup cleanup(*m_scripts, [] { return true; }, {{"a test", {}}, "Songsweep test"});
         const TracksOfId tracksOfId = [this](std::string_view pid) { return m_scripts->tracksOfId(pid); };
         DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log, cleanup, tracksOfId},
                    test::makeDeletePlan(list.rows, m_files, locations))
@@ -175,8 +120,8 @@ class EmbeddedDeletionTest : public testing::Test {
 
     test::Folder m_folder;
     std::string m_text; ///< of the library as it was
-    FolderTrash m_trash{m_folder.pathOf("Trash")};
-    TrashOnlyDesktop m_desktop{m_trash};
+    test::FolderTrash m_trash{m_folder.pathOf("Trash")};
+    test::TrashOnlyDesktop m_desktop{m_trash};
     Files m_files;
     test::RecordingLog m_log;
     NoSleep m_sleeper;
@@ -208,7 +153,7 @@ TEST_F(EmbeddedDeletionTest, TheLosingCopiesLeaveTheLibraryAndAllElseStays) {
     EXPECT_FALSE(m_files.exists(m_folder.pathOf("a.mp3")));
     EXPECT_TRUE(m_files.exists(m_folder.pathOf("a2.mp3")));
     EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100, 102}));
-    EXPECT_EQ(test::contentOf(m_scripts->backup()), m_text);
+    EXPECT_EQ(test::contentOf(report.backup), m_text);
     EXPECT_THAT(search(2).rows, IsEmpty());
 }
 

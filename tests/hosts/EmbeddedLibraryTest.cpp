@@ -53,20 +53,6 @@ TEST_F(EmbeddedLibraryTest, AFailedWriteKeepsItsReasonAndForgetsItsDeletions) {
     EXPECT_EQ(LibraryDocument::open(m_path).value()->trackCount(), 4);
 }
 
-TEST_F(EmbeddedLibraryTest, EveryCleanupKeepsABackup) {
-    open(manyTracks(4));
-    ASSERT_TRUE(beginCleanup());
-    run(test::deleteTrackText(persistentIdOf(0)));
-    ASSERT_TRUE(finishCleanup());
-    const std::string first = m_scripts->backup();
-    EXPECT_EQ(contentOf(first), manyTracks(4));
-    ASSERT_TRUE(beginCleanup());
-    run(test::deleteTrackText(persistentIdOf(1)));
-    ASSERT_TRUE(finishCleanup());
-    EXPECT_NE(m_scripts->backup(), first);
-    EXPECT_EQ(LibraryDocument::open(m_scripts->backup()).value()->trackCount(), 3);
-}
-
 TEST_F(EmbeddedLibraryTest, NoDeletionBeginsWhereAnEarlierOneCannotBeWritten) {
     open(manyTracks(3));
     run(test::deleteTrackText(persistentIdOf(0)));

@@ -55,24 +55,53 @@ class EmbeddedScriptingFixture : public testing::Test {
     }
 
     Result<void> beginCleanup() {
-        return m_scripts->withCleanup([](LibraryCleanup& cleanup) { return cleanup.begin({"a test"}); });
+        return m_scripts->withCleanup(
+            [this](LibraryCleanup& cleanup) { return cleanup.begin({"a test"}, plan()); });
+    }
+    /// Of the tracks of `manyTracks`, and of files in the folder.
+    CleanupPlan plan() const {
+        CleanupPlan plan;
+        for (int n = 0; n < 4; ++n) {
+            RecordedTrack& track = plan.tracks.emplace_back();
+            track.persistentId = persistentIdOf(n);
+            track.file = stampOf(n);
+        }
+        return plan;
     }
     Result<void> finishCleanup() {
         return m_scripts->withCleanup([](LibraryCleanup& cleanup) { return cleanup.finish(); });
     }
-    bool beginTrack(const std::string& id) {
-        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.beginTrack(id); });
+    Result<void> endCleanup(RecordEnd::How how = RecordEnd::How::complete) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.end({}, how, {}); });
     }
-    bool hasTrack(const std::string& id) {
-        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.hasTrack(id); });
+    std::string backup() {
+        return m_scripts->withCleanup([](LibraryCleanup& cleanup) { return cleanup.backup(); });
     }
-    std::optional<Result<TrashedFile>> fateOfFile(const std::string& path) {
-        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.fateOfFile(path); });
+    RecordedCleanup record() {
+        const auto record = RecordedCleanup::read(
+            m_scripts->withCleanup([](LibraryCleanup& cleanup) { return cleanup.record(); }));
+        EXPECT_TRUE(record);
+        return record ? record.value() : RecordedCleanup();
+    }
+    bool beginTrack(std::size_t number) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.beginTrack(number); });
+    }
+    bool hasTrack(std::size_t number) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.hasTrack(number); });
+    }
+    std::optional<Result<TrashedFile>> fateOfFile(std::size_t track) {
+        return m_scripts->withCleanup([&](LibraryCleanup& cleanup) { return cleanup.fateOfFile(track); });
     }
 
     /// Another program's new version takes the library's place.
     void replaceLibrary(std::string_view text) const {
         std::filesystem::rename(m_folder.write("new.xml", text), m_path);
+    }
+
+    /// "0.mp3" is the file of track 0.
+    FileStamp stampOf(int track) const {
+        const auto stamp = LibraryFile::stampOf(m_folder.pathOf(std::to_string(track) + ".mp3"));
+        return stamp ? stamp.value() : FileStamp();
     }
 
     /// A file in the folder and its location as a library has it.

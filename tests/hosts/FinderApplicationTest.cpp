@@ -88,40 +88,5 @@ TEST_F(FinderApplicationTest, WhatTheTrashRefusesAfterAWriteFailsTheScriptToo) {
     EXPECT_THAT(failure(test::deleteFileText(hfsPath(path).value())), HasSubstr("the disk has no Trash"));
 }
 
-TEST_F(FinderApplicationTest, ACleanupHoldsFilesUntilTheirTracksAreWritten) {
-    open(manyTracks(3));
-    const std::string first = m_folder.write("a.mp3", "sound");
-    const std::string second = m_folder.write("b.mp3", "sound");
-    ASSERT_TRUE(beginCleanup());
-    ASSERT_TRUE(beginTrack(test::persistentIdOf(0)));
-    run(test::deleteTrackText(test::persistentIdOf(0)));
-    run(test::deleteFileText(hfsPath(first).value()));
-    ASSERT_TRUE(beginTrack(test::persistentIdOf(1)));
-    run(test::deleteFileText(hfsPath(second).value())); // of a track that stays
-    EXPECT_THAT(m_desktop.calls, ElementsAre());
-    ASSERT_TRUE(m_scripts->flush());
-    EXPECT_THAT(m_desktop.calls, ElementsAre("trash " + first));
-    ASSERT_TRUE(finishCleanup());
-    EXPECT_THAT(m_desktop.calls, ElementsAre("trash " + first));
-    EXPECT_TRUE(fateOfFile(first)->hasValue());
-    EXPECT_EQ(fateOfFile(second)->error().message, "its track is still in the library");
-}
-
-TEST_F(FinderApplicationTest, NothingIsWrittenAfterAFailedWriteOfACleanup) {
-    open(manyTracks(3));
-    ASSERT_TRUE(beginCleanup());
-    ASSERT_TRUE(beginTrack(test::persistentIdOf(0)));
-    run(test::deleteTrackText(test::persistentIdOf(0)));
-    std::filesystem::rename(m_path, m_path + ".away");
-    EXPECT_FALSE(m_scripts->flush());
-    std::filesystem::rename(m_path + ".away", m_path);
-    run(test::deleteTrackText(test::persistentIdOf(1)));
-    EXPECT_FALSE(beginTrack(test::persistentIdOf(2)));
-    EXPECT_FALSE(finishCleanup());
-    EXPECT_TRUE(hasTrack(test::persistentIdOf(1)));
-    m_scripts.reset();
-    EXPECT_EQ(contentOf(m_path), manyTracks(3));
-}
-
 } // namespace
 } // namespace songsweep

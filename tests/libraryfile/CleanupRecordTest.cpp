@@ -66,7 +66,7 @@ class CleanupRecordTest : public testing::Test {
         {"A1", 7, "One \"two\"\n\xC3\xA4", "Some\\body", "/music/\xFF a%20b.mp3", "", {5, 6, 700, 8}},
         {"A2", 9, "Two", "", "", "a track that stays uses it", {}},
         {"A3", -1, "", "", "", "", {}}};
-    TrashPlace m_place{"/home/\xFE/Trash", "one.2.mp3"};
+    TrashedFile m_place{"/home/\xFE/Trash/files", "one.2.mp3"};
 };
 
 TEST_F(CleanupRecordTest, TellsAWholeCleanUp) {

@@ -122,7 +122,7 @@ TEST_F(OtherProgram, ThatWritesWithoutEndIsReportedAndKeepsItsEdits) {
 TEST_F(OtherProgram, WithoutAnExchangeTheWindowIsNarrowAndSaidToBeSo) {
     SystemCalls::failAll("renameat2", EINVAL);
     ASSERT_TRUE(m_library->beginCleanup({"a test"}));
-    EXPECT_TRUE(m_library->isNarrowed());
+    EXPECT_TRUE(m_library->cleanupHeading().isNarrowed);
     remove();
     EXPECT_TRUE(m_library->flush());
     SystemCalls::stop();
@@ -142,7 +142,7 @@ TEST_F(OtherProgram, WithoutAnExchangeAnEditBeforeTheWindowIsKept) {
 
 TEST_F(OtherProgram, AFileSystemThatExchangesIsNotNarrow) {
     ASSERT_TRUE(m_library->beginCleanup({"a test"}));
-    EXPECT_FALSE(m_library->isNarrowed());
+    EXPECT_FALSE(m_library->cleanupHeading().isNarrowed);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "platform/Trash.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,7 @@ class RecordingTrash : public Trash {
     Result<TrashedFile> moveToTrash(const std::string& path) override {
         if (!refusal.empty()) return Error{Error::Code::noPermission, refusal};
         m_calls.push_back("trash " + path);
+        if (moves) std::filesystem::remove(path);
         return TrashedFile{"/Trash/files", path.substr(path.rfind('/') + 1)};
     }
     Result<RestoredFile> restoreFromTrash(const TrashedFile&, const std::string& path) override {
@@ -36,6 +38,7 @@ class RecordingTrash : public Trash {
     std::unique_ptr<TrashCheck> newCheck() override { return std::make_unique<NoTrashCheck>(); }
 
     std::string refusal;
+    bool moves = false; ///< files are not where they were afterwards
 
   private:
     std::vector<std::string>& m_calls;

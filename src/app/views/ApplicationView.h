@@ -28,6 +28,8 @@ class ApplicationView {
     virtual void alertNoDuplicates(const std::vector<std::string>& /*notes*/) {}
     /// That the library could not be written, so that nothing is deleted.
     virtual void alertCantBeginDelete(const std::string& /*reason*/) {}
+    /// That a deletion has ended early, as the library could not be written any more.
+    virtual void alertCantGoOnDeleting(const std::string& /*reason*/) {}
 };
 
 } // namespace songsweep
