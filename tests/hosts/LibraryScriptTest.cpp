@@ -216,6 +216,15 @@ TEST_F(LibraryScriptTest, ARatingThatWasGivenIsNoComputedOne) {
     EXPECT_EQ(contentOf(m_path), libraryXml({{1, "A1", "<key>Rating</key><integer>100</integer>"}}, {}));
 }
 
+TEST_F(LibraryScriptTest, TheEmptyTextAndZeroTakeTheKeyOut) {
+    const std::string values =
+        "<key>Year</key><integer>1999</integer>\n\t\t\t<key>Genre</key><string>Rock</string>";
+    open(libraryXml({{1, "A1", values}}, {}));
+    run("tell application \"iTunes\" \nset year of track 1 to 0 \nset genre of track 1 to \"\" \nend tell");
+    ASSERT_TRUE(m_scripts->flush());
+    EXPECT_EQ(contentOf(m_path), libraryXml({{1, "A1", ""}}, {}));
+}
+
 TEST_F(LibraryScriptTest, ADeletedTrackIsNeitherSetNorDuplicated) {
     open(smallLibrary());
     EXPECT_THAT(
