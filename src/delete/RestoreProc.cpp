@@ -4,6 +4,8 @@
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 
+#include <exception>
+
 namespace songsweep {
 
 namespace {
@@ -32,7 +34,18 @@ void RestoreForesight::main() {
     m_services.center.post({EventName::restoreForeseen, std::move(answer), this});
 }
 
-void RestoreProc::main() { m_services.center.post({EventName::restoreFinish, answerOf(restore()), this}); }
+/// The end is told however it comes, since the sheet stays open until then.
+void RestoreProc::main() {
+    std::exception_ptr failure;
+    Result<RestoreReport> restored = Error{Error::Code::failed, "Songsweep met a fault of its own"};
+    try {
+        restored = restore();
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    m_services.center.post({EventName::restoreFinish, answerOf(std::move(restored)), this});
+    if (failure) std::rethrow_exception(failure);
+}
 
 Result<RestoreReport> RestoreProc::restore() {
     if (const Result<void> written = m_services.writeLibrary(); !written) return written.error();
