@@ -97,6 +97,17 @@ TEST_F(LibraryCleanupTest, WritesNothingMoreAfterAFailedWrite) {
     EXPECT_THAT(m_desktop.calls, IsEmpty());
 }
 
+TEST_F(LibraryCleanupTest, TellsOfTracksWhatTheLibraryOnTheDiskSays) {
+    ASSERT_TRUE(beginCleanup());
+    deleteTrack(0);
+    std::filesystem::remove(m_path);
+    EXPECT_FALSE(m_scripts->flush());
+    m_folder.write("library.xml", test::withoutTracks(manyTracks(4), {1000})); // by whomever
+    EXPECT_FALSE(finishCleanup());
+    EXPECT_FALSE(hasTrack(0));
+    EXPECT_TRUE(hasTrack(1));
+}
+
 TEST_F(LibraryCleanupTest, LeavesAFileThatIsNotThePlannedOneAnyMore) {
     ASSERT_TRUE(beginCleanup());
     for (int n = 0; n < 3; ++n) {
