@@ -47,11 +47,10 @@ RecordedTrack FileDeletion::planFor(const TrackRecord& record, bool withFile) co
     const PlannedFile* const file = withFile ? plannedFileOf(record) : nullptr;
     DeleteOutcome outcome;
     if (file == nullptr) return track;
-    if (isKeptByPlan(record, m_plan, outcome)) {
-        track.kept = outcome.reason;
-        return track;
-    }
-    if (file->obstacle) track.kept = file->obstacle;
+    track.kept = isKeptByPlan(record, m_plan, outcome) ? outcome.reason
+                 : file->obstacle                      ? file->obstacle
+                                                       : file->refusal;
+    if (outcome.file == DeleteOutcome::File::kept) return track;
     track.path = m_files.localPath(record.location.string()); // What is foreseen may turn out otherwise.
     track.file = file->stamp;
     return track;
