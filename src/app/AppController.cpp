@@ -2,9 +2,9 @@
 #include "app/AppController.h"
 
 #include "dupes/LibraryFolder.h"
-#include "hosts/InterruptedCleanup.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
+#include "restore/InterruptedCleanup.h"
 
 #include <array>
 #include <chrono>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/LibraryWarnings.h"
 
-#include "hosts/InterruptedCleanup.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Files.h"
+#include "restore/InterruptedCleanup.h"
 
 #include <algorithm>
 

@@ -2,13 +2,13 @@
 #include "app/Notices.h"
 
 #include "delete/DeletionSummary.h"
-#include "delete/RestoreProc.h"
-#include "delete/RestoreTexts.h"
-#include "hosts/InterruptedCleanup.h"
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
+#include "restore/InterruptedCleanup.h"
+#include "restore/RestoreProc.h"
+#include "restore/RestoreTexts.h"
 
 namespace songsweep {
 

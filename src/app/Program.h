@@ -3,9 +3,9 @@
 
 #include "app/ChosenScripts.h"
 #include "app/ControllerServices.h"
+#include "app/EmbeddedCleanup.h"
 #include "app/MapRule.h"
 #include "app/OpenedLibrary.h"
-#include "delete/EmbeddedCleanup.h"
 #include "hosts/EmbeddedScripting.h"
 #include "platform/Desktop.h"
 #include "platform/Files.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/views/RestoreView.h"
-#include "delete/RestoreDialog.h"
+#include "restore/RestoreDialog.h"
 
 namespace songsweep {
 

@@ -3,9 +3,9 @@
 
 #include "app/ControllerServices.h"
 #include "app/views/RestoreView.h"
-#include "delete/InterruptionSearch.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
+#include "restore/InterruptionSearch.h"
 
 #include <algorithm>
 

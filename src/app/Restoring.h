@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/Workers.h"
-#include "delete/CleanupSearch.h"
-#include "delete/RestoreProc.h"
+#include "restore/CleanupSearch.h"
+#include "restore/RestoreProc.h"
 
 #include <cstdint>
 #include <memory>

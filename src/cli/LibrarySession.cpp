@@ -6,10 +6,10 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
-#include "hosts/InterruptedCleanup.h"
 #include "library/CaseFolding.h"
 #include "library/Trim.h"
 #include "platform/Native.h"
+#include "restore/InterruptedCleanup.h"
 
 #include <algorithm>
 #include <cstdio>

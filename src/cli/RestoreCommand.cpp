@@ -5,8 +5,8 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "cli/RestoreOutput.h"
-#include "hosts/CleanupRestore.h"
 #include "platform/Native.h"
+#include "restore/CleanupRestore.h"
 
 #include <algorithm>
 #include <filesystem>

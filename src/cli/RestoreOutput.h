@@ -2,7 +2,7 @@
 #pragma once
 
 #include "cli/Options.h"
-#include "hosts/RestoreReport.h"
+#include "restore/RestoreReport.h"
 
 #include <string>
 

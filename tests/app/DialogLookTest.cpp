@@ -4,8 +4,8 @@
 #include "app/ParametersDialog.h"
 #include "app/ProgressSheet.h"
 #include "delete/DeleteConfirmation.h"
-#include "delete/RestoreDialog.h"
 #include "dupes/MarkDialog.h"
+#include "restore/RestoreDialog.h"
 #include "support/ThemedTest.h"
 #include "support/Widgets.h"
 

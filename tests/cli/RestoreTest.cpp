@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "RecordedDeletion.h"
-#include "hosts/CleanupRestore.h"
 #include "libraryfile/CleanupHistory.h"
 #include "libraryfile/CleanupLock.h"
 #include "platform/Native.h"
+#include "restore/CleanupRestore.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The road from a library file to a smaller one, with the program's own iTunes and Finder.
 #include "FolderTrash.h"
+#include "app/EmbeddedCleanup.h"
 #include "delete/DeleteFixture.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
-#include "delete/EmbeddedCleanup.h"
 #include "delete/TrackFacts.h"
 #include "dupes/BuildResultProc.h"
 #include "dupes/MarkingRules.h"

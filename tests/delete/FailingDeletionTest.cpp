@@ -2,10 +2,10 @@
 // A deletion with files in which one system call fails, or before one of which the program is killed: each of
 // them in turn.
 #include "FolderTrash.h"
+#include "app/EmbeddedCleanup.h"
 #include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteProc.h"
-#include "delete/EmbeddedCleanup.h"
 #include "hosts/EmbeddedScripting.h"
 #include "library/WorkerEvent.h"
 #include "libraryfile/LibraryFixture.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosts/CleanupRestore.h"
 #include "operations/Operation.h"
+#include "restore/CleanupRestore.h"
 
 #include <functional>
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosts/RestoreReport.h"
 #include "platform/Result.h"
 #include "platform/Trash.h"
+#include "restore/RestoreReport.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "delete/CleanupSearch.h"
-#include "delete/RestoreProc.h"
+#include "restore/CleanupSearch.h"
+#include "restore/RestoreProc.h"
 
 #include <QDialog>
 

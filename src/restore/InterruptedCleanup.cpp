@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "hosts/InterruptedCleanup.h"
+#include "restore/InterruptedCleanup.h"
 
-#include "hosts/CleanupRestore.h"
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "libraryfile/CleanupLock.h"
+#include "restore/CleanupRestore.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosts/RestoreReport.h"
 #include "libraryfile/CleanupHistory.h"
+#include "restore/RestoreReport.h"
 
 #include <string>
 #include <vector>

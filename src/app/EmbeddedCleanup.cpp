@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "delete/EmbeddedCleanup.h"
+#include "app/EmbeddedCleanup.h"
 
 #include "delete/DeleteReport.h"
 #include "hosts/EmbeddedScripting.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "delete/RestoreDialog.h"
+#include "restore/RestoreDialog.h"
 
-#include "delete/CleanupCell.h"
-#include "delete/RestoreTexts.h"
+#include "restore/CleanupCell.h"
+#include "restore/RestoreTexts.h"
 #include "theme/Announcement.h"
 #include "ui_RestoreDialog.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "hosts/RestoreRun.h"
+#include "restore/RestoreRun.h"
 
 #include <algorithm>
 #include <span>

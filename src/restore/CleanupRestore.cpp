@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "hosts/CleanupRestore.h"
+#include "restore/CleanupRestore.h"
 
-#include "hosts/FileReturn.h"
-#include "hosts/RestoreRun.h"
 #include "libraryfile/CleanupHistory.h"
 #include "libraryfile/CleanupRecord.h"
 #include "libraryfile/LibraryRestore.h"
+#include "restore/FileReturn.h"
+#include "restore/RestoreRun.h"
 
 #include <unordered_set>
 #include <utility>

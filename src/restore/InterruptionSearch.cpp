@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "delete/InterruptionSearch.h"
+#include "restore/InterruptionSearch.h"
 
-#include "hosts/InterruptedCleanup.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
+#include "restore/InterruptedCleanup.h"
 
 namespace songsweep {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "hosts/RestoreReport.h"
+#include "restore/RestoreReport.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "delete/RestoreTexts.h"
+#include "restore/RestoreTexts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

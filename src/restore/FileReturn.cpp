@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "hosts/FileReturn.h"
+#include "restore/FileReturn.h"
 
 #include "libraryfile/LibraryFile.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "delete/CleanupSearch.h"
+#include "restore/CleanupSearch.h"
 
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"

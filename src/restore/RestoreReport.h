@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosts/FileReturn.h"
 #include "libraryfile/LibraryRestore.h"
+#include "restore/FileReturn.h"
 
 #include <cstdint>
 #include <string>

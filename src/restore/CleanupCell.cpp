@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "delete/CleanupCell.h"
+#include "restore/CleanupCell.h"
 
 #include "theme/Metrics.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "hosts/CleanupRestore.h"
 #include "libraryfile/CleanupRecord.h"
 #include "platform/Trash.h"
+#include "restore/CleanupRestore.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "delete/RestoreProc.h"
+#include "restore/RestoreProc.h"
 
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
