@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Taking a tenth of the rows out of the list, with scripts that do nothing: linear in the rows.
+#include "delete/Cleanup.h"
 #include "delete/DeleteProc.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
@@ -41,11 +42,12 @@ void deleteATenth(benchmark::State& state) {
     IdleScripts scripts;
     Files files;
     SilentLog log;
+    Cleanup cleanup;
     for (auto _ : state) {
         state.PauseTiming();
         DisplayedList list = all;
         state.ResumeTiming();
-        DeleteProc operation(list, false, {center, scripts, files, log});
+        DeleteProc operation(list, false, {center, scripts, files, log, cleanup});
         operation.main();
         benchmark::DoNotOptimize(list.rows.data());
     }

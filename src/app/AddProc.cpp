@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace songsweep {
 
@@ -59,7 +60,7 @@ AddProc::AddProc(std::shared_ptr<TrackList> list, SearchParameters parameters, s
     : m_list(std::move(list))
     , m_searchparams(std::move(parameters))
     , m_musicInt(musicInt)
-    , m_services(services) {}
+    , m_services(std::move(services)) {}
 
 void AddProc::main() {
     m_services.log.line("Applescript Parsing");

@@ -31,6 +31,7 @@ std::vector<std::string> uselessMaps(const std::vector<MapRule>& rules, const Li
     };
     if (rules.empty() || !locations(strikeOut)) return {};
     std::vector<std::string> warnings;
+    warnings.reserve(left.size());
     for (const MapRule& rule : left)
         warnings.push_back("--map " + rule.from + "=" + rule.to +
                            " changes nothing, as no path of the library begins so" +

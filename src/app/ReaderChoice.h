@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 namespace songsweep {
 
@@ -19,7 +20,7 @@ class Operation;
 class ReaderChoice {
   public:
     explicit ReaderChoice(ReaderServices services)
-        : m_services(services) {}
+        : m_services(std::move(services)) {}
 
     /// What iTunes answered before the search: the number before the first point of its version, the
     /// playlist's index from 1, the number of its tracks.

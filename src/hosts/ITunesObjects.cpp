@@ -179,7 +179,7 @@ Result<ObjectPointer> SourceObject::element(TermCode elementClass, std::size_t i
 }
 
 Result<LibraryDocument*> TrackObject::libraryWithTrack() const {
-    const auto document = library();
+    auto document = library();
     if (!document) return document.error();
     if (document.value()->isDeleted(m_track))
         return Error{Error::Code::notFound, "the track has been deleted"};

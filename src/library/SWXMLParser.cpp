@@ -38,7 +38,7 @@ SWXMLParser::SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters param
     , m_searchparams(std::move(parameters))
     , m_trueTrackCount(trackCount)
     , m_wait{hasDelete, lastModified, readDelay, readDelayMax}
-    , m_services(services) {}
+    , m_services(std::move(services)) {}
 
 SWXMLParser::SWXMLParser(ReaderServices services)
     : SWXMLParser(std::make_shared<TrackList>(), {}, 0, 0, false, 0, 0, services) {}

@@ -112,7 +112,7 @@ Attempt tryOnce(const std::string& path) {
     }
     if (::flock(lock.descriptor, LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK && errno != EINTR) return lockByName(lock, path);
-        const Attempt attempt = heldBy(holderIn(lock.descriptor));
+        Attempt attempt = heldBy(holderIn(lock.descriptor));
         ::close(lock.descriptor);
         return attempt;
     }
@@ -125,7 +125,7 @@ Attempt tryOnce(const std::string& path) {
 Attempt lockWithin(const std::string& path, std::chrono::milliseconds timeout) {
     const auto last = std::chrono::steady_clock::now() + timeout;
     for (int changes = 0;;) {
-        const Attempt attempt = tryOnce(path);
+        Attempt attempt = tryOnce(path);
         if (attempt.outcome == Attempt::Outcome::changed && ++changes < mostChanges) continue;
         if (attempt.outcome == Attempt::Outcome::locked || attempt.outcome == Attempt::Outcome::failed)
             return attempt;

@@ -175,8 +175,9 @@ std::vector<LibraryDocument::TrackPosition> LibraryDocument::tracksWithTrackId(s
         std::ranges::stable_sort(m_byTrackId, {}, idOf);
     }
     std::vector<TrackPosition> found;
-    for (const TrackPosition track : std::ranges::equal_range(m_byTrackId, trackId, {}, idOf))
-        if (!isDeleted(track)) found.push_back(track);
+    for (auto at = std::ranges::lower_bound(m_byTrackId, trackId, {}, idOf);
+         at != m_byTrackId.end() && idOf(*at) == trackId; ++at)
+        if (!isDeleted(*at)) found.push_back(*at);
     return found;
 }
 

@@ -87,8 +87,8 @@ Result<LibraryRestore> LibraryRestore::begin(const std::string& library, Wanted 
     if (!transaction) return transaction.error();
     auto old = IndexedLibrary::open(wanted.backup);
     if (!old) return old.error();
-    LibraryRestore restore(std::unique_ptr<State>(
-        new State{std::move(transaction).value(), std::move(wanted), std::move(old).value(), {}, {}, {}}));
+    LibraryRestore restore(std::make_unique<State>(
+        State{std::move(transaction).value(), std::move(wanted), std::move(old).value(), {}, {}, {}}));
     if (auto prepared = attempt([&] { return restore.m_state->prepare(); }); !prepared)
         return prepared.error();
     return restore;

@@ -137,11 +137,13 @@ std::string rest(const RestoreReport& report) {
 
 std::vector<std::string> details(const RestoreReport& report) {
     std::vector<const RestoredTrack*> tracks;
+    tracks.reserve(report.tracks.size());
     for (const RestoredTrack& track : report.tracks)
         tracks.push_back(&track);
     std::stable_partition(tracks.begin(), tracks.end(),
                           [](const RestoredTrack* track) { return !track->dealtWith(); });
     std::vector<std::string> lines;
+    lines.reserve(tracks.size());
     for (const RestoredTrack* track : tracks)
         lines.push_back(lineOf(*track));
     return lines;
