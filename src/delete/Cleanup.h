@@ -40,7 +40,8 @@ class Cleanup {
     Cleanup& operator=(const Cleanup&) = delete;
     virtual ~Cleanup() = default;
 
-    /// On an error nothing must be deleted.
+    /// Takes the tracks over. On an error nothing must be deleted.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): those that write a record move them
     virtual Result<void> begin(std::vector<RecordedTrack> /*tracks*/, Files /*files*/) { return {}; }
     /// The next texts are about this track; false where something has failed, so that it must not begin.
     virtual bool beginTrack(std::size_t /*number*/) { return true; }

@@ -59,11 +59,13 @@ DeletionSummary summaryOf(const DeleteReport& report, std::optional<std::uint64_
 
 std::vector<std::string> detailsOf(const DeleteReport& report) {
     std::vector<const DeleteOutcome*> outcomes;
+    outcomes.reserve(report.outcomes.size());
     for (const DeleteOutcome& outcome : report.outcomes)
         outcomes.push_back(&outcome);
     std::stable_partition(outcomes.begin(), outcomes.end(),
                           [](const DeleteOutcome* outcome) { return !outcome->dealtWith; });
     std::vector<std::string> lines;
+    lines.reserve(outcomes.size());
     for (const DeleteOutcome* outcome : outcomes)
         lines.push_back(lineOf(*outcome));
     return lines;

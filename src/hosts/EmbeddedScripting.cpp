@@ -34,7 +34,7 @@ std::size_t pendingOf(const LibraryDocument* document) {
 
 /// "3 tracks deleted", "3 tracks deleted, 2 changes"
 std::string pendingText(const LibraryDocument& document) {
-    const std::string deletions = std::to_string(document.pendingDeletions()) + " tracks deleted";
+    std::string deletions = std::to_string(document.pendingDeletions()) + " tracks deleted";
     if (document.pendingChanges() == 0) return deletions;
     return deletions + ", " + std::to_string(document.pendingChanges()) + " changes";
 }

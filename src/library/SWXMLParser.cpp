@@ -41,7 +41,7 @@ SWXMLParser::SWXMLParser(std::shared_ptr<TrackList> list, SearchParameters param
     , m_services(std::move(services)) {}
 
 SWXMLParser::SWXMLParser(ReaderServices services)
-    : SWXMLParser(std::make_shared<TrackList>(), {}, 0, 0, false, 0, 0, services) {}
+    : SWXMLParser(std::make_shared<TrackList>(), {}, 0, 0, false, 0, 0, std::move(services)) {}
 
 void SWXMLParser::main() {
     try {
