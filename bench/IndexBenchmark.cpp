@@ -109,7 +109,7 @@ void measureSearch(LibraryDocument& library, const std::vector<std::string>& ids
     const double read = best([&] {
         for (const std::string& id : ids)
             for (const auto track : library.tracksWithPersistentId(id))
-                found += library.fields(track).value()->text("location").size();
+                found += library.fields(track).value()->text(LibraryKey::location).size();
     });
     const auto count = static_cast<double>(ids.size());
     std::printf("one track by its ID   %8.2f us; with its location %.2f us (%zu)\n", bare / count * 1e6,
@@ -203,7 +203,7 @@ std::vector<std::string> someIds(const std::string& path) {
     if (!library) stop(library.error().message);
     const auto count = static_cast<std::uint32_t>(library.value()->trackCount());
     for (std::uint32_t track = 0; track < count; track += 101)
-        ids.emplace_back(library.value()->fields(track).value()->text("persistent id"));
+        ids.emplace_back(library.value()->fields(track).value()->text(LibraryKey::persistentId));
     return ids;
 }
 

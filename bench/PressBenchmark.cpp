@@ -6,8 +6,13 @@
 //   press-benchmark [FOLDER]       the library is made in FOLDER (about 1.5 GB), or in a temporary one
 #include "app/AppController.h"
 #include "app/Program.h"
+#include "app/views/ApplicationView.h"
+#include "app/views/ControllerViews.h"
+#include "app/views/DeleteView.h"
 #include "app/views/MarkView.h"
+#include "app/views/NoticeView.h"
 #include "app/views/ProgressView.h"
+#include "app/views/RestoreView.h"
 #include "app/views/ResultsView.h"
 #include "app/views/SearchView.h"
 #include "dupes/MarkingRules.h"
@@ -47,9 +52,13 @@ struct Views {
     SearchView search;
     ResultsView results;
     MarkView mark;
+    RestoreView restore;
+    NoticeView notice;
     ProgressView progress;
 
-    ControllerViews all() { return {application, search, results, mark, waiting, progress, progress}; }
+    ControllerViews all() {
+        return {application, search, results, mark, waiting, restore, notice, progress, progress};
+    }
 };
 
 void waitUntilIdle(AppController& controller) {
