@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What the results table costs with a million rows, against the limits that a user would feel. Prints one
 // line for each measurement and the limit it is held against; the median of several rounds.
+#include "app/AppController.h"
 #include "app/Program.h"
 #include "app/WindowActions.h"
 #include "app/Windows.h"
+#include "library/WorkerEvent.h"
 #include "platform/Log.h"
 #include "support/SampleRows.h"
 #include "theme/SongsweepStyle.h"
