@@ -127,7 +127,7 @@ Result<std::string> ITunesApplication::fileOf(const Value& value) {
     if (const auto track = trackOf(value)) {
         const auto location = track->property(static_cast<TermCode>(ITunesProperty::location));
         if (!location) return location.error();
-        if (std::holds_alternative<interpreter::Alias>(location.value())) return fileOf(location.value());
+        return fileOf(location.value());
     }
     return Error{Error::Code::notFound, "there is no file to play"};
 }

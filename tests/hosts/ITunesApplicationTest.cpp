@@ -18,6 +18,7 @@ using test::manyTracks;
 using test::persistentIdOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using ITunesApplicationTest = test::EmbeddedScriptingFixture;
 
 TEST_F(ITunesApplicationTest, AnswersTheQuestionsOfASearch) {
@@ -202,6 +203,13 @@ TEST_F(ITunesApplicationTest, PlaysStopsAndMutes) {
     run(test::unmuteText);
     EXPECT_THAT(m_desktop.calls, ElementsAre("play " + path, "play " + path, "stop", "mute", "unmute"));
     EXPECT_THAT(failure(test::playText("Macintosh HD:none.mp3")), HasSubstr("there is no file /none.mp3"));
+}
+
+TEST_F(ITunesApplicationTest, ATrackWithoutAFileIsNotPlayed) {
+    open(libraryXml({{1, "A1", ""}}, {}));
+    EXPECT_THAT(failure("tell application \"iTunes\" to play track 1"),
+                HasSubstr("there is no file to play"));
+    EXPECT_THAT(m_desktop.calls, IsEmpty());
 }
 
 } // namespace
