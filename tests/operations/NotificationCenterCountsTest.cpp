@@ -110,6 +110,36 @@ TEST_F(NotificationCenterCountsTest, ACountWithoutAnEventAfterItIsHandledWhileTh
     EXPECT_FALSE(m_mayGoOn);
 }
 
+TEST_F(NotificationCenterCountsTest, EveryCountWithoutAnEventAfterItIsHandledWhileTheWorkerGoesOn) {
+    m_queue.add(operation([&](TestOperation& self) {
+        for (std::size_t number = 1; number <= 3; ++number) {
+            m_center.post(self.event(Kind::count));
+            while (m_handledCount < number && !m_mayGoOn)
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        waitForLeave();
+    }));
+    EXPECT_TRUE(runEventLoopUntil([this] { return m_handled.size() == 3; }));
+}
+
+TEST_F(NotificationCenterCountsTest, ABatchInHandIsNotHandledAgainByALoopInsideItsHandler) {
+    m_center.setObserver([this](const TestEvent& event) {
+        m_handled.push_back(event.kind);
+        test::handleWaitingEvents();
+    });
+    std::atomic<bool> isAboutToWait = false;
+    m_queue.add(operation([&](TestOperation& self) {
+        m_center.post(self.event(Kind::count)); // wakes the main thread
+        isAboutToWait = true;
+        m_center.post(self.event(Kind::end)); // wakes it again, since its loop has not run yet
+    }));
+    while (!isAboutToWait)
+        std::this_thread::yield();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    ASSERT_TRUE(runUntilIdle());
+    EXPECT_THAT(m_handled, ElementsAre(Kind::count, Kind::end));
+}
+
 TEST_F(NotificationCenterCountsTest, ACountIsHandledWithinFiftyMillisecondsOfAnIdleLoop) {
     using Clock = std::chrono::steady_clock;
     // The best of several tries: a busy machine may delay any of them, a wrong delay delays all.
