@@ -15,7 +15,7 @@ OperationQueue::OperationQueue(EventCenter& center, Log& log)
 OperationQueue::~OperationQueue() {
     cancelAllOperations();
     m_center.close();
-    waitUntilAllOperationsAreFinished();
+    // The runner's end waits for whoever still runs.
 }
 
 void OperationQueue::add(std::unique_ptr<Operation> operation) {

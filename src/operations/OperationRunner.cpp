@@ -36,7 +36,7 @@ OperationRunner::OperationRunner(EventCenter& center, Log& log)
     m_pool.setMaxThreadCount(1);
 }
 
-OperationRunner::~OperationRunner() { m_pool.waitForDone(); }
+OperationRunner::~OperationRunner() = default;
 
 void OperationRunner::add(std::unique_ptr<Operation> operation) {
     const std::lock_guard lock(m_lock);

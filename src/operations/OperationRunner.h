@@ -54,7 +54,7 @@ class OperationRunner final : public QRunnable {
     std::vector<std::unique_ptr<Operation>> m_kept; ///< those whose event may still be in hand after a close
     bool m_isActive = false;                        ///< started and not yet out of operations
 
-    QThreadPool m_pool; ///< last, so that its thread is gone before anything above is
+    QThreadPool m_pool; ///< last: its end waits for the operation that runs, before anything above is gone
 };
 
 } // namespace songsweep
