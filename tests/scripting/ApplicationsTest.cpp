@@ -180,6 +180,8 @@ const Case failures[] = {
     {"every 5", "error: line 2, column 7: expected a class of elements, but found “5”"},
     {"playlist \"Rock\" whose smart",
      "error: line 2, column 17: expected the end of the line, but found “whose”"},
+    {"tracks 1 thru 2 whose rating > 0",
+     "error: line 2, column 17: expected the end of the line, but found “whose”"},
     {"set volume with output muted",
      "error: line 2, column 12: expected “to”, but found “with” behind “volume”"},
     {"play track 1 with joy", "error: line 2, column 19: expected a parameter of “play”, but found “joy”"},

@@ -126,12 +126,6 @@ Result<void> Walk::visitMatches(const ElementVisitor& visit) const {
     });
 }
 
-ElementSet wholeOf(ElementSet set) {
-    set.first = 1;
-    set.last = -1;
-    return set;
-}
-
 Error noSuchElement(Context& context, Position position, const ElementSet& set, const std::string& which) {
     return context.fail(position, ErrorNumber::noSuchObject,
                         "there is no " + set.elementClass.term->singular + " " + which);
@@ -147,23 +141,17 @@ Result<Objects> allOf(Context& context, Position position, const ElementSet& set
     return objects;
 }
 
-/// `tracks 2 thru 5`: every element of the range has to be there.
+/// `tracks 2 thru 5`, which no filter follows: every element of the range has to be there.
 Result<void> forEachInRange(Context& context, Position position, const ElementSet& set,
                             const ElementVisitor& visit) {
-    TRY(const std::int64_t count, countOf(context, position, wholeOf(set)));
+    const Walk walk(context, position, set);
+    TRY(const std::int64_t count, walk.count());
     const std::int64_t first = fromBeginning(set.first, count);
     const std::int64_t last = fromBeginning(set.last, count);
     if (first < 1 || last > count || first > last) {
         return noSuchElement(context, position, set, "in all of that range");
     }
-    if (!set.filter) return Walk(context, position, set).visitRange(first, last, visit);
-    std::int64_t index = 0;
-    return forEachElement(context, position, wholeOf(set), [&](const ObjectPointer& element) -> Result<bool> {
-        ++index;
-        if (index < first) return true;
-        TRY(const bool goesOn, visit(element));
-        return goesOn && index < last;
-    });
+    return walk.visitRange(first, last, visit);
 }
 
 Result<ObjectPointer> matchingElementAt(Context& context, Position position, const ElementSet& set,
