@@ -55,12 +55,11 @@ bool TagScanner::checkDeclaration(std::string_view declaration) {
 /// Moves behind the document type, collecting the entities that its internal subset declares.
 bool TagScanner::skipDocumentType() {
     if (!noTextSinceLastTag()) return fail("there is text before the document");
-    bool subset = false;
     ++m_at;
     for (;;) {
         if (!need(1)) return false;
         const char c = *m_at;
-        if (c == '>' && !subset) {
+        if (c == '>') { // Those of the internal subset end its declarations, which are skipped whole.
             m_text = ++m_at;
             return true;
         }
@@ -68,7 +67,6 @@ bool TagScanner::skipDocumentType() {
             if (!skipPast({&c, 1}, 1)) return false;
             continue;
         }
-        if (c == '[' || c == ']') subset = c == '[';
         if (c != '<') {
             ++m_at;
             continue;

@@ -19,5 +19,14 @@ TEST(XmlText, KeepsACarriageReturnThatAnEntityRefersTo) {
     EXPECT_EQ(decodeXmlText("&e;", {{"e", *replacement}}), "x\r\ny\nz");
 }
 
+TEST(XmlText, TakesMarkupOutAndSectionsAsTheyStand) {
+    EXPECT_EQ(decodeXmlText("a<!-- b -->c<?d e?>f<![CDATA[<&g\r\n]]>h", {}), "acf<&g\nh");
+}
+
+TEST(XmlText, MarkupOrAReferenceWithoutAnEndIsNoText) {
+    for (const char* const raw : {"a<![CDATA[b", "a<![CDATA[b]]", "a<!-- b", "a<?b", "a&amp", "a&;", "a&#x;"})
+        EXPECT_EQ(decodeXmlText(raw, {}), std::nullopt) << raw;
+}
+
 } // namespace
 } // namespace songsweep
