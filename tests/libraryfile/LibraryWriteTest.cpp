@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "libraryfile/CleanupLock.h"
-#include "libraryfile/LibraryDocument.h"
-#include "libraryfile/LibraryFixture.h"
-#include "libraryfile/SmallFileSystem.h"
+#include "libraryfile/LibraryWriteFixture.h"
 #include "libraryfile/TemporaryName.h"
 
 #include <QProcess>
@@ -13,43 +10,20 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <set>
 
 namespace songsweep {
 namespace {
 
 using test::contentOf;
-using test::Folder;
 using test::libraryXml;
 using test::persistentIdOf;
 using test::withoutTracks;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::StartsWith;
 
-class LibraryWriteTest : public testing::Test {
-  protected:
-    LibraryDocument& open(const std::string& path) {
-        LibraryDocument::Options options;
-        options.lockTimeout = std::chrono::milliseconds(60);
-        auto opened = LibraryDocument::open(path, options);
-        EXPECT_TRUE(opened) << opened.error().message;
-        m_library = std::move(opened).value();
-        return *m_library;
-    }
-
-    LibraryDocument& openText(std::string_view text) { return open(m_folder.write("library.xml", text)); }
-
-    void remove(const std::string& persistentId) {
-        for (const auto track : m_library->tracksWithPersistentId(persistentId))
-            EXPECT_TRUE(m_library->remove(track));
-    }
-
-    std::string content() const { return contentOf(m_library->path()); }
-
-    Folder m_folder;
-    std::unique_ptr<LibraryDocument> m_library;
-};
+class LibraryWriteTest : public test::LibraryWriteFixture {};
 
 TEST_F(LibraryWriteTest, TakesOutATrackAndItsItemsAndLeavesNoBlankLine) {
     openText(libraryXml(
@@ -136,81 +110,6 @@ TEST_F(LibraryWriteTest, NothingToDeleteWritesNothing) {
     EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
 }
 
-TEST_F(LibraryWriteTest, KeepsOneDatedBackupARun) {
-    const std::string text = test::manyTracks(5);
-    openText(text);
-    remove(persistentIdOf(0));
-    ASSERT_TRUE(m_library->flush());
-    const std::string first = m_library->backup();
-    remove(persistentIdOf(1));
-    ASSERT_TRUE(m_library->flush());
-    ASSERT_EQ(m_folder.names().size(), 2U);
-    EXPECT_THAT(first,
-                testing::ContainsRegex("/library \\(before deletions of [0-9-]{10} [0-9.]{8}\\).xml$"));
-    EXPECT_EQ(contentOf(first), text);
-
-    const std::string second = content();
-    ASSERT_TRUE(m_library->beginCleanup({"a test"}));
-    remove(persistentIdOf(2));
-    ASSERT_TRUE(m_library->flush());
-    m_library->endCleanup();
-    EXPECT_EQ(m_folder.names().size(), 3U);
-    EXPECT_NE(m_library->backup(), first);
-    EXPECT_EQ(contentOf(m_library->backup()), second);
-    EXPECT_EQ(contentOf(first), text);
-}
-
-TEST_F(LibraryWriteTest, ACleanUpThatEndsLeavesItsBackupAndNothingElse) {
-    const std::string text = test::manyTracks(3);
-    openText(text);
-    ASSERT_TRUE(m_library->beginCleanup({"a test"}));
-    EXPECT_EQ(contentOf(m_library->backup()), text);
-    EXPECT_EQ(content(), text);
-    m_library->endCleanup();
-    EXPECT_THAT(m_folder.names(), ElementsAre(StartsWith("library (before deletions of "), "library.xml"));
-}
-
-TEST_F(LibraryWriteTest, NoRunBeginsInWhatAParserRefuses) {
-    openText(libraryXml({{1, "A1", "<key>Name</key><string>a & b</string>"}}, {}));
-    const auto begun = m_library->beginCleanup({"a test"});
-    ASSERT_FALSE(begun);
-    EXPECT_EQ(begun.error().code, Error::Code::invalid);
-}
-
-TEST_F(LibraryWriteTest, NoRunBeginsWhileAnotherProgramWrites) {
-    openText(test::manyTracks(3));
-    const auto lock = CleanupLock::acquire(m_library->path(), {"another test"});
-    ASSERT_TRUE(lock);
-    const auto begun = m_library->beginCleanup({"a test"});
-    ASSERT_FALSE(begun);
-    EXPECT_EQ(begun.error().code, Error::Code::busy);
-}
-
-TEST_F(LibraryWriteTest, BackupsOfOneSecondGetACounter) {
-    openText(test::manyTracks(40));
-    std::set<std::string> backups;
-    for (int n = 0; n < 20; ++n) {
-        ASSERT_TRUE(m_library->beginCleanup({"a test"}));
-        remove(persistentIdOf(n));
-        ASSERT_TRUE(m_library->flush());
-        EXPECT_TRUE(backups.insert(m_library->backup()).second);
-        m_library->endCleanup();
-        EXPECT_EQ(m_folder.names().size(), backups.size() + 1);
-    }
-}
-
-TEST_F(LibraryWriteTest, ALongNameIsShortenedForTheBackup) {
-    std::string name = "a";
-    while (name.size() < 250)
-        name += "\xC3\xA4";
-    open(m_folder.write(name + ".xml", test::manyTracks(2)));
-    remove(persistentIdOf(0));
-    ASSERT_TRUE(m_library->flush()) << m_library->lastWriteError()->message;
-    const std::string backup = std::filesystem::path(m_library->backup()).filename().string();
-    EXPECT_LE(backup.size(), 255U);
-    EXPECT_THAT(backup, HasSubstr("\xC3\xA4 (before deletions of "));
-}
-
 TEST_F(LibraryWriteTest, KeepsThePermissions) {
     openText(test::manyTracks(2));
     ASSERT_EQ(::chmod(m_library->path().c_str(), 0640), 0);
@@ -233,65 +132,6 @@ TEST_F(LibraryWriteTest, WritesTheTargetOfALink) {
     EXPECT_THAT(m_folder.names(), ElementsAre("link.xml", "there"));
 }
 
-TEST_F(LibraryWriteTest, AChangeOfSomebodyElseIsKept) {
-    openText(libraryXml({{1, "A1", ""}, {2, "A2", ""}}, {{"Mine", "", {1, 2}}}));
-    remove("A1");
-    const std::string added = "<key>Name</key><string>new</string>";
-    m_folder.write("library.xml", libraryXml({{12, "A2", added}, {11, "A1", ""}, {13, "A3", added}},
-                                             {{"Mine", "", {11, 13}}, {"Other", "", {11, 12}}}));
-    ASSERT_TRUE(m_library->flush());
-    EXPECT_EQ(content(),
-              libraryXml({{12, "A2", added}, {13, "A3", added}}, {{"Mine", "", {13}}, {"Other", "", {12}}}));
-}
-
-TEST_F(LibraryWriteTest, OneOfTwoTracksOfAnIdIsKnownAgainByItsBytes) {
-    const std::string second = "<key>Name</key><string>second</string>";
-    openText(libraryXml({{1, "A1", ""}, {2, "A1", second}, {3, "", ""}, {4, "", second}}, {}));
-    ASSERT_TRUE(m_library->remove(1));
-    ASSERT_TRUE(m_library->remove(3));
-    m_folder.write(
-        "library.xml",
-        libraryXml({{4, "", second}, {2, "A1", second}, {1, "A1", ""}, {3, "", ""}, {5, "A5", ""}}, {}));
-    ASSERT_TRUE(m_library->refresh());
-    EXPECT_EQ(m_library->pendingDeletions(), 2U);
-    ASSERT_TRUE(m_library->flush());
-    EXPECT_EQ(content(), libraryXml({{1, "A1", ""}, {3, "", ""}, {5, "A5", ""}}, {}));
-}
-
-TEST_F(LibraryWriteTest, AnIdenticalEntryThatNobodyDeletedStays) {
-    openText(libraryXml({{3, "", ""}, {3, "", ""}}, {}));
-    ASSERT_TRUE(m_library->remove(0));
-    m_folder.write("library.xml", libraryXml({{3, "", ""}, {3, "", ""}, {5, "A5", ""}}, {}));
-    ASSERT_TRUE(m_library->refresh());
-    EXPECT_EQ(m_library->pendingDeletions(), 1U);
-    ASSERT_TRUE(m_library->flush());
-    EXPECT_EQ(content(), libraryXml({{3, "", ""}, {5, "A5", ""}}, {}));
-}
-
-TEST_F(LibraryWriteTest, ATrackThatCannotBeKnownAgainStays) {
-    openText(libraryXml({{1, "", ""}, {2, "", ""}}, {}));
-    ASSERT_TRUE(m_library->remove(0));
-    const std::string changed = libraryXml({{1, "", "<key>Rating</key><integer>60</integer>"}}, {});
-    m_folder.write("library.xml", changed);
-    ASSERT_TRUE(m_library->flush());
-    EXPECT_EQ(content(), changed);
-    EXPECT_EQ(m_library->trackCount(), 1);
-}
-
-TEST_F(LibraryWriteTest, WhatAParserRefusesIsNotWritten) {
-    const std::string text =
-        libraryXml({{1, "A1", "<key>Name</key><string>a & b</string>"}, {2, "A2", ""}}, {});
-    openText(text);
-    remove("A2");
-    const auto written = m_library->flush();
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().code, Error::Code::invalid);
-    EXPECT_THAT(written.error().message, StartsWith("line 13: "));
-    EXPECT_EQ(m_library->lastWriteError()->message, written.error().message);
-    EXPECT_EQ(content(), text);
-    EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
-}
-
 TEST_F(LibraryWriteTest, EveryNameOfAnEncodingThatIsReadIsWritten) {
     for (const std::string name : {"utf8", "UTF8", "ascii", "US-ASCII", "utf-8"}) {
         std::string text = libraryXml({{1, "A1", ""}, {2, "A2", ""}}, {});
@@ -304,66 +144,6 @@ TEST_F(LibraryWriteTest, EveryNameOfAnEncodingThatIsReadIsWritten) {
     }
 }
 
-TEST_F(LibraryWriteTest, AFileCutOffMeanwhileIsNotWritten) {
-    const std::string text = test::manyTracks(3);
-    openText(text);
-    remove(persistentIdOf(0));
-    m_folder.write("library.xml", text.substr(0, text.size() / 2));
-    EXPECT_FALSE(m_library->flush());
-    EXPECT_EQ(content(), text.substr(0, text.size() / 2));
-    EXPECT_TRUE(m_library->lastWriteError());
-}
-
-TEST_F(LibraryWriteTest, WhatWasReportedAsNotWrittenIsNeverWritten) {
-    const std::string text = test::manyTracks(3);
-    openText(text);
-    remove(persistentIdOf(0));
-    ASSERT_EQ(::unlink(m_library->path().c_str()), 0);
-    const auto written = m_library->flush();
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().code, Error::Code::notFound);
-    EXPECT_EQ(m_library->pendingDeletions(), 0U);
-    EXPECT_EQ(m_library->trackCount(), 3);
-
-    m_folder.write("library.xml", text);
-    EXPECT_TRUE(m_library->flush());
-    EXPECT_EQ(content(), text);
-    remove(persistentIdOf(1));
-    EXPECT_TRUE(m_library->flush());
-    EXPECT_EQ(content(), withoutTracks(text, {1002}));
-    EXPECT_FALSE(m_library->lastWriteError());
-}
-
-TEST_F(LibraryWriteTest, WaitsForAnotherProgramAndGivesUp) {
-    const std::string text = test::manyTracks(3);
-    openText(text);
-    remove(persistentIdOf(0));
-    {
-        const auto lock = CleanupLock::acquire(m_library->path(), {"another test"});
-        ASSERT_TRUE(lock);
-        const auto written = m_library->flush();
-        ASSERT_FALSE(written);
-        EXPECT_EQ(written.error().code, Error::Code::busy);
-        EXPECT_THAT(written.error().message, HasSubstr("(another test, process "));
-        EXPECT_EQ(content(), text);
-    }
-    remove(persistentIdOf(0));
-    EXPECT_TRUE(m_library->flush());
-    EXPECT_EQ(m_folder.names().size(), 2U); // The lock left nothing behind.
-}
-
-TEST_F(LibraryWriteTest, TwoDocumentsOfOneLibraryKeepEachOthersDeletions) {
-    const std::string text = test::manyTracks(10);
-    openText(text);
-    auto other = LibraryDocument::open(m_library->path());
-    ASSERT_TRUE(other);
-    remove(persistentIdOf(2));
-    ASSERT_TRUE(other.value()->remove(5));
-    ASSERT_TRUE(m_library->flush());
-    ASSERT_TRUE(other.value()->flush());
-    EXPECT_EQ(content(), withoutTracks(text, {1004, 1010}));
-}
-
 TEST_F(LibraryWriteTest, WhatAKilledProgramLeftIsRemoved) {
     openText(test::manyTracks(3));
     m_folder.write(TemporaryName::forWriting("library.xml", 7), "half a library");
@@ -372,40 +152,6 @@ TEST_F(LibraryWriteTest, WhatAKilledProgramLeftIsRemoved) {
     ASSERT_TRUE(m_library->flush());
     EXPECT_THAT(m_folder.names(), ElementsAre(TemporaryName::forWriting("other.xml", 7),
                                               StartsWith("library (before deletions of "), "library.xml"));
-}
-
-TEST_F(LibraryWriteTest, AFullDiskLosesNothing) {
-    const test::SmallFileSystem disk(m_folder.pathOf("disk"), 256 << 10);
-    if (!disk.mounted()) GTEST_SKIP() << "mounting a file system is not permitted";
-    const std::string text = test::manyTracks(300);
-    ASSERT_GT(text.size(), 140U << 10);
-    m_folder.write("disk/library.xml", text);
-    open(m_folder.pathOf("disk/library.xml"));
-    remove(persistentIdOf(0));
-    const auto written = m_library->flush();
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().code, Error::Code::noSpace);
-    EXPECT_EQ(content(), text);
-    EXPECT_EQ(m_library->pendingDeletions(), 0U);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(m_folder.pathOf("disk")), {}), 1);
-}
-
-TEST_F(LibraryWriteTest, AReadOnlyFolderLosesNothing) {
-    const test::SmallFileSystem disk(m_folder.pathOf("disk"), 1 << 20);
-    if (!disk.mounted()) GTEST_SKIP() << "mounting a file system is not permitted";
-    const std::string text = test::manyTracks(20);
-    m_folder.write("disk/library.xml", text);
-    open(m_folder.pathOf("disk/library.xml"));
-    ASSERT_TRUE(disk.makeReadOnly());
-    const auto begun = m_library->beginCleanup({"a test"});
-    ASSERT_FALSE(begun);
-    EXPECT_EQ(begun.error().code, Error::Code::noPermission);
-    remove(persistentIdOf(0));
-    const auto written = m_library->flush();
-    ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().code, Error::Code::noPermission);
-    EXPECT_EQ(content(), text);
-    EXPECT_EQ(m_library->pendingDeletions(), 0U);
 }
 
 } // namespace
