@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace songsweep::interpreter {
@@ -30,9 +31,10 @@ enum class ErrorNumber : int {
 /// Made for one run on one thread. Every node of the tree evaluates itself against it.
 class Context {
   public:
-    /// The services must outlive it.
-    Context(const Services& services, std::size_t variableCount)
+    /// The services must outlive it; `texts` are those that the program has in quotes.
+    Context(const Services& services, std::size_t variableCount, std::vector<std::string> texts)
         : m_services(services)
+        , m_texts(std::move(texts))
         , m_variables(variableCount) {}
     Context(const Context&) = delete;
     Context& operator=(const Context&) = delete;
@@ -65,6 +67,9 @@ class Context {
     // Variables, by the number that the parser gave them.
 
     std::optional<Value>& variable(std::size_t slot) { return m_variables[slot]; }
+
+    /// What stands in quotes, by the number that the parser gave it.
+    const std::string& text(std::size_t number) const { return m_texts[number]; }
 
     /// The value of the last statement.
     std::optional<Value>& result() { return m_result; }
@@ -119,6 +124,7 @@ class Context {
     void track(const ListPointer& list, const Value& added);
 
     const Services& m_services;
+    std::vector<std::string> m_texts;
     std::vector<std::optional<Value>> m_variables;
     std::optional<Value> m_result;
     ObjectPointer m_target;

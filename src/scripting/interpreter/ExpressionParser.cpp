@@ -113,8 +113,7 @@ ExpressionPointer ExpressionParser::value() {
     case Token::Kind::real:
         return number();
     case Token::Kind::text:
-        m_cursor.skip();
-        return make<LiteralExpression>(token.position, Value(unescapedText(token.text)));
+        return text();
     case Token::Kind::symbol:
         return symbolValue();
     case Token::Kind::word:
@@ -131,6 +130,13 @@ ExpressionPointer ExpressionParser::number() {
     if (!value) m_cursor.fail("the number is too large or too small");
     m_cursor.skip();
     return make<LiteralExpression>(token.position, std::move(value).value_or(Value()));
+}
+
+ExpressionPointer ExpressionParser::text() {
+    const Token& token = m_cursor.peek();
+    m_cursor.skip();
+    m_texts.push_back(token.text);
+    return make<TextExpression>(token.position, m_texts.size() - 1);
 }
 
 ExpressionPointer ExpressionParser::symbolValue() {

@@ -9,6 +9,8 @@
 
 #include <map>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace songsweep::interpreter {
 
@@ -33,6 +35,8 @@ class ExpressionParser {
     CommandParser& commands() { return m_commands; }
 
     std::size_t variableCount() const { return m_slots.size(); }
+    /// The texts in quotes that are values, as they stand in the source and in its order.
+    const std::vector<std::string_view>& texts() const { return m_texts; }
 
     /// A node; an error where the tree becomes too deep.
     template <class Node, class... Arguments>
@@ -48,6 +52,7 @@ class ExpressionParser {
     ExpressionPointer existence();
 
     ExpressionPointer number();
+    ExpressionPointer text();
     ExpressionPointer symbolValue();
     ExpressionPointer parenthesis();
     ExpressionPointer list(char32_t closing);
@@ -67,6 +72,7 @@ class ExpressionParser {
     ReferenceParser m_references;
     CommandParser m_commands;
     std::map<std::string, std::size_t, std::less<>> m_slots; ///< of the variables, by name
+    std::vector<std::string_view> m_texts;
 };
 
 } // namespace songsweep::interpreter

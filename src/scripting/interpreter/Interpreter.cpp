@@ -18,14 +18,20 @@ Result<std::optional<Descriptor>> resultOf(Context& context, const Program& prog
 } // namespace
 
 Interpreter::Interpreter(std::vector<NamedApplication> applications, std::function<Date()> now)
-    : m_services{Applications(std::move(applications)), std::move(now)} {}
+    : m_services{Applications(std::move(applications)), std::move(now)}
+    , m_programs(m_services.applications) {}
 
 Result<std::optional<Descriptor>> Interpreter::run(std::string_view source, Places places) {
     const std::lock_guard lock(m_lock);
+    if (places == Places::leftOut) {
+        TRY(BoundProgram && bound, m_programs.program(source));
+        Context context(m_services, bound.program->variableCount, std::move(bound.texts));
+        return resultOf(context, *bound.program);
+    }
     TRY(const Program& program, parsedProgram(source, m_services.applications));
-    Context context(m_services, program.variableCount);
+    Context context(m_services, program.variableCount, unescapedTexts(program.texts));
     Result<std::optional<Descriptor>> result = resultOf(context, program);
-    if (result || places == Places::leftOut) return result;
+    if (result) return result;
     return Error{result.error().code, locatedText(context.errorPosition(), result.error().message)};
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/Result.h"
 #include "scripting/Descriptor.h"
+#include "scripting/interpreter/ProgramCache.h"
 #include "scripting/interpreter/Services.h"
 
 #include <mutex>
@@ -20,6 +21,9 @@ namespace songsweep::interpreter {
 /// A text is parsed as a whole before any of it runs. It is bounded in depth, steps, and sizes of texts and
 /// lists (Limits.h): every text ends, and a hostile one with an error within a second.
 ///
+/// A program's own texts mostly differ in what stands in quotes. Such a text is read once, and bound to what
+/// the next one has there; where places are told every text is read, since they depend on it.
+///
 /// Thread-safe: one text runs at a time, a second caller waits.
 class Interpreter {
   public:
@@ -35,6 +39,7 @@ class Interpreter {
 
   private:
     const Services m_services;
+    ProgramCache m_programs;
     std::mutex m_lock;
 };
 

@@ -53,8 +53,6 @@ std::size_t characterBytes(std::string_view text) {
     return 1 + countWhile(text.substr(1), isContinuationByte);
 }
 
-bool isEscape(char letter) { return std::string_view("\"\\nrt").find(letter) != std::string_view::npos; }
-
 char unescapedLetter(char letter) {
     switch (letter) {
     case 'n':
@@ -255,6 +253,8 @@ Result<Token> Lexer::symbolToken() {
     const std::string character(rest().substr(0, characterBytes(rest())));
     return failure(position(), "unknown character “" + character + "”");
 }
+
+bool isEscape(char letter) { return std::string_view("\"\\nrt").find(letter) != std::string_view::npos; }
 
 std::string unescapedText(std::string_view quoted) {
     std::string text;

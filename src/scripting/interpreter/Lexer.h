@@ -52,6 +52,9 @@ class Lexer {
     mutable int m_countedColumn = 1;
 };
 
+/// Whether a letter may stand behind a backslash in a quoted text.
+bool isEscape(char letter);
+
 /// A quoted text without its escapes: \" \\ \n \r \t.
 std::string unescapedText(std::string_view quoted);
 

@@ -14,7 +14,7 @@ Result<Program> parsedProgram(std::string_view source, const Applications& appli
     Block body = StatementParser(cursor, expressions).block();
     cursor.expectTextEnd();
     if (cursor.error()) return *cursor.error();
-    return Program{std::move(body), expressions.variableCount()};
+    return Program{std::move(body), expressions.variableCount(), expressions.texts()};
 }
 
 } // namespace songsweep::interpreter

@@ -6,13 +6,15 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace songsweep::interpreter {
 
-/// A text that has been read. It holds references to the applications it was read with.
+/// A text that has been read. It holds references to the applications and to the source it was read with.
 struct Program {
     Block body;
     std::size_t variableCount = 0;
+    std::vector<std::string_view> texts; ///< the values in quotes, as they stand in the source
 };
 
 /// Reads a text (UTF-8) by the grammar in docs/applescript.md. A construct that no rule fits is an error with

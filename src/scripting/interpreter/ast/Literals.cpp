@@ -10,9 +10,11 @@ namespace songsweep::interpreter {
 namespace {
 
 /// The steps that copying a value takes: texts are copied, all else is shared.
+std::size_t copyCost(const std::string& text) { return text.size() / textBytesOfOneStep; }
+
 std::size_t copyCost(const Value& value) {
     const auto* const text = std::get_if<std::string>(&value);
-    return text ? text->size() / textBytesOfOneStep : 0;
+    return text ? copyCost(*text) : 0;
 }
 
 } // namespace
@@ -20,6 +22,12 @@ std::size_t copyCost(const Value& value) {
 Result<Value> LiteralExpression::compute(Context& context) const {
     if (!context.spend(copyCost(m_value))) return context.exhausted(position());
     return m_value;
+}
+
+Result<Value> TextExpression::compute(Context& context) const {
+    const std::string& text = context.text(m_number);
+    if (!context.spend(copyCost(text))) return context.exhausted(position());
+    return Value(text);
 }
 
 Result<Value> ListExpression::compute(Context& context) const {

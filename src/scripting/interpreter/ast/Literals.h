@@ -3,11 +3,12 @@
 
 #include "scripting/interpreter/ast/Expression.h"
 
+#include <cstddef>
 #include <string>
 
 namespace songsweep::interpreter {
 
-/// A value that stands in the text: `5`, `"text"`, `true`, `missing value`, `date "…"`.
+/// A value that stands in the text: `5`, `true`, `missing value`, `date "…"`.
 class LiteralExpression final : public Expression {
   public:
     LiteralExpression(Position position, Value value)
@@ -21,6 +22,23 @@ class LiteralExpression final : public Expression {
 
   private:
     Value m_value;
+};
+
+/// `"text"`, by its number among those of the program: what it holds is the run's, so that one tree serves
+/// all programs that differ in such texts alone.
+class TextExpression final : public Expression {
+  public:
+    TextExpression(Position position, std::size_t number)
+        : Expression(position, 1)
+        , m_number(number) {}
+
+    bool dependsOnTarget() const override { return false; }
+
+  protected:
+    Result<Value> compute(Context& context) const override;
+
+  private:
+    std::size_t m_number;
 };
 
 /// `{a, b}`, and `[a, b]`. As the goal of `set`, its variables get the items of a list.
