@@ -12,7 +12,9 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <unordered_set>
 
 namespace songsweep {
 
@@ -42,7 +44,8 @@ class SWXMLParser final : public Operation {
     /// Whether the record is among the chosen playlist's items, each of which admits one record.
     bool isInMusicPlaylist(const TrackRecord& record);
 
-    /// Asks iTunes where the track's file is; the record stays as it is where iTunes does not know.
+    /// Asks iTunes where the track's file is; the record stays as it is where iTunes does not know. An ID of
+    /// several tracks has no answer, and is asked for once: each question would visit all of them.
     void refreshLocationApplescript(TrackRecord& record);
 
   private:
@@ -76,6 +79,7 @@ class SWXMLParser final : public Operation {
 
     PlaylistItems m_songlist;
     std::int32_t m_trackCount = 0;
+    std::unordered_set<std::string> m_sharedIds; ///< persistent IDs of which iTunes has several tracks
     int m_progressCount = 0;
     bool m_readErrorTold = false;
 };

@@ -29,6 +29,12 @@ std::string locationScript(std::string_view pid) {
     return script;
 }
 
+/// Whether the answer has the locations of several tracks, which is no location.
+bool isOfSeveralTracks(const Descriptor& answer) {
+    const Descriptor* const locations = answer.descriptorAtIndex(1);
+    return locations != nullptr && locations->numberOfItems() > 1;
+}
+
 } // namespace
 
 void SWXMLParser::keepTracksOfPlaylist() {
@@ -79,10 +85,12 @@ bool SWXMLParser::isInMusicPlaylist(const TrackRecord& record) { return m_songli
 
 void SWXMLParser::refreshLocationApplescript(TrackRecord& record) {
     if (!canStandInText(record.pid)) return; // as where iTunes knows no such track
+    if (!m_sharedIds.empty() && m_sharedIds.contains(record.pid.string())) return;
     try {
         const Result<Descriptor> result =
             m_services.scripts.executeAndReturnError(locationScript(record.pid));
         if (!result) return;
+        if (isOfSeveralTracks(result.value())) m_sharedIds.insert(record.pid.string());
         const std::optional<std::string> location = result.value().stringValue();
         if (location && lowercase(*location) != "msng") record.location = m_list->storage->store(*location);
     } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): the track keeps its location

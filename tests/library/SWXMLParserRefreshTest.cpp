@@ -82,6 +82,30 @@ TEST_F(SWXMLParserRefreshTest, NoAnswerChangesNothing) {
     EXPECT_EQ(refreshed("/old"), "/old");
 }
 
+TEST_F(SWXMLParserRefreshTest, AnIdOfSeveralTracksIsAskedForOnce) {
+    SWXMLParser parser(m_services);
+    TrackRecord first{.pid = "AB12", .location = "/first"};
+    TrackRecord second{.pid = "AB12", .location = "/second"};
+    TrackRecord other{.pid = "CD34", .location = "/other"};
+    answer(Descriptor::list({Descriptor::list({Descriptor(), Descriptor::text("/new")})}));
+    for (TrackRecord* record : {&first, &second, &other})
+        parser.refreshLocationApplescript(*record);
+    EXPECT_THAT(m_scripts.sources, testing::SizeIs(2));
+    EXPECT_THAT(m_scripts.sources.back(), testing::HasSubstr("CD34"));
+    EXPECT_EQ(second.location, "/second");
+}
+
+TEST_F(SWXMLParserRefreshTest, AnIdThatOneTrackHasIsAskedForEachTime) {
+    SWXMLParser parser(m_services);
+    TrackRecord record{.pid = "AB12", .location = "/old"};
+    for (const Descriptor& one : {Descriptor(), Descriptor::list({}), Descriptor::list({Descriptor()}),
+                                  Descriptor::list({Descriptor::list({Descriptor::text("/new")})})}) {
+        answer(one);
+        parser.refreshLocationApplescript(record);
+    }
+    EXPECT_THAT(m_scripts.sources, testing::SizeIs(4));
+}
+
 TEST_F(SWXMLParserRefreshTest, AnExceptionIsIgnored) {
     m_scripts.answer = [](std::string_view) -> Result<Descriptor> { throw std::runtime_error("lost"); };
     EXPECT_EQ(refreshed("/old"), "/old");
