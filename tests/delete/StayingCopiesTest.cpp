@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "delete/StayingCopies.h"
 
-#include "delete/DeleteFixture.h"
+#include "delete/DeletePlanFixture.h"
+#include "delete/TrackFacts.h"
 
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace songsweep {
 namespace {
@@ -67,6 +70,93 @@ TEST_F(StayingCopiesTest, CostLooksThatAreLinearInTheRows) {
         left += row->checkbox && copies.isLeftOf(*row) ? 1 : 0;
     EXPECT_EQ(left, count);
     EXPECT_EQ(files.looks, 2 * count);
+}
+
+/// The copies that are to stay, as a survey looks at them again.
+class CopiesThatStay : public test::DeletePlanFixture {
+  protected:
+    int lost() const { return lost(m_files); }
+    int lost(const Files& files) const {
+        DeleteConfirmationFacts facts;
+        const auto isStopped = [] { return false; };
+        EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), {files}, facts, isStopped));
+        return facts.groupsLosingEveryFile;
+    }
+};
+
+class UnreadableFiles final : public Files {
+  public:
+    bool isReadable(const std::string&) const override { return false; }
+};
+
+TEST_F(CopiesThatStay, AWorkingFileIsEnough) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, path("gone.mp3"));
+    addFile("C", false, "c.mp3");
+    EXPECT_EQ(lost(), 0);
+}
+
+TEST_F(CopiesThatStay, AFileThatWentSinceTheSearchIsNone) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    std::filesystem::remove(path("b.mp3"));
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AnEmptyFileIsNone) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, m_folder.write("b.mp3", ""));
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AFolderIsNone) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, m_folder.path());
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AFileThatCannotBeReadIsNone) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3");
+    EXPECT_EQ(lost(UnreadableFiles()), 1);
+}
+
+TEST_F(CopiesThatStay, ATrackWithoutAFileIsNone) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", false, "msng");
+    EXPECT_EQ(lost(), 1);
+}
+
+TEST_F(CopiesThatStay, AreThoseOfTheirOwnGroupAlone) {
+    addFile("A", true, "a.mp3");
+    add(2, "B", true, m_folder.write("b.mp3", "b"));
+    add(2, "C", false, m_folder.write("c.mp3", "c"));
+    add(3, "D", false, m_folder.write("d.mp3", "d"));
+    add(4, "E", true, m_folder.write("e.mp3", "e"));
+    add(4, "F", false, path("gone.mp3"));
+    EXPECT_EQ(lost(), 2);
+}
+
+TEST_F(CopiesThatStay, AMarkedTrackThatCannotBeDeletedIsOne) {
+    addFile("A", true, "a.mp3");
+    addFile("0", true, "b.mp3");
+    EXPECT_EQ(lost(), 0);
+}
+
+TEST_F(CopiesThatStay, AGroupWithoutAFileToLoseIsJudgedAsTheSearchSawIt) {
+    add(1, "A", true, path("gone.mp3")).isdead = true;
+    add(1, "B", false, path("gone too.mp3")).isdead = true;
+    EXPECT_EQ(lost(), 0);
+    add(2, "C", true, path("gone.mp3")).isdead = true;
+    add(2, "D", true, m_folder.path());
+    EXPECT_EQ(lost(), 1) << "a folder stays where it is";
+}
+
+TEST_F(CopiesThatStay, AFileThatCameBackSinceTheSearchIsOne) {
+    addFile("A", true, "a.mp3");
+    addFile("B", false, "b.mp3").isdead = true;
+    EXPECT_EQ(groupsLosingEveryCopy(m_list.rows), 1);
+    EXPECT_EQ(lost(), 0);
 }
 
 } // namespace
