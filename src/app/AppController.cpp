@@ -49,7 +49,8 @@ AppController::AppController(ControllerServices services, ControllerViews views)
     , m_deletion(m_services, views, {m_center, m_queue}, m_results, m_search.readers(), m_progress,
                  [this] { reportIdle(); })
     , m_restoring(m_services, views.restore, {m_center, m_queue})
-    , m_notices({m_services.desktop, m_services.log, [this](const auto& record) { beginRestore(record); }},
+    , m_notices({m_services.desktop, m_services.log, [this](const auto& record) { beginRestore(record); },
+                 [this](const auto& record) { finishCleanup(record); }},
                 views.notice)
     , m_queue(m_center, m_services.log) {
     m_queue.setIdleHandler([this] { reportIdle(); });
@@ -203,6 +204,12 @@ void AppController::beginRestore(const std::string& record) {
     }
 }
 
+void AppController::finishCleanup(const std::string& record) {
+    if (!isIdle() || m_services.libraryFile().empty()) return m_view.beep();
+    m_notices.tellFinishing();
+    m_restoring.finish(record);
+}
+
 void AppController::restoreOkButtonClick() {
     if (isIdle()) m_restoring.restoreOkButtonClick();
 }
@@ -277,6 +284,7 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
          }},
         {N::interruptionFound, silent,
          [](A& a, const E& e) { take(e, a, &AppController::tellInterruption); }},
+        {N::cleanupFinished, silent, [](A& a, const E& e) { take(e, a.m_notices, &Notices::tellFinished); }},
     });
     static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
     if (m_search.isStale(event)) return;

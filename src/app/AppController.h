@@ -122,6 +122,7 @@ class AppController {
     struct Reaction;
 
     void beginRestore(const std::string& record);
+    void finishCleanup(const std::string& record);
     void tellDeletion();
     void tellInterruption(const std::shared_ptr<InterruptedCleanup>& found);
     void threadHandlerSingleFinished2(const WorkerEvent& event);

@@ -55,9 +55,13 @@ std::optional<std::string> allFilesMissing(const Files& files, const LibraryLoca
 
 std::string interruption(const InterruptedCleanup& found) {
     const std::string what = found.kind == RecordHeading::Kind::restore ? "restore" : "deletion";
-    return "warning: the " + what + " of " + found.date + " was interrupted, and " +
-           found.whatCanBePutBack() + " can be put back: songsweep restore --library \"" + found.library +
-           "\" --cleanup \"" + cleanupName(found.record) + "\" --dry-run";
+    const std::string which =
+        " --library \"" + found.library + "\" --cleanup \"" + cleanupName(found.record) + "\" --dry-run";
+    std::string warning = "warning: the " + what + " of " + found.date + " was interrupted, and " +
+                          found.whatCanBePutBack() + " can be put back: songsweep restore" + which;
+    if (found.filesToTrash)
+        warning += ", or it can be finished (" + found.whatFinishingDoes() + "): songsweep finish" + which;
+    return warning;
 }
 
 } // namespace songsweep

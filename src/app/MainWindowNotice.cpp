@@ -19,6 +19,8 @@ QString labelOf(NoticeAction action) {
         return QStringLiteral("Show Trash");
     case NoticeAction::showBackup:
         return QStringLiteral("Show backup");
+    case NoticeAction::finish:
+        return QStringLiteral("Finish");
     case NoticeAction::restore:
         return QStringLiteral("Restore...");
     }

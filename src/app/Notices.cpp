@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/Notices.h"
 
+#include "app/FinishedReport.h"
 #include "delete/DeletionSummary.h"
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
+#include "restore/FinishProc.h"
 #include "restore/InterruptedCleanup.h"
 #include "restore/RestoreProc.h"
 #include "restore/RestoreTexts.h"
@@ -30,6 +32,7 @@ std::optional<std::uint64_t> trashedBytes(const std::string& record) {
 
 void Notices::tellDeletion(const DeleteReport& report) {
     if (report.outcomes.empty() || !report.notBegun.empty()) return; // nothing was done
+    m_unfinished.clear();
     m_details = detailsOf(report);
     m_trashedFile = aTrashedFile(report);
     m_backup = report.backup;
@@ -40,6 +43,7 @@ void Notices::tellDeletion(const DeleteReport& report) {
 
 void Notices::tellRestore(const RestoreAnswer& answer) {
     if (!answer.problem.empty()) return; // nothing was done, as the sheet says
+    m_unfinished.clear();
     m_details = restoreTexts::details(answer.report);
     m_trashedFile.clear();
     m_backup = answer.report.backup;
@@ -58,15 +62,29 @@ void Notices::tellInterruption(const InterruptedCleanup& found) {
     m_trashedFile.clear();
     m_backup = found.backup;
     m_record = found.record;
+    m_unfinished = found.filesToTrash ? found.record : std::string();
     const std::string title = what + when + " was interrupted";
-    const std::string rest = found.whatCanBePutBack() + " can be put back.";
+    std::string rest = found.whatCanBePutBack() + " can be put back.";
+    if (found.filesToTrash) rest += " If you finish it, " + found.whatFinishingDoes() + ".";
     show({title, rest, title + ". " + rest, true, {}});
+}
+
+void Notices::tellFinishing() {
+    m_view.showNotice({"Finishing the deletion", "", "Finishing the deletion", false, {}});
+}
+
+/// Where it failed, it can be tried again.
+void Notices::tellFinished(const std::shared_ptr<FinishAnswer>& answer) {
+    if (answer->problem.empty()) return tellDeletion(finishedReport(answer->cleanup));
+    const std::string title = "The deletion could not be finished";
+    show({title, answer->problem + ".", title + ": " + answer->problem, true, {}});
 }
 
 void Notices::show(Notice notice) {
     if (!m_details.empty()) notice.actions.push_back(NoticeAction::details);
     if (!m_trashedFile.empty()) notice.actions.push_back(NoticeAction::showTrash);
     if (!m_backup.empty()) notice.actions.push_back(NoticeAction::showBackup);
+    if (!m_unfinished.empty()) notice.actions.push_back(NoticeAction::finish);
     if (!m_record.empty()) notice.actions.push_back(NoticeAction::restore);
     m_view.showNotice(notice);
 }
@@ -81,6 +99,8 @@ void Notices::noticeActionClick(NoticeAction action) {
         return showInFileManager(m_trashedFile);
     case NoticeAction::showBackup:
         return showInFileManager(m_backup);
+    case NoticeAction::finish:
+        return m_services.finish(m_unfinished);
     case NoticeAction::restore:
         return m_services.restore(m_record);
     }

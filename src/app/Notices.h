@@ -4,6 +4,7 @@
 #include "app/views/NoticeView.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace songsweep {
 class Desktop;
 class Log;
 struct DeleteReport;
+struct FinishAnswer;
 struct InterruptedCleanup;
 struct RestoreAnswer;
 
@@ -26,6 +28,8 @@ class Notices {
         Log& log;
         /// Opens the restore sheet on the clean-up of that record.
         std::function<void(const std::string& record)> restore;
+        /// Finishes the interrupted deletion of that record.
+        std::function<void(const std::string& record)> finish;
     };
 
     Notices(Services services, NoticeView& view)
@@ -35,11 +39,15 @@ class Notices {
     void tellDeletion(const DeleteReport& report);
     void tellRestore(const RestoreAnswer& answer);
     void tellInterruption(const InterruptedCleanup& found);
+    /// An interrupted deletion is being finished, and then: what came of it.
+    void tellFinishing();
+    void tellFinished(const std::shared_ptr<FinishAnswer>& answer);
     void close();
 
     void noticeActionClick(NoticeAction action);
 
   private:
+    /// Adds the buttons for which there is something to show.
     void show(Notice notice);
     void showInFileManager(const std::string& path);
 
@@ -48,7 +56,8 @@ class Notices {
     std::vector<std::string> m_details;
     std::string m_trashedFile; ///< one of those that went to the Trash, "" for none
     std::string m_backup;
-    std::string m_record; ///< of what can be restored
+    std::string m_record;     ///< of what can be restored
+    std::string m_unfinished; ///< the record of what can be finished, "" for none
 };
 
 } // namespace songsweep

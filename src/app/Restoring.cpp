@@ -5,6 +5,7 @@
 #include "app/views/RestoreView.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
+#include "restore/FinishProc.h"
 #include "restore/InterruptionSearch.h"
 
 #include <algorithm>
@@ -36,7 +37,13 @@ void Restoring::begin(const std::string& record) {
 void Restoring::lookForInterruption() {
     const std::string library = m_services.libraryFile();
     if (library.empty()) return;
-    m_looks.add(std::make_unique<InterruptionSearch>(library, m_services.desktop.trash(), m_workers.center));
+    m_looks.add(std::make_unique<InterruptionSearch>(library, m_services.files, m_services.desktop.trash(),
+                                                     m_workers.center));
+}
+
+void Restoring::finish(const std::string& record) {
+    m_workers.queue.add(
+        std::make_unique<FinishProc>(m_services.libraryFile(), record, m_services.files, services()));
 }
 
 void Restoring::onCleanupsListed(const WorkerEvent& event) {

@@ -32,6 +32,8 @@ class Restoring {
     void begin(const std::string& record = {});
     /// Looks whether the newest deletion of the library was killed.
     void lookForInterruption();
+    /// Finishes the interrupted deletion of that record.
+    void finish(const std::string& record);
     void chooseCleanup(int index, LostFiles lostFiles);
     void restoreOkButtonClick();
     /// Stops a restore after the step in hand; closes the sheet otherwise.

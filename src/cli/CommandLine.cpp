@@ -149,6 +149,17 @@ void addRestoreOptions(CLI::App& command, RestoreOptions& options, Raw& raw) {
     addFormat(command, options.format);
 }
 
+void addFinishOptions(CLI::App& command, FinishOptions& options, Raw& raw) {
+    addLibraryOptions(command, raw, " REQUIRED");
+    addVerbose(command, raw);
+    command.add_option("--cleanup", options.cleanup, "Which one (default: the newest that was interrupted)")
+        ->type_name("NAME");
+    auto* const dryRun =
+        command.add_flag("--dry-run", options.dryRun, "Say what would happen and touch nothing");
+    command.add_flag("--yes", options.yes, "Finish")->excludes(dryRun);
+    addFormat(command, options.format);
+}
+
 void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
     options = raw.library;
     for (const std::string& map : raw.maps) {
@@ -225,6 +236,11 @@ void checkRestoreOptions(const RestoreOptions& options) {
             "restore needs --list, or --dry-run, to see what would come back, or --yes");
 }
 
+void checkFinishOptions(const FinishOptions& options) {
+    if (!options.dryRun && !options.yes)
+        throw CLI::ValidationError("finish needs --dry-run, to see what would happen, or --yes");
+}
+
 /// An option that counts on both sides of the command is given on one of them.
 void checkGivenOnce(const CLI::App& app, const CLI::App& command) {
     for (const char* name : {"--library", "--itunes-version", "--log"})
@@ -255,11 +271,14 @@ struct Parser {
     MarkOptions mark;
     DeleteOptions remove;
     RestoreOptions restore;
+    FinishOptions finish;
     ScriptOptions script;
     CLI::App* findCommand = app.add_subcommand("find", "Print the duplicate groups of a library");
     CLI::App* markCommand = app.add_subcommand("mark", "Print what a rule would mark, changing nothing");
     CLI::App* deleteCommand = app.add_subcommand("delete", "Delete what a rule marks");
     CLI::App* restoreCommand = app.add_subcommand("restore", "Bring back what was deleted");
+    CLI::App* finishCommand =
+        app.add_subcommand("finish", "Move the files to the Trash that an interrupted deletion left");
     CLI::App* scriptCommand = app.add_subcommand("script", "Run an AppleScript text over a library");
 };
 
@@ -273,6 +292,7 @@ Parser::Parser(const std::string& version) {
     addMarkOptions(*markCommand, mark, raw);
     addDeleteOptions(*deleteCommand, remove, raw);
     addRestoreOptions(*restoreCommand, restore, raw);
+    addFinishOptions(*finishCommand, finish, raw);
     addLibraryOptions(*scriptCommand, raw);
     addVerbose(*scriptCommand, raw);
     scriptCommand->add_option("file", script.file, "The text's file, or - for standard input")
@@ -309,6 +329,12 @@ Command Parser::command() {
         checkTarget("--log", restore.log, restore);
         checkRestoreOptions(restore);
         return restore;
+    }
+    if (*finishCommand) {
+        finishOptionsOfNamedLibrary(finish, raw);
+        checkTarget("--log", finish.log, finish);
+        checkFinishOptions(finish);
+        return finish;
     }
     if (*scriptCommand) {
         finishLibraryOptions(script, raw);

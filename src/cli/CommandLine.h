@@ -9,8 +9,8 @@
 namespace songsweep::cli {
 
 /// What the command line asks for: the window (its library options alone), or one of the commands.
-using Command =
-    std::variant<LibraryOptions, FindOptions, MarkOptions, DeleteOptions, RestoreOptions, ScriptOptions>;
+using Command = std::variant<LibraryOptions, FindOptions, MarkOptions, DeleteOptions, RestoreOptions,
+                             FinishOptions, ScriptOptions>;
 
 /// The command, or the exit code where help, the version or a usage error was printed instead.
 std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* const* arguments,

@@ -17,6 +17,7 @@ ExitCode runFind(const FindOptions& options, const std::string& version);
 ExitCode runMark(const MarkOptions& options, const std::string& version);
 ExitCode runDelete(const DeleteOptions& options, const std::string& version);
 ExitCode runRestore(const RestoreOptions& options, const std::string& version);
+ExitCode runFinish(const FinishOptions& options, const std::string& version);
 ExitCode runScript(const ScriptOptions& options, const std::string& version);
 
 /// Marks what a search found by the rule that the options name; its folder is turned into the library's

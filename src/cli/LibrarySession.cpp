@@ -61,7 +61,7 @@ ExitCode LibrarySession::searchedCode() const {
 /// Before this program locks the library itself.
 void LibrarySession::warnOfInterruption() {
     const auto desktop = nativeDesktop();
-    if (const auto found = findInterruptedCleanup(m_options.library, desktop->trash()))
+    if (const auto found = findInterruptedCleanup(m_options.library, Files(m_options.map), desktop->trash()))
         tell(withPath(interruption(*found)));
 }
 

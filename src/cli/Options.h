@@ -60,6 +60,14 @@ struct RestoreOptions : LibraryOptions {
     OutputFormat format = OutputFormat::text;
 };
 
+/// The options of `finish`: which interrupted deletion, and whether it is really finished.
+struct FinishOptions : LibraryOptions {
+    std::string cleanup; ///< its name; empty for the newest that was interrupted
+    bool dryRun = false;
+    bool yes = false;
+    OutputFormat format = OutputFormat::text;
+};
+
 /// The options of `script`.
 struct ScriptOptions : LibraryOptions {
     std::string file; ///< "-" for standard input

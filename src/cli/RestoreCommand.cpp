@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RestoreCommand.h"
 
+#include "cli/ChosenCleanup.h"
 #include "cli/CleanupTable.h"
 #include "cli/Commands.h"
 #include "cli/Output.h"
@@ -8,21 +9,7 @@
 #include "platform/Native.h"
 #include "restore/CleanupRestore.h"
 
-#include <algorithm>
-#include <filesystem>
-
 namespace songsweep::cli {
-
-namespace {
-
-/// A user may copy the name from the list, or give the file of the record or of the backup.
-bool isCalled(const CleanupSummary& cleanup, const std::string& name) {
-    const std::filesystem::path file = std::filesystem::path(name).filename();
-    return cleanup.name() == name || std::filesystem::path(cleanup.path).filename() == file ||
-           std::filesystem::path(cleanup.heading.backup).filename() == file;
-}
-
-} // namespace
 
 RestoreCommand::RestoreCommand(const RestoreOptions& options, const std::string& version)
     : m_options(options)
@@ -34,15 +21,13 @@ ExitCode RestoreCommand::run() {
     Result<std::unique_ptr<CommandLog>> log = CommandLog::open(m_options);
     if (!log) return fail(log.error().message);
     m_log = std::move(log).value();
-    Result<std::vector<CleanupSummary>> all = cleanupsOf(m_options.library);
-    if (!all) return fail(all.error().message);
-    std::vector<CleanupSummary> cleanups = std::move(all).value();
-    std::erase_if(cleanups, [](const CleanupSummary& cleanup) { return !cleanup.isCleanup(); });
+    const Result<std::vector<CleanupSummary>> cleanups = deletionsOf(m_options.library);
+    if (!cleanups) return fail(cleanups.error().message);
     // Opened first, so that nothing is done whose outcome cannot be told.
     Result<Output> output = Output::open({});
     if (!output) return fail(output.error().message);
-    if (m_options.list) return list(output.value(), cleanups);
-    const Result<CleanupSummary> cleanup = chosen(cleanups);
+    if (m_options.list) return list(output.value(), cleanups.value());
+    const Result<CleanupSummary> cleanup = chosen(cleanups.value());
     return cleanup ? restore(output.value(), cleanup.value()) : fail(withPath(cleanup.error().message));
 }
 
@@ -53,15 +38,10 @@ ExitCode RestoreCommand::list(Output& output, const std::vector<CleanupSummary>&
 }
 
 Result<CleanupSummary> RestoreCommand::chosen(const std::vector<CleanupSummary>& cleanups) const {
-    const auto found = std::find_if(cleanups.begin(), cleanups.end(), [this](const CleanupSummary& cleanup) {
-        if (!m_options.cleanup.empty()) return isCalled(cleanup, m_options.cleanup);
-        return cleanup.isOpen();
-    });
-    if (found != cleanups.end()) return *found;
-    if (m_options.cleanup.empty())
-        return Error{Error::Code::notFound, "there is no clean-up that could be restored; --list shows all"};
-    return Error{Error::Code::notFound,
-                 "there is no clean-up '" + m_options.cleanup + "'; --list shows those that are there"};
+    return chosenCleanup(cleanups,
+                         {.name = m_options.cleanup,
+                          .isWanted = [](const CleanupSummary& cleanup) { return cleanup.isOpen(); },
+                          .none = "there is no clean-up that could be restored; --list shows all"});
 }
 
 ExitCode RestoreCommand::restore(Output& output, const CleanupSummary& cleanup) {

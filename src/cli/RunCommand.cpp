@@ -17,6 +17,7 @@ struct Runner {
     ExitCode operator()(const MarkOptions& options) const { return runMark(options, version); }
     ExitCode operator()(const DeleteOptions& options) const { return runDelete(options, version); }
     ExitCode operator()(const RestoreOptions& options) const { return runRestore(options, version); }
+    ExitCode operator()(const FinishOptions& options) const { return runFinish(options, version); }
     ExitCode operator()(const ScriptOptions& options) const { return runScript(options, version); }
     ExitCode operator()(const LibraryOptions&) const { return ExitCode::usage; } // the window is no command
 };

@@ -31,6 +31,7 @@ std::string_view text(EventName name) {
         "restoreProgress",
         "restoreFinish",
         "interruptionFound",
+        "cleanupFinished",
     };
     return texts.at(static_cast<std::size_t>(name));
 }

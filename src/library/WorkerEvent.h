@@ -12,6 +12,7 @@ namespace songsweep {
 
 struct CleanupListing;
 struct DeleteReport;
+struct FinishAnswer;
 struct InterruptedCleanup;
 struct ReadError;
 struct RestoreAnswer;
@@ -46,9 +47,10 @@ enum class EventName {
     restoreProgress,
     restoreFinish,
     interruptionFound,
+    cleanupFinished,
 };
 
-inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::interruptionFound) + 1;
+inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::cleanupFinished) + 1;
 
 /// The event's text, as the log shows it ("addFinish").
 std::string_view text(EventName name);
@@ -60,10 +62,11 @@ struct ProgressUnits {
 
 /// What an event brings: nothing, a record, work units, the library file's attributes, or the result of a
 /// worker, which is the receiver's from then on.
-using WorkerEventPayload = std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes,
-                                        std::shared_ptr<ReadError>, std::shared_ptr<SurveyAnswer>,
-                                        std::shared_ptr<DeleteReport>, std::shared_ptr<CleanupListing>,
-                                        std::shared_ptr<RestoreAnswer>, std::shared_ptr<InterruptedCleanup>>;
+using WorkerEventPayload =
+    std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes, std::shared_ptr<ReadError>,
+                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>,
+                 std::shared_ptr<CleanupListing>, std::shared_ptr<RestoreAnswer>,
+                 std::shared_ptr<InterruptedCleanup>, std::shared_ptr<FinishAnswer>>;
 
 /// One event on its way from a worker to the main thread. A value; the record stays its storage's.
 struct WorkerEvent {

@@ -8,9 +8,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <ctime>
+#include <string_view>
 #include <utility>
 
 namespace songsweep {
@@ -56,6 +58,25 @@ void copyRights(const std::string& backup, int record) {
     ::close(descriptor);
 }
 
+/// A kill, or a full disk, may have left a part of a line, which would spoil the next one. An error number,
+/// or 0.
+int cutUnfinishedLine(int descriptor) {
+    std::array<char, 4096> block{};
+    off_t end = ::lseek(descriptor, 0, SEEK_END);
+    while (end > 0) {
+        const off_t begin = std::max<off_t>(0, end - static_cast<off_t>(block.size()));
+        const ssize_t count = ::pread(descriptor, block.data(), static_cast<std::size_t>(end - begin), begin);
+        if (count != end - begin) return count < 0 ? errno : EIO;
+        const std::size_t feed = std::string_view(block.data(), static_cast<std::size_t>(count)).rfind('\n');
+        if (feed != std::string_view::npos) {
+            end = begin + static_cast<off_t>(feed) + 1;
+            break;
+        }
+        end = begin;
+    }
+    return end >= 0 && ::ftruncate(descriptor, end) == 0 ? 0 : errno;
+}
+
 } // namespace
 
 Result<CleanupRecord> CleanupRecord::create(RecordHeading heading) {
@@ -75,6 +96,24 @@ Result<CleanupRecord> CleanupRecord::create(RecordHeading heading) {
     if (begun) return record;
     ::unlink(path.c_str());
     return begun.error();
+}
+
+Result<CleanupRecord> CleanupRecord::resume(const RecordedCleanup& cleanup, const std::string& program) {
+    const int descriptor = ::open(cleanup.path.c_str(), O_RDWR | O_APPEND | O_NOFOLLOW | O_CLOEXEC);
+    if (descriptor < 0) return systemError(errno, "open", cleanup.path);
+    CleanupRecord record(cleanup.path, descriptor);
+    if (const int errorNumber = cutUnfinishedLine(descriptor); errorNumber != 0)
+        return systemError(errorNumber, "write", cleanup.path);
+    for (std::size_t track = 0; track < cleanup.tracks.size(); ++track) {
+        record.m_sizes.push_back(cleanup.tracks[track].plan.file.size);
+        if (const auto& outcome = cleanup.tracks[track].outcome) record.count(track, *outcome);
+    }
+    record.add(
+        JsonLine().text("step", "resumed").text("program", program).text("date", universalTime()).finished());
+    record.handOver();
+    record.reserve(cleanup.tracks.size());
+    if (auto resumed = record.flush(); !resumed) return resumed.error();
+    return record;
 }
 
 CleanupRecord::CleanupRecord(CleanupRecord&& other) noexcept
@@ -149,6 +188,10 @@ void CleanupRecord::outcome(std::size_t track, const RecordedOutcome& outcome) {
     line.text("outcome", wordOf(outcome.track)).text("file", wordOf(outcome.file));
     if (!outcome.reason.empty()) line.text("reason", outcome.reason);
     add(line.finished());
+    count(track, outcome);
+}
+
+void CleanupRecord::count(std::size_t track, const RecordedOutcome& outcome) {
     using Track = RecordedOutcome::Track;
     using File = RecordedOutcome::File;
     m_counts.tracks += outcome.track == Track::deleted || outcome.track == Track::restored ? 1 : 0;

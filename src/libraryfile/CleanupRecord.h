@@ -25,6 +25,8 @@ namespace songsweep {
 ///     {"step":"outcome",…}   what became of one track
 ///     {"step":"end",…}
 ///
+/// A record that a killed program left goes on behind a line {"step":"resumed",…}.
+///
 /// An error of a line that need not be on the disk at once is told by the next call that flushes, which no
 /// step may follow then. Flushes a few times for each write of the library, not for each track. The room for
 /// all lines to come is reserved with the plan. Moves, does not copy; one thread at a time.
@@ -32,6 +34,9 @@ class CleanupRecord {
   public:
     /// Begins a record beside the heading's backup, readable by those who may read that.
     static Result<CleanupRecord> create(RecordHeading heading);
+    /// Goes on with a record that has no end, just as it was read; a last line that was cut off goes. On the
+    /// disk.
+    static Result<CleanupRecord> resume(const RecordedCleanup& cleanup, const std::string& program);
 
     CleanupRecord(CleanupRecord&& other) noexcept;
     CleanupRecord& operator=(CleanupRecord&& other) noexcept;
@@ -69,6 +74,7 @@ class CleanupRecord {
         , m_descriptor(descriptor) {}
 
     void add(const std::string& line);
+    void count(std::size_t track, const RecordedOutcome& outcome);
     void handOver();
     Result<void> flush();
     void reserve(std::size_t tracks);

@@ -91,7 +91,7 @@ Result<RestoreReport> CleanupRestore::foresee() const {
     return withLeftOut(reportFor(m_cleanup, outcome.value(), lookForFiles(m_cleanup, m_trash)));
 }
 
-Result<RestoreReport> CleanupRestore::carryOut(const Task& task) const {
+Result<RestoreReport> CleanupRestore::carryOut(const RestoreTask& task) const {
     auto restore = LibraryRestore::begin(m_library, wantedOf(m_cleanup), {task.purpose});
     if (!restore) return restore.error();
     const std::vector<FileReturn> files = lookForFiles(m_cleanup, m_trash);

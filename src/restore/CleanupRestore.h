@@ -4,10 +4,9 @@
 #include "platform/Result.h"
 #include "platform/Trash.h"
 #include "restore/RestoreReport.h"
+#include "restore/RestoreTask.h"
 
-#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,16 +28,6 @@ enum class LostFiles : std::uint8_t { tracksComeBack, tracksStayAway };
 ///     auto done = restore.carryOut({.program = "Songsweep 1.0", .purpose = "the command restore"});
 class CleanupRestore {
   public:
-    /// Who restores, and how that is followed.
-    struct Task {
-        std::string program; ///< named in the record
-        std::string purpose; ///< told to others who find the library locked
-        /// Asked before the library is written and before each file.
-        std::function<bool()> isCancelled = [] { return false; };
-        /// Told before each file: how many tracks and files are done, of how many.
-        std::function<void(std::size_t done, std::size_t all)> progress = [](std::size_t, std::size_t) {};
-    };
-
     CleanupRestore(std::string library, RecordedCleanup cleanup, Trash& trash,
                    LostFiles lostFiles = LostFiles::tracksComeBack);
 
@@ -46,7 +35,7 @@ class CleanupRestore {
     Result<RestoreReport> foresee() const;
 
     /// An error where nothing was begun.
-    Result<RestoreReport> carryOut(const Task& task) const;
+    Result<RestoreReport> carryOut(const RestoreTask& task) const;
 
   private:
     RestoreReport withLeftOut(RestoreReport report) const;

@@ -51,7 +51,7 @@ class Look {
             return {Fate::isThere, track.trash.value_or(TrashedFile())};
         const std::optional<TrashedFile> place = placeOf(track);
         if (!place) return {isThere(path) && !track.trash ? Fate::none : Fate::isGone, {}};
-        if (isThere(path)) return {Fate::isOccupied, {}};
+        if (isThere(path)) return {Fate::isOccupied, *place};
         return {Fate::comesBack, *place};
     }
 

@@ -20,7 +20,7 @@ struct FileReturn {
     };
 
     Fate fate = Fate::none;
-    TrashedFile place; ///< where it lies in the Trash, if it comes back; where it lay, if that is known
+    TrashedFile place; ///< where it lies in the Trash, if it does; where it lay, if that is known
 };
 
 /// Looks where the files of the tracks are now. A file is known by inode, size and time, so that one that

@@ -4,9 +4,11 @@
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "libraryfile/CleanupLock.h"
+#include "restore/CleanupFinish.h"
 #include "restore/CleanupRestore.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace songsweep {
 
@@ -26,6 +28,19 @@ const CleanupSummary* cleanupOf(const CleanupSummary& newest, const std::vector<
     return found != all.end() && found->isOpen() && found->hasBackup ? &*found : nullptr;
 }
 
+/// A restore is finished by restoring again.
+std::optional<std::size_t> filesToTrash(const CleanupSummary& cleanup, const std::string& library,
+                                        const Files& files, Trash& trash) {
+    if (cleanup.end) return std::nullopt;
+    const auto after = CleanupFinish(library, cleanup.path, files, trash).foresee();
+    if (!after) return std::nullopt;
+    std::unordered_set<std::string> going;
+    for (const RecordedCleanup::Track& track : after.value().tracks)
+        if (track.outcome->file == RecordedOutcome::File::trashed && !track.trash)
+            going.insert(track.plan.path);
+    return going.size();
+}
+
 } // namespace
 
 std::string InterruptedCleanup::whatCanBePutBack() const {
@@ -34,7 +49,13 @@ std::string InterruptedCleanup::whatCanBePutBack() const {
     return text;
 }
 
-std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& library, Trash& trash) {
+std::string InterruptedCleanup::whatFinishingDoes() const {
+    if (filesToTrash.value_or(0) == 0) return "no file is left to go to the Trash";
+    return counted(*filesToTrash, "file") + (*filesToTrash == 1 ? " goes" : " go") + " to the Trash";
+}
+
+std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& library, const Files& files,
+                                                         Trash& trash) {
     const auto all = cleanupsOf(library);
     if (!all || all.value().empty() || all.value().front().end) return std::nullopt;
     const CleanupSummary& newest = all.value().front();
@@ -50,7 +71,8 @@ std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& libr
                               .record = cleanup->path,
                               .backup = cleanup->heading.backup,
                               .tracks = report.value().entries(),
-                              .files = report.value().files()};
+                              .files = report.value().files(),
+                              .filesToTrash = filesToTrash(*cleanup, library, files, trash)};
 }
 
 } // namespace songsweep

@@ -10,7 +10,9 @@
 
 namespace songsweep {
 
-/// A deletion, or a restore, that was killed, and what can be put back of it.
+class Files;
+
+/// A deletion, or a restore, that was killed: what can be put back of it, and what is left to finish.
 struct InterruptedCleanup {
     std::string library; ///< path
     RecordHeading::Kind kind = RecordHeading::Kind::cleanup;
@@ -19,14 +21,20 @@ struct InterruptedCleanup {
     std::string backup; ///< path of the library as it was before the deletion
     std::size_t tracks = 0;
     std::size_t files = 0;
+    /// Files that go to the Trash if it is finished instead; nothing where that is the same as putting back.
+    std::optional<std::size_t> filesToTrash;
 
     /// "3 tracks and 2 files", "1 track".
     std::string whatCanBePutBack() const;
+    /// "2 files go to the Trash", "no file is left to go to the Trash".
+    std::string whatFinishingDoes() const;
 };
 
 /// Looks whether the newest deletion or restore of a library came to its end, or is still at it; nothing
 /// where it did, where nothing of it can be put back, and where that cannot be told. Reads the ends of the
-/// records; where one has none, costs the indexes of the library and of the backup. Any thread.
-std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& library, Trash& trash);
+/// records; where one has none, costs the indexes of the library and of the backup, and the looks of a
+/// RemainingFiles. Any thread.
+std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& library, const Files& files,
+                                                         Trash& trash);
 
 } // namespace songsweep

@@ -8,7 +8,7 @@
 namespace songsweep {
 
 void InterruptionSearch::main() {
-    auto found = findInterruptedCleanup(m_library, m_trash);
+    auto found = findInterruptedCleanup(m_library, m_files, m_trash);
     if (!found || isCancelled()) return;
     m_center.post(
         {EventName::interruptionFound, std::make_shared<InterruptedCleanup>(std::move(*found)), this});

@@ -7,6 +7,7 @@
 
 namespace songsweep {
 
+class Files;
 class Trash;
 struct WorkerEvent;
 template <typename Event>
@@ -16,8 +17,10 @@ class NotificationCenter;
 /// only where that is so.
 class InterruptionSearch final : public Operation {
   public:
-    InterruptionSearch(std::string library, Trash& trash, NotificationCenter<WorkerEvent>& center)
+    InterruptionSearch(std::string library, const Files& files, Trash& trash,
+                       NotificationCenter<WorkerEvent>& center)
         : m_library(std::move(library))
+        , m_files(files)
         , m_trash(trash)
         , m_center(center) {}
 
@@ -25,6 +28,7 @@ class InterruptionSearch final : public Operation {
 
   private:
     std::string m_library;
+    const Files& m_files;
     Trash& m_trash;
     NotificationCenter<WorkerEvent>& m_center;
 };

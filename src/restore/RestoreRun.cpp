@@ -61,7 +61,7 @@ Result<void> RestoreRun::plan() {
     return m_record.planned();
 }
 
-RestoreReport RestoreRun::carryOut(const std::vector<FileReturn>& files, const CleanupRestore::Task& task) {
+RestoreReport RestoreRun::carryOut(const std::vector<FileReturn>& files, const RestoreTask& task) {
     setBack(m_report.tracks);
     if (task.isCancelled())
         m_report.end = End::cancelled;
@@ -90,7 +90,7 @@ bool RestoreRun::writeEntries() {
     return true;
 }
 
-void RestoreRun::moveFiles(const std::vector<FileReturn>& files, const CleanupRestore::Task& task) {
+void RestoreRun::moveFiles(const std::vector<FileReturn>& files, const RestoreTask& task) {
     std::vector<std::size_t> coming;
     for (std::size_t track = 0; track < files.size(); ++track)
         if (files[track].fate == FileReturn::Fate::comesBack) coming.push_back(track);

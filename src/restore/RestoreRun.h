@@ -3,7 +3,8 @@
 
 #include "libraryfile/CleanupRecord.h"
 #include "platform/Trash.h"
-#include "restore/CleanupRestore.h"
+#include "restore/RestoreReport.h"
+#include "restore/RestoreTask.h"
 
 #include <cstddef>
 #include <vector>
@@ -18,11 +19,11 @@ class RestoreRun {
     /// Writes down what is planned; nothing is done after an error.
     Result<void> plan();
 
-    RestoreReport carryOut(const std::vector<FileReturn>& files, const CleanupRestore::Task& task);
+    RestoreReport carryOut(const std::vector<FileReturn>& files, const RestoreTask& task);
 
   private:
     bool writeEntries();
-    void moveFiles(const std::vector<FileReturn>& files, const CleanupRestore::Task& task);
+    void moveFiles(const std::vector<FileReturn>& files, const RestoreTask& task);
     void moveFile(std::size_t track, const TrashedFile& place);
     void forgetMoved(const std::vector<FileReturn>& files);
     void fail(const Error& error);

@@ -63,8 +63,10 @@ void NoticeBarView::setMessage(const QString& text, bool isWarning) {
 QString NoticeBarView::message() const { return m_text; }
 
 void NoticeBarView::setActions(const QStringList& labels) {
-    for (QToolButton* button : m_buttons)
-        delete button;
+    for (QToolButton* button : m_buttons) {
+        button->setParent(nullptr);
+        button->deleteLater(); // It may be the one that is clicked just now.
+    }
     m_buttons.clear();
     for (int index = 0; index < labels.size(); ++index) {
         QToolButton* button = flatButton(this);

@@ -67,8 +67,10 @@ void NoticePageView::setMessage(const QString& title, const QString& text) {
 }
 
 void NoticePageView::setActions(const QStringList& labels) {
-    for (QPushButton* button : m_buttons)
-        delete button;
+    for (QPushButton* button : m_buttons) {
+        button->setParent(nullptr);
+        button->deleteLater(); // It may be the one that is clicked just now.
+    }
     m_buttons.clear();
     QWidget* before = nullptr;
     for (int index = 0; index < labels.size(); ++index) {

@@ -16,6 +16,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <gmock/gmock.h>
@@ -94,6 +95,13 @@ class Restoring : public OwnTrash, public TemporaryFolder, public WindowsFixture
         ASSERT_TRUE(runEventLoopUntil([this] { return controller->isIdle(); }));
         sheetButton("restoreCancelButton").click();
         ASSERT_FALSE(sheet().isVisible());
+    }
+    QAbstractButton& noticeButton(const char* label) {
+        for (QToolButton* const button :
+             child<NoticeBarView>(window(), "noticeBar").findChildren<QToolButton*>())
+            if (button->text() == QLatin1String(label)) return *button;
+        ADD_FAILURE() << "no button " << label;
+        return child<QAbstractButton>(window(), "noticeCloseButton");
     }
     void waitForLines(const std::string& part) {
         ASSERT_TRUE(runEventLoopUntil([&] { return lines().find(part) != std::string::npos; })) << lines();
@@ -230,10 +238,11 @@ TEST_F(Restoring, ADeletionThatWasKilledIsToldAndPutBack) {
     controller->lookForInterruption();
     auto& bar = child<NoticeBarView>(window(), "noticeBar");
     ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
-    EXPECT_THAT(bar.message().toStdString(),
-                ::testing::EndsWith(" was interrupted. 2 tracks and 1 file can be "
-                                    "put back."));
-    child<QAbstractButton>(window(), "noticeButton1").click();
+    EXPECT_THAT(
+        bar.message().toStdString(),
+        ::testing::EndsWith(" was interrupted. 2 tracks and 1 file can be put back. If you finish it, "
+                            "1 file goes to the Trash."));
+    noticeButton("Restore...").click();
     ASSERT_TRUE(sheet().isVisible());
     ASSERT_TRUE(runEventLoopUntil([this] { return sheetButton("restoreOkButton").isEnabled(); }));
     EXPECT_EQ(cell(0, 1), "Interrupted");
@@ -241,6 +250,45 @@ TEST_F(Restoring, ADeletionThatWasKilledIsToldAndPutBack) {
     waitForLines("back in");
     EXPECT_EQ(present(), m_whole);
     EXPECT_TRUE(fs::exists(file("1")) && fs::exists(file("3")));
+}
+
+TEST_F(Restoring, ADeletionThatWasKilledIsFinished) {
+    deleteTwo(SampleCleanup::End::killed);
+    ASSERT_TRUE(fs::exists(file("3")));
+    controller->lookForInterruption();
+    auto& bar = child<NoticeBarView>(window(), "noticeBar");
+    ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
+    noticeButton("Finish").click();
+    EXPECT_EQ(bar.message(), QStringLiteral("Finishing the deletion"));
+    ASSERT_TRUE(runEventLoopUntil([&] {
+        return bar.message().startsWith(QStringLiteral("2 tracks deleted, "));
+    })) << bar.message().toStdString();
+    EXPECT_EQ(bar.message(), QStringLiteral("2 tracks deleted, 2 files in the Trash (0.1 MB)."));
+    EXPECT_FALSE(fs::exists(file("3")));
+    ASSERT_TRUE(runEventLoopUntil([this] { return controller->isIdle(); }));
+    noticeButton("Restore...").click();
+    ASSERT_TRUE(runEventLoopUntil([this] { return sheetButton("restoreOkButton").isEnabled(); }));
+    EXPECT_EQ(cell(0, 1), "") << "it came to its end";
+    sheetButton("restoreOkButton").click();
+    waitForLines("back in");
+    EXPECT_EQ(present(), m_whole);
+    EXPECT_TRUE(fs::exists(file("1")) && fs::exists(file("3")));
+}
+
+TEST_F(Restoring, WhyADeletionCannotBeFinishedIsTold) {
+    deleteTwo(SampleCleanup::End::killed);
+    controller->lookForInterruption();
+    auto& bar = child<NoticeBarView>(window(), "noticeBar");
+    ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
+    const auto lock = CleanupLock::acquire(library, {"the command delete"});
+    ASSERT_TRUE(lock);
+    noticeButton("Finish").click();
+    ASSERT_TRUE(
+        runEventLoopUntil([&] { return bar.message().contains(QStringLiteral("another Songsweep")); }));
+    EXPECT_THAT(bar.message().toStdString(),
+                ::testing::StartsWith("The deletion could not be finished: another Songsweep (the command "));
+    EXPECT_TRUE(fs::exists(file("3")));
+    EXPECT_TRUE(runEventLoopUntil([&] { return noticeButton("Finish").isVisible(); })) << "to try it again";
 }
 
 TEST_F(Restoring, ADeletionThatCameToItsEndIsNotTold) {

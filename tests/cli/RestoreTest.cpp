@@ -147,12 +147,16 @@ TEST_F(Restore, IsOfferedWhereTheNewestDeletionWasKilled) {
     const std::vector<std::string> find = {"find", "--library", m_library};
     const std::vector<std::string> remove = {"delete", "--library",       m_library,
                                              "--rule", "highest-bitrate", "--dry-run"};
+    const std::string which = " --library \"" + m_library + "\" --cleanup \"" + name + "\" --dry-run";
     for (const auto& command : {find, remove})
         EXPECT_THAT(run(command).errors,
                     AllOf(HasSubstr(m_library + ": warning: the deletion of 2"),
                           HasSubstr("Z was interrupted, and 2 tracks and 2 files can be put back: songsweep "
-                                    "restore --library \"" +
-                                    m_library + "\" --cleanup \"" + name + "\" --dry-run\n")));
+                                    "restore" +
+                                    which +
+                                    ", or it can be finished (no file is left to go to the Trash): songsweep "
+                                    "finish" +
+                                    which + "\n")));
     {
         const auto lock = CleanupLock::acquire(m_library, {"a window"});
         EXPECT_EQ(run(find).errors, "") << "it may be at it still";

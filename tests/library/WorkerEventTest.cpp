@@ -34,6 +34,7 @@ TEST(WorkerEventTest, EveryEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::restoreProgress), "restoreProgress");
     EXPECT_EQ(text(EventName::restoreFinish), "restoreFinish");
     EXPECT_EQ(text(EventName::interruptionFound), "interruptionFound");
+    EXPECT_EQ(text(EventName::cleanupFinished), "cleanupFinished");
 }
 
 TEST(WorkerEventTest, TheTwoCountsAreCountsAndNothingElseIs) {

@@ -10,7 +10,7 @@ class Trash;
 
 namespace songsweep::test {
 
-/// A clean-up that a test carries out.
+/// A clean-up that a test has the program's own iTunes and Finder carry out.
 struct SampleCleanup {
     enum class End { complete, killed };
 
@@ -21,7 +21,7 @@ struct SampleCleanup {
 };
 
 /// Deletes the tracks and moves their files to the Trash, with a backup and a record, whose path it gives.
-/// One that is killed has moved the first file and told of none.
+/// One that is killed has moved the first file and no other.
 std::string carryOut(const SampleCleanup& cleanup);
 
 } // namespace songsweep::test

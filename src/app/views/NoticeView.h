@@ -6,7 +6,7 @@
 
 namespace songsweep {
 
-enum class NoticeAction { details, showTrash, showBackup, restore };
+enum class NoticeAction { details, showTrash, showBackup, finish, restore };
 
 /// A message that stands over the table until the user closes it or something new begins.
 struct Notice {
