@@ -23,7 +23,7 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
     }
 }
 
-void predictTrack(const TrackRecord& record, const SharedIds& ids, DeleteOutcome& outcome) {
+void predictTrack(const TrackRecord& record, SharedIds& ids, DeleteOutcome& outcome) {
     const char* const obstacle = trackObstacle(record.pid);
     const std::string reason = obstacle ? obstacle : ids.reasonToKeep(record);
     outcome.track = reason.empty() ? DeleteOutcome::Track::deleted : DeleteOutcome::Track::failed;
@@ -41,7 +41,7 @@ void predictKeptFile(const TrackRecord& record, const DeletePlan& plan, DeleteOu
 DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFile, const DeletePlan& plan,
                              const TracksOfId& tracksOfId) {
     DeleteReport report;
-    const SharedIds ids(rows, tracksOfId);
+    SharedIds ids(rows, tracksOfId);
     for (const TrackRecord* const record : rows) {
         if (!record->checkbox) continue;
         DeleteOutcome& outcome = report.outcomes.emplace_back(outcomeOf(*record));

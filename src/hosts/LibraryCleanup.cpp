@@ -4,6 +4,8 @@
 #include "hosts/EmbeddedLibrary.h"
 
 #include <algorithm>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace songsweep {
@@ -19,12 +21,25 @@ std::vector<std::size_t> tracksOf(std::span<const HeldFile> files) {
     return tracks;
 }
 
-/// The track ID in this version of the library; nothing is known where another track has it now.
-std::int64_t presentId(LibraryDocument& library, const RecordedTrack& track) {
-    for (const auto position : library.tracksWithPersistentId(track.persistentId))
-        if (library.trackId(position) == track.trackId) return track.trackId;
-    return -1;
-}
+/// The track IDs of a version of the library; thousands of tracks may have one persistent ID.
+class PresentIds {
+  public:
+    explicit PresentIds(LibraryDocument& library)
+        : m_library(library) {}
+
+    /// The ID that was planned; nothing is known where another track has it now.
+    std::int64_t of(const RecordedTrack& track) {
+        const auto [known, isNew] = m_ids.try_emplace(track.persistentId);
+        if (isNew)
+            for (const auto position : m_library.tracksWithPersistentId(track.persistentId))
+                known->second.insert(m_library.trackId(position));
+        return known->second.contains(track.trackId) ? track.trackId : -1;
+    }
+
+  private:
+    LibraryDocument& m_library;
+    std::unordered_map<std::string, std::unordered_set<std::int64_t>> m_ids;
+};
 
 } // namespace
 
@@ -54,8 +69,9 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     const std::string backup = heading.backup;
     auto record = CleanupRecord::create(std::move(heading));
     if (!record) return record.error();
+    PresentIds ids(library);
     for (RecordedTrack& track : plan.tracks) {
-        track.trackId = presentId(library, track);
+        track.trackId = ids.of(track);
         record.value().plan(track);
     }
     if (auto planned = record.value().planned(); !planned) {

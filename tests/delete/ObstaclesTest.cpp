@@ -48,6 +48,26 @@ TEST_F(ObstaclesTest, ATrackWhoseIdATrackOutsideOfTheResultsHasTooStays) {
                             "B: deleted"));
 }
 
+TEST_F(ObstaclesTest, AReasonNamesAFewOfThousandsOfTracksAndAsksForThemOnce) {
+    constexpr int marked = 3;
+    for (int track = 0; track < marked; ++track)
+        add(1, "A", true);
+    int questions = 0;
+    m_tracksOfId = [&](std::string_view) {
+        ++questions;
+        std::vector<std::string> tracks;
+        for (int track = 0; track < 5000; ++track)
+            tracks.push_back("“" + std::to_string(track) + "”");
+        return tracks;
+    };
+    run(withoutFiles);
+    EXPECT_EQ(questions, 1);
+    EXPECT_EQ(outcomes(),
+              std::vector<std::string>(
+                  marked, "A: failed: 5000 tracks of the library have its persistent ID (“0”, “1”, "
+                          "“2” and 4997 more), of which 3 are marked"));
+}
+
 TEST_F(ObstaclesTest, TracksOfOneIdGoWhereAllOfThemAreMarked) {
     add(1, "A", true);
     add(1, "A", true);
