@@ -16,5 +16,7 @@ std::unique_ptr<Preferences> nativePreferences();
 
 /// The files and folders in which those preferences look for a library, for telling the user.
 std::vector<std::string> nativeLibraryPlaces();
+/// The library files that are there; none where the system's iTunes knows its own.
+std::vector<std::string> nativeLibraries();
 
 } // namespace songsweep

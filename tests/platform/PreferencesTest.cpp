@@ -54,6 +54,16 @@ TEST_F(PreferencesOnLinux, FindALibraryInTheMusicFolder) {
                 ElementsAre("file://" + music() + "/iTunes/iTunes%20Library.xml"));
 }
 
+TEST_F(PreferencesOnLinux, ListEveryLibraryOnce) {
+    m_folder.write("Musik/iTunes/iTunes Library.xml", "");
+    m_folder.write("Musik/Music/Library.xml", "");
+    m_folder.write("Music/iTunes Music Library.xml", "");
+    const LinuxPreferences twice({m_folder.path(), {music(), m_folder.path() + "/Music", music()}});
+    EXPECT_THAT(twice.libraries(),
+                ElementsAre(music() + "/iTunes/iTunes Library.xml", music() + "/Music/Library.xml",
+                            m_folder.path() + "/Music/iTunes Music Library.xml"));
+}
+
 TEST_F(PreferencesOnLinux, FindTheFileThatITunesItselfKeepsFirst) {
     m_folder.write("Music/Music Library.xml", "");
     m_folder.write("Musik/Music/Music Library.xml", "");

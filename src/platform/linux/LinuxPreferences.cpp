@@ -3,6 +3,7 @@
 
 #include "platform/FileUrl.h"
 #include "platform/HomeFolder.h"
+#include "platform/UsualLibraries.h"
 #include "platform/linux/PropertyList.h"
 
 #include <QStandardPaths>
@@ -16,20 +17,6 @@ namespace songsweep {
 namespace {
 
 constexpr const char* propertyList = "/Library/Preferences/com.apple.iApps.plist";
-
-/// Below the Music folder; iTunes' names first, then those of the application that followed it.
-constexpr const char* usualPlaces[] = {"/iTunes/iTunes Music Library.xml",
-                                       "/iTunes/iTunes Library.xml",
-                                       "/iTunes/Library.xml",
-                                       "/iTunes Music Library.xml",
-                                       "/iTunes Library.xml",
-                                       "/Music/Music Library.xml",
-                                       "/Music/Library.xml",
-                                       "/Music Library.xml",
-                                       "/Library.xml"};
-
-/// The folders of those names.
-constexpr const char* usualFolders[] = {"/iTunes", "", "/Music"};
 
 bool isFile(const std::string& path) {
     struct stat attributes {};
@@ -48,10 +35,9 @@ LinuxPreferences::Folders LinuxPreferences::userFolders() {
 
 std::optional<IAppsDomain> LinuxPreferences::iAppsDomain() const {
     if (isFile(m_folders.home + propertyList)) return std::nullopt;
-    for (const std::string& folder : m_folders.music)
-        for (const char* place : usualPlaces)
-            if (isFile(folder + place)) return IAppsDomain{{fileUrl(folder + place)}};
-    return std::nullopt;
+    const std::vector<std::string> found = libraries();
+    if (found.empty()) return std::nullopt;
+    return IAppsDomain{{fileUrl(found.front())}};
 }
 
 std::optional<IAppsDomain> LinuxPreferences::iAppsPropertyList(const std::string& path) const {
@@ -61,11 +47,17 @@ std::optional<IAppsDomain> LinuxPreferences::iAppsPropertyList(const std::string
 std::vector<std::string> LinuxPreferences::libraryPlaces() const {
     std::vector<std::string> places = {m_folders.home + propertyList};
     for (const std::string& folder : m_folders.music)
-        for (const char* usual : usualFolders)
-            if (const std::string place = folder + usual;
-                std::find(places.begin(), places.end(), place) == places.end())
-                places.push_back(place);
+        for (const std::string& place : usualLibraryFolders(folder))
+            if (std::find(places.begin(), places.end(), place) == places.end()) places.push_back(place);
     return places;
+}
+
+std::vector<std::string> LinuxPreferences::libraries() const {
+    std::vector<std::string> found;
+    for (const std::string& folder : m_folders.music)
+        for (const std::string& library : usualLibraries(folder))
+            if (std::find(found.begin(), found.end(), library) == found.end()) found.push_back(library);
+    return found;
 }
 
 } // namespace songsweep

@@ -28,6 +28,8 @@ class LinuxPreferences final : public Preferences {
 
     /// The files and folders in which a library is looked for.
     std::vector<std::string> libraryPlaces() const;
+    /// The library files that are there, the one that the domain names first.
+    std::vector<std::string> libraries() const;
 
   private:
     Folders m_folders;

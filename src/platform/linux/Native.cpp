@@ -16,4 +16,8 @@ std::vector<std::string> nativeLibraryPlaces() {
     return LinuxPreferences(LinuxPreferences::userFolders()).libraryPlaces();
 }
 
+std::vector<std::string> nativeLibraries() {
+    return LinuxPreferences(LinuxPreferences::userFolders()).libraries();
+}
+
 } // namespace songsweep

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Native.h"
 
+#include "platform/RecentFiles.h"
 #include "platform/mac/MacDesktop.h"
 #include "platform/mac/MacPreferences.h"
 
@@ -13,5 +14,9 @@ std::unique_ptr<Preferences> nativePreferences() { return std::make_unique<MacPr
 std::vector<std::string> nativeLibraryPlaces() {
     return {MacPreferences().homeFolder() + "/Library/Preferences/com.apple.iApps.plist"};
 }
+
+std::vector<std::string> nativeLibraries() { return {}; }
+
+std::unique_ptr<RecentFiles> nativeRecentFiles() { return nullptr; }
 
 } // namespace songsweep
