@@ -56,4 +56,19 @@ QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason) {
     return openWarning(parent, QStringLiteral("Can't write the library."), reason);
 }
 
+QMessageBox* openMarksAreLost(QWidget* parent, int marks, std::function<void()> accepted) {
+    auto* box = new AlertBox(QMessageBox::Warning, QStringLiteral("Open another library?"), parent);
+    box->setInformativeText(marks == 1
+                                ? QStringLiteral("The mark in these results is lost then.")
+                                : QStringLiteral("The %L1 marks in these results are lost then.").arg(marks));
+    QPushButton* cancel = box->addButton(QStringLiteral("&Cancel"), QMessageBox::RejectRole);
+    QPushButton* open = box->addButton(QStringLiteral("&Open"), QMessageBox::AcceptRole);
+    open->setAutoDefault(false);
+    box->setDefaultButton(cancel);
+    box->setEscapeButton(cancel);
+    QObject::connect(open, &QPushButton::clicked, box, [accepted = std::move(accepted)] { accepted(); });
+    box->open();
+    return box;
+}
+
 } // namespace songsweep::alerts

@@ -28,4 +28,7 @@ QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason);
 /// "Can't open the library.", with the reason as a second paragraph.
 QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason);
 
+/// Whether another library may be opened though marks are lost; `accepted` comes where it may.
+QMessageBox* openMarksAreLost(QWidget* parent, int marks, std::function<void()> accepted);
+
 } // namespace songsweep::alerts

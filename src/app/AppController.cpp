@@ -41,6 +41,7 @@ consteval bool hasEveryEventInItsPlace(const Table& table) {
 AppController::AppController(ControllerServices services, ControllerViews views)
     : m_services(std::move(services))
     , m_view(views.application)
+    , m_library(m_services, views, {m_center, m_queue})
     , m_progress(views.progress, views.formprogress)
     , m_results(views.results)
     , m_marks(m_results, views.mark, m_services.log)
@@ -59,6 +60,7 @@ AppController::AppController(ControllerServices services, ControllerViews views)
 AppController::~AppController() {
     m_deletion.stop();
     m_restoring.stop();
+    m_library.stop();
 }
 
 void AppController::reportIdle() const {
@@ -80,6 +82,7 @@ bool AppController::applicationShouldTerminate() {
     m_progress.stop();
     m_deletion.stop();
     m_restoring.stop();
+    m_library.stop();
     m_queue.cancelAllOperations();
     m_center.close();
     return true;
@@ -102,11 +105,13 @@ void AppController::alertCantAccessDidEnd(int returnCode) {
 // Searching.
 
 void AppController::startButtonClick() {
-    if (!isDeleting()) m_search.startButtonClick();
+    if (isDeleting()) return;
+    if (m_library.isMissing()) return m_library.choose();
+    m_search.startButtonClick(m_library.isReading() ? Search::Playlists::whenRead : Search::Playlists::now);
 }
 
 void AppController::paramOkButtonClick(SearchParameters choices) {
-    if (isDeleting()) return;
+    if (isDeleting() || m_library.isReading()) return;
     m_notices.close();
     m_search.paramOkButtonClick(std::move(choices));
 }
@@ -216,6 +221,12 @@ void AppController::restoreOkButtonClick() {
 
 void AppController::tellDeletion() {
     if (const DeleteReport* const report = m_deletion.lastReport()) m_notices.tellDeletion(*report);
+    m_library.refresh();
+}
+
+void AppController::onLibraryRead(const WorkerEvent& event) {
+    m_library.onLibraryRead(event);
+    if (!m_library.isReading()) m_search.onLibraryRead();
 }
 
 void AppController::tellInterruption(const std::shared_ptr<InterruptedCleanup>& found) {
@@ -281,10 +292,12 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
              take(e, a.m_restoring, &Restoring::onRestoreFinish);
              if (const RestoreAnswer* const answer = a.m_restoring.lastAnswer())
                  a.m_notices.tellRestore(*answer);
+             a.m_library.refresh();
          }},
         {N::interruptionFound, silent,
          [](A& a, const E& e) { take(e, a, &AppController::tellInterruption); }},
         {N::cleanupFinished, silent, [](A& a, const E& e) { take(e, a.m_notices, &Notices::tellFinished); }},
+        {N::libraryRead, silent, [](A& a, const E& e) { a.onLibraryRead(e); }},
     });
     static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
     if (m_search.isStale(event)) return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ControllerServices.h"
+#include "app/CurrentLibrary.h"
 #include "app/Deletion.h"
 #include "app/Links.h"
 #include "app/Marks.h"
@@ -46,7 +47,15 @@ class AppController {
     void contactButtonClick() { launchURL(links::contact); }
     void alertCantAccessDidEnd(int returnCode);
 
+    // The library.
+    /// Has the library read, which is the first one, or another; where it cannot be read, `telling` says how
+    /// that is told.
+    void beginLibrary(CurrentLibrary::Telling telling) { m_library.begin(telling); }
+    const LibraryOverview& library() const { return m_library.overview(); }
+
     // Searching.
+    /// Opens the parameters dialog, whose playlists follow once the library was read; asks for a library
+    /// where there is none.
     void startButtonClick();
     void paramOkButtonClick(SearchParameters choices);
     void paramCancelButtonClick() { m_search.closeParamWindow(); }
@@ -111,6 +120,8 @@ class AppController {
     bool isWorking() const { return m_queue.operationCount() > 0; }
     /// Nothing runs and no deletion is being confirmed.
     bool isIdle() const { return !isDeleting() && !isWorking(); }
+    /// Nobody works with the present library, nor reads it.
+    bool mayOpenLibrary() const { return isIdle() && !m_library.isReading(); }
     /// Called from the event loop each time the last worker has returned, and when a deletion was cancelled
     /// before it had one.
     void setIdleHandler(std::function<void()> handler) { m_idleHandler = std::move(handler); }
@@ -124,6 +135,7 @@ class AppController {
     void beginRestore(const std::string& record);
     void finishCleanup(const std::string& record);
     void tellDeletion();
+    void onLibraryRead(const WorkerEvent& event);
     void tellInterruption(const std::shared_ptr<InterruptedCleanup>& found);
     void threadHandlerSingleFinished2(const WorkerEvent& event);
     /// Null for none, and while the rows are a worker's.
@@ -133,6 +145,7 @@ class AppController {
     ControllerServices m_services;
     ApplicationView& m_view;
     NotificationCenter<WorkerEvent> m_center;
+    CurrentLibrary m_library;
     ProgressDisplay m_progress;
     Results m_results;
     Marks m_marks;

@@ -4,10 +4,12 @@
 #include "app/MapRule.h"
 #include "delete/DeletePlan.h"
 #include "delete/SharedIds.h"
+#include "library/LibraryOverview.h"
 #include "platform/Result.h"
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace songsweep {
 
@@ -45,6 +47,13 @@ struct ControllerServices {
     std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
     /// The library file that the embedded iTunes works on, for restoring; "" where it is the system's.
     std::function<std::string()> libraryFile = [] { return std::string(); };
+    /// What the library file holds; indexes it where that was not done. Called on a worker thread.
+    std::function<Result<LibraryContents>()> libraryContents = [] { return LibraryContents(); };
+    /// The files and folders in which a library was looked for.
+    std::function<std::vector<std::string>()> libraryPlaces = [] { return std::vector<std::string>(); };
+    /// Other libraries than the present one: those that lie there, and those that were opened last. Called on
+    /// a worker thread.
+    std::function<std::vector<std::string>()> otherLibraries = [] { return std::vector<std::string>(); };
     /// Writes what is pending of it. Called on a worker thread.
     std::function<Result<void>()> writeLibrary = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.

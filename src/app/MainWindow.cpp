@@ -4,6 +4,7 @@
 #include "app/BringToFront.h"
 #include "app/Progress.h"
 #include "theme/Announcement.h"
+#include "ui/EmptyPageView.h"
 #include "ui/NoticeBarView.h"
 #include "ui/NoticePageView.h"
 #include "ui/SWTableView.h"
@@ -26,6 +27,7 @@ MainWindow::MainWindow(Log& log, QWidget* parent)
     m_ui->contentStack->setBackgroundRole(QPalette::Base);
     setUpToolbar();
     setUpToolTips();
+    setUpEmptyPage();
     setUpPageKeys();
     setUpTable(log);
     setUpContextMenu();
@@ -142,7 +144,7 @@ void MainWindow::updateSearchedLabel() {
 
 void MainWindow::setSearchEnabled(bool enabled) {
     m_ui->searchButton->setEnabled(enabled);
-    m_ui->emptySearchButton->setEnabled(enabled);
+    m_ui->emptyPage->searchButton().setEnabled(enabled);
     validateMenuItems();
 }
 

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "app/LayoutLengths.h"
+#include "app/views/LibraryView.h"
 #include "app/views/NoticeView.h"
 #include "app/views/ProgressView.h"
 #include "app/views/ResultsView.h"
 #include "library/DisplayedList.h"
+#include "library/LibraryOverview.h"
 
 #include <QMainWindow>
 
@@ -33,7 +35,11 @@ class TrackTableModel;
 /// Knows no controller. It is the view of the results and of a search's progress, and says by signals what
 /// the user asks for, each signal named after the action it asks for; who makes the window connects them.
 /// Toolbar and strip never change their size, so that the states differ in their content alone. Main thread.
-class MainWindow : public QMainWindow, public ResultsView, public ProgressView, public NoticeView {
+class MainWindow : public QMainWindow,
+                   public LibraryView,
+                   public ResultsView,
+                   public ProgressView,
+                   public NoticeView {
     Q_OBJECT
   public:
     explicit MainWindow(Log& log, QWidget* parent = nullptr);
@@ -48,6 +54,10 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView, 
     void setOpenLibraryGuard(std::function<bool()> guard) { m_mayOpenLibrary = std::move(guard); }
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
+
+    // LibraryView: in the title, and in the empty state
+    void showLibrary(const LibraryOverview& library) override;
+    void chooseLibrary() override;
 
     // ResultsView
     void reloadTable(const DisplayedList& tableDataSource) override;
@@ -118,6 +128,8 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView, 
   private:
     void setUpToolbar();
     void setUpToolTips();
+    void setUpEmptyPage();
+    void fillRecentMenu();
     void setUpPageKeys();
     void setUpTable(Log& log);
     void setUpContextMenu();
@@ -131,12 +143,12 @@ class MainWindow : public QMainWindow, public ResultsView, public ProgressView, 
     void showPage();
     void updateSearchedLabel();
     void setSearchEnabled(bool enabled);
-    void chooseLibrary();
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     std::optional<LayoutLengths> m_lengths;
     TrackTableModel* m_model;
     std::function<bool()> m_mayOpenLibrary = [] { return true; };
+    LibraryOverview m_library;
     QString m_searchedText;
     std::optional<Notice> m_notice;
     bool m_tableVisible = false;

@@ -3,11 +3,12 @@
 #include "library/LocationUrl.h"
 #include "ui_MainWindow.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFileDialog>
+#include <QFile>
+#include <QFileInfo>
 #include <QMimeData>
+#include <QUrl>
 
 namespace songsweep {
 
@@ -19,12 +20,21 @@ std::string localPath(const QUrl& url) {
     return pathOfUrl(url.toEncoded(QUrl::FullyEncoded).toStdString()).value_or(std::string());
 }
 
-/// The one library file among what is dragged, or an empty text.
+/// What people take for a library: its file, what iTunes and Music keep beside it, an archive of it, or the
+/// folder in which it lies. A wrong one is told by its name, which beats a drag that nothing answers.
+bool mayBeLibrary(const QFileInfo& file) {
+    static const QStringList endings = {QStringLiteral("xml"), QStringLiteral("itl"),
+                                        QStringLiteral("musicdb"), QStringLiteral("musiclibrary"),
+                                        QStringLiteral("zip")};
+    return file.isDir() || endings.contains(file.suffix(), Qt::CaseInsensitive);
+}
+
+/// The one library among what is dragged, or an empty text.
 std::string libraryPath(const QMimeData& data) {
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1) return {};
-    const bool isLibrary = urls.front().fileName().endsWith(QStringLiteral(".xml"), Qt::CaseInsensitive);
-    return isLibrary ? localPath(urls.front()) : std::string();
+    const std::string path = localPath(urls.front());
+    return mayBeLibrary(QFileInfo(QFile::decodeName(path.c_str()))) ? path : std::string();
 }
 
 } // namespace
@@ -48,20 +58,6 @@ void MainWindow::dropEvent(QDropEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::FontChange && m_lengths) applyMetrics();
-}
-
-void MainWindow::chooseLibrary() {
-    if (!m_mayOpenLibrary()) {
-        QApplication::beep();
-        return;
-    }
-    auto* dialog = new QFileDialog(this, QStringLiteral("Open library"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilter(QStringLiteral("iTunes libraries (*.xml)"));
-    connect(dialog, &QFileDialog::urlSelected, this,
-            [this](const QUrl& url) { Q_EMIT openLibrary(localPath(url)); });
-    dialog->open();
 }
 
 } // namespace songsweep

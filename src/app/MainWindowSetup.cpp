@@ -2,6 +2,7 @@
 #include "app/MainWindow.h"
 #include "theme/Icons.h"
 #include "theme/Metrics.h"
+#include "ui/EmptyPageView.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
 #include "ui_MainWindow.h"
@@ -32,7 +33,6 @@ void MainWindow::setUpToolbar() {
     m_ui->deleteButton->setIcon(themedIcon(Icon::bin));
     m_ui->formprogressCancelButton->setIcon(themedIcon(Icon::cancel));
     connect(m_ui->searchButton, &QToolButton::clicked, this, &MainWindow::startButtonClick);
-    connect(m_ui->emptySearchButton, &QPushButton::clicked, this, &MainWindow::startButtonClick);
     connect(m_ui->autoMarkButton, &QToolButton::clicked, this, &MainWindow::markButtonClick);
     connect(m_ui->deleteButton, &QToolButton::clicked, this, &MainWindow::deleteButtonClick);
     connect(m_ui->formprogressCancelButton, &QToolButton::clicked, this, &MainWindow::cancelformButtonClick);
@@ -55,8 +55,8 @@ void MainWindow::setUpPageKeys() {
     auto* cancel = new QShortcut(Qt::Key_Escape, m_ui->progressPage);
     connect(cancel, &QShortcut::activated, m_ui->formprogressCancelButton, &QToolButton::click);
     auto* search = new QShortcut(Qt::Key_Return, m_ui->emptyPage);
-    search->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(search, &QShortcut::activated, m_ui->emptySearchButton, &QPushButton::click);
+    search->setContext(Qt::WidgetShortcut);
+    connect(search, &QShortcut::activated, m_ui->emptyPage, &EmptyPageView::goOn);
 }
 
 void MainWindow::setUpTable(Log& log) {

@@ -42,6 +42,12 @@ SearchParameters ParametersDialog::parameters() const {
 
 void ParametersDialog::showParamWindow() { bringToFront(*this); }
 void ParametersDialog::closeParamWindow() { hide(); }
+void ParametersDialog::setPlaylistsPending(bool pending) {
+    m_ui->paramLocationCB->setEnabled(!pending);
+    m_ui->paramLocationCB->setPlaceholderText(pending ? QStringLiteral("Reading the library...") : QString());
+    findChild<QPushButton*>(QStringLiteral("paramSearchButton"))->setEnabled(!pending);
+}
+
 void ParametersDialog::clearPlaylists() { m_ui->paramLocationCB->clear(); }
 
 void ParametersDialog::addPlaylist(const std::string& name) {

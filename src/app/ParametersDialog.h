@@ -31,6 +31,7 @@ class ParametersDialog : public QDialog, public SearchView {
     // SearchView
     void showParamWindow() override;
     void closeParamWindow() override;
+    void setPlaylistsPending(bool pending) override;
     void clearPlaylists() override;
     /// At the end, in UTF-8; nothing gets selected by it.
     void addPlaylist(const std::string& name) override;

@@ -3,10 +3,14 @@
 
 #include "library/RecentLibrary.h"
 #include "libraryfile/CleanupForesight.h"
+#include "libraryfile/ForeignFile.h"
+#include "libraryfile/LibraryFile.h"
 #include "platform/GivenLibrary.h"
 #include "platform/Log.h"
 #include "platform/Native.h"
+#include "platform/UsualLibraries.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace songsweep {
@@ -33,6 +37,16 @@ std::string noLibraryReason() {
     return "no library was found on this machine; name one with --library, or open one in the window (looked "
            "for in " +
            places + ")";
+}
+
+/// The library in a folder, or the file itself where it may be one.
+Result<std::string> libraryAt(const std::string& path) {
+    if (const auto reason = foreignFile(path)) return Error{Error::Code::invalid, *reason};
+    std::error_code error;
+    if (!std::filesystem::is_directory(path, error)) return path;
+    const std::vector<std::string> found = usualLibraries(path);
+    if (!found.empty()) return found.front();
+    return Error{Error::Code::notFound, path + " holds no library file. " + wayToLibraryFile()};
 }
 
 } // namespace
@@ -67,7 +81,8 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
     }
     // Nothing is pending in a program that has just begun. The system's iTunes, too, has its files looked at
     // here.
-    (void)m_scripting.openLibrary(recentLibrary(m_preferences).path.value_or(""));
+    m_libraryPath = recentLibrary(m_preferences).path.value_or("");
+    (void)m_scripting.openLibrary(m_libraryPath);
 }
 
 EmbeddedScripting::Options Program::scriptingOptions() {
@@ -101,8 +116,10 @@ ControllerServices Program::controllerServices() {
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
         .tracksOfId = [this](std::string_view pid) { return tracksOfId(pid); },
         .libraryForesight = [this] { return foreseeWriting(); },
-        .libraryFile =
-            [this] { return m_scripts.usesEmbedded() ? m_scripting.libraryPath() : std::string(); },
+        .libraryFile = [this] { return m_scripts.usesEmbedded() ? m_libraryPath : std::string(); },
+        .libraryContents = [this] { return libraryContents(); },
+        .libraryPlaces = [] { return nativeLibraryPlaces(); },
+        .otherLibraries = [this] { return otherLibraries(); },
         .writeLibrary = [this] { return writeLibrary(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
         .mapRules = m_options.mapRules,
@@ -110,13 +127,15 @@ ControllerServices Program::controllerServices() {
 }
 
 OpenedLibrary Program::openLibrary(const std::string& path) {
-    const std::string absolute = absolutePath(path);
+    const Result<std::string> library = libraryAt(absolutePath(path));
+    if (!library) return {.turned = false, .problem = library.error().message};
+    const std::string& absolute = library.value();
     const Result<void> turned = m_scripting.openLibrary(absolute);
     if (!turned) return {.turned = false, .problem = turned.error().message};
     m_preferences.choose(absolute);
     m_scripts.chooseEmbedded();
-    const Result<void> read = m_scripting.readLibrary();
-    return {.turned = true, .problem = read ? std::string() : read.error().message};
+    m_libraryPath = absolute;
+    return {.turned = true, .problem = {}};
 }
 
 std::string Program::unreachableReason() const {
@@ -159,6 +178,47 @@ Result<void> Program::foreseeWriting() {
     const Result<void> foreseen = foreseeCleanup(m_scripting.libraryPath());
     if (!foreseen) return Error{foreseen.error().code, withLibraryPath(foreseen.error().message)};
     return {};
+}
+
+/// On a worker thread.
+Result<LibraryContents> Program::libraryContents() {
+    const std::string path = m_scripting.libraryPath();
+    if (const auto reason = foreignFile(path)) return Error{Error::Code::invalid, *reason};
+    const Result<int> tracks = m_scripting.trackCount();
+    const Result<std::vector<PlaylistInfo>> playlists = m_scripting.playlists();
+    if (!tracks) return unreadable(tracks.error());
+    if (!playlists) return unreadable(playlists.error());
+    if (m_options.recentFiles) m_options.recentFiles->note(path);
+    constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
+    const Result<FileStamp> stamp = LibraryFile::stampOf(path);
+    const auto isUsers = [](const PlaylistInfo& playlist) { return !playlist.library && !playlist.folder; };
+    return LibraryContents{
+        .tracks = tracks.value(),
+        .playlists =
+            static_cast<int>(std::count_if(playlists.value().begin(), playlists.value().end(), isUsers)),
+        .savedSeconds = stamp ? stamp.value().modificationNanoseconds / nanosecondsPerSecond : 0};
+}
+
+Error Program::unreadable(const Error& reason) const {
+    const std::string sentence = withLibraryPath(reason.message);
+    if (reason.code != Error::Code::invalid) return {reason.code, sentence};
+    return {reason.code, sentence + "\n" + wayToLibraryFile()};
+}
+
+/// On a worker thread.
+std::vector<std::string> Program::otherLibraries() const {
+    constexpr std::size_t most = 5;
+    std::vector<std::string> found = nativeLibraries();
+    const std::vector<std::string> recent =
+        m_options.recentFiles ? m_options.recentFiles->libraries() : std::vector<std::string>();
+    found.insert(found.end(), recent.begin(), recent.end());
+    const std::string present = m_scripting.libraryPath();
+    std::vector<std::string> others;
+    for (const std::string& path : found)
+        if (path != present && others.size() < most &&
+            std::find(others.begin(), others.end(), path) == others.end())
+            others.push_back(path);
+    return others;
 }
 
 bool Program::visitLocations(const LocationVisitor& visit) {

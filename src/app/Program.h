@@ -11,6 +11,7 @@
 #include "platform/Files.h"
 #include "platform/PathMap.h"
 #include "platform/Preferences.h"
+#include "platform/RecentFiles.h"
 #include "platform/Sleeper.h"
 #include "scripting/NativeAppleScript.h"
 
@@ -29,9 +30,10 @@ struct ProgramOptions {
     std::string library; ///< path of the library file; empty for the one that iTunes' preferences name
     PathMap map;
     std::string iTunesVersion = "12.0";
-    std::string version;                ///< of this program
-    std::string purpose = "the window"; ///< who cleans up, for others that want to meanwhile
-    std::vector<MapRule> mapRules = {}; ///< of the map, to tell one that is of no use
+    std::string version;                           ///< of this program
+    std::string purpose = "the window";            ///< who cleans up, for others that want to meanwhile
+    std::vector<MapRule> mapRules = {};            ///< of the map, to tell one that is of no use
+    std::shared_ptr<RecentFiles> recentFiles = {}; ///< where opened libraries are noted; null for nowhere
 };
 
 /// iTunes' preferences, but for a library that the user named: that one comes first then.
@@ -73,8 +75,9 @@ class Program {
     Files& files() { return m_files; }
     Desktop& desktop() { return *m_desktop; }
 
-    /// Turns to another library file, and to the embedded iTunes. The present one stays where what is left to
-    /// write of it cannot be written.
+    /// Turns to another library file, or to the one in a folder, and to the embedded iTunes. Whether it can
+    /// be read shows when it is. The present one stays where what is left to write of it cannot be written,
+    /// and where the other is no library by its first look.
     OpenedLibrary openLibrary(const std::string& path);
 
     /// `handler` is called on the main thread when the library file cannot be written outside of a deletion,
@@ -92,10 +95,14 @@ class Program {
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
     std::vector<std::string> tracksOfId(std::string_view pid);
     Result<void> foreseeWriting();
+    Result<LibraryContents> libraryContents();
+    Error unreadable(const Error& reason) const;
+    std::vector<std::string> otherLibraries() const;
     bool visitLocations(const LocationVisitor& visit);
 
     ProgramOptions m_options;
     Log& m_log;
+    std::string m_libraryPath; ///< of the present one; scripts that run would keep the main thread waiting
     Files m_files;
     std::unique_ptr<Desktop> m_desktop;
     ChosenLibraryPreferences m_preferences;

@@ -5,6 +5,7 @@
 #include "app/WindowActions.h"
 #include "app/Windows.h"
 #include "platform/LogFile.h"
+#include "platform/RecentFiles.h"
 #include "platform/SignalWatch.h"
 #include "theme/SongsweepStyle.h"
 
@@ -51,9 +52,11 @@ int runController(Program& program, Windows& windows, const std::function<bool()
     controller.awakeFromNib(redirectLog);
     windows.mainWindow().openAtFirstSize();
     windows.showMainWindow();
+    controller.beginLibrary(CurrentLibrary::Telling::page);
     controller.lookForInterruption();
     const int exitCode = QApplication::exec();
     controller.applicationShouldTerminate();
+    windows.mainWindow().hide(); // what still runs is waited for
     return exitCode;
 }
 
@@ -74,6 +77,7 @@ int runUntilQuit(ProgramOptions options, InterruptibleLog& log, const std::funct
         log.endSoon();
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     });
+    options.recentFiles = nativeRecentFiles();
     Program program(std::move(options), log);
     Windows windows(log);
     program.setWriteFailedHandler(

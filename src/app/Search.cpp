@@ -47,9 +47,14 @@ bool Search::isStale(const WorkerEvent& event) const {
     return event.sender && event.sender->serial() < m_serial && event.sender->isCancelled();
 }
 
-void Search::startButtonClick() {
+void Search::startButtonClick(Playlists playlists) {
     if (m_searching) return;
-    populatePlaylist();
+    if (playlists == Playlists::now) {
+        populatePlaylist();
+    } else {
+        m_waitsForPlaylists = true;
+        m_view.setPlaylistsPending(true);
+    }
     m_view.showParamWindow();
 }
 
@@ -68,6 +73,12 @@ void Search::populatePlaylist() {
         m_view.addPlaylist(name);
     m_playlistCount = static_cast<int>(names.size());
     if (m_playlistCount > 0) m_view.selectPlaylist(0);
+}
+
+void Search::onLibraryRead() {
+    if (!std::exchange(m_waitsForPlaylists, false)) return;
+    populatePlaylist();
+    m_view.setPlaylistsPending(false);
 }
 
 void Search::closeParamWindow() { m_view.closeParamWindow(); }

@@ -44,8 +44,11 @@ class Search {
     bool isStale(const WorkerEvent& event) const;
     ReaderChoice& readers() { return m_readers; }
 
+    /// When the dialog's list of playlists can be filled.
+    enum class Playlists { now, whenRead };
+
     // What users do.
-    void startButtonClick();
+    void startButtonClick(Playlists playlists = Playlists::now);
     void populatePlaylist();
     void paramOkButtonClick(SearchParameters choices);
     void closeParamWindow();
@@ -55,6 +58,8 @@ class Search {
     void forgetLibrary();
 
     // What workers say.
+    /// The library has been read, so that its playlists can be asked for at once.
+    void onLibraryRead();
     void onAddFinish();
     void onXmlDoneParsing();
     void onXmlError();
@@ -93,6 +98,7 @@ class Search {
     int m_libraryCount = 0;
     int m_listedCount = 0;
     int m_playlistCount = 0;
+    bool m_waitsForPlaylists = false;
 };
 
 } // namespace songsweep

@@ -44,7 +44,7 @@ void WindowActions::connectToolbarAndMenus() {
     connect(window, &MainWindow::showinFinderMenuClick, this, [=] { controller->showinFinderMenuClick(); });
     connect(window, &MainWindow::mainWindowMenuClick, this, [=] { controller->mainWindowMenuClick(); });
     connect(window, &MainWindow::openLibrary, this, &WindowActions::chooseLibrary);
-    window->setOpenLibraryGuard([=] { return controller->isIdle(); });
+    window->setOpenLibraryGuard([=] { return controller->mayOpenLibrary(); });
 }
 
 void WindowActions::connectLinks() {
@@ -175,13 +175,22 @@ void WindowActions::connectApplication() {
 }
 
 void WindowActions::chooseLibrary(const std::string& path) {
-    if (!m_controller.isIdle()) {
+    if (!m_controller.mayOpenLibrary()) {
         m_windows.beep();
         return;
     }
+    const int marks = m_controller.getCheckedCount();
+    if (marks == 0) return openLibrary(path);
+    m_windows.askBeforeMarksAreLost(marks, [this, path] { openLibrary(path); });
+}
+
+void WindowActions::openLibrary(const std::string& path) {
+    if (!m_controller.mayOpenLibrary()) return; // what was asked for meanwhile
     const OpenedLibrary opened = m_openLibrary(path);
-    if (opened.turned && m_controller.resetForLibrary()) m_controller.lookForInterruption();
-    if (!opened.problem.empty()) m_windows.alertCantOpen(opened.problem);
+    if (!opened.turned) return m_windows.alertCantOpen(opened.problem);
+    if (!m_controller.resetForLibrary()) return;
+    m_controller.beginLibrary(CurrentLibrary::Telling::alert);
+    m_controller.lookForInterruption();
 }
 
 void WindowActions::quit() {

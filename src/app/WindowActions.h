@@ -36,6 +36,7 @@ class WindowActions : public QObject {
     void connectNotices();
     void connectApplication();
     void chooseLibrary(const std::string& path);
+    void openLibrary(const std::string& path);
     void updateMarkPreview();
     QString markReason(int row) const;
     void quit();

@@ -29,6 +29,7 @@ Windows::~Windows() = default;
 
 ControllerViews Windows::views() {
     return {.application = *this,
+            .library = m_mainWindow,
             .search = m_paramWindow,
             .results = m_mainWindow,
             .mark = m_markWindow,
@@ -58,6 +59,10 @@ void Windows::alertNoDuplicates(const std::vector<std::string>& notes) {
 
 void Windows::alertCantOpen(const std::string& reason) {
     alerts::openCantOpenLibrary(&m_mainWindow, QString::fromStdString(reason));
+}
+
+void Windows::askBeforeMarksAreLost(int marks, std::function<void()> proceed) {
+    alerts::openMarksAreLost(&m_mainWindow, marks, std::move(proceed));
 }
 
 void Windows::alertCantBeginDelete(const std::string& reason) {

@@ -41,8 +41,9 @@ class Windows final : public ApplicationView {
     /// Receives the return code of the alert that iTunes does not answer.
     void setCantAccessHandler(std::function<void(int)> handler) { m_cantAccessEnded = std::move(handler); }
 
-    /// Tells that a library cannot be read, and why.
-    void alertCantOpen(const std::string& reason);
+    /// Asks whether another library may be opened though that many marks are lost; `proceed` is the answer
+    /// yes.
+    void askBeforeMarksAreLost(int marks, std::function<void()> proceed);
     /// A list of lines over the front window.
     void showDetails(const QString& title, const std::vector<std::string>& lines);
     /// That the library file was not written. Gives the alert, which goes away when answered.
@@ -53,6 +54,7 @@ class Windows final : public ApplicationView {
     void showAboutWindow() override;
     void setAboutLabel(const std::string& text) override;
     void beep() override;
+    void alertCantOpen(const std::string& reason) override;
     void alertCantAccess(const std::string& message, const std::string& reason) override;
     void alertNoDuplicates(const std::vector<std::string>& notes) override;
     void alertCantBeginDelete(const std::string& reason) override;

@@ -7,6 +7,7 @@ namespace songsweep::cli {
 
 ControllerViews ConsoleView::views() {
     return {.application = *this,
+            .library = m_noLibraryPage,
             .search = *this,
             .results = *this,
             .mark = m_noMarkDialog,

@@ -4,6 +4,7 @@
 #include "app/views/ApplicationView.h"
 #include "app/views/ControllerViews.h"
 #include "app/views/DeleteView.h"
+#include "app/views/LibraryView.h"
 #include "app/views/MarkView.h"
 #include "app/views/NoticeView.h"
 #include "app/views/RestoreView.h"
@@ -51,6 +52,7 @@ class ConsoleView final : public ApplicationView, public SearchView, public Resu
 
   private:
     Handlers m_handlers;
+    LibraryView m_noLibraryPage;
     MarkView m_noMarkDialog;
     RestoreView m_noRestoreSheet;
     NoticeView m_noNotice;

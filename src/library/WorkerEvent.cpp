@@ -32,6 +32,7 @@ std::string_view text(EventName name) {
         "restoreFinish",
         "interruptionFound",
         "cleanupFinished",
+        "libraryRead",
     };
     return texts.at(static_cast<std::size_t>(name));
 }

@@ -14,6 +14,7 @@ struct CleanupListing;
 struct DeleteReport;
 struct FinishAnswer;
 struct InterruptedCleanup;
+struct LibraryAnswer;
 struct ReadError;
 struct RestoreAnswer;
 struct SurveyAnswer;
@@ -48,9 +49,10 @@ enum class EventName {
     restoreFinish,
     interruptionFound,
     cleanupFinished,
+    libraryRead,
 };
 
-inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::cleanupFinished) + 1;
+inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::libraryRead) + 1;
 
 /// The event's text, as the log shows it ("addFinish").
 std::string_view text(EventName name);
@@ -62,11 +64,11 @@ struct ProgressUnits {
 
 /// What an event brings: nothing, a record, work units, the library file's attributes, or the result of a
 /// worker, which is the receiver's from then on.
-using WorkerEventPayload =
-    std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes, std::shared_ptr<ReadError>,
-                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>,
-                 std::shared_ptr<CleanupListing>, std::shared_ptr<RestoreAnswer>,
-                 std::shared_ptr<InterruptedCleanup>, std::shared_ptr<FinishAnswer>>;
+using WorkerEventPayload = std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes,
+                                        std::shared_ptr<ReadError>, std::shared_ptr<SurveyAnswer>,
+                                        std::shared_ptr<DeleteReport>, std::shared_ptr<CleanupListing>,
+                                        std::shared_ptr<RestoreAnswer>, std::shared_ptr<InterruptedCleanup>,
+                                        std::shared_ptr<FinishAnswer>, std::shared_ptr<LibraryAnswer>>;
 
 /// One event on its way from a worker to the main thread. A value; the record stays its storage's.
 struct WorkerEvent {

@@ -98,8 +98,31 @@ TEST_F(ProgramTest, AnUnreadableFileIsNoReasonWhyTheSystemsITunesIsUnreachable) 
     EXPECT_EQ(program.unreachableReason(), "");
     const OpenedLibrary opened = program.openLibrary("/nowhere/Library.xml");
     EXPECT_TRUE(opened.turned);
-    EXPECT_FALSE(opened.problem.empty());
+    EXPECT_EQ(opened.problem, "");
+    EXPECT_FALSE(program.controllerServices().libraryContents());
     EXPECT_EQ(program.unreachableReason(), "cannot open /nowhere/Library.xml: No such file or directory");
+}
+
+/// A list of one library, beside the present one.
+class GivenRecentFiles final : public RecentFiles {
+  public:
+    std::vector<std::string> libraries() const override { return {"/m/Other.xml", noted, "/m/Other.xml"}; }
+    void note(const std::string& path) override { noted = path; }
+    std::string noted;
+};
+
+TEST_F(ProgramTest, ALibraryThatWasReadIsNotedAndTheOthersAreOffered) {
+    const auto recent = std::make_shared<GivenRecentFiles>();
+    Program program({.library = library, .map = {}, .version = "1.0", .recentFiles = recent}, log, nullptr);
+    const ControllerServices services = program.controllerServices();
+    const auto contents = services.libraryContents();
+    ASSERT_TRUE(contents);
+    EXPECT_EQ(contents.value().tracks, 5);
+    EXPECT_GT(contents.value().savedSeconds, 0);
+    EXPECT_EQ(recent->noted, library);
+    const std::vector<std::string> others = services.otherLibraries();
+    EXPECT_EQ(std::count(others.begin(), others.end(), "/m/Other.xml"), 1);
+    EXPECT_EQ(std::count(others.begin(), others.end(), library), 0);
 }
 
 TEST_F(ProgramTest, TellsOnceOnTheMainThreadThatTheLibraryCannotBeWritten) {

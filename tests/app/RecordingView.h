@@ -4,6 +4,7 @@
 #include "app/views/ApplicationView.h"
 #include "app/views/ControllerViews.h"
 #include "app/views/DeleteView.h"
+#include "app/views/LibraryView.h"
 #include "app/views/MarkView.h"
 #include "app/views/NoticeView.h"
 #include "app/views/ProgressView.h"
@@ -11,6 +12,7 @@
 #include "app/views/ResultsView.h"
 #include "app/views/SearchView.h"
 #include "delete/DeleteConfirmationFacts.h"
+#include "library/LibraryOverview.h"
 #include "library/ReadError.h"
 
 #include <functional>
@@ -21,6 +23,7 @@ namespace songsweep::test {
 
 /// Keeps the calls that all views of a controller get, in their order, and shows nothing.
 class RecordingView final : public ApplicationView,
+                            public LibraryView,
                             public SearchView,
                             public ResultsView,
                             public MarkView,
@@ -33,7 +36,7 @@ class RecordingView final : public ApplicationView,
     std::function<void(const std::string&)> onCall; ///< told of each call
 
     ControllerViews views() {
-        return {*this, *this, *this, *this, *this, *this, *this, m_progress, m_formprogress};
+        return {*this, *this, *this, *this, *this, *this, *this, *this, m_progress, m_formprogress};
     }
 
     bool has(const std::string& call) const {
@@ -43,6 +46,10 @@ class RecordingView final : public ApplicationView,
     void showMainWindow() override { note("showMainWindow"); }
     void showAboutWindow() override { note("showAboutWindow"); }
     void setAboutLabel(const std::string& text) override { note("setAboutLabel " + text); }
+    void showLibrary(const LibraryOverview& library) override { libraries.push_back(library); }
+    void chooseLibrary() override { note("chooseLibrary"); }
+    void alertCantOpen(const std::string& reason) override { note("alertCantOpen " + reason); }
+    void setPlaylistsPending(bool on) override { note("setPlaylistsPending", on); }
     void showParamWindow() override { note("showParamWindow"); }
     void closeParamWindow() override { note("closeParamWindow"); }
     void clearPlaylists() override { note("clearPlaylists"); }
@@ -102,6 +109,7 @@ class RecordingView final : public ApplicationView,
     void showNoticeDetails(const std::vector<std::string>& lines) override { noticeDetails = lines; }
 
     std::vector<std::string> explanations;  ///< of the last search that found nothing
+    std::vector<LibraryOverview> libraries; ///< as they were shown
     std::vector<Notice> notices;            ///< shown since the last was hidden
     std::vector<std::string> noticeDetails; ///< the last ones
     DeleteConfirmationFacts deleteFacts;    ///< the last ones

@@ -306,14 +306,14 @@ TEST_F(WindowActionsTest, AnotherLibraryEmptiesTheResults) {
 
 TEST_F(WindowActionsTest, AnotherLibraryClosesTheParametersDialogOfTheOld) {
     press("searchButton");
-    Q_EMIT window().openLibrary(testData("library/five-tracks.xml"));
+    openLibrary(testData("library/five-tracks.xml"));
     EXPECT_FALSE(windows.paramWindow().isVisible());
     press("searchButton");
     EXPECT_EQ(windows.paramWindow().parameters().playlist, "Library");
 }
 
 TEST_F(WindowActionsTest, ALibraryThatCannotBeReadSaysSo) {
-    Q_EMIT window().openLibrary(folder.write("broken.xml", "no library"));
+    openLibrary(folder.write("broken.xml", "no library"));
     ASSERT_NE(alert(), nullptr);
     EXPECT_EQ(alert()->text(), QStringLiteral("Can't open the library."));
     EXPECT_FALSE(alert()->informativeText().isEmpty());
@@ -342,7 +342,7 @@ TEST_F(WindowActionsTest, ALibraryIsNotOpenedWhileAWorkerRuns) {
 }
 
 TEST_F(WindowActionsTest, AnUnreachableLibraryIsToldInASheet) {
-    Q_EMIT window().openLibrary(folder.path() + "/nowhere.xml");
+    openLibrary(folder.path() + "/nowhere.xml");
     ASSERT_NE(alert(), nullptr);
     alert()->done(0);
     handleWaitingEvents();

@@ -69,6 +69,11 @@ QString WindowsFixture::label(const char* name) {
 
 QString WindowsFixture::page() { return find<QStackedWidget>("contentStack")->currentWidget()->objectName(); }
 
+void WindowsFixture::openLibrary(const std::string& path) {
+    Q_EMIT window().openLibrary(path);
+    ASSERT_TRUE(runEventLoopUntil([this] { return controller->mayOpenLibrary(); }));
+}
+
 QMessageBox* WindowsFixture::alert() {
     const auto boxes = window().findChildren<QMessageBox*>();
     const auto open =
@@ -78,6 +83,7 @@ QMessageBox* WindowsFixture::alert() {
 
 void WindowsFixture::startSearch() {
     press("searchButton");
+    ASSERT_TRUE(runEventLoopUntil([this] { return button("paramSearchButton").isEnabled(); }));
     press("paramSearchButton");
 }
 

@@ -29,6 +29,8 @@ class WindowsFixture : public ::testing::Test {
     MainWindow& window() { return windows.mainWindow(); }
     std::vector<TrackRecord*> rows() const { return controller->tableDataSource().rows; }
 
+    /// Opens another library, and waits until it is read.
+    void openLibrary(const std::string& path);
     /// Opens the parameters dialog by the toolbar and presses its Search button.
     void startSearch();
     /// The same, and waits for the results.

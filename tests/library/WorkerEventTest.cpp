@@ -35,6 +35,7 @@ TEST(WorkerEventTest, EveryEventHasTheTextThatTheLogShows) {
     EXPECT_EQ(text(EventName::restoreFinish), "restoreFinish");
     EXPECT_EQ(text(EventName::interruptionFound), "interruptionFound");
     EXPECT_EQ(text(EventName::cleanupFinished), "cleanupFinished");
+    EXPECT_EQ(text(EventName::libraryRead), "libraryRead");
 }
 
 TEST(WorkerEventTest, TheTwoCountsAreCountsAndNothingElseIs) {

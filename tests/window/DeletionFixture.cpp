@@ -51,7 +51,7 @@ void DeletionFixture::deleteMarked() {
     // The main window may be active for a moment before the sheet is, too.
     ASSERT_TRUE(comes("the end of the sheet",
                       [this] { return countMarked() == 0 && !m_screen.shows("Deleting..."); }));
-    ASSERT_TRUE(becomesActive("Songsweep"));
+    ASSERT_TRUE(becomesActive(mainWindow));
 }
 
 void DeletionFixture::searchAgain() {

@@ -37,10 +37,6 @@ std::string InputDevices::activeWindow() const {
     return answer.succeeded ? answer.text.trimmed().toStdString() : std::string();
 }
 
-std::string InputDevices::activeWindowNumber() const {
-    return run({QStringLiteral("getactivewindow")}).text.trimmed().toStdString();
-}
-
 InputDevices::Answer InputDevices::run(const QStringList& arguments) const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DISPLAY"), m_display);

@@ -23,8 +23,6 @@ class InputDevices {
 
     /// The title of the window that has the focus; empty while none has it, or no window manager runs yet.
     std::string activeWindow() const;
-    /// What the display calls it, since two windows may have one title.
-    std::string activeWindowNumber() const;
 
   private:
     /// What the tool prints; it fails where there is no such window.

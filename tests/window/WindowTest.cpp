@@ -85,8 +85,8 @@ void WindowTest::start() {
     m_program.setProcessEnvironment(environment());
     m_program.start(QStringLiteral(SONGSWEEP_PROGRAM),
                     {QStringLiteral("--library"), QString::fromStdString(path("library.xml"))});
-    ASSERT_TRUE(becomesActive("Songsweep"));
-    ASSERT_TRUE(appears("Find the songs you have twice"));
+    ASSERT_TRUE(becomesActive(mainWindow));
+    ASSERT_TRUE(comes("the library's facts", [this] { return hasText(", saved "); }));
 }
 
 void WindowTest::quit() {
@@ -105,25 +105,27 @@ void WindowTest::search() {
     ASSERT_TRUE(becomesActive("Search for duplicates"));
     m_input.press("Return");
     ASSERT_TRUE(comes("results", [this] { return m_screen.rowCount() > 0; }));
-    ASSERT_TRUE(becomesActive("Songsweep"));
+    ASSERT_TRUE(becomesActive(mainWindow));
 }
 
 void WindowTest::markByRule() {
     m_input.press("ctrl+r");
     ASSERT_TRUE(becomesActive("Mark copies"));
     m_input.press("Return");
-    ASSERT_TRUE(comes("marks", [this] {
-        const auto texts = m_screen.texts();
-        return std::any_of(texts.begin(), texts.end(),
-                           [](const std::string& text) { return text.ends_with(" marked"); });
-    }));
+    ASSERT_TRUE(comes("marks", [this] { return hasText(" marked"); }));
     m_input.press("Escape");
-    ASSERT_TRUE(becomesActive("Songsweep"));
+    ASSERT_TRUE(becomesActive(mainWindow));
 }
 
 void WindowTest::askToDelete() {
     m_input.press("ctrl+Delete");
     ASSERT_TRUE(becomesActive("Delete tracks"));
+}
+
+bool WindowTest::hasText(const std::string& part) const {
+    const auto texts = m_screen.texts();
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const std::string& text) { return text.find(part) != std::string::npos; });
 }
 
 ::testing::AssertionResult WindowTest::becomesActive(const std::string& title) const {

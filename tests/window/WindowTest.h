@@ -25,11 +25,14 @@ namespace songsweep::test {
 /// picture of the screen in the build folder.
 class WindowTest : public ::testing::Test {
   protected:
+    /// The main window's title, with the test's library.
+    static constexpr const char* mainWindow = "Songsweep – library.xml";
+
     WindowTest();
     void SetUp() override;
     void TearDown() override;
 
-    /// Starts the program with the test's library and waits for its window.
+    /// Starts the program with the test's library and waits until its window tells what the library holds.
     void start();
     /// Quits by the keyboard and waits for the end of the process.
     void quit();
@@ -51,6 +54,8 @@ class WindowTest : public ::testing::Test {
     /// A path in the folder that has the library, its "Music" and the user's "home".
     std::string path(const std::string& name) const { return m_folder.path() + "/" + name; }
     int countMarked() const;
+    /// Whether the screen shows a text of which this is a part.
+    bool hasText(const std::string& part) const;
 
     /// Whose customs the program follows: the name of one of Qt's platform themes, set before the start.
     QString m_desktop = QStringLiteral("generic");

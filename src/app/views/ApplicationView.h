@@ -22,6 +22,8 @@ class ApplicationView {
     virtual void setAboutLabel(const std::string& /*text*/) {}
     virtual void beep() {}
 
+    /// That a library the user opened cannot be read, and why.
+    virtual void alertCantOpen(const std::string& /*reason*/) {}
     /// "Can't access iTunes. ..." with "OK" and "Help"; `reason` is its informative text, or empty.
     virtual void alertCantAccess(const std::string& /*message*/, const std::string& /*reason*/) {}
     /// "No duplicates found."; the notes tell, a paragraph each, what was not searched.

@@ -5,6 +5,7 @@ namespace songsweep {
 
 class ApplicationView;
 class DeleteView;
+class LibraryView;
 class MarkView;
 class NoticeView;
 class ProgressView;
@@ -15,6 +16,7 @@ class SearchView;
 /// All that a controller shows its state in; they outlive it.
 struct ControllerViews {
     ApplicationView& application;
+    LibraryView& library;
     SearchView& search;
     ResultsView& results;
     MarkView& mark;

@@ -17,6 +17,8 @@ class SearchView {
 
     virtual void showParamWindow() {}
     virtual void closeParamWindow() {}
+    /// The playlists are yet to come, since the library is being read; there is no search before.
+    virtual void setPlaylistsPending(bool /*pending*/) {}
     virtual void clearPlaylists() {}
     virtual void addPlaylist(const std::string& /*name*/) {}
     virtual void selectPlaylist(int /*index*/) {}

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainWindow.h"
+#include "library/LocationUrl.h"
+#include "library/ValueFormats.h"
+#include "ui/EmptyPageView.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QPushButton>
+#include <QStandardPaths>
+
+namespace songsweep {
+
+namespace {
+
+using State = LibraryOverview::State;
+
+QFileInfo fileOf(const std::string& path) { return QFileInfo(QFile::decodeName(path.c_str())); }
+
+/// "~/Music" for "/home/ann/Music"
+QString shortened(const QString& path) {
+    const QString home = QDir::homePath();
+    const bool isBelow = path == home || path.startsWith(home + QLatin1Char('/'));
+    return isBelow ? QLatin1Char('~') + path.mid(home.size()) : path;
+}
+
+QString nameAndFolder(const std::string& path) {
+    const QFileInfo file = fileOf(path);
+    return QStringLiteral("%1 in %2").arg(file.fileName(), shortened(file.path()));
+}
+
+QString countedTracks(int count) {
+    return count == 1 ? QStringLiteral("1 track") : QStringLiteral("%L1 tracks").arg(count);
+}
+
+QString countedPlaylists(int count) {
+    return count == 1 ? QStringLiteral("1 playlist") : QStringLiteral("%L1 playlists").arg(count);
+}
+
+QString contentsText(const LibraryContents& contents) {
+    return QStringLiteral("%1, %2, saved %3")
+        .arg(countedTracks(contents.tracks), countedPlaylists(contents.playlists),
+             QString::fromStdString(shortDateTime(contents.savedSeconds)));
+}
+
+QString placesText(const std::vector<std::string>& places) {
+    QStringList names;
+    for (const std::string& place : places)
+        names << shortened(fileOf(place).filePath());
+    return QStringLiteral("Looked in ") + names.join(QStringLiteral(", "));
+}
+
+struct PageTexts {
+    QString title;
+    QString facts;
+    QString hint = {};
+};
+
+PageTexts pageTexts(const LibraryOverview& library) {
+    const QString name = fileOf(library.path).fileName();
+    const QString title = QStringLiteral("Find the songs you have twice");
+    switch (library.state) {
+    case State::unknown:
+        break;
+    case State::none:
+        return {QStringLiteral("No iTunes library was found"),
+                QStringLiteral("Open its XML file, or drop it here."), placesText(library.places)};
+    case State::reading:
+        return {title, name + QStringLiteral(" – Reading the library...")};
+    case State::read:
+        return {title, name + QStringLiteral(" – ") + contentsText(library.contents)};
+    case State::unreadable:
+        return {QStringLiteral("The library can't be read"), QString::fromStdString(library.problem)};
+    }
+    return {title, QStringLiteral("Songsweep reads your iTunes library and shows its duplicates in groups.")};
+}
+
+bool hasNoUse(State state) { return state == State::none || state == State::unreadable; }
+
+} // namespace
+
+void MainWindow::setUpEmptyPage() {
+    EmptyPageView* page = m_ui->emptyPage;
+    connect(&page->searchButton(), &QPushButton::clicked, this, &MainWindow::startButtonClick);
+    connect(&page->openButton(), &QPushButton::clicked, this, &MainWindow::chooseLibrary);
+    connect(page, &EmptyPageView::choiceClicked, this,
+            [this](int index) { Q_EMIT openLibrary(m_library.others.at(static_cast<std::size_t>(index))); });
+}
+
+void MainWindow::showLibrary(const LibraryOverview& library) {
+    m_library = library;
+    const QString name = fileOf(library.path).fileName();
+    setWindowTitle(name.isEmpty() ? QStringLiteral("Songsweep") : QStringLiteral("Songsweep – ") + name);
+    const PageTexts texts = pageTexts(library);
+    m_ui->emptyPage->setFacts(texts.title, texts.facts);
+    m_ui->emptyPage->setHint(texts.hint);
+    m_ui->emptyPage->setWay(hasNoUse(library.state) ? EmptyPageView::Way::openLibrary
+                                                    : EmptyPageView::Way::search);
+    QStringList choices;
+    QStringList paths;
+    for (const std::string& other : library.others) {
+        choices << nameAndFolder(other);
+        paths << fileOf(other).filePath();
+    }
+    m_ui->emptyPage->setChoices(choices, paths);
+    fillRecentMenu();
+}
+
+void MainWindow::fillRecentMenu() {
+    QMenu* menu = m_ui->openRecentMenu;
+    menu->clear();
+    for (const std::string& path : m_library.others)
+        connect(menu->addAction(nameAndFolder(path).replace(QLatin1Char('&'), QStringLiteral("&&"))),
+                &QAction::triggered, this, [this, path] { Q_EMIT openLibrary(path); });
+    menu->setEnabled(!menu->isEmpty());
+}
+
+void MainWindow::chooseLibrary() {
+    if (!m_mayOpenLibrary()) {
+        QApplication::beep();
+        return;
+    }
+    auto* dialog = new QFileDialog(this, QStringLiteral("Open library"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({QStringLiteral("iTunes libraries (*.xml)"), QStringLiteral("All files (*)")});
+    dialog->setDirectory(m_library.path.empty()
+                             ? QStandardPaths::writableLocation(QStandardPaths::MusicLocation)
+                             : fileOf(m_library.path).path());
+    connect(dialog, &QFileDialog::urlSelected, this, [this](const QUrl& url) {
+        const auto path = pathOfUrl(url.toEncoded(QUrl::FullyEncoded).toStdString());
+        if (path && !path->empty()) Q_EMIT openLibrary(*path);
+    });
+    dialog->open();
+}
+
+} // namespace songsweep
