@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/AttributeCopy.h"
 
-#include "libraryfile/LibraryFile.h"
+#include "platform/SystemError.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -5,6 +5,7 @@
 #include "libraryfile/DatedName.h"
 #include "libraryfile/FileNames.h"
 #include "libraryfile/LibraryReplacement.h"
+#include "platform/SystemError.h"
 
 #include <unistd.h>
 

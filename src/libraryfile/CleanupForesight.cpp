@@ -2,7 +2,7 @@
 #include "libraryfile/CleanupForesight.h"
 
 #include "libraryfile/FileNames.h"
-#include "libraryfile/LibraryFile.h"
+#include "platform/SystemError.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -5,6 +5,7 @@
 #include "libraryfile/LibraryFile.h"
 #include "libraryfile/LockHolder.h"
 #include "libraryfile/TemporaryName.h"
+#include "platform/SystemError.h"
 
 #include <fcntl.h>
 #include <sys/file.h>

@@ -4,6 +4,7 @@
 #include "libraryfile/AttributeCopy.h"
 #include "libraryfile/FileNames.h"
 #include "libraryfile/JsonLine.h"
+#include "platform/SystemError.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -2,7 +2,7 @@
 #include "libraryfile/DatedName.h"
 
 #include "libraryfile/FileNames.h"
-#include "libraryfile/LibraryFile.h"
+#include "platform/SystemError.h"
 
 #include <algorithm>
 #include <array>

@@ -2,6 +2,7 @@
 #include "libraryfile/FileCopy.h"
 
 #include "libraryfile/FileWindow.h"
+#include "platform/SystemError.h"
 
 #include <fcntl.h>
 #include <unistd.h>

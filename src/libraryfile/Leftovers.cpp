@@ -4,6 +4,7 @@
 #include "libraryfile/DatedName.h"
 #include "libraryfile/FileNames.h"
 #include "libraryfile/TemporaryName.h"
+#include "platform/SystemError.h"
 
 #include <unistd.h>
 

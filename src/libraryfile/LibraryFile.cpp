@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/LibraryFile.h"
 
+#include "platform/SystemError.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,23 +14,6 @@
 namespace songsweep {
 
 namespace {
-
-Error::Code codeOf(int errorNumber) {
-    switch (errorNumber) {
-    case ENOENT:
-    case ENOTDIR:
-        return Error::Code::notFound;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return Error::Code::noPermission;
-    case ENOSPC:
-    case EDQUOT:
-        return Error::Code::noSpace;
-    default:
-        return Error::Code::inputOutput;
-    }
-}
 
 FileStamp stampFrom(const struct stat& status) {
 #ifdef __APPLE__
@@ -42,10 +27,6 @@ FileStamp stampFrom(const struct stat& status) {
 }
 
 } // namespace
-
-Error systemError(int errorNumber, const std::string& action, const std::string& path) {
-    return {codeOf(errorNumber), "cannot " + action + " " + path + ": " + std::strerror(errorNumber)};
-}
 
 Result<LibraryFile> LibraryFile::open(const std::string& path) {
     // A pipe of this name must not hang the program, so the open does not wait.

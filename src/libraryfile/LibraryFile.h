@@ -27,9 +27,6 @@ struct FileStamp {
     bool operator==(const FileStamp&) const = default;
 };
 
-/// What errno says of an action, as an error: "cannot ACTION PATH: REASON".
-Error systemError(int errorNumber, const std::string& action, const std::string& path);
-
 /// A library file held open for reading.
 ///
 /// Reads go by position and share no offset, so any number of readers may use one. A file that somebody

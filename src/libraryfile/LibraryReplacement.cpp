@@ -4,6 +4,7 @@
 #include "libraryfile/AttributeCopy.h"
 #include "libraryfile/FileNames.h"
 #include "libraryfile/Leftovers.h"
+#include "platform/SystemError.h"
 
 #include <unistd.h>
 

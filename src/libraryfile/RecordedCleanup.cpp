@@ -4,6 +4,7 @@
 #include "libraryfile/DatedName.h"
 #include "libraryfile/FileNames.h"
 #include "libraryfile/RecordLine.h"
+#include "platform/SystemError.h"
 
 #include <array>
 #include <fstream>

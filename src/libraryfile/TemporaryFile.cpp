@@ -3,6 +3,7 @@
 
 #include "libraryfile/FileNames.h"
 #include "libraryfile/TemporaryName.h"
+#include "platform/SystemError.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

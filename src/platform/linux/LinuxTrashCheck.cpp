@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/LinuxTrashCheck.h"
 
+#include "platform/SystemError.h"
 #include "platform/linux/PathParts.h"
-#include "platform/linux/SystemError.h"
 #include "platform/linux/TrashFolders.h"
 #include "platform/linux/TrashUse.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/MadeFolders.h"
 
+#include "platform/SystemError.h"
 #include "platform/linux/PathParts.h"
-#include "platform/linux/SystemError.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

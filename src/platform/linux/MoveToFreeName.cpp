@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/MoveToFreeName.h"
 
-#include "platform/linux/SystemError.h"
+#include "platform/SystemError.h"
 
 #include <fcntl.h>
 #include <unistd.h>

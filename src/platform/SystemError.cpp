@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/linux/SystemError.h"
+#include "platform/SystemError.h"
 
 #include <cerrno>
 #include <system_error>
@@ -40,6 +40,10 @@ Error::Code codeOf(int number) {
 
 Error systemError(int number, const std::string& path) {
     return {codeOf(number), path + ": " + std::generic_category().message(number)};
+}
+
+Error systemError(int number, const std::string& action, const std::string& path) {
+    return systemError(number, "cannot " + action + " " + path);
 }
 
 } // namespace songsweep
