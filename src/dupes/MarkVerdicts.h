@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dupes/MarkingRules.h"
+#include "library/Groups.h"
 
 #include <cstddef>
 #include <string>
@@ -26,9 +27,8 @@ class MarkVerdicts {
     const TrackRows& m_rows;
     MarkChoice m_choice;
     const MarkRule& m_rule;
-    std::size_t m_first = 0;
-    std::size_t m_end = 0;
-    GroupMarks m_marks;  // of the rows from m_first to m_end
+    RowGroup m_group;    // looked at last
+    GroupMarks m_marks;  // of its rows
     GroupMarks m_losers; // the same without except-one, which tells who loses from who makes way
 };
 

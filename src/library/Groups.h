@@ -25,6 +25,14 @@ inline std::size_t groupEnd(const std::vector<TrackRecord*>& rows, std::size_t r
     return end;
 }
 
+/// The group that holds the row; looks at its rows and the ones beside it.
+inline RowGroup groupAt(const std::vector<TrackRecord*>& rows, std::size_t row) {
+    std::size_t first = row;
+    while (first > 0 && rows[first - 1]->gid == rows[row]->gid)
+        --first;
+    return {first, groupEnd(rows, row)};
+}
+
 /// The groups of displayed rows, in their order:
 ///
 ///     for (const RowGroup group : groupsOf(rows)) …
