@@ -10,7 +10,7 @@ namespace {
 
 std::string propertyListIn(std::string homeFolder) {
     if (homeFolder.ends_with('/')) homeFolder.pop_back();
-    return homeFolder + "/Library/Preferences/com.apple.iApps.plist";
+    return homeFolder + iAppsPropertyListPlace;
 }
 
 } // namespace

@@ -14,6 +14,9 @@ struct IAppsDomain {
     std::vector<std::string> iTunesRecentDatabases;
 };
 
+/// The property list of that domain, below the home folder.
+inline constexpr const char* iAppsPropertyListPlace = "/Library/Preferences/com.apple.iApps.plist";
+
 /// The user's preferences, asked by domain or by property list file. Thread-safe.
 class Preferences {
   public:

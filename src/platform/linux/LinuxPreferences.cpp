@@ -16,7 +16,6 @@ namespace songsweep {
 
 namespace {
 
-constexpr const char* propertyList = "/Library/Preferences/com.apple.iApps.plist";
 
 bool isFile(const std::string& path) {
     struct stat attributes {};
@@ -34,7 +33,7 @@ LinuxPreferences::Folders LinuxPreferences::userFolders() {
 }
 
 std::optional<IAppsDomain> LinuxPreferences::iAppsDomain() const {
-    if (isFile(m_folders.home + propertyList)) return std::nullopt;
+    if (isFile(m_folders.home + iAppsPropertyListPlace)) return std::nullopt;
     const std::vector<std::string> found = libraries();
     if (found.empty()) return std::nullopt;
     return IAppsDomain{{fileUrl(found.front())}};
@@ -45,7 +44,7 @@ std::optional<IAppsDomain> LinuxPreferences::iAppsPropertyList(const std::string
 }
 
 std::vector<std::string> LinuxPreferences::libraryPlaces() const {
-    std::vector<std::string> places = {m_folders.home + propertyList};
+    std::vector<std::string> places = {m_folders.home + iAppsPropertyListPlace};
     for (const std::string& folder : m_folders.music)
         for (const std::string& place : usualLibraryFolders(folder))
             if (std::find(places.begin(), places.end(), place) == places.end()) places.push_back(place);

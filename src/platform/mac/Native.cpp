@@ -12,7 +12,7 @@ std::unique_ptr<Desktop> nativeDesktop() { return std::make_unique<MacDesktop>()
 std::unique_ptr<Preferences> nativePreferences() { return std::make_unique<MacPreferences>(); }
 
 std::vector<std::string> nativeLibraryPlaces() {
-    return {MacPreferences().homeFolder() + "/Library/Preferences/com.apple.iApps.plist"};
+    return {MacPreferences().homeFolder() + iAppsPropertyListPlace};
 }
 
 std::vector<std::string> nativeLibraries() { return {}; }
