@@ -18,7 +18,6 @@
 #include <map>
 #include <random>
 #include <set>
-#include <thread>
 
 namespace songsweep {
 namespace {
@@ -81,18 +80,6 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
         const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(run(command()).exitCode, 0);
         return std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
-    }
-
-    void killAfter(microseconds delay) {
-        QProcess process;
-        prepare(process, command());
-        process.setStandardOutputFile(QProcess::nullDevice());
-        process.setStandardErrorFile(QProcess::nullDevice());
-        process.start();
-        ASSERT_TRUE(process.waitForStarted());
-        std::this_thread::sleep_for(delay);
-        process.kill();
-        ASSERT_TRUE(process.waitForFinished());
     }
 
     /// The library is well formed and has lost nothing but whole marked tracks with their items.
@@ -226,7 +213,7 @@ TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
                      std::to_string(delay.count()) + " of " + std::to_string(duration.count()) +
                      " microseconds");
         makeAnew();
-        ASSERT_NO_FATAL_FAILURE(killAfter(delay));
+        ASSERT_NO_FATAL_FAILURE(runAndKill(command(), delay));
         ASSERT_NO_FATAL_FAILURE(checkLibrary());
         ASSERT_NO_FATAL_FAILURE(checkFiles());
         ASSERT_NO_FATAL_FAILURE(checkRecord());

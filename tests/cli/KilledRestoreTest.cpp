@@ -7,7 +7,6 @@
 #include <chrono>
 #include <iostream>
 #include <random>
-#include <thread>
 
 namespace songsweep {
 namespace {
@@ -35,18 +34,6 @@ class KilledRestore : public test::RecordedDeletionTest, public testing::WithPar
         const auto start = std::chrono::steady_clock::now();
         EXPECT_EQ(restore({"--yes"}).exitCode, 0);
         return std::chrono::duration_cast<microseconds>(std::chrono::steady_clock::now() - start);
-    }
-
-    void killAfter(microseconds delay) {
-        QProcess process;
-        prepare(process, restoreCommand({"--yes"}));
-        process.setStandardOutputFile(QProcess::nullDevice());
-        process.setStandardErrorFile(QProcess::nullDevice());
-        process.start();
-        ASSERT_TRUE(process.waitForStarted());
-        std::this_thread::sleep_for(delay);
-        process.kill();
-        ASSERT_TRUE(process.waitForFinished());
     }
 
     /// The library is the old one or the new one, each file in its place or in the Trash with its record.
@@ -82,7 +69,7 @@ TEST_P(KilledRestore, IsBroughtToItsEndByTheNextOne) {
         SCOPED_TRACE("seed " + std::to_string(GetParam()) + ", killed after " +
                      std::to_string(delay.count()) + " microseconds");
         deleteAnew();
-        ASSERT_NO_FATAL_FAILURE(killAfter(delay));
+        ASSERT_NO_FATAL_FAILURE(runAndKill(restoreCommand({"--yes"}), delay));
         ASSERT_NO_FATAL_FAILURE(checkWhatIsThere());
         written += m_isWritten ? 1 : 0;
         inTheMiddle += m_filesBack > 0 && m_filesBack < static_cast<int>(m_gone.size()) ? 1 : 0;

@@ -73,6 +73,19 @@ RunResult ProgramTest::runInShell(const std::string& line, const std::vector<std
     return resultOf(process);
 }
 
+void ProgramTest::runAndKill(const std::vector<std::string>& arguments,
+                             std::chrono::microseconds after) const {
+    QProcess process;
+    prepare(process, arguments);
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start();
+    ASSERT_TRUE(process.waitForStarted());
+    std::this_thread::sleep_for(after);
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+}
+
 void ProgramTest::sendSignal(const QProcess& process, int signal) {
     const auto id = static_cast<pid_t>(process.processId());
     ASSERT_EQ(::kill(id, signal), 0);

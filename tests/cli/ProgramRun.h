@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -34,6 +35,9 @@ class ProgramTest : public ::testing::Test {
 
     /// Prepares a process of the program; the test starts it and waits for it.
     void prepare(QProcess& process, const std::vector<std::string>& arguments) const;
+
+    /// Runs it for a while and kills it; it may have ended before.
+    void runAndKill(const std::vector<std::string>& arguments, std::chrono::microseconds after) const;
 
     /// Sends a signal and waits until the process has taken it.
     static void sendSignal(const QProcess& process, int signal);
