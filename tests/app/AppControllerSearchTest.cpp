@@ -29,6 +29,13 @@ class AppControllerSearchTest : public ControllerFixture {
         choices.playlist = "Library";
         return choices;
     }
+    /// A search to its end.
+    void searchIn(const std::string& playlist) {
+        SearchParameters choices = sameNameAndArtist();
+        choices.playlist = playlist;
+        controller->paramOkButtonClick(choices);
+        runUntilIdle();
+    }
     void failTexts(const std::string& part) {
         iTunes.fails = [part](const std::string& text) { return text.find(part) != std::string::npos; };
     }
@@ -136,8 +143,7 @@ TEST_F(AppControllerSearchTest, HelpOfTheAlertOpensTheQuestionsPage) {
 
 TEST_F(AppControllerSearchTest, ATrackCountOfZeroPassesTheAccessCheck) {
     iTunes.version = "9.0";
-    controller->paramOkButtonClick(sameNameAndArtist());
-    runUntilIdle();
+    searchIn("Library");
     EXPECT_THAT(view.calls, Contains("alertNoDuplicates"));
 }
 
@@ -145,15 +151,10 @@ TEST_F(AppControllerSearchTest, ASearchThatMissedItsPlaylistIsNotShownAsOneOfIt)
     iTunes.version = "9.0";
     iTunes.playlists = {"Lib\"rary", "Par\"ty"};
     addTracks(4);
-    SearchParameters choices = sameNameAndArtist();
-    choices.playlist = "Par\"ty";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Par\"ty");
     EXPECT_TRUE(controller->missedPlaylist());
     EXPECT_THAT(view.calls, Contains("setSearchedText Whole library, not “Par\"ty”: same name, artist"));
-    choices.playlist = "Lib\"rary";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Lib\"rary");
     EXPECT_FALSE(controller->missedPlaylist());
     EXPECT_THAT(view.calls, Contains("setSearchedText Lib\"rary: same name, artist"));
 }
@@ -166,10 +167,7 @@ TEST_F(AppControllerSearchTest, TheFirstPlaylistIsFoundThoughAnotherIsTheMusicPl
         // Only the first question is answered by another order, as by a library that is sorted meanwhile.
         if (text.find("playlist 1") != std::string::npos) iTunes.playlists = {"Library", "Party"};
     };
-    SearchParameters choices = sameNameAndArtist();
-    choices.playlist = "Party";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Party");
     EXPECT_FALSE(controller->missedPlaylist());
 }
 
@@ -177,14 +175,9 @@ TEST_F(AppControllerSearchTest, AnAllClearNamesWhatWasSearchedInsteadOfThePlayli
     iTunes.version = "9.0";
     iTunes.playlists = {"Library", "Par\"ty"};
     addTracks(1);
-    SearchParameters choices = sameNameAndArtist();
-    choices.playlist = "Par\"ty";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Par\"ty");
     EXPECT_THAT(view.explanations, ElementsAre("the whole library was searched, not “Par\"ty”"));
-    choices.playlist = "Library";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Library");
     EXPECT_THAT(view.explanations, ElementsAre());
 }
 
@@ -194,8 +187,7 @@ TEST_F(AppControllerSearchTest, ATrackThatCannotBeReadIsToldBesideTheResults) {
     iTunes.fails = [](const std::string& text) {
         return text.find("from 4 to 4 ") != std::string::npos || text.find("to 4 \n") != std::string::npos;
     };
-    controller->paramOkButtonClick(sameNameAndArtist());
-    runUntilIdle();
+    searchIn("Library");
     EXPECT_FALSE(controller->searchVerdict().isComplete);
     EXPECT_THAT(view.calls,
                 Contains("setSearchedText Library (1 track could not be read: told to fail): same "
@@ -213,20 +205,14 @@ TEST_F(AppControllerSearchTest, WithNoFieldAndNoPlaylistTheSearchRunsAllTheSame)
 
 TEST_F(AppControllerSearchTest, AnUnknownPlaylistSearchesTheLibrary) {
     iTunes.version = "9.0";
-    SearchParameters choices = sameNameAndArtist();
-    choices.playlist = "Nowhere";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Nowhere");
     EXPECT_THAT(iTunes.texts(), Contains("tell application \"iTunes\" to get count of tracks of playlist 1"));
 }
 
 TEST_F(AppControllerSearchTest, APlaylistNamedTwiceUsesTheFirst) {
     iTunes.version = "9.0";
     iTunes.playlists = {"Library", "Party", "Party"};
-    SearchParameters choices = sameNameAndArtist();
-    choices.playlist = "Party";
-    controller->paramOkButtonClick(choices);
-    runUntilIdle();
+    searchIn("Party");
     EXPECT_THAT(iTunes.texts(), Contains("tell application \"iTunes\" to get count of tracks of playlist 2"));
 }
 
@@ -237,8 +223,7 @@ TEST_F(AppControllerSearchTest, AfterAFailedLibraryFileTheBarGoesOnFrom50AndGrou
         if (text.find("itunes_records") != std::string::npos)
             phases.emplace_back(controller->progress().progressBase, controller->progress().progressSpan);
     };
-    controller->paramOkButtonClick(sameNameAndArtist());
-    runUntilIdle();
+    searchIn("Library");
     EXPECT_THAT(phases, ElementsAre(std::pair(50, 40)));
     EXPECT_EQ(controller->progress().progressBase, 70);
     EXPECT_EQ(controller->progress().progressSpan, 30);
@@ -290,8 +275,7 @@ TEST_F(AppControllerSearchTest, ANewSearchAfterACancelHearsNothingOfTheOldOne) {
     controller->paramOkButtonClick(sameNameAndArtist());
     controller->cancelformButtonClick();
     view.calls.clear();
-    controller->paramOkButtonClick(sameNameAndArtist());
-    runUntilIdle();
+    searchIn("Library");
     EXPECT_THAT(view.calls, Not(Contains("setPerformLabelVisible on")));
     EXPECT_EQ(controller->tableDataSource().rows.size(), 200U);
 }

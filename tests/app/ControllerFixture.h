@@ -102,6 +102,21 @@ class ControllerFixture : public ::testing::Test {
         }
     }
 
+    /// What the controller works with, by files of the test's choice.
+    ControllerServices services(Files& seen) {
+        return {
+            .scripts = iTunes,
+            .files = seen,
+            .preferences = preferences,
+            .sleeper = sleeper,
+            .log = log,
+            .desktop = desktop,
+            .cleanup = cleanup,
+            .version = "1.0",
+            .unreachableReason = [] { return std::string("line 3: no end"); },
+        };
+    }
+
     FakeITunes iTunes;
     AllFiles files;
     GivenPreferences preferences;
@@ -111,19 +126,8 @@ class ControllerFixture : public ::testing::Test {
     RecordingView view;
     GivenCleanup cleanup;
     std::vector<std::unique_ptr<TrackRecord>> records;
-    std::unique_ptr<AppController> controller = std::make_unique<AppController>(
-        ControllerServices{
-            .scripts = iTunes,
-            .files = files,
-            .preferences = preferences,
-            .sleeper = sleeper,
-            .log = log,
-            .desktop = desktop,
-            .cleanup = cleanup,
-            .version = "1.0",
-            .unreachableReason = [] { return std::string("line 3: no end"); },
-        },
-        view.views());
+    std::unique_ptr<AppController> controller =
+        std::make_unique<AppController>(services(files), view.views());
 };
 
 } // namespace songsweep::test

@@ -55,18 +55,9 @@ class SlowFiles final : public Files {
 class DeletionTest : public ControllerFixture {
   protected:
     DeletionTest() {
-        controller = std::make_unique<AppController>(
-            ControllerServices{
-                .scripts = iTunes,
-                .files = slowFiles,
-                .preferences = preferences,
-                .sleeper = sleeper,
-                .log = log,
-                .desktop = desktop,
-                .cleanup = cleanup,
-                .version = "1.0",
-                .libraryLocations = [this](const LocationVisitor& visit) { return visitAll(visit); }},
-            view.views());
+        ControllerServices slow = services(slowFiles);
+        slow.libraryLocations = [this](const LocationVisitor& visit) { return visitAll(visit); };
+        controller = std::make_unique<AppController>(std::move(slow), view.views());
         controller->awakeFromNib();
         addRows({1, 1, 2, 2});
         const std::array locations = {"/music/a.mp3", "/music/a2.mp3", "/music/gone.mp3", "/music/b2.mp3"};
