@@ -69,6 +69,17 @@ TEST_F(EmbeddedScriptingFaultsTest, EveryFailureIsTold) {
     EXPECT_THAT(m_told, SizeIs(2)); // Each took other deletions with it.
 }
 
+TEST_F(EmbeddedScriptingFaultsTest, AFailureAfterAGoodWriteIsTold) {
+    for (int n = 0; n < 4; n += 2) {
+        deleteTrack(n);
+        EXPECT_TRUE(m_scripts->flush());
+        const CleanupLock held = lock();
+        deleteTrack(n + 1);
+        EXPECT_FALSE(m_scripts->flush());
+        EXPECT_THAT(m_told, SizeIs(n / 2 + 1));
+    }
+}
+
 TEST_F(EmbeddedScriptingFaultsTest, ALibraryThatCouldNotBeOpenedIsLookedAtAgain) {
     {
         const NoDescriptors none;

@@ -119,6 +119,25 @@ TEST_F(OtherProgram, ThatWritesWithoutEndIsReportedAndKeepsItsEdits) {
     EXPECT_EQ(contentOf(m_path), text(true, added));
 }
 
+TEST_F(OtherProgram, ThatWritesAfterTheExchangeIsNotMovedWhereTheDiskFails) {
+    ASSERT_TRUE(m_library->beginCleanup({"a test"}));
+    remove();
+    bool isMoved = false;
+    SystemCalls::before("renameat2", [&] { // the exchange; what follows is the folder's flush
+        SystemCalls::before("fsync", [&] {
+            writeByRename();
+            SystemCalls::failAt(1, EIO);
+            SystemCalls::before("renameat2", [&] { isMoved = true; });
+        });
+    });
+    const auto written = m_library->flush();
+    SystemCalls::stop();
+    EXPECT_EQ(SystemCalls::failed(), "fsync");
+    EXPECT_TRUE(written);
+    EXPECT_FALSE(isMoved);
+    EXPECT_EQ(contentOf(m_path), text(true, added));
+}
+
 TEST_F(OtherProgram, WithoutAnExchangeTheWindowIsNarrowAndSaidToBeSo) {
     SystemCalls::failAll("renameat2", EINVAL);
     ASSERT_TRUE(m_library->beginCleanup({"a test"}));

@@ -77,7 +77,7 @@ void SystemCalls::failAll(const std::string& name, int errorNumber) {
 }
 
 void SystemCalls::before(const std::string& name, std::function<void()> action) {
-    watch();
+    if (!current().active) watch();
     current().awaited = name;
     current().action = std::move(action);
 }

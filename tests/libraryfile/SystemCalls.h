@@ -18,7 +18,7 @@ class SystemCalls {
     static void killAt(int number);
     /// Every call of that name fails.
     static void failAll(const std::string& name, int errorNumber);
-    /// Something is done before the next call of that name is made, once.
+    /// Something is done before the next call of that name is made, once; what was to fail still does.
     static void before(const std::string& name, std::function<void()> action);
 
     /// Calls are made as ever again; the number of those since the watch began.
