@@ -9,6 +9,7 @@
 #include "app/views/ApplicationView.h"
 #include "app/views/ControllerViews.h"
 #include "app/views/DeleteView.h"
+#include "app/views/LibraryView.h"
 #include "app/views/MarkView.h"
 #include "app/views/NoticeView.h"
 #include "app/views/ProgressView.h"
@@ -49,6 +50,7 @@ class WaitingView final : public DeleteView {
 struct Views {
     WaitingView waiting;
     ApplicationView application;
+    LibraryView library;
     SearchView search;
     ResultsView results;
     MarkView mark;
@@ -57,7 +59,7 @@ struct Views {
     ProgressView progress;
 
     ControllerViews all() {
-        return {application, search, results, mark, waiting, restore, notice, progress, progress};
+        return {application, library, search, results, mark, waiting, restore, notice, progress, progress};
     }
 };
 
