@@ -81,7 +81,7 @@ std::vector<TextCase> failures() {
                         "found “widget”"},
         {"pause", "line 1, column 1: “pause” is not known: no variable has that name, nor any word here"},
         {"5\n\n  1 / 0", "line 3, column 5: a number cannot be divided by zero"},
-        {"\"a\" + 1", "line 1, column 5: cannot reckon with a text and a number"},
+        {"\"a\" + 1", "line 1, column 5: cannot calculate with a text and a number"},
         {"not 5", "line 1, column 5: cannot make a number into a truth value"},
         {"if missing value then 5", "line 1, column 4: cannot make the missing value into a truth value"},
         {"{1} < 2", "line 1, column 5: cannot compare a list with a number"},

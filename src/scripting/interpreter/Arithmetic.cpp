@@ -113,7 +113,7 @@ Result<Value> evaluated(Context& context, Position position, Operation operation
         return evaluatedNumbers(context, position, operation, *leftNumber, *rightNumber);
     }
     return context.fail(position, ErrorNumber::cannotCoerce,
-                        "cannot reckon with " + kindName(left) + " and " + kindName(right));
+                        "cannot calculate with " + kindName(left) + " and " + kindName(right));
 }
 
 Result<Value> negated(Context& context, Position position, const Value& value) {
