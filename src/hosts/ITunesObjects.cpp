@@ -7,6 +7,7 @@
 #include "library/PersistentId.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace songsweep {
@@ -64,7 +65,8 @@ Result<Value> PlaylistObject::property(TermCode property) {
     if (!document) return document.error();
     // A file without playlists has its library all the same, without a name.
     const bool listed = m_index < document.value()->playlistCount();
-    const PlaylistSlot slot = listed ? document.value()->playlist(m_index) : PlaylistSlot();
+    const PlaylistSlot unlisted;
+    const PlaylistSlot& slot = listed ? document.value()->playlist(m_index) : unlisted;
     switch (static_cast<ITunesProperty>(property)) {
     case ITunesProperty::name:
         return Value(slot.name);
@@ -83,22 +85,20 @@ Result<std::size_t> PlaylistObject::count(TermCode elementClass) {
     if (elementClass != static_cast<TermCode>(ITunesClass::track)) return HostObject::count(elementClass);
     const auto document = library();
     if (!document) return document.error();
-    return document.value()->tracksOf(m_index).size();
+    return document.value()->listing(m_index).size();
 }
 
 Result<ObjectPointer> PlaylistObject::element(TermCode elementClass, std::size_t index) {
     const auto number = count(elementClass);
     if (!number) return number.error();
     if (index == 0 || index > number.value()) return Error{Error::Code::notFound, "there is no such track"};
-    LibraryDocument& document = *library().value();
-    const auto track = document.tracksOf(m_index)[index - 1];
-    const std::uint32_t item = m_index == 0 ? 0 : document.itemsOf(m_index)[index - 1];
-    return ObjectPointer(
-        std::make_shared<TrackObject>(services(), track, TrackObject::Place{m_index, item},
-                                      "track " + std::to_string(index) + " of " + specifier()));
+    const TrackListing& tracks = library().value()->listing(m_index);
+    return ObjectPointer(std::make_shared<TrackObject>(
+        services(), tracks.track(index - 1), TrackObject::Place{m_index, tracks.item(index - 1)},
+        "track " + std::to_string(index) + " of " + specifier()));
 }
 
-/// The elements that are one of these tracks, which ascend.
+/// The elements that are one of these tracks, in the order of the playlist.
 Candidates PlaylistObject::elements(LibraryDocument& document, const Tracks& tracks,
                                     const std::string& which) {
     Candidates found;
@@ -111,9 +111,13 @@ Candidates PlaylistObject::elements(LibraryDocument& document, const Tracks& tra
             add(track, 0);
         return found;
     }
-    const Tracks& members = document.tracksOf(m_index);
-    for (std::size_t i = 0; i < members.size() && !tracks.empty(); ++i)
-        if (std::ranges::binary_search(tracks, members[i])) add(members[i], document.itemsOf(m_index)[i]);
+    TrackListing& members = document.listing(m_index);
+    std::vector<std::size_t> places;
+    for (const auto track : tracks)
+        std::ranges::copy(members.placesOfTrack(track), std::back_inserter(places));
+    std::ranges::sort(places);
+    for (const std::size_t place : places)
+        add(members.track(place), members.item(place));
     return found;
 }
 
@@ -154,7 +158,7 @@ Result<ObjectPointer> PlaylistObject::add(const TrackObject& track) {
     if (!item) return item.error();
     return ObjectPointer(std::make_shared<TrackObject>(
         services(), track.track(), TrackObject::Place{m_index, item.value()},
-        "track " + std::to_string(tracks.tracksOf(m_index).size()) + " of " + specifier()));
+        "track " + std::to_string(tracks.listing(m_index).size()) + " of " + specifier()));
 }
 
 Result<Value> SourceObject::property(TermCode property) {
@@ -227,13 +231,12 @@ Result<void> TrackObject::remove() const {
 
 /// The place that the track has now in its playlist.
 Result<Value> TrackObject::index() const {
-    LibraryDocument& document = *library().value();
-    if (m_place.playlist == 0) return Value(static_cast<std::int64_t>(document.libraryPlaceOf(m_track)));
-    const std::vector<std::uint32_t>& items = document.itemsOf(m_place.playlist);
-    const auto found = std::ranges::lower_bound(items, m_place.item);
-    if (found == items.end() || *found != m_place.item)
-        return Error{Error::Code::notFound, "the track is in the playlist no more"};
-    return Value(std::int64_t{found - items.begin() + 1});
+    TrackListing& tracks = library().value()->listing(m_place.playlist);
+    if (m_place.playlist == 0)
+        return Value(static_cast<std::int64_t>(tracks.placesOfTrack(m_track).front() + 1));
+    const auto place = tracks.placeOfItem(m_place.item);
+    if (!place) return Error{Error::Code::notFound, "the track is in the playlist no more"};
+    return Value(static_cast<std::int64_t>(*place + 1));
 }
 
 Result<std::size_t> TrackObject::count(TermCode elementClass) {

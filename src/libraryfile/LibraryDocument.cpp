@@ -94,7 +94,7 @@ void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTa
 
 void LibraryDocument::forgetLists() {
     m_lists.assign(std::max<std::size_t>(m_playlistOrder.size(), 1), std::nullopt);
-    m_libraryPlaces.clear();
+    m_deletedSinceListed.clear();
     m_listsMade = false;
 }
 
@@ -103,43 +103,42 @@ std::vector<PlaylistInfo> LibraryDocument::playlists() {
     for (std::size_t i = 0; i < playlistCount(); ++i) {
         const PlaylistSlot& slot = playlist(i);
         const bool library = i == 0;
-        infos.push_back({slot.name, slot.persistentId, static_cast<int>(tracksOf(i).size()), library,
+        infos.push_back({slot.name, slot.persistentId, static_cast<int>(listing(i).size()), library,
                          library || slot.smart, slot.folder});
     }
     return infos;
 }
 
-const std::vector<LibraryDocument::TrackPosition>& LibraryDocument::tracksOf(std::size_t playlist) {
-    return listed(playlist).tracks;
-}
-
-const std::vector<std::uint32_t>& LibraryDocument::itemsOf(std::size_t playlist) {
-    return listed(playlist).items;
-}
-
-const LibraryDocument::Listed& LibraryDocument::listed(std::size_t playlist) {
+TrackListing& LibraryDocument::listing(std::size_t playlist) {
     auto& list = m_lists[playlist];
-    if (list) return *list;
-    m_listsMade = true;
-    if (playlist == 0) return list.emplace(Listed{libraryTracks(), {}});
-    list.emplace();
-    const std::vector<ItemSlot>& items = m_index.playlists[m_playlistOrder[playlist]].items;
+    if (!list) {
+        m_listsMade = true;
+        return list.emplace(Listed{newListing(playlist), m_deletedSinceListed.size()}).listing;
+    }
+    while (list->deletionsSeen < m_deletedSinceListed.size())
+        list->listing.strikeTrack(m_deletedSinceListed[list->deletionsSeen++]);
+    return list->listing;
+}
+
+TrackListing LibraryDocument::newListing(std::size_t playlist) const {
+    if (playlist == 0) return libraryListing();
+    TrackListing listing;
+    const std::vector<ItemSlot>& items = this->playlist(playlist).items;
     for (std::uint32_t item = 0; item < items.size(); ++item) {
         const TrackPosition track = items[item].track;
         if (track == LibraryIndex::noTrack || isDeleted(track) || isTakenOut(playlist, item)) continue;
-        list->tracks.push_back(track);
-        list->items.push_back(item);
+        listing.append(track, item);
     }
-    listAdded(playlist, *list);
-    return *list;
+    listAdded(playlist, listing);
+    return listing;
 }
 
-std::vector<LibraryDocument::TrackPosition> LibraryDocument::libraryTracks() const {
-    std::vector<TrackPosition> tracks;
-    tracks.reserve(m_index.tracks.size());
+TrackListing LibraryDocument::libraryListing() const {
+    TrackListing listing;
     std::vector<bool> seen(m_index.tracks.size());
     const auto add = [&](TrackPosition track) {
-        if (!seen[track] && !isDeleted(track)) tracks.push_back(track);
+        if (!seen[track] && !isDeleted(track))
+            listing.append(track, static_cast<std::uint32_t>(listing.size()));
         seen[track] = true;
     };
     if (playlistCount() > 0) {
@@ -148,7 +147,7 @@ std::vector<LibraryDocument::TrackPosition> LibraryDocument::libraryTracks() con
     }
     for (TrackPosition track = 0; track < m_index.tracks.size(); ++track)
         add(track);
-    return tracks;
+    return listing;
 }
 
 std::vector<LibraryDocument::TrackPosition>
@@ -179,16 +178,6 @@ std::vector<LibraryDocument::TrackPosition> LibraryDocument::tracksWithTrackId(s
          at != m_byTrackId.end() && idOf(*at) == trackId; ++at)
         if (!isDeleted(*at)) found.push_back(*at);
     return found;
-}
-
-std::size_t LibraryDocument::libraryPlaceOf(TrackPosition track) {
-    if (m_libraryPlaces.empty()) {
-        const std::vector<TrackPosition>& tracks = tracksOf(0);
-        m_libraryPlaces.resize(m_index.tracks.size());
-        for (std::size_t i = 0; i < tracks.size(); ++i)
-            m_libraryPlaces[tracks[i]] = static_cast<std::uint32_t>(i + 1);
-    }
-    return m_libraryPlaces[track];
 }
 
 Result<const EntryValues*> LibraryDocument::values(TrackPosition track) {
@@ -236,7 +225,7 @@ Result<void> LibraryDocument::remove(TrackPosition track) {
     }
     m_index.tracks[track].deleted = true;
     ++m_deletedCount;
-    if (m_listsMade) forgetLists();
+    if (m_listsMade) m_deletedSinceListed.push_back(track);
     return {};
 }
 

@@ -10,6 +10,7 @@
 #include "libraryfile/RecordedCleanup.h"
 #include "libraryfile/SameTracks.h"
 #include "libraryfile/TrackFields.h"
+#include "libraryfile/TrackListing.h"
 
 #include <array>
 #include <chrono>
@@ -86,8 +87,9 @@ class LibraryDocument {
     }
 
     /// The tracks of a playlist in the order of `playlists`, without deleted ones; the library's (0) in a
-    /// file without playlists too. Made once and kept until something changes: linear then, free afterwards.
-    const std::vector<TrackPosition>& tracksOf(std::size_t playlist);
+    /// file without playlists too. The items of the library, whose tracks are more than those, are numbered
+    /// by their places. Linear for the first call; what changes afterwards costs what the change is.
+    TrackListing& listing(std::size_t playlist);
 
     /// The tracks of a persistent ID in file order, mostly one; letter case does not count. Microseconds.
     std::vector<TrackPosition> tracksWithPersistentId(std::string_view persistentId);
@@ -95,14 +97,6 @@ class LibraryDocument {
     /// The tracks of a track ID, mostly one. Microseconds but for the first call, which sorts them.
     std::vector<TrackPosition> tracksWithTrackId(std::int64_t trackId);
     std::int64_t trackId(TrackPosition track) const { return m_index.tracks[track].trackId; }
-
-    /// The numbers of the playlist's items that those tracks stand for, ascending; none for the library,
-    /// whose tracks are more than its items. Made with `tracksOf`.
-    const std::vector<std::uint32_t>& itemsOf(std::size_t playlist);
-
-    /// The place of a track in the library, from 1; 0 where it has none. Linear once, free afterwards, until
-    /// something changes.
-    std::size_t libraryPlaceOf(TrackPosition track);
 
     /// Whether records that a reader made of the file are its tracks, see SameTracks.h.
     bool hasTracks(const std::vector<TrackRecord*>& records) const {
@@ -126,7 +120,7 @@ class LibraryDocument {
     /// Gives a key of a track's entry another value, or takes it out; seen at once by `fields` and `values`.
     /// An error where the entry does not allow it, see EntryEdit.h.
     Result<void> setValue(TrackPosition track, ValueChange change);
-    /// Takes an item out of a playlist that is not the library, by its number in `itemsOf`; the track stays.
+    /// Takes an item out of a playlist that is not the library, by its number in `listing`; the track stays.
     void takeOut(std::size_t playlist, std::uint32_t item);
     bool isTakenOut(std::size_t playlist, std::uint32_t item) const;
     /// Puts a track at the end of a playlist that is not the library, and gives the number of its item. An
@@ -182,8 +176,8 @@ class LibraryDocument {
         TrackFields fields;
     };
     struct Listed {
-        std::vector<TrackPosition> tracks;
-        std::vector<std::uint32_t> items;
+        TrackListing listing;
+        std::size_t deletionsSeen = 0; ///< how many of `m_deletedSinceListed` it is without
     };
     struct CachedValues {
         TrackPosition track = LibraryIndex::noTrack;
@@ -198,14 +192,14 @@ class LibraryDocument {
     Result<void> writeIn(LibraryTransaction& transaction);
     Result<void> replaceLibrary(LibraryTransaction& transaction);
     Result<void> checkWellFormednessOnce();
-    const Listed& listed(std::size_t playlist);
-    void listAdded(std::size_t playlist, Listed& list) const;
+    TrackListing newListing(std::size_t playlist) const;
+    TrackListing libraryListing() const;
+    void listAdded(std::size_t playlist, TrackListing& listing) const;
     Result<std::string> entryOf(TrackPosition track) const;
     void forgetValues();
     bool isChanged() const { return m_deletedCount > 0 || pendingChanges() > 0; }
     Result<LibraryIndex> withoutDeletions(LibraryTransaction& transaction);
     Result<LibraryIndex> withChanges(LibraryTransaction& transaction);
-    std::vector<TrackPosition> libraryTracks() const;
 
     std::string m_path;
     Options m_options;
@@ -215,8 +209,8 @@ class LibraryDocument {
     std::vector<std::uint32_t> m_playlistOrder;
     std::vector<std::optional<Listed>> m_lists; // of every playlist, as asked for
     bool m_listsMade = false;
-    std::vector<std::uint32_t> m_libraryPlaces; // by track, as asked for
-    std::vector<TrackPosition> m_byTrackId;     // made when it is asked for
+    std::vector<TrackPosition> m_deletedSinceListed; // which a list drops when it is asked for again
+    std::vector<TrackPosition> m_byTrackId;          // made when it is asked for
     std::array<Cached, 16> m_cache;
     CachedValues m_values; // of the track asked for last
     std::size_t m_deletedCount = 0;

@@ -32,7 +32,7 @@ bool LibraryDocument::isTakenOut(std::size_t playlist, std::uint32_t item) const
 void LibraryDocument::takeOut(std::size_t playlist, std::uint32_t item) {
     if (isTakenOut(playlist, item)) return;
     m_changes.takeOut(m_playlistOrder[playlist], item, this->playlist(playlist).items.size());
-    m_lists[playlist].reset();
+    if (m_lists[playlist]) m_lists[playlist]->listing.strikeItem(item);
 }
 
 Result<std::uint32_t> LibraryDocument::add(std::size_t playlist, TrackPosition track) {
@@ -47,23 +47,17 @@ Result<std::uint32_t> LibraryDocument::add(std::size_t playlist, TrackPosition t
     m_changes.add(number, track);
     const auto item =
         static_cast<std::uint32_t>(slot.items.size() + m_changes.ofPlaylist(number)->added.size() - 1);
-    if (m_lists[playlist]) {
-        m_lists[playlist]->tracks.push_back(track);
-        m_lists[playlist]->items.push_back(item);
-    }
+    if (m_lists[playlist]) listing(playlist).append(track, item);
     return item;
 }
 
 /// Tracks that were added to a playlist come behind its items, with the numbers that follow.
-void LibraryDocument::listAdded(std::size_t playlist, Listed& list) const {
+void LibraryDocument::listAdded(std::size_t playlist, TrackListing& listing) const {
     const LibraryChanges::OfPlaylist* const changes = m_changes.ofPlaylist(m_playlistOrder[playlist]);
     if (!changes) return;
     auto item = static_cast<std::uint32_t>(this->playlist(playlist).items.size());
     for (const TrackPosition track : changes->added) {
-        if (track != LibraryIndex::noTrack && !isDeleted(track)) {
-            list.tracks.push_back(track);
-            list.items.push_back(item);
-        }
+        if (track != LibraryIndex::noTrack && !isDeleted(track)) listing.append(track, item);
         ++item;
     }
 }

@@ -16,7 +16,9 @@ namespace songsweep {
 namespace {
 
 using test::contentOf;
+using test::itemsOf;
 using test::libraryXml;
+using test::tracksOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -93,16 +95,33 @@ TEST_F(LibraryChangeTest, WhatCannotBeChangedIsRefusedAtOnce) {
 
 TEST_F(LibraryChangeTest, AnItemIsTakenOutAndItsTrackStays) {
     open(small("a", {1, 2, 1}));
-    EXPECT_THAT(m_library->itemsOf(1), ElementsAre(0, 1, 2));
+    EXPECT_THAT(itemsOf(m_library->listing(1)), ElementsAre(0, 1, 2));
     m_library->takeOut(1, 2);
     m_library->takeOut(1, 2);
     EXPECT_TRUE(m_library->isTakenOut(1, 2));
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0, 1));
-    EXPECT_THAT(m_library->itemsOf(1), ElementsAre(0, 1));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1));
+    EXPECT_THAT(itemsOf(m_library->listing(1)), ElementsAre(0, 1));
     EXPECT_EQ(m_library->pendingChanges(), 1U);
     ASSERT_TRUE(m_library->flush());
     EXPECT_EQ(content(), small("a", {1, 2}));
     EXPECT_EQ(m_library->trackCount(), 3);
+}
+
+TEST_F(LibraryChangeTest, WhatIsListedChangesWithEachTrackAndItem) {
+    LibraryDocument& library = open(small("a", {1, 2, 1, 3, 2}));
+    EXPECT_THAT(tracksOf(library.listing(0)), ElementsAre(0, 1, 2));
+    EXPECT_THAT(tracksOf(library.listing(1)), ElementsAre(0, 1, 0, 2, 1));
+    ASSERT_TRUE(library.remove(0));
+    EXPECT_THAT(tracksOf(library.listing(0)), ElementsAre(1, 2));
+    library.takeOut(1, 1);
+    ASSERT_TRUE(library.remove(2));
+    EXPECT_THAT(itemsOf(library.listing(1)), ElementsAre(4));
+    EXPECT_EQ(library.add(1, 1).value(), 5U);
+    EXPECT_THAT(itemsOf(library.listing(1)), ElementsAre(4, 5));
+    EXPECT_THAT(tracksOf(library.listing(0)), ElementsAre(1));
+    library.rollback();
+    EXPECT_THAT(tracksOf(library.listing(0)), ElementsAre(0, 1, 2));
+    EXPECT_THAT(itemsOf(library.listing(1)), ElementsAre(0, 1, 2, 3, 4));
 }
 
 TEST_F(LibraryChangeTest, AnItemIsPutBehindTheLastOneAsThatIsWritten) {
@@ -116,9 +135,9 @@ TEST_F(LibraryChangeTest, AnItemIsPutBehindTheLastOneAsThatIsWritten) {
     };
     open(withItems(item(1) + item(2) + "<!-- end -->"));
     EXPECT_EQ(m_library->add(1, 2).value(), 2U);
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0, 1, 2));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1, 2));
     EXPECT_EQ(m_library->add(1, 0).value(), 3U);
-    EXPECT_THAT(m_library->itemsOf(1), ElementsAre(0, 1, 2, 3));
+    EXPECT_THAT(itemsOf(m_library->listing(1)), ElementsAre(0, 1, 2, 3));
     ASSERT_TRUE(m_library->flush());
     EXPECT_EQ(content(), withItems(item(1) + item(2) + item(3) + item(1) + "<!-- end -->"));
 }
@@ -164,10 +183,10 @@ TEST_F(LibraryChangeTest, AnItemThatWasPutInIsTakenOutAgain) {
     const std::uint32_t item = m_library->add(1, 2).value();
     m_library->takeOut(1, item);
     EXPECT_TRUE(m_library->isTakenOut(1, item));
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0));
     EXPECT_EQ(m_library->add(1, 1).value(), 2U);
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0, 1));
-    EXPECT_THAT(m_library->itemsOf(1), ElementsAre(0, 2));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1));
+    EXPECT_THAT(itemsOf(m_library->listing(1)), ElementsAre(0, 2));
     ASSERT_TRUE(m_library->flush());
     EXPECT_EQ(content(), small("a", {1, 2}));
 }
@@ -186,7 +205,7 @@ TEST_F(LibraryChangeTest, DeletionsAndChangesAreWrittenTogether) {
     m_library->takeOut(1, 1);
     ASSERT_TRUE(m_library->add(1, 1));
     ASSERT_TRUE(m_library->remove(1));
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0, 2));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 2));
     ASSERT_TRUE(m_library->flush());
     EXPECT_EQ(content(),
               libraryXml({{1, idA, "<key>Name</key><string>b</string>"}, {3, "C3", ""}},
@@ -199,10 +218,10 @@ TEST_F(LibraryChangeTest, WhatIsForgottenIsAsBefore) {
     open(small("a", {1}));
     rename(0, "b");
     ASSERT_TRUE(m_library->add(1, 1));
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0, 1));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1));
     m_library->rollback();
     EXPECT_EQ(nameOf(0), "a");
-    EXPECT_THAT(m_library->tracksOf(1), ElementsAre(0));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0));
     EXPECT_EQ(m_library->pendingChanges(), 0U);
 }
 

@@ -54,7 +54,7 @@ TEST_F(LibraryDocumentTest, PutsTheLibraryFirstAndListsTheOthersInFileOrder) {
 TEST_F(LibraryDocumentTest, TheLibraryHoldsItsItemsAndThenEveryOtherTrackOnce) {
     LibraryDocument& library = open(libraryXml({{1, "", ""}, {2, "", ""}, {3, "", ""}, {4, "", ""}},
                                                {{"All", "<key>Master</key><true/>", {4, 2, 4, 77}}}));
-    EXPECT_EQ(library.tracksOf(0), (std::vector<std::uint32_t>{3, 1, 0, 2}));
+    EXPECT_EQ(test::tracksOf(library.listing(0)), (std::vector<std::uint32_t>{3, 1, 0, 2}));
     EXPECT_EQ(library.trackCount(), 4);
 }
 
@@ -69,7 +69,7 @@ TEST_F(LibraryDocumentTest, WithoutPlaylistsAllTracksAreThereAndNothingIsListed)
     LibraryDocument& library =
         open("<plist><dict><key>Tracks</key><dict><key>1</key><dict/></dict></dict></plist>");
     EXPECT_TRUE(library.playlists().empty());
-    EXPECT_EQ(library.tracksOf(0).size(), 1U);
+    EXPECT_EQ(library.listing(0).size(), 1U);
 }
 
 TEST_F(LibraryDocumentTest, ReadsTheValuesOfATrackAsTheyStand) {

@@ -120,4 +120,18 @@ std::string withoutTracks(const std::string& text, const std::set<int>& ids) {
     return rest;
 }
 
+std::vector<std::uint32_t> tracksOf(const TrackListing& listing) {
+    std::vector<std::uint32_t> tracks;
+    for (std::size_t place = 0; place < listing.size(); ++place)
+        tracks.push_back(listing.track(place));
+    return tracks;
+}
+
+std::vector<std::uint32_t> itemsOf(const TrackListing& listing) {
+    std::vector<std::uint32_t> items;
+    for (std::size_t place = 0; place < listing.size(); ++place)
+        items.push_back(listing.item(place));
+    return items;
+}
+
 } // namespace songsweep::test

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "libraryfile/TrackListing.h"
+
 #include <QTemporaryDir>
 
+#include <cstdint>
 #include <filesystem>
 #include <set>
 #include <string>
@@ -54,5 +57,9 @@ std::string manyTracks(int count);
 /// The text of a library of the above forms without the tracks of these IDs and their items, found line by
 /// line and not as the program does it.
 std::string withoutTracks(const std::string& text, const std::set<int>& ids);
+
+/// What a listing has left, in its order.
+std::vector<std::uint32_t> tracksOf(const TrackListing& listing);
+std::vector<std::uint32_t> itemsOf(const TrackListing& listing);
 
 } // namespace songsweep::test
