@@ -43,7 +43,12 @@ std::vector<TextCase> literals() {
         {"alias \"Macintosh HD:Music:a/b.mp3\"", "alias \"Macintosh HD:Music:a/b.mp3\""},
         {"POSIX file \"/Music/a:b.mp3\"", "alias \"Macintosh HD:Music:a/b.mp3\""},
         {"\"x\" & return & linefeed & tab & space & quote", "\"x\r\n\t \\\"\""},
-        {"2 * hours + 30 * minutes", "9000"},
+        {"{MINUTES, Hours, days, weeks}", "{60, 3600, 86400, 604800}"},
+        {"{January, February, March, April, May, June}", "{January, February, March, April, May, June}"},
+        {"{july, AUGUST, September, October, November, December}",
+         "{July, August, September, October, November, December}"},
+        {"{Sunday, Monday, Tuesday, Wednesday, Thursday, Friday, Saturday}",
+         "{Sunday, Monday, Tuesday, Wednesday, Thursday, Friday, Saturday}"},
     };
 }
 

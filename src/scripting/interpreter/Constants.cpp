@@ -4,25 +4,43 @@
 #include "scripting/interpreter/Calendar.h"
 #include "scripting/interpreter/Words.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
 namespace songsweep::interpreter {
 namespace {
 
-struct TextConstant {
+/// A word and its value: a text, a number of seconds, or the word itself.
+struct NamedValue {
     std::string_view word;
     std::string_view text;
-};
-constexpr std::array textConstants{TextConstant{"space", " "}, TextConstant{"tab", "\t"},
-                                   TextConstant{"quote", "\""}, TextConstant{"linefeed", "\n"}};
+    std::int64_t seconds = 0;
+    const Constant* constant = nullptr;
 
-struct NumberConstant {
-    std::string_view word;
-    std::int64_t seconds;
+    Value value() const {
+        if (constant) return *constant;
+        return seconds == 0 ? Value(std::string(text)) : Value(seconds);
+    }
 };
-constexpr std::array numberConstants{NumberConstant{"minutes", 60}, NumberConstant{"hours", 3600},
-                                     NumberConstant{"days", 86400}, NumberConstant{"weeks", 604800}};
+
+constexpr std::array ownWords{NamedValue{"space", " "},      NamedValue{"tab", "\t"},
+                              NamedValue{"quote", "\""},     NamedValue{"linefeed", "\n"},
+                              NamedValue{"minutes", {}, 60}, NamedValue{"hours", {}, 3600},
+                              NamedValue{"days", {}, 86400}, NamedValue{"weeks", {}, 604800}};
+
+/// Sorted, since every word of a text that is no other is looked up here.
+constexpr auto namedValues = [] {
+    std::array<NamedValue, ownWords.size() + months.size() + weekdays.size()> values{};
+    const auto constantOf = [](const Constant& constant) {
+        return NamedValue{constant.name, {}, 0, &constant};
+    };
+    auto next = std::copy(ownWords.begin(), ownWords.end(), values.begin());
+    next = std::transform(months.begin(), months.end(), next, constantOf);
+    std::transform(weekdays.begin(), weekdays.end(), next, constantOf);
+    std::ranges::sort(values, isWordLess, &NamedValue::word);
+    return values;
+}();
 
 } // namespace
 
@@ -39,19 +57,9 @@ std::optional<Value> numberValue(const Token& token) {
 }
 
 std::optional<Value> constantNamed(std::string_view word) {
-    for (const TextConstant& constant : textConstants) {
-        if (isSameWord(constant.word, word)) return Value(std::string(constant.text));
-    }
-    for (const NumberConstant& constant : numberConstants) {
-        if (isSameWord(constant.word, word)) return Value(constant.seconds);
-    }
-    for (const Constant& month : months) {
-        if (isSameWord(month.name, word)) return Value(month);
-    }
-    for (const Constant& day : weekdays) {
-        if (isSameWord(day.name, word)) return Value(day);
-    }
-    return {};
+    const auto* const found = std::ranges::lower_bound(namedValues, word, isWordLess, &NamedValue::word);
+    if (found == namedValues.end() || !isSameWord(found->word, word)) return {};
+    return found->value();
 }
 
 } // namespace songsweep::interpreter

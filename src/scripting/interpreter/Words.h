@@ -11,12 +11,12 @@ namespace songsweep::interpreter {
 
 /// Words of the language compare without regard to the case of the letters A to Z.
 
-inline bool isSameWord(std::string_view left, std::string_view right) {
+constexpr bool isSameWord(std::string_view left, std::string_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                       [](char a, char b) { return asciiLower(a) == asciiLower(b); });
 }
 
-inline bool isWordLess(std::string_view left, std::string_view right) {
+constexpr bool isWordLess(std::string_view left, std::string_view right) {
     return std::lexicographical_compare(
         left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) {
             return static_cast<unsigned char>(asciiLower(a)) < static_cast<unsigned char>(asciiLower(b));
