@@ -3,6 +3,7 @@
 #include "scripting/InterpretedAppleScript.h"
 #include "scripting/SourceNotation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace songsweep {
@@ -226,6 +227,26 @@ TEST(LazinessTest, TakesEachElementOnceForSeveralProperties) {
     outcomeOf(world, "tell application \"iTunes\" to get {name, artist, rating} of every track");
     EXPECT_EQ(world.elementsTaken, 3);
     EXPECT_EQ(world.propertiesRead, 9);
+}
+
+/// What is copied of a long text leaves room for some tens of thousands of steps.
+std::string afterMostSteps(const std::string& reference) {
+    return "set t to \"0123456789abcdef\"\nrepeat 18 times\nset t to t & t\nend repeat\n"
+           "repeat 20 times\nset u to t & \"\"\nend repeat\n"
+           "tell application \"iTunes\"\nset u to " +
+           reference + "\n1\nend tell";
+}
+
+TEST(LimitsTest, CountEachPropertyOfEachElementAsAStep) {
+    test::FakeWorld world = smallWorld();
+    for (int i = 0; i < 40; ++i)
+        world.playlists[0].tracks.push_back(test::fakeTrack("More", "00B" + std::to_string(i), ""));
+    std::string properties = "name";
+    for (int i = 1; i < 5'000; ++i)
+        properties += ", name";
+    EXPECT_EQ(outcomeOf(world, afterMostSteps("{name} of every track")), "1");
+    EXPECT_THAT(outcomeOf(world, afterMostSteps("{" + properties + "} of every track")),
+                testing::HasSubstr("too many steps"));
 }
 
 TEST(LazinessTest, UsesTheIndexForAnyPartOfAConjunction) {
