@@ -59,13 +59,13 @@ void KeySort::sortByNextWord(Run run) {
     });
 }
 
-void KeySort::pushRunsOfEqualWords(Run run, std::vector<Run>& runs) const {
+void KeySort::pushRunsOfEqualWords(Run run, std::vector<Run>& runs) {
     for (std::size_t begin = run.begin; begin < run.end;) {
         std::size_t end = begin + 1;
         while (end < run.end && m_items[end].word == m_items[begin].word)
             ++end;
         // Of keys none of which begins another, the ended ones are equal to the end.
-        if (end - begin > 1 && m_items[begin].restLength > 0) runs.push_back({begin, end});
+        if (end - begin > 1) (m_items[begin].restLength > 0 ? runs : m_equalRuns).push_back({begin, end});
         begin = end;
     }
 }

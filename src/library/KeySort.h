@@ -22,12 +22,22 @@ namespace songsweep {
 /// may be the beginning of another. 24 bytes an item besides the keys. One thread.
 class KeySort {
   public:
+    /// Neighbours in the order, from `begin` to before `end`.
+    struct Run {
+        std::size_t begin;
+        std::size_t end;
+    };
+
     explicit KeySort(std::size_t expectedCount) { m_items.reserve(expectedCount); }
 
     void add(std::string_view key);
 
     /// The numbers of the items, from 0 in the order added, in the order of their keys. Call it once.
     std::vector<std::uint32_t> order();
+
+    /// The places in that order whose items have one key, where they are more than one; in no order
+    /// themselves.
+    const std::vector<Run>& equalRuns() const { return m_equalRuns; }
 
   private:
     struct Item {
@@ -36,17 +46,13 @@ class KeySort {
         std::uint32_t restLength;
         std::uint32_t index;
     };
-    struct Run {
-        std::size_t begin;
-        std::size_t end;
-    };
-
     static void takeWord(Item& item);
     void sortByNextWord(Run run);
-    void pushRunsOfEqualWords(Run run, std::vector<Run>& runs) const;
+    void pushRunsOfEqualWords(Run run, std::vector<Run>& runs);
 
     Arena m_keys;
     std::vector<Item> m_items;
+    std::vector<Run> m_equalRuns;
 };
 
 /// Builds a key of several values, the first deciding before the second. Reusable.

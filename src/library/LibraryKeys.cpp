@@ -41,6 +41,7 @@ constexpr std::array namedKeys = {
     NamedKey{"track type", LibraryKey::trackType},                        // File; URL; Remote
     NamedKey{"date added", LibraryKey::dateAdded},                        // 2009-03-14T15:09:26Z
     NamedKey{"smart info", LibraryKey::smartInfo},                        // data, of a smart playlist
+    NamedKey{"track number", LibraryKey::trackNumber},                    // 7
     NamedKey{"persistent id", LibraryKey::persistentId},                  // 6B0F3E1C22C4A9D7
     NamedKey{"artwork count", LibraryKey::artworkCount},                  // 1
     NamedKey{"playlist items", LibraryKey::playlistItems},                // no value, an array follows

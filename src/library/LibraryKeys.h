@@ -30,6 +30,7 @@ enum class LibraryKey : std::uint8_t {
     artworkCount,
     trackType,
     dateAdded,
+    trackNumber,
 
     // Of a playlist
     playlistPersistentId,

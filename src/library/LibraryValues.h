@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace songsweep {
 
@@ -24,6 +25,12 @@ constexpr std::int32_t starsOf(std::int32_t rating) { return rating / 20; }
 /// Not below 0.
 inline std::int32_t artworkCountOf(std::string_view artworkCount) {
     return std::max(integerValue(artworkCount), 0);
+}
+
+/// 0, which is no track's number, for one beyond all albums.
+inline std::int16_t trackNumberOf(std::string_view trackNumber) {
+    const std::int32_t number = integerValue(trackNumber);
+    return std::in_range<std::int16_t>(number) ? static_cast<std::int16_t>(number) : std::int16_t{0};
 }
 
 } // namespace songsweep

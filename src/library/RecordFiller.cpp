@@ -52,6 +52,9 @@ void RecordFiller::store(TrackRecord& record, LibraryKey key, std::string_view t
     case LibraryKey::dateAdded:
         storeDate(record, text);
         return;
+    case LibraryKey::trackNumber:
+        record.tracknumber = trackNumberOf(text);
+        return;
     default: // what a record does not keep
         return;
     }

@@ -13,6 +13,8 @@ struct SearchParameters {
     bool issamealbum = false;
     bool issametime = false;
     bool isignoredead = false;             ///< leave out tracks whose file is missing
+    bool issimilar = false;                ///< small differences of texts and times do not count
+    int toleranceSeconds = 2;              ///< by which times of similar tracks may differ
     std::optional<std::string> playlist{}; ///< name as chosen; nothing where no playlist was selected
 
     bool operator==(const SearchParameters&) const = default;

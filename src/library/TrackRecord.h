@@ -36,6 +36,8 @@ struct TrackRecord {
     bool isdead = false;         ///< the file is missing
     bool hasdate = false;        ///< the library gave a date; without one "dateadded" is empty
     bool fromlibraryfile = true; ///< made by the XML reader, so that "isfile" and "trackid" exist
+    std::int16_t tracknumber =
+        0; ///< on its album, from 1; only of the XML reader, for names that begin with it
 };
 
 } // namespace songsweep

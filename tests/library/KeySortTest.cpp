@@ -12,6 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 std::vector<std::uint32_t> orderOfTexts(const std::vector<std::string>& texts) {
     KeySort sort(texts.size());
@@ -50,6 +51,17 @@ TEST(SortKey, OrdersNumbersAcrossZero) {
     for (const std::int64_t number : {5L, -1L, 0L, std::numeric_limits<std::int64_t>::min()})
         sort.add(SortKey().number(number).bytes());
     EXPECT_THAT(sort.order(), ElementsAre(3, 1, 2, 0));
+}
+
+TEST(KeySort, TellsWhichItemsHaveOneKey) {
+    KeySort sort(6);
+    for (const char* text : {"a long text, twice", "b", "b", "a long text, once", "a long text, twice", "b"})
+        sort.add(SortKey().text(text).bytes());
+    EXPECT_THAT(sort.order(), ElementsAre(3, 0, 4, 1, 2, 5));
+    std::vector<std::pair<std::size_t, std::size_t>> runs;
+    for (const KeySort::Run& run : sort.equalRuns())
+        runs.emplace_back(run.begin, run.end);
+    EXPECT_THAT(runs, UnorderedElementsAre(std::pair(1, 3), std::pair(3, 6)));
 }
 
 TEST(SortKey, LetsTheFirstValueDecide) {

@@ -21,6 +21,7 @@ TEST(LibraryKeys, AreKnownInAnyCase) {
     EXPECT_EQ(libraryKey("Artwork Count"), LibraryKey::artworkCount);
     EXPECT_EQ(libraryKey("Track Type"), LibraryKey::trackType);
     EXPECT_EQ(libraryKey("Date Added"), LibraryKey::dateAdded);
+    EXPECT_EQ(libraryKey("Track Number"), LibraryKey::trackNumber);
     EXPECT_EQ(libraryKey("Tracks"), LibraryKey::tracks);
     EXPECT_EQ(libraryKey("Playlists"), LibraryKey::playlists);
     EXPECT_EQ(libraryKey("Playlist Persistent ID"), LibraryKey::playlistPersistentId);

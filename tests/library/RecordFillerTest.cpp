@@ -50,6 +50,13 @@ TEST_F(RecordFillerTest, StoresEveryKnownValue) {
     EXPECT_TRUE(m_record.hasdate);
 }
 
+TEST_F(RecordFillerTest, ATrackNumberBeyondAllAlbumsIsNone) {
+    store(LibraryKey::trackNumber, "7");
+    EXPECT_EQ(m_record.tracknumber, 7);
+    store(LibraryKey::trackNumber, "65543");
+    EXPECT_EQ(m_record.tracknumber, 0);
+}
+
 TEST_F(RecordFillerTest, ARatingBelowOneStarIsNone) {
     store(LibraryKey::rating, "19");
     EXPECT_EQ(m_record.rating, 0);
