@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dupes/BuildResultProc.h"
 
+#include "dupes/SimilarOrder.h"
 #include "library/CaseFolding.h"
 #include "library/KeySort.h"
 #include "library/WorkerEvent.h"
@@ -59,6 +60,12 @@ void BuildResultProc::main() {
 
 void BuildResultProc::sortList() {
     std::vector<TrackRecord*>& records = m_list->records;
+    if (m_searchparams.issimilar) {
+        GroupOrder order = similarOrder(records, m_searchparams);
+        records.swap(order.records);
+        m_joined = std::move(order.joined);
+        return;
+    }
     if (!comparesAnything(m_searchparams)) return;
     KeySort sort(records.size());
     SortKey key;
@@ -83,7 +90,7 @@ void BuildResultProc::group() {
         TrackRecord& a = *records[i - 1];
         TrackRecord& b = *records[i];
         post(EventName::progress, &a);
-        if (!isSameTag(a, b, m_searchparams)) {
+        if (!joinsGroup(i)) {
             opensGroup = true;
             continue;
         }
@@ -91,6 +98,12 @@ void BuildResultProc::group() {
         opensGroup = false;
         addToGroup(b, groupCount);
     }
+}
+
+/// Whether the record at the place is in the group of the one before it.
+bool BuildResultProc::joinsGroup(std::size_t place) const {
+    if (m_searchparams.issimilar) return m_joined[place];
+    return isSameTag(*m_list->records[place - 1], *m_list->records[place], m_searchparams);
 }
 
 void BuildResultProc::addToGroup(TrackRecord& record, std::int32_t gid) {
