@@ -19,6 +19,8 @@ namespace songsweep::cli {
 
 namespace {
 
+constexpr int longestTolerance = 10; ///< seconds
+
 /// What the parser fills in, besides the options themselves.
 struct Raw {
     std::vector<std::string> same = {"name", "artist", "time"};
@@ -90,6 +92,16 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
         ->check(checkField)
         ->type_name("FIELDS")
         ->default_str("name,artist,time");
+    auto* const similar =
+        command.add_flag("--similar", options.parameters.issimilar,
+                         "Compare without small differences: punctuation, accents, (Remastered), a guest");
+    command
+        .add_option("--within", options.parameters.toleranceSeconds,
+                    "By how many seconds similar times may differ, 0 to 10")
+        ->needs(similar)
+        ->check(CLI::Range(0, longestTolerance))
+        ->type_name("SECONDS")
+        ->default_str("2");
     command
         .add_option_function<std::string>(
             "--playlist", [&options](const std::string& name) { options.parameters.playlist = name; },

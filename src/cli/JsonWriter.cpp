@@ -8,6 +8,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <cstddef>
+
 namespace songsweep::cli {
 
 namespace {
@@ -46,6 +49,34 @@ Json trackObject(const TrackRecord& record) {
 /// A name that is not UTF-8 shows a replacement character instead of ending the output.
 std::string dump(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }
 
+/// Whether the copies of the group are not the same exactly.
+bool isSimilarOnly(const SearchReport& report, const RowGroup& group) {
+    if (report.differences.empty()) return false;
+    const auto first = report.differences.begin();
+    return std::any_of(first + static_cast<std::ptrdiff_t>(group.first),
+                       first + static_cast<std::ptrdiff_t>(group.end),
+                       [](const std::vector<std::string>& differences) { return !differences.empty(); });
+}
+
+void writeTrack(Output& output, const SearchReport& report, std::size_t row) {
+    Json track = trackObject(*report.rows.at(row));
+    if (!report.differences.empty() && !report.differences[row].empty())
+        track["differences"] = report.differences[row];
+    if (report.reason) track["reason"] = report.reason(static_cast<int>(row));
+    output.write(dump(track));
+}
+
+void writeGroup(Output& output, const SearchReport& report, const RowGroup& group) {
+    output.write("    {\"gid\": " + std::to_string(report.rows.at(group.first)->gid));
+    if (isSimilarOnly(report, group)) output.write(", \"similar\": true");
+    output.write(", \"tracks\": [");
+    for (std::size_t row = group.first; row < group.end; ++row) {
+        output.write(row == group.first ? "\n      " : ",\n      ");
+        writeTrack(output, report, row);
+    }
+    output.write("\n    ]}");
+}
+
 } // namespace
 
 void writeJson(Output& output, const SearchReport& report) {
@@ -55,13 +86,7 @@ void writeJson(Output& output, const SearchReport& report) {
     output.write(",\n  \"groups\": [");
     for (const RowGroup group : groupsOf(report.rows)) {
         output.write(group.first == 0 ? "\n" : ",\n");
-        output.write("    {\"gid\": " + std::to_string(report.rows.at(group.first)->gid) + ", \"tracks\": [");
-        for (std::size_t row = group.first; row < group.end; ++row) {
-            Json track = trackObject(*report.rows.at(row));
-            if (report.reason) track["reason"] = report.reason(static_cast<int>(row));
-            output.write((row == group.first ? "\n      " : ",\n      ") + dump(track));
-        }
-        output.write("\n    ]}");
+        writeGroup(output, report, group);
     }
     output.write(report.rows.empty() ? "]\n}\n" : "\n  ]\n}\n");
 }

@@ -6,6 +6,7 @@
 #include "cli/Commands.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
+#include "dupes/SmallDifference.h"
 #include "library/CaseFolding.h"
 #include "library/Trim.h"
 #include "platform/Native.h"
@@ -175,10 +176,13 @@ void LibrarySession::endDeletionAtOnce() {
 }
 
 SearchReport LibrarySession::report() {
+    const std::vector<TrackRecord*>& rows = m_controller->tableDataSource().rows;
     return {.tracks = m_trackCount,
             .listed = m_controller->listedCount(),
             .notes = m_controller->searchVerdict().notes,
-            .rows = m_controller->tableDataSource().rows};
+            .rows = rows,
+            .differences = m_options.parameters.issimilar ? smallDifferencesOf(rows, m_options.parameters)
+                                                          : std::vector<std::vector<std::string>>()};
 }
 
 std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report,

@@ -16,6 +16,14 @@ std::string counted(int count, const std::string& one, const std::string& many) 
 
 } // namespace
 
+std::string differencesOf(const SearchReport& report, std::size_t row) {
+    std::string text;
+    if (report.differences.empty()) return text;
+    for (const std::string& difference : report.differences[row])
+        text += (text.empty() ? "" : "; ") + difference;
+    return text;
+}
+
 void writeReport(Output& output, const SearchReport& report, OutputFormat format) {
     switch (format) {
     case OutputFormat::text:

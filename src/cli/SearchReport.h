@@ -4,6 +4,7 @@
 #include "cli/Options.h"
 #include "library/TrackRecord.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -20,6 +21,8 @@ struct SearchReport {
     const std::vector<TrackRecord*>& rows;
     /// Why the rule marks a row; not set where no rule was asked for.
     std::function<std::string(int row)> reason = {};
+    /// By row, how a copy differs from the plainest of its group; empty where small differences count.
+    std::vector<std::vector<std::string>> differences = {};
 };
 
 /// Writes the report in a format.
@@ -27,6 +30,9 @@ void writeReport(Output& output, const SearchReport& report, OutputFormat format
 
 /// Groups as an aligned table for people, and a line that sums them up.
 void writeText(Output& output, const SearchReport& report);
+
+/// The differences of a row in one text; empty for none.
+std::string differencesOf(const SearchReport& report, std::size_t row);
 
 /// One JSON object, every key of every record.
 void writeJson(Output& output, const SearchReport& report);

@@ -43,11 +43,12 @@ TextTable::ColumnTitle titleOf(const ShownColumn& shown) {
     return {std::string(info.title), info.alignment, shown.widest};
 }
 
-TextTable makeTable(bool withReasons) {
+TextTable makeTable(const SearchReport& report) {
     std::vector<TextTable::ColumnTitle> columns = {{"Group", Alignment::right, anyWidth}};
     for (const ShownColumn& shown : shownColumns)
         columns.push_back(titleOf(shown));
-    if (withReasons) {
+    if (!report.differences.empty()) columns.push_back({"Differs", Alignment::left, anyWidth});
+    if (report.reason) {
         columns.insert(columns.begin(), {"Mark", Alignment::left, anyWidth});
         columns.push_back({"Reason", Alignment::left, anyWidth});
     }
@@ -59,6 +60,7 @@ std::vector<std::string> cells(const SearchReport& report, int row) {
     std::vector<std::string> texts = {std::to_string(record.gid)};
     for (const ShownColumn& shown : shownColumns)
         texts.push_back(cell(record, shown.column));
+    if (!report.differences.empty()) texts.push_back(differencesOf(report, static_cast<std::size_t>(row)));
     if (report.reason) {
         texts.insert(texts.begin(), record.checkbox ? "x" : "");
         texts.push_back(report.reason(row));
@@ -78,7 +80,7 @@ std::vector<std::string> cellsFor(const Output& output, const SearchReport& repo
 } // namespace
 
 void writeText(Output& output, const SearchReport& report) {
-    TextTable table = makeTable(static_cast<bool>(report.reason));
+    TextTable table = makeTable(report);
     for (int row = 0; row < static_cast<int>(report.rows.size()); ++row)
         table.measure(cellsFor(output, report, row));
     if (!report.rows.empty()) output.write(table.titles());
