@@ -34,6 +34,7 @@ SearchParameters ParametersDialog::parameters() const {
     parameters.issameartist = m_ui->paramSameArtistCK->isChecked();
     parameters.issamealbum = m_ui->paramSameAlbumCK->isChecked();
     parameters.issametime = m_ui->paramSameTimeCK->isChecked();
+    parameters.issimilar = m_ui->paramSimilarCK->isChecked();
     parameters.isignoredead = m_ui->paramIgnoreDeadCK->isChecked();
     if (m_ui->paramLocationCB->currentIndex() >= 0)
         parameters.playlist = m_ui->paramLocationCB->currentText().toStdString();

@@ -23,6 +23,7 @@ std::string searchSummary(const SearchParameters& parameters, ChosenPlaylist pla
     if (playlist == ChosenPlaylist::missed) place = "Whole library, not “" + place + "”";
     for (const std::string& note : notes)
         place += " (" + note + ")";
+    if (parameters.issimilar && !names.empty()) names += ", with small differences";
     return place + ": " + (names.empty() ? "everything" : names);
 }
 

@@ -53,6 +53,7 @@ INSTANTIATE_TEST_SUITE_P(, ParametersDialogFields,
                                          FieldCase{"paramSameArtistCK", &SearchParameters::issameartist},
                                          FieldCase{"paramSameAlbumCK", &SearchParameters::issamealbum},
                                          FieldCase{"paramSameTimeCK", &SearchParameters::issametime},
+                                         FieldCase{"paramSimilarCK", &SearchParameters::issimilar},
                                          FieldCase{"paramIgnoreDeadCK", &SearchParameters::isignoredead}));
 
 TEST_F(ParametersDialogTest, SelectsNoPlaylistUntilItIsTold) {
@@ -114,8 +115,9 @@ TEST_F(ParametersDialogTest, BeginsAtNameAtEveryOpeningAndVisitsEveryControl) {
     const QStringList expected{
         QStringLiteral("paramSameNameCK"),   QStringLiteral("paramSameArtistCK"),
         QStringLiteral("paramSameAlbumCK"),  QStringLiteral("paramSameTimeCK"),
-        QStringLiteral("paramLocationCB"),   QStringLiteral("paramIgnoreDeadCK"),
-        QStringLiteral("paramCancelButton"), QStringLiteral("paramSearchButton"),
+        QStringLiteral("paramSimilarCK"),    QStringLiteral("paramLocationCB"),
+        QStringLiteral("paramIgnoreDeadCK"), QStringLiteral("paramCancelButton"),
+        QStringLiteral("paramSearchButton"),
     };
     test::open(dialog);
     EXPECT_EQ(test::tabOrder(dialog), expected);
@@ -129,7 +131,7 @@ TEST_F(ParametersDialogTest, HasOneFilledButtonAndNoMnemonicTwice) {
     ParametersDialog dialog;
     test::open(dialog);
     EXPECT_EQ(test::filledButtons(dialog), QStringList(QStringLiteral("&Search")));
-    EXPECT_EQ(test::mnemonics(dialog), QStringLiteral("ACILNOST"));
+    EXPECT_EQ(test::mnemonics(dialog), QStringLiteral("ACDILNOST"));
 }
 
 TEST_F(ParametersDialogTest, NamesItsControlsForAssistiveTechnology) {

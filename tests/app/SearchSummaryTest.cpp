@@ -15,6 +15,13 @@ TEST(SearchSummary, NamesThePlaylistAndWhatWasCompared) {
     EXPECT_EQ(searchSummary(parameters, searched), "Music: everything");
 }
 
+TEST(SearchSummary, TellsThatSmallDifferencesAreAllowed) {
+    SearchParameters parameters{.issamename = true, .issimilar = true, .playlist = "Music"};
+    EXPECT_EQ(searchSummary(parameters, searched), "Music: same name, with small differences");
+    parameters.issamename = false;
+    EXPECT_EQ(searchSummary(parameters, searched), "Music: everything");
+}
+
 TEST(SearchSummary, NamesTheWholeLibraryWhereThePlaylistWasMissed) {
     EXPECT_EQ(searchSummary({.issamename = true, .playlist = "Party"}, ChosenPlaylist::missed),
               "Whole library, not “Party”: same name");
