@@ -9,6 +9,7 @@ find_package(nlohmann_json REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(TAGLIB REQUIRED IMPORTED_TARGET taglib)
 
 if(SONGSWEEP_TESTS)
     find_package(GTest REQUIRED)

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "scan/ScanProgress.h"
+
+#include "library/ValueFormats.h"
+
+namespace songsweep {
+
+namespace {
+
+/// Empty as long as nobody can tell.
+std::string timeLeft(std::size_t read, std::size_t toRead, std::chrono::milliseconds elapsed) {
+    using namespace std::chrono;
+    constexpr milliseconds longEnough{2000};
+    constexpr std::int64_t secondsOfMinute = 60;
+    constexpr std::int64_t minutesOfHour = 60;
+    if (elapsed < longEnough || read == 0 || read >= toRead) return {};
+    const double left =
+        duration<double>(elapsed).count() * static_cast<double>(toRead - read) / static_cast<double>(read);
+    const auto minutes = (static_cast<std::int64_t>(left) + secondsOfMinute / 2) / secondsOfMinute;
+    if (minutes == 0) return ", less than a minute left";
+    if (minutes < 2 * minutesOfHour)
+        return ", about " + counted(static_cast<std::size_t>(minutes), "minute") + " left";
+    return ", about " + counted(static_cast<std::size_t>(minutes / minutesOfHour), "hour") + " left";
+}
+
+} // namespace
+
+std::string groupedNumber(std::size_t number) {
+    constexpr std::size_t groupSize = 3;
+    constexpr const char* noBreakSpace = "\u00A0";
+    std::string text = std::to_string(number);
+    for (std::size_t place = text.size(); place > groupSize; place -= groupSize)
+        text.insert(place - groupSize, noBreakSpace);
+    return text;
+}
+
+std::string scanProgressText(std::size_t read, std::size_t toRead, std::chrono::milliseconds elapsed) {
+    return "Reading " + groupedNumber(read) + " of " + groupedNumber(toRead) +
+           (toRead == 1 ? " file…" : " files…") + timeLeft(read, toRead, elapsed);
+}
+
+std::string unreadFilesText(std::size_t count) {
+    return count == 0 ? std::string() : counted(count, "file") + " could not be read";
+}
+
+} // namespace songsweep
