@@ -4,8 +4,10 @@
 #include "app/Program.h"
 #include "dupes/MarkRule.h"
 #include "library/RecentLibrary.h"
+#include "platform/DataFolder.h"
 #include "platform/Native.h"
 #include "platform/TerminalText.h"
+#include "scan/FolderLibrary.h"
 
 #include <CLI/CLI.hpp>
 
@@ -35,10 +37,14 @@ std::string checkVersion(const std::string& text) {
     return isVersion ? std::string() : "'" + text + "' is no version, which is written 12.0";
 }
 
+void addLog(CLI::App& command, LibraryOptions& options) {
+    command.add_option("--log", options.log, "Write the log to a file")->type_name("FILE");
+}
+
 /// Options that count before the command, too.
 void addLibraryOptions(CLI::App& command, Raw& raw, const std::string& required = {}) {
     LibraryOptions& options = raw.library;
-    command.add_option("--library", options.library, "The iTunes library XML file")
+    command.add_option("--library", options.library, "The iTunes library XML file, or a folder of music")
         ->type_name("FILE" + required);
     command.add_option("--map", raw.maps, "Where a folder of the library's machine is here; repeatable")
         ->type_name("FROM=TO")
@@ -50,7 +56,7 @@ void addLibraryOptions(CLI::App& command, Raw& raw, const std::string& required 
     command.add_option("--itunes-version", options.iTunesVersion, "What the embedded iTunes says it is")
         ->check(checkVersion)
         ->type_name("V");
-    command.add_option("--log", options.log, "Write the log to a file")->type_name("FILE");
+    addLog(command, options);
 }
 
 void addVerbose(CLI::App& command, Raw& raw) {
@@ -172,6 +178,13 @@ void addFinishOptions(CLI::App& command, FinishOptions& options, Raw& raw) {
     addFormat(command, options.format);
 }
 
+void addScanOptions(CLI::App& command, ScanOptions& options, Raw& raw) {
+    addLog(command, raw.library);
+    addVerbose(command, raw);
+    command.add_option("folder", options.folder, "The folder of music")->required()->type_name("FOLDER");
+    command.add_option("--output", options.output, "Write the library to a file, too")->type_name("FILE");
+}
+
 void finishLibraryOptions(LibraryOptions& options, const Raw& raw) {
     options = raw.library;
     for (const std::string& map : raw.maps) {
@@ -240,6 +253,9 @@ void checkFields(const Raw& raw) {
 void checkDeleteOptions(const DeleteOptions& options) {
     if (!options.dryRun && !options.yes)
         throw CLI::ValidationError("delete needs --dry-run, to see what would happen, or --yes");
+    if (!options.files && isFolder(options.library))
+        throw CLI::ValidationError("delete needs --files here: a track of a folder is its file, and goes to "
+                                   "the Trash with it");
 }
 
 void checkRestoreOptions(const RestoreOptions& options) {
@@ -253,10 +269,25 @@ void checkFinishOptions(const FinishOptions& options) {
         throw CLI::ValidationError("finish needs --dry-run, to see what would happen, or --yes");
 }
 
+/// What is written must be neither of the other things that are.
+void checkScanOptions(const ScanOptions& options) {
+    if (!options.library.empty()) throw CLI::ValidationError("scan takes a folder, and no --library");
+    if (!options.log.empty() && !options.output.empty() && nameOneFile(options.log, options.output))
+        throw CLI::ValidationError("--log and --output name one file, " + options.output);
+    const Result<FolderLibrary> place = FolderLibrary::of(options.folder, dataFolder());
+    if (!place) return;
+    for (const std::string& path : {place.value().library, place.value().memory})
+        for (const auto& [option, target] :
+             {std::pair("--log", options.log), std::pair("--output", options.output)})
+            if (!target.empty() && nameOneFile(path, target))
+                throw CLI::ValidationError(std::string(option) + " names the folder's own library, " +
+                                           target);
+}
+
 /// An option that counts on both sides of the command is given on one of them.
 void checkGivenOnce(const CLI::App& app, const CLI::App& command) {
     for (const char* name : {"--library", "--itunes-version", "--log"})
-        if (app.count(name) > 0 && command.count(name) > 0)
+        if (app.count(name) > 0 && command.get_option_no_throw(name) != nullptr && command.count(name) > 0)
             throw CLI::ValidationError(std::string(name) + " stands before the command and after it");
 }
 
@@ -285,6 +316,7 @@ struct Parser {
     RestoreOptions restore;
     FinishOptions finish;
     ScriptOptions script;
+    ScanOptions scan;
     CLI::App* findCommand = app.add_subcommand("find", "Print the duplicate groups of a library");
     CLI::App* markCommand = app.add_subcommand("mark", "Print what a rule would mark, changing nothing");
     CLI::App* deleteCommand = app.add_subcommand("delete", "Delete what a rule marks");
@@ -292,6 +324,7 @@ struct Parser {
     CLI::App* finishCommand =
         app.add_subcommand("finish", "Move the files to the Trash that an interrupted deletion left");
     CLI::App* scriptCommand = app.add_subcommand("script", "Run an AppleScript text over a library");
+    CLI::App* scanCommand = app.add_subcommand("scan", "Make a library of a folder of music");
 };
 
 Parser::Parser(const std::string& version) {
@@ -307,6 +340,7 @@ Parser::Parser(const std::string& version) {
     addFinishOptions(*finishCommand, finish, raw);
     addLibraryOptions(*scriptCommand, raw);
     addVerbose(*scriptCommand, raw);
+    addScanOptions(*scanCommand, scan, raw);
     scriptCommand->add_option("file", script.file, "The text's file, or - for standard input")
         ->required()
         ->type_name("FILE");
@@ -352,6 +386,11 @@ Command Parser::command() {
         finishLibraryOptions(script, raw);
         checkTarget("--log", script.log, script);
         return script;
+    }
+    if (*scanCommand) {
+        finishLibraryOptions(scan, raw);
+        checkScanOptions(scan);
+        return scan;
     }
     checkFile(raw);
     finishLibraryOptions(window, raw);

@@ -10,7 +10,7 @@ namespace songsweep::cli {
 
 /// What the command line asks for: the window (its library options alone), or one of the commands.
 using Command = std::variant<LibraryOptions, FindOptions, MarkOptions, DeleteOptions, RestoreOptions,
-                             FinishOptions, ScriptOptions>;
+                             FinishOptions, ScriptOptions, ScanOptions>;
 
 /// The command, or the exit code where help, the version or a usage error was printed instead.
 std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* const* arguments,

@@ -19,6 +19,7 @@ ExitCode runDelete(const DeleteOptions& options, const std::string& version);
 ExitCode runRestore(const RestoreOptions& options, const std::string& version);
 ExitCode runFinish(const FinishOptions& options, const std::string& version);
 ExitCode runScript(const ScriptOptions& options, const std::string& version);
+ExitCode runScan(const ScanOptions& options, const std::string& version);
 
 /// Marks what a search found by the rule that the options name; its folder is turned into the library's
 /// spelling. The exit code where the rule, by kind or folder, matches no track, which is told; nothing is

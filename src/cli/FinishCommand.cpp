@@ -3,6 +3,7 @@
 #include "cli/ChosenCleanup.h"
 #include "cli/CommandLog.h"
 #include "cli/Commands.h"
+#include "cli/FolderReading.h"
 #include "cli/InterruptWatch.h"
 #include "cli/OutcomeReport.h"
 #include "cli/Output.h"
@@ -11,6 +12,8 @@
 #include "platform/Log.h"
 #include "platform/Native.h"
 #include "restore/CleanupFinish.h"
+
+#include <utility>
 
 namespace songsweep::cli {
 
@@ -37,9 +40,7 @@ void logReport(Log& log, const DeleteReport& report) {
     log.line("Record : " + report.record);
 }
 
-} // namespace
-
-ExitCode runFinish(const FinishOptions& options, const std::string& version) {
+ExitCode finishDeletion(const FinishOptions& options, const std::string& version) {
     const InterruptWatch interrupts([] {});
     const Result<std::unique_ptr<CommandLog>> log = CommandLog::open(options);
     if (!log) return fail(log.error().message);
@@ -63,6 +64,16 @@ ExitCode runFinish(const FinishOptions& options, const std::string& version) {
     if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
     if (options.yes && !finished.value().end) return ExitCode::interrupted;
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
+}
+
+} // namespace
+
+ExitCode runFinish(const FinishOptions& options, const std::string& version) {
+    Result<std::string> library = libraryFileOf(options.library);
+    if (!library) return fail(library.error().message);
+    FinishOptions ofFile = options;
+    ofFile.library = std::move(library).value();
+    return finishDeletion(ofFile, version);
 }
 
 } // namespace songsweep::cli

@@ -4,6 +4,7 @@
 #include "app/LibraryWarnings.h"
 #include "cli/CommandLog.h"
 #include "cli/Commands.h"
+#include "cli/FolderReading.h"
 #include "cli/Output.h"
 #include "delete/DeleteTexts.h"
 #include "dupes/SmallDifference.h"
@@ -38,6 +39,9 @@ LibrarySession::LibrarySession(const FindOptions& options, const std::string& ve
     , m_interrupts([this] { interrupt(); }) {}
 
 std::optional<ExitCode> LibrarySession::search() {
+    if (const auto problem = openLog()) return fail(*problem);
+    if (const auto problem = turnToFolderLibrary(m_options, *m_log, [this] { return m_interrupts.heard(); }))
+        return problem;
     warnOfInterruption();
     if (const auto problem = prepare()) return fail(*problem);
     if (!m_interrupted) m_controller->paramOkButtonClick(m_options.parameters);
@@ -84,11 +88,15 @@ void LibrarySession::interrupt() {
     }
 }
 
-std::optional<std::string> LibrarySession::prepare() {
+std::optional<std::string> LibrarySession::openLog() {
     Result<std::unique_ptr<CommandLog>> log = CommandLog::open(m_options);
     if (!log) return log.error().message;
     m_log = std::move(log).value();
     m_interrupts.setFirstAct([log = m_log] { log->endSoon(); });
+    return std::nullopt;
+}
+
+std::optional<std::string> LibrarySession::prepare() {
     m_program =
         std::make_unique<Program>(ProgramOptions{m_options.library, m_options.map, m_options.iTunesVersion,
                                                  m_version, "the command delete", m_options.mapRules},

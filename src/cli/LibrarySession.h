@@ -55,6 +55,7 @@ class LibrarySession {
 
   private:
     void warnOfInterruption();
+    std::optional<std::string> openLog();
     std::optional<std::string> prepare();
     std::optional<std::string> lockLibrary();
     std::optional<std::string> choosePlaylist();

@@ -18,8 +18,8 @@ enum class OutputFormat { text, json, csv };
 
 /// Which library, and how it is looked at: the options that every command and the window know.
 struct LibraryOptions {
-    std::string library;                ///< path of the library file; empty where none was given
-    PathMap map;                        ///< where the files of another machine are here
+    std::string library; ///< path of the library file or of a folder of music; empty where none was given
+    PathMap map;         ///< where the files of another machine are here
     std::vector<MapRule> mapRules;      ///< the same as it was given, to tell a rule that is of no use
     std::string iTunesVersion = "12.0"; ///< what the embedded iTunes says it is
     std::string log;                    ///< path of a log file; empty for none
@@ -71,6 +71,12 @@ struct FinishOptions : LibraryOptions {
 /// The options of `script`.
 struct ScriptOptions : LibraryOptions {
     std::string file; ///< "-" for standard input
+};
+
+/// The options of `scan`, which has a folder and no library.
+struct ScanOptions : LibraryOptions {
+    std::string folder;
+    std::string output; ///< path of a copy of the library; empty for none
 };
 
 } // namespace songsweep::cli

@@ -4,10 +4,13 @@
 #include "cli/ChosenCleanup.h"
 #include "cli/CleanupTable.h"
 #include "cli/Commands.h"
+#include "cli/FolderReading.h"
 #include "cli/Output.h"
 #include "cli/RestoreOutput.h"
 #include "platform/Native.h"
 #include "restore/CleanupRestore.h"
+
+#include <utility>
 
 namespace songsweep::cli {
 
@@ -21,6 +24,9 @@ ExitCode RestoreCommand::run() {
     Result<std::unique_ptr<CommandLog>> log = CommandLog::open(m_options);
     if (!log) return fail(log.error().message);
     m_log = std::move(log).value();
+    Result<std::string> library = libraryFileOf(m_options.library);
+    if (!library) return fail(library.error().message);
+    m_options.library = std::move(library).value();
     const Result<std::vector<CleanupSummary>> cleanups = deletionsOf(m_options.library);
     if (!cleanups) return fail(cleanups.error().message);
     // Opened first, so that nothing is done whose outcome cannot be told.

@@ -19,6 +19,7 @@ struct Runner {
     ExitCode operator()(const RestoreOptions& options) const { return runRestore(options, version); }
     ExitCode operator()(const FinishOptions& options) const { return runFinish(options, version); }
     ExitCode operator()(const ScriptOptions& options) const { return runScript(options, version); }
+    ExitCode operator()(const ScanOptions& options) const { return runScan(options, version); }
     ExitCode operator()(const LibraryOptions&) const { return ExitCode::usage; } // the window is no command
 };
 

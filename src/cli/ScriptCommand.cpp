@@ -2,6 +2,8 @@
 #include "app/Program.h"
 #include "cli/CommandLog.h"
 #include "cli/Commands.h"
+#include "cli/FolderReading.h"
+#include "cli/InterruptWatch.h"
 #include "cli/Output.h"
 #include "cli/ScriptText.h"
 #include "scripting/SourceNotation.h"
@@ -18,6 +20,12 @@ ExitCode printResult(const Descriptor& result) {
     return ExitCode::done;
 }
 
+/// Ctrl-C ends the reading of a folder in good order; a script it ends at once.
+std::optional<ExitCode> readFolderIfAny(LibraryOptions& options, Log& log) {
+    const InterruptWatch interrupts([] {});
+    return turnToFolderLibrary(options, log, [&] { return interrupts.heard(); });
+}
+
 } // namespace
 
 ExitCode runScript(const ScriptOptions& options, const std::string& version) {
@@ -25,7 +33,9 @@ ExitCode runScript(const ScriptOptions& options, const std::string& version) {
     if (!text) return fail(text.error().message);
     const Result<std::unique_ptr<CommandLog>> log = CommandLog::open(options);
     if (!log) return fail(log.error().message);
-    Program program({options.library, options.map, options.iTunesVersion, version}, *log.value());
+    ScriptOptions library = options;
+    if (const auto problem = readFolderIfAny(library, *log.value())) return *problem;
+    Program program({library.library, options.map, options.iTunesVersion, version}, *log.value());
     const Result<std::optional<Descriptor>> result = program.scripting().run(text.value());
     const Result<void> written = program.scripting().flush();
     const bool noLibrary = program.scripting().libraryPath().empty() && program.scripting().libraryError();

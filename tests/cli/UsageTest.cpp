@@ -33,7 +33,7 @@ TEST_F(Usage, TellsTheVersion) {
 TEST_F(Usage, TellsEveryCommandAndOption) {
     const RunResult result = run({"--help"});
     EXPECT_EQ(result.exitCode, 0);
-    for (const char* word : {"find", "mark", "delete", "restore", "script"})
+    for (const char* word : {"find", "mark", "delete", "restore", "script", "scan"})
         EXPECT_THAT(result.output, HasSubstr(word));
     const std::string help = run({"find", "--help"}).output;
     for (const char* word : {"--library", "--same", "--playlist", "--ignore-missing", "--format", "--output",
