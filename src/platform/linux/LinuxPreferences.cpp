@@ -16,7 +16,6 @@ namespace songsweep {
 
 namespace {
 
-
 bool isFile(const std::string& path) {
     struct stat attributes {};
     return ::stat(path.c_str(), &attributes) == 0 && S_ISREG(attributes.st_mode);

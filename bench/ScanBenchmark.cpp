@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+//
+// What the scan of a folder costs, beside two bare loops in the same run: one that opens each file by TagLib
+// and reads its properties at its fastest setting, and one that walks through the folder with one stat a
+// file.
+//
+//   scan-benchmark [FOLDER [FILES]]   the files are made in FOLDER (7 kB each), or in a temporary one
+#include "sample-library/SoundFolder.h"
+#include "scan/FolderScan.h"
+
+#include <QTemporaryDir>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <taglib/fileref.h>
+#include <taglib/tag.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace songsweep::bench {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What a piece of work cost that had a process of its own.
+struct Cost {
+    double cpuSeconds = 1e9;
+    double seconds = 1e9;
+    double peakBytes = 0;
+};
+
+double secondsOf(const timeval& time) { return double(time.tv_sec) + double(time.tv_usec) / 1e6; }
+
+Cost costOf(const std::function<void()>& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    const pid_t child = ::fork();
+    if (child == 0) {
+        work();
+        ::_exit(0);
+    }
+    int status = 0;
+    struct rusage usage {};
+    ::wait4(child, &status, 0, &usage);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) std::exit(EXIT_FAILURE);
+    const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begin;
+    return {secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime), passed.count(),
+            double(usage.ru_maxrss) * 1024};
+}
+
+/// The best of a few, as other programs only ever add to the cost.
+Cost bestOf(int rounds, const std::function<void()>& prepare, const std::function<void()>& work) {
+    Cost best;
+    for (int round = 0; round < rounds; ++round) {
+        prepare();
+        const Cost cost = costOf(work);
+        best.cpuSeconds = std::min(best.cpuSeconds, cost.cpuSeconds);
+        best.seconds = std::min(best.seconds, cost.seconds);
+        best.peakBytes = std::max(best.peakBytes, cost.peakBytes);
+    }
+    return best;
+}
+
+std::vector<std::string> filesIn(const std::string& folder) {
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (entry.is_regular_file()) files.push_back(entry.path());
+    return files;
+}
+
+void readBare(const std::vector<std::string>& files) {
+    long length = 0;
+    for (const std::string& file : files) {
+        const TagLib::FileRef read(file.c_str(), true, TagLib::AudioProperties::Fast);
+        if (!read.isNull() && read.audioProperties() != nullptr)
+            length += read.audioProperties()->lengthInMilliseconds() + long(read.tag()->title().size());
+    }
+    if (length == 0) ::_exit(1);
+}
+
+void walkBare(const std::string& folder) {
+    DIR* const open = ::opendir(folder.c_str());
+    if (open == nullptr) ::_exit(1);
+    while (const struct dirent* const entry = ::readdir(open)) {
+        if (entry->d_name[0] == '.') continue;
+        struct stat status {};
+        if (entry->d_type == DT_DIR) {
+            walkBare(folder + "/" + entry->d_name);
+        } else if (::fstatat(::dirfd(open), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+            ::_exit(1);
+        }
+    }
+    ::closedir(open);
+}
+
+void scan(const FolderLibrary& place) {
+    const Result<ScanReport> report = scanFolder(place, {});
+    if (!report || !report.value().unread.empty()) ::_exit(1);
+}
+
+/// Each folder is made in the one before it, so that files are made once.
+void measure(const std::string& folder, const std::string& data, int files) {
+    if (const Result<void> made = sample::makeSoundFolder(folder, files); !made) {
+        std::fprintf(stderr, "%s\n", made.error().message.c_str());
+        std::exit(EXIT_FAILURE);
+    }
+    const int rounds = files > 50'000 ? 2 : 5;
+    const FolderLibrary place = FolderLibrary::of(folder, data).value();
+    const std::vector<std::string> paths = filesIn(folder);
+    const auto nothing = [] {};
+    readBare(paths);
+    const Cost idle = bestOf(1, nothing, nothing);
+    const Cost floor = bestOf(rounds, nothing, [&] { readBare(paths); });
+    const Cost first = bestOf(
+        rounds, [&] { fs::remove_all(data); }, [&] { scan(place); });
+    const Cost walk = bestOf(rounds + 5, nothing, [&] { walkBare(folder); });
+    const Cost again = bestOf(rounds + 5, nothing, [&] { scan(place); });
+    std::printf(
+        "%7d files: TagLib alone %.3f s; first scan %.2f of its CPU, %.2f of its time, %.0f bytes a track\n",
+        files, floor.cpuSeconds, first.cpuSeconds / floor.cpuSeconds, first.seconds / floor.seconds,
+        (first.peakBytes - idle.peakBytes) / files);
+    std::printf("               bare walk %.4f s; second scan %.2f of its time, %.2f of its CPU\n",
+                walk.seconds, again.seconds / walk.seconds, again.cpuSeconds / walk.cpuSeconds);
+}
+
+} // namespace
+} // namespace songsweep::bench
+
+int main(int argumentCount, char** arguments) {
+    const QTemporaryDir temporary;
+    const std::string folder = argumentCount > 1 ? arguments[1] : temporary.path().toStdString();
+    const std::vector<int> counts = argumentCount > 2 ? std::vector<int>{std::atoi(arguments[2])}
+                                                      : std::vector<int>{1000, 10'000, 100'000};
+    for (const int files : counts)
+        songsweep::bench::measure(folder + "/music", folder + "/data", files);
+    return 0;
+}
