@@ -7,8 +7,9 @@ namespace songsweep {
 
 namespace {
 
-void dropTrailingSlash(std::string& path) {
-    if (path.ends_with('/')) path.pop_back();
+void dropTrailingSlashes(std::string& path) {
+    while (path.ends_with('/'))
+        path.pop_back();
 }
 
 bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
@@ -37,8 +38,8 @@ bool covers(const std::string& beginning, std::string_view path) {
 
 void PathMap::add(std::string from, std::string to) {
     from = asInLibraries(std::move(from));
-    dropTrailingSlash(from);
-    dropTrailingSlash(to);
+    dropTrailingSlashes(from);
+    dropTrailingSlashes(to);
     // Before the rules of its own length, so that the one given last wins.
     const auto place = std::find_if(m_rules.begin(), m_rules.end(),
                                     [&](const Rule& rule) { return rule.from.size() <= from.size(); });

@@ -43,7 +43,11 @@ TEST(PathMap, PrefersTheLaterOfTwoRulesForOneBeginning) {
     EXPECT_EQ(mapOf({{"/a", "/1"}, {"/a/", "/2"}}).map("/a/b"), "/2/b");
 }
 
-TEST(PathMap, DropsATrailingSlashOfEitherSide) { EXPECT_EQ(mapOf({{"/a/", "/b/"}}).map("/a/c"), "/b/c"); }
+TEST(PathMap, DropsTrailingSlashesOfEitherSide) {
+    EXPECT_EQ(mapOf({{"/a/", "/b/"}}).map("/a/c"), "/b/c");
+    EXPECT_EQ(mapOf({{"/a//", "/b//"}}).map("/a/c"), "/b/c");
+    EXPECT_EQ(mapOf({{"/", "//"}}).map("/a"), "/a");
+}
 
 TEST(PathMap, TakesAPathOfWindowsHoweverItIsSpelled) {
     for (const char* from : {"C:/Music", "C:\\Music", "/C:/Music", "/C:\\Music", "C:\\Music\\", "C:/Music/"})
