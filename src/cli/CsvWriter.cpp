@@ -67,7 +67,8 @@ std::string csvTruth(bool value) { return value ? "true" : "false"; }
 
 std::string csvField(std::string_view text) {
     if (isRunBySpreadsheets(text)) return csvField("'" + std::string(text));
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
+    // Spreadsheets may take semicolons and tabs for separators, too, and what follows one for a formula.
+    if (text.find_first_of(",;\t\"\r\n") == std::string_view::npos) return std::string(text);
     std::string quoted = "\"";
     for (const char c : text) {
         if (c == '"') quoted += '"';

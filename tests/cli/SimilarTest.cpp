@@ -95,7 +95,7 @@ TEST_F(Similar, TellsTheDifferencesInTheTableAndInCsv) {
     EXPECT_THAT(command("find", {}).output, Not(HasSubstr("Differs")));
     const std::string csv = command("find", {"--similar", "--format", "csv"}).output;
     EXPECT_THAT(csv, HasSubstr("trackid,differences\r\n"));
-    EXPECT_THAT(csv, HasSubstr("name differs: feat. Y; artist differs: without The; 1 s longer\r\n"));
+    EXPECT_THAT(csv, HasSubstr("\"name differs: feat. Y; artist differs: without The; 1 s longer\"\r\n"));
     EXPECT_THAT(command("find", {"--format", "csv"}).output, HasSubstr("trackid\r\n"));
 }
 
