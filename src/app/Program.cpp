@@ -8,6 +8,7 @@
 #include "platform/GivenLibrary.h"
 #include "platform/Log.h"
 #include "platform/Native.h"
+#include "platform/ReasonWithPath.h"
 #include "platform/UsualLibraries.h"
 
 #include <algorithm>
@@ -147,8 +148,7 @@ std::string Program::unreachableReason() const {
 }
 
 std::string Program::withLibraryPath(const std::string& reason) const {
-    const std::string path = m_scripting.libraryPath();
-    return reason.find(path) != std::string::npos ? reason : path + ": " + reason;
+    return reasonWithPath(m_scripting.libraryPath(), reason);
 }
 
 void Program::setWriteFailedHandler(std::function<void(const std::string&)> handler) {

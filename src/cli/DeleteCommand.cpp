@@ -5,6 +5,7 @@
 #include "cli/Output.h"
 #include "delete/DeletePrediction.h"
 #include "delete/TrackFacts.h"
+#include "platform/ReasonWithPath.h"
 
 #include <algorithm>
 
@@ -86,7 +87,7 @@ ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output&
     const Result<void> written = session.writeLibrary();
     const DeleteReport report = reportOf(session.controller());
     const auto problem = writeReportTo(output, options, report);
-    if (!written) return fail(options.library + ": " + written.error().message);
+    if (!written) return fail(reasonWithPath(options.library, written.error().message));
     if (problem) return *problem;
     if (!report.notWritten.empty()) return fail(report.notWritten);
     if (session.deletionProblem()) return fail(*session.deletionProblem());

@@ -8,6 +8,7 @@
 #include "cli/InterruptWatch.h"
 #include "cli/Options.h"
 #include "cli/SearchReport.h"
+#include "platform/ReasonWithPath.h"
 
 #include <QEventLoop>
 
@@ -63,7 +64,9 @@ class LibrarySession {
     void waitForSurvey();
     void interrupt();
     void endDeletionAtOnce();
-    std::string withPath(const std::string& message) const { return m_options.library + ": " + message; }
+    std::string withPath(const std::string& message) const {
+        return reasonWithPath(m_options.library, message);
+    }
 
     FindOptions m_options;
     std::string m_version;

@@ -6,6 +6,7 @@
 #include "cli/Options.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Desktop.h"
+#include "platform/ReasonWithPath.h"
 
 #include <memory>
 #include <string>
@@ -31,7 +32,9 @@ class RestoreCommand {
     ExitCode restore(Output& output, const CleanupSummary& cleanup);
     ExitCode tellOutcome(Output& output, const NamedRestore& restore);
     Result<CleanupSummary> chosen(const std::vector<CleanupSummary>& cleanups) const;
-    std::string withPath(const std::string& message) const { return m_options.library + ": " + message; }
+    std::string withPath(const std::string& message) const {
+        return reasonWithPath(m_options.library, message);
+    }
 
     RestoreOptions m_options;
     std::string m_version;

@@ -33,10 +33,14 @@ class BadInput : public test::ProgramTest {
 };
 
 TEST_F(BadInput, IsALibraryThatIsMissing) {
-    expectFailure({"--library", path("missing.xml")}, {path("missing.xml"), "No such file"});
+    const std::string missing = path("missing.xml");
+    expectFailure({"--library", missing}, {"songsweep: cannot open " + missing + ": No such file"});
 }
 
-TEST_F(BadInput, IsAFolder) { expectFailure({"--library", m_folder.path()}, {m_folder.path(), "folder"}); }
+TEST_F(BadInput, IsAFolderWithoutMusic) {
+    expectFailure({"--library", m_folder.path()},
+                  {"songsweep: " + m_folder.path() + ": there is no music in this folder"});
+}
 
 TEST_F(BadInput, IsNotXml) {
     expectFailure({"--library", m_folder.write("song.mp3", "ID3\x03 not a library")}, {path("song.mp3")});

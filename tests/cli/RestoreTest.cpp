@@ -150,7 +150,7 @@ TEST_F(Restore, IsOfferedWhereTheNewestDeletionWasKilled) {
     const std::string which = " --library \"" + m_library + "\" --cleanup \"" + name + "\" --dry-run";
     for (const auto& command : {find, remove})
         EXPECT_THAT(run(command).errors,
-                    AllOf(HasSubstr(m_library + ": warning: the deletion of 2"),
+                    AllOf(HasSubstr("songsweep: warning: the deletion of 2"),
                           HasSubstr("Z was interrupted, and 2 tracks and 2 files can be put back: songsweep "
                                     "restore" +
                                     which +
