@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Output.h"
 
+#include "platform/OwnDescriptor.h"
 #include "platform/TerminalText.h"
 
 #include <fcntl.h>
@@ -90,6 +91,8 @@ bool overwrite(int from, int to) {
 
 Result<Output> Output::open(const std::string& path, Interrupted interrupted) {
     if (path.empty()) return Output({}, {}, STDOUT_FILENO, std::move(interrupted));
+    if (const std::optional<int> own = ownDescriptor(path))
+        return Output(path, {}, *own, std::move(interrupted));
     const std::optional<struct stat> present = statusOf(path);
     if (present && S_ISDIR(present->st_mode)) return cannotWrite(path, EISDIR);
     if (present && !S_ISREG(present->st_mode)) { // a device or a pipe is written to, never replaced

@@ -20,6 +20,7 @@ class Output {
     using Interrupted = std::function<bool()>;
 
     /// Standard output for an empty path. A file is written beside its name first; an error where it cannot.
+    /// A path of one of the process' own descriptors, as "/dev/stdout", goes there and replaces nothing.
     /// Where a link or a file stands already, the link stays and the file keeps its owner and its mode: one
     /// whose owner cannot be given to another file gets its contents at the end, in place.
     static Result<Output> open(

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/LogFile.h"
 
+#include "platform/OwnDescriptor.h"
+
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -65,6 +67,8 @@ bool redirectStandardError(const std::optional<std::string>& folder, Log& log, i
 }
 
 Result<std::unique_ptr<InterruptibleLog>> openLogFile(const std::string& path) {
+    if (const std::optional<int> own = ownDescriptor(path))
+        return std::make_unique<InterruptibleLog>(*own, InterruptibleLog::Descriptor::staysOpen);
     // A pipe that nobody reads must not hang the program, so the open does not wait.
     const int file = ::open(path.c_str(), modeFor(path) | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK, 0666);
     if (file < 0) return cannotWrite(path, errno == ENXIO ? "nobody reads this pipe" : std::strerror(errno));

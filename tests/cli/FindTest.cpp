@@ -20,8 +20,11 @@ using test::libraryText;
 using test::RunResult;
 using test::SamplePlaylist;
 using test::SampleTrack;
+using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 class Find : public test::ProgramTest {
   protected:
@@ -276,6 +279,14 @@ TEST_F(Find, KeepsALinkAndTheModeOfWhatItReplaces) {
     EXPECT_TRUE(std::filesystem::is_symlink(path("link")));
     EXPECT_EQ(m_folder.read("far/result"), find({}).output);
     EXPECT_EQ(std::filesystem::status(path("far/result")).permissions(), std::filesystem::perms(0640));
+}
+
+TEST_F(Find, WritesOnWhereItsOwnDescriptorsLead) {
+    const std::string file = path("all");
+    const RunResult result = runInShell("{ echo before; \"$0\" \"$@\"; echo after; } > '" + file + "'",
+                                        {"find", "--library", m_library, "--output", "/dev/stdout"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_THAT(m_folder.read("all"), AllOf(StartsWith("before\nGroup"), EndsWith("\nafter\n")));
 }
 
 TEST_F(Find, WritesWhereALinkLeadsThatLedNowhere) {

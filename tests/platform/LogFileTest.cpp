@@ -131,6 +131,16 @@ TEST(LogFile, OfTheCommandLineIsNoFileOfSomebodyElse) {
     EXPECT_TRUE(openLogFile(folder.write("file", ""))) << "nobody needs an empty file";
 }
 
+TEST(LogFile, OfTheCommandLineGoesOnWhereAnOpenDescriptorLeads) {
+    const test::TemporaryFolder folder;
+    const std::string path = folder.write("notes", "what stands\n");
+    const int file = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
+    openLogFile("/dev/fd/" + std::to_string(file)).value()->line("what comes");
+    EXPECT_EQ(::write(file, "\n", 1), 1) << "still open";
+    ::close(file);
+    EXPECT_EQ(folder.read("notes"), "what stands\nwhat comes\n\n");
+}
+
 TEST(LogFile, OfTheCommandLineWaitsForNoReaderOfAPipe) {
     const TemporaryFolder folder;
     const std::string path = folder.path() + "/pipe";
