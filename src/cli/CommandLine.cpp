@@ -2,6 +2,8 @@
 #include "cli/CommandLine.h"
 
 #include "app/Program.h"
+#include "cli/Commands.h"
+#include "cli/Output.h"
 #include "dupes/MarkRule.h"
 #include "library/RecentLibrary.h"
 #include "platform/DataFolder.h"
@@ -399,6 +401,15 @@ Command Parser::command() {
     return window;
 }
 
+/// The help or the version.
+ExitCode print(const std::string& text) {
+    Result<Output> output = Output::open({});
+    if (!output) return failToWrite(output.error());
+    output.value().write(text);
+    const Result<void> written = output.value().finish();
+    return written ? ExitCode::done : failToWrite(written.error());
+}
+
 } // namespace
 
 std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* const* arguments,
@@ -412,9 +423,8 @@ std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* 
         std::ostringstream output;
         std::ostringstream errors;
         const int code = parser.app.exit(error, output, errors);
-        std::cout << output.str();
         std::cerr << terminalText(errors.str());
-        return code == 0 ? ExitCode::done : ExitCode::usage;
+        return code == 0 ? print(output.str()) : ExitCode::usage;
     }
 }
 

@@ -41,6 +41,14 @@ TEST_F(Usage, TellsEveryCommandAndOption) {
         EXPECT_THAT(help, HasSubstr(word));
 }
 
+TEST_F(Usage, TellsThatItsHelpCannotBeWritten) {
+    for (const char* word : {"--help", "--version"}) {
+        const RunResult result = runInShell("\"$0\" \"$@\" > /dev/full", {word});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.errors, HasSubstr("cannot write the result"));
+    }
+}
+
 TEST_F(Usage, RefusesWhatItDoesNotKnow) {
     expectRefusal({"seek"});
     expectRefusal({"find", "--library", library(), "--colour", "red"});
