@@ -10,11 +10,11 @@
 
 namespace songsweep::cli {
 
-ConsoleProgress::ConsoleProgress()
-    : m_terminal(::isatty(STDERR_FILENO) == 1) {}
+ConsoleProgress::ConsoleProgress(Line line)
+    : m_isVisible(line == Line::free && ::isatty(STDERR_FILENO) == 1) {}
 
 void ConsoleProgress::beginProgress() {
-    m_shown = m_terminal;
+    m_shown = m_isVisible;
     setProgressValue(m_percent);
 }
 
@@ -26,7 +26,8 @@ void ConsoleProgress::endProgress() {
 
 void ConsoleProgress::setProgressValue(double percent) {
     m_percent = std::max(percent, m_percent);
-    if (m_shown) std::fprintf(stderr, "\r\033[K%s %d %%", m_text.c_str(), wholePercent(m_percent));
+    if (m_shown && !m_text.empty())
+        std::fprintf(stderr, "\r\033[K%s %d %%", m_text.c_str(), wholePercent(m_percent));
 }
 
 void ConsoleProgress::setProgressText(const std::string& text) {

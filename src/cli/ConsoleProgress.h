@@ -11,7 +11,8 @@ namespace songsweep::cli {
 /// terminal. Main thread.
 class ConsoleProgress final : public ProgressView {
   public:
-    ConsoleProgress();
+    enum class Line { free, taken }; ///< taken by the log, whose lines are to stay whole
+    explicit ConsoleProgress(Line line);
 
     void beginProgress() override;
     void endProgress() override;
@@ -21,7 +22,7 @@ class ConsoleProgress final : public ProgressView {
   private:
     std::string m_text;
     double m_percent = 0; ///< the highest so far: a bar that runs backwards tells nothing
-    bool m_terminal;
+    bool m_isVisible;
     bool m_shown = false;
 };
 

@@ -29,8 +29,10 @@ class ConsoleView final : public ApplicationView, public SearchView, public Resu
         std::function<void()> surveyed;   ///< the files of a deletion were looked at
     };
 
-    explicit ConsoleView(Handlers handlers)
-        : m_handlers(std::move(handlers)) {}
+    ConsoleView(Handlers handlers, ConsoleProgress::Line line)
+        : m_handlers(std::move(handlers))
+        , m_deleting(line)
+        , m_searching(line) {}
 
     ControllerViews views();
 

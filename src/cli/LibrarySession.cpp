@@ -35,7 +35,8 @@ LibrarySession::LibrarySession(const FindOptions& options, const std::string& ve
     , m_version(version)
     , m_purpose(purpose)
     , m_view({.readFailed = [this] { m_controller->cancelformButtonClick(); },
-              .surveyed = [this] { m_loop.quit(); }})
+              .surveyed = [this] { m_loop.quit(); }},
+             options.verbose ? ConsoleProgress::Line::taken : ConsoleProgress::Line::free)
     , m_interrupts([this] { interrupt(); }) {}
 
 std::optional<ExitCode> LibrarySession::search() {

@@ -175,5 +175,17 @@ TEST_F(Console, ShowsPhaseAndPercentageOnATerminal) {
     EXPECT_THAT(result.output, HasSubstr("3000 songs in 1 group"));
 }
 
+TEST_F(Console, ShowsLogLinesWithoutAProgressBetweenThem) {
+    const test::Terminal terminal;
+    QProcess process;
+    prepare(process, {"find", "--library", manyDuplicates(), "--verbose"});
+    process.setStandardErrorFile(QString::fromStdString(terminal.name()));
+    process.start();
+    EXPECT_EQ(test::resultOf(process).exitCode, 0);
+    const std::string shown = terminal.shown();
+    EXPECT_THAT(shown, HasSubstr("\r\nXML Parsing\r\n"));
+    EXPECT_THAT(shown, ::testing::Not(HasSubstr("%")));
+}
+
 } // namespace
 } // namespace songsweep
