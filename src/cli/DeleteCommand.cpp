@@ -21,7 +21,7 @@ std::string refusal(int groups) {
 std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& options,
                                       const DeleteReport& report) {
     writeOutcomes(output, report, options.dryRun, options.format);
-    if (const Result<void> written = output.finish(); !written) return fail(written.error().message);
+    if (const Result<void> written = output.finish(); !written) return failToWrite(written.error());
     return std::nullopt;
 }
 
@@ -104,9 +104,13 @@ ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
     if (const auto problem = markByRule(session, options)) return *problem;
     const int lost = groupsLosingEveryCopy(session.controller().tableDataSource().rows);
     if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
-    // Opened first, so that nothing is deleted whose outcome cannot be told.
-    Result<Output> output = Output::open(options.output);
-    if (!output) return fail(output.error().message);
+    // Opened first, so that nothing is deleted whose outcome cannot be told. What a deletion came to is told
+    // after Ctrl-C, too.
+    bool mayBreakOff = true;
+    Result<Output> output =
+        Output::open(options.output, [&] { return mayBreakOff && session.interrupts().heard(); });
+    if (!output) return failToWrite(output.error());
+    mayBreakOff = options.dryRun;
     const ExitCode code = options.dryRun ? predict(session, options, output.value())
                                          : carryOut(session, options, output.value());
     return code == ExitCode::done ? session.searchedCode() : code;

@@ -30,8 +30,8 @@ ExitCode RestoreCommand::run() {
     const Result<std::vector<CleanupSummary>> cleanups = deletionsOf(m_options.library);
     if (!cleanups) return fail(cleanups.error().message);
     // Opened first, so that nothing is done whose outcome cannot be told.
-    Result<Output> output = Output::open({});
-    if (!output) return fail(output.error().message);
+    Result<Output> output = Output::open({}, [this] { return !m_options.yes && m_interrupts.heard(); });
+    if (!output) return failToWrite(output.error());
     if (m_options.list) return list(output.value(), cleanups.value());
     const Result<CleanupSummary> cleanup = chosen(cleanups.value());
     return cleanup ? restore(output.value(), cleanup.value()) : fail(withPath(cleanup.error().message));
@@ -73,7 +73,7 @@ ExitCode RestoreCommand::tellOutcome(Output& output, const NamedRestore& restore
     if (!report.backup.empty()) m_log->line("The library as it was before: " + report.backup);
     if (!report.record.empty()) m_log->line("What was done: " + report.record);
     writeRestore(output, restore, m_options.format);
-    if (const Result<void> written = output.finish(); !written) return fail(written.error().message);
+    if (const Result<void> written = output.finish(); !written) return failToWrite(written.error());
     if (report.end == RestoreReport::End::failed) return fail(withPath(report.problem));
     if (report.end == RestoreReport::End::cancelled) return ExitCode::interrupted;
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;

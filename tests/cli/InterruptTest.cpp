@@ -131,6 +131,11 @@ TEST_F(FullPipe, OfTheResultHindersNoInterrupt) {
     expectThatASignalEnds({"find", "--library", library(), "--format", "csv", "--output", path("pipe")});
 }
 
+TEST_F(FullPipe, OfADryRunHindersNoInterrupt) {
+    expectThatASignalEnds({"delete", "--library", library(), "--rule", "largest", "--except-one", "--dry-run",
+                           "--output", path("pipe")});
+}
+
 TEST_F(FullPipe, OfTheLogHindersNoInterrupt) {
     expectThatASignalEnds({"find", "--library", library(), "--log", path("pipe")});
 }
