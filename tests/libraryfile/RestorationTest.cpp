@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace songsweep {
@@ -180,6 +181,73 @@ TEST_F(RestorationTest, WhatOthersChangedStays) {
                                              {"New", "", {6}}});
     EXPECT_EQ(restored(text, present, {track("A2", 2), track("A4", 4)}), expected);
     EXPECT_TRUE(m_notes.empty());
+}
+
+/// A library whose tracks and items others change.
+struct Model {
+    std::vector<FixtureTrack> tracks;
+    std::vector<FixturePlaylist> lists;
+
+    std::string text() const { return libraryXml(tracks, lists); }
+
+    void remove(const std::set<int>& ids) {
+        std::erase_if(tracks, [&](const FixtureTrack& track) { return ids.contains(track.id); });
+        for (FixturePlaylist& list : lists)
+            std::erase_if(list.trackIds, [&](int id) { return ids.contains(id); });
+    }
+};
+
+/// What others do to a library: tracks go, get values, and come to the ends of the library and its lists.
+struct LaterChanges {
+    std::set<int> removed;
+    std::set<int> rated;
+    int added = 0;
+    bool hasNewList = false;
+
+    void applyTo(Model& model, int firstNewId) const {
+        model.remove(removed);
+        for (FixtureTrack& track : model.tracks)
+            if (rated.contains(track.id)) track.values += "<key>Rating</key><integer>60</integer>";
+        if (hasNewList) model.lists.push_back({"New", "", {}});
+        for (int id = firstNewId; id < firstNewId + added; ++id) {
+            model.tracks.push_back({id, test::persistentIdOf(id), "<key>Name</key><string>new</string>"});
+            for (FixturePlaylist& list : model.lists)
+                list.trackIds.push_back(id);
+        }
+    }
+};
+
+TEST_F(RestorationTest, AnyLaterChangesOfOthersStay) {
+    std::mt19937 random(20261121);
+    const auto below = [&](int end) { return static_cast<int>(random() % static_cast<unsigned>(end)); };
+    int changed = 0;
+    for (int round = 0; round < 400; ++round) {
+        const int count = 1 + below(20);
+        Model whole{{}, {{"Library", "<key>Master</key><true/>", {}}, {"Mine", "", {}}, {"Other", "", {}}}};
+        std::set<int> deleted;
+        LaterChanges changes{{}, {}, below(4), below(3) == 0};
+        std::vector<RecordedTrack> wanted;
+        for (int id = 1; id <= count; ++id) {
+            whole.tracks.push_back({id, test::persistentIdOf(id), ""});
+            for (FixturePlaylist& list : whole.lists)
+                if (list.name == "Library" || id == 1 || below(2) == 0) list.trackIds.push_back(id);
+            // One stays everywhere, or nothing would tell the places.
+            const int fate = id == 1 ? 3 : below(4);
+            if (fate == 0) deleted.insert(id);
+            if (fate == 0) wanted.push_back(track(test::persistentIdOf(id), id));
+            if (fate == 1) changes.removed.insert(id);
+            if (fate == 2) changes.rated.insert(id);
+        }
+        std::shuffle(whole.lists[1].trackIds.begin(), whole.lists[1].trackIds.end(), random);
+        Model present = whole;
+        present.remove(deleted);
+        changes.applyTo(present, count + 1);
+        Model expected = whole;
+        changes.applyTo(expected, count + 1);
+        changed += deleted.empty() || changes.removed.empty() ? 0 : 1;
+        ASSERT_EQ(restored(whole.text(), present.text(), wanted), expected.text()) << "round " << round;
+    }
+    EXPECT_GT(changed, 200);
 }
 
 TEST_F(RestorationTest, AnIdThatHasAnotherOwnerIsReplacedInEntryAndItems) {
