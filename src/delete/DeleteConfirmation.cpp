@@ -25,7 +25,6 @@ DeleteConfirmation::DeleteConfirmation(QWidget* parent)
     , m_ui(std::make_unique<Ui::DeleteConfirmation>()) {
     m_ui->setupUi(this);
     setUpButtons();
-    reserveRoomOfWarning();
     connect(m_ui->delConfFileCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
     connect(m_ui->delConfSharedCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
     setFacts({});
@@ -42,6 +41,7 @@ void DeleteConfirmation::setFacts(const DeleteConfirmationFacts& facts) {
 
 void DeleteConfirmation::updateFacts(const DeleteConfirmationFacts& facts) {
     m_facts = facts;
+    updateHeading();
     updateLines();
 }
 
@@ -65,12 +65,6 @@ void DeleteConfirmation::setUpButtons() {
     connect(m_cancelButton, &QPushButton::clicked, this, &DeleteConfirmation::reject);
     connect(m_deleteButton, &QPushButton::clicked, this,
             [this] { Q_EMIT deleteRequested(deletesFiles(), leavesSharedFiles()); });
-}
-
-void DeleteConfirmation::reserveRoomOfWarning() {
-    QSizePolicy policy = m_ui->delConfWarning->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_ui->delConfWarning->setSizePolicy(policy);
 }
 
 void DeleteConfirmation::updateHeading() {

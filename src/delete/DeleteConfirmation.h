@@ -46,7 +46,6 @@ class DeleteConfirmation : public QDialog {
 
   private:
     void setUpButtons();
-    void reserveRoomOfWarning();
     void updateHeading();
     void updateLines();
     void showWarning(const QString& text);
