@@ -126,6 +126,9 @@ std::string title(const RestoreReport& report) { return counted(report.entries()
 
 std::string rest(const RestoreReport& report) {
     std::string text = report.files() > 0 ? filesWithSize(report) + " put back." : std::string();
+    if (report.entries() > 0)
+        text += (text.empty() ? "" : " ") + std::string("A new search shows ") +
+                (report.entries() == 1 ? "it." : "them.");
     const auto left = static_cast<std::size_t>(
         std::count_if(report.tracks.begin(), report.tracks.end(),
                       [](const RestoredTrack& track) { return !track.dealtWith(); }));

@@ -229,7 +229,8 @@ TEST_F(Restoring, TheWindowTellsWhatCameBack) {
     closeSheet();
     auto& bar = child<NoticeBarView>(window(), "noticeBar");
     EXPECT_TRUE(bar.isVisible());
-    EXPECT_EQ(bar.message(), QStringLiteral("2 tracks restored, 2 files (0.1 MB) put back."));
+    EXPECT_EQ(bar.message(),
+              QStringLiteral("2 tracks restored, 2 files (0.1 MB) put back. A new search shows them."));
 }
 
 TEST_F(Restoring, ADeletionThatWasKilledIsToldAndPutBack) {

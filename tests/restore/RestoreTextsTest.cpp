@@ -61,7 +61,8 @@ TEST(RestoreTexts, TellWhatCameBackAndHowItEnded) {
                 ElementsAre("The restore was stopped; restore again to bring back the rest.",
                             "2 tracks are back in the library.", "1 file (1.1 MB) is back in its place."));
     EXPECT_EQ(restoreTexts::title(report), "2 tracks restored");
-    EXPECT_EQ(restoreTexts::rest(report), "1 file (1.1 MB) put back. 1 track is not as before.");
+    EXPECT_EQ(restoreTexts::rest(report),
+              "1 file (1.1 MB) put back. A new search shows them. 1 track is not as before.");
     report.end = RestoreReport::End::failed;
     report.problem = "no room";
     EXPECT_EQ(restoreTexts::done(report).front(), "The restore did not come to its end: no room.");
