@@ -2,12 +2,34 @@
 #include "delete/DeletePrediction.h"
 
 #include "delete/Obstacles.h"
+#include "library/QuotedTrack.h"
+
+#include <filesystem>
+#include <system_error>
+#include <unordered_map>
 
 namespace songsweep {
 
 namespace {
 
-void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcome& outcome) {
+/// The first of the tracks whose file goes, by the file; a link goes by itself.
+class GoingFiles {
+  public:
+    void tellOfOther(const TrackRecord& record, const PlannedFile& file, DeleteOutcome& outcome) {
+        std::error_code error;
+        if (std::filesystem::is_symlink(record.location.string(), error)) return;
+        const auto [first, isFirst] = m_first.emplace(file.path, &record);
+        if (!isFirst)
+            outcome.addReason("it is the file of " + quotedTrack(first->second->name, first->second->artist) +
+                              ", too");
+    }
+
+  private:
+    std::unordered_map<std::string, const TrackRecord*> m_first;
+};
+
+void predictFile(const TrackRecord& record, const DeletePlan& plan, GoingFiles& going,
+                 DeleteOutcome& outcome) {
     using File = DeleteOutcome::File;
     const auto file = plan.files.find(&record);
     if (file == plan.files.end()) {
@@ -20,6 +42,7 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, DeleteOutcom
         outcome.keepFile(file->second.refusal);
     } else {
         outcome.file = File::trashed;
+        going.tellOfOther(record, file->second, outcome);
     }
 }
 
@@ -42,13 +65,14 @@ DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFi
                              const TracksOfId& tracksOfId) {
     DeleteReport report;
     SharedIds ids(rows, tracksOfId);
+    GoingFiles going;
     for (const TrackRecord* const record : rows) {
         if (!record->checkbox) continue;
         DeleteOutcome& outcome = report.outcomes.emplace_back(outcomeOf(*record));
         predictTrack(*record, ids, outcome);
         if (!isDelFile) continue;
         if (outcome.track == DeleteOutcome::Track::deleted) {
-            predictFile(*record, plan, outcome);
+            predictFile(*record, plan, going, outcome);
         } else {
             predictKeptFile(*record, plan, outcome);
         }

@@ -5,6 +5,7 @@
 #include "delete/DeleteTexts.h"
 #include "delete/MarkedFiles.h"
 #include "delete/Obstacles.h"
+#include "library/QuotedTrack.h"
 #include "platform/Files.h"
 #include "platform/LocalName.h"
 #include "scripting/AppleScript.h"
@@ -99,6 +100,7 @@ void FileDeletion::keepFileOf(const TrackRecord& record, DeleteOutcome& outcome)
 }
 
 void FileDeletion::settle(std::vector<DeleteOutcome>& outcomes, Cleanup& cleanup) const {
+    std::unordered_map<std::string, std::size_t> first; // outcome of each name
     for (const Told& told : m_told) {
         DeleteOutcome& outcome = outcomes[told.outcome];
         const auto fate = cleanup.fateOfFile(told.outcome);
@@ -107,12 +109,23 @@ void FileDeletion::settle(std::vector<DeleteOutcome>& outcomes, Cleanup& cleanup
         if (isGone) {
             outcome.file = DeleteOutcome::File::trashed;
             if (fate) outcome.trash = fate->value();
+            const auto [other, isFirst] = first.emplace(told.name, told.outcome);
+            if (!isFirst) tellOfOther(outcomes[other->second], told, outcome);
         } else if (outcome.track != DeleteOutcome::Track::deleted) {
             outcome.file = DeleteOutcome::File::kept; // with its track, for the track's reason
         } else {
             outcome.keepFile(reasonOf(told.result, fate));
         }
     }
+}
+
+/// One file went for both tracks.
+void FileDeletion::tellOfOther(const DeleteOutcome& other, const Told& told, DeleteOutcome& outcome) const {
+    const std::string own = m_files.localPath(outcome.location);
+    const bool isLeftLink = own != told.name && isLink(own);
+    if (!outcome.trash) outcome.trash = other.trash;
+    outcome.addReason(std::string(isLeftLink ? "it is a link, which is left; " : "") + "it is the file of " +
+                      quotedTrack(other.name, other.artist) + ", too");
 }
 
 /// The file that the location leads to at this moment. A location that is no path, as that of a track without

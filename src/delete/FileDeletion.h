@@ -49,6 +49,7 @@ class FileDeletion {
         Result<void> result;
     };
 
+    void tellOfOther(const DeleteOutcome& other, const Told& told, DeleteOutcome& outcome) const;
     void decide(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number);
     void trash(const TrackRecord& record, const std::string& hfs, std::size_t number);
     std::optional<FileAttributes> fileOf(const TrackRecord& record) const;

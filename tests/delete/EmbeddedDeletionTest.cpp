@@ -187,6 +187,40 @@ TEST_F(EmbeddedDeletionTest, AnEntryOfTheSameIdThatWasNotFoundIsNotTakenAlong) {
     EXPECT_EQ(libraryText(), m_text);
 }
 
+TEST_F(EmbeddedDeletionTest, AFileOfTwoTracksIsToldOfBothAndNamesTheOther) {
+    writeLibrary({"a.mp3", "a2.mp3", "a.mp3", "b2.mp3"});
+    DisplayedList list = search(4);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(2));
+    EXPECT_EQ(outcomeText(report.outcomes[0]), "deleted, file trashed");
+    EXPECT_EQ(outcomeText(report.outcomes[1]), "deleted, file trashed: it is the file of “Song 0”, too");
+    EXPECT_EQ(report.outcomes[1].trash, report.outcomes[0].trash);
+    EXPECT_TRUE(report.allDealtWith());
+    EXPECT_EQ(m_trash.trashed, 1);
+}
+
+TEST_F(EmbeddedDeletionTest, ALinkWhoseTargetWentFirstIsToldTruly) {
+    std::filesystem::create_symlink("a.mp3", m_folder.pathOf("link.mp3"));
+    writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
+    std::filesystem::remove(m_folder.pathOf("b.mp3"));
+    replaceAll("/b.mp3", "/link.mp3");
+    DisplayedList list = search(4);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    int tracks = 0;
+    m_onEvent = [&](EventName name) {
+        if (name == EventName::deleteAddCount && ++tracks == 1) {
+            EXPECT_TRUE(m_scripts->flush()); // as in a long run, so that the target has gone
+        }
+    };
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(2));
+    EXPECT_FALSE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_TRUE(std::filesystem::is_symlink(m_folder.pathOf("link.mp3")));
+    EXPECT_EQ(outcomeText(report.outcomes[1]),
+              "deleted, file trashed: it is a link, which is left; it is the file of “Song 0”, too");
+}
+
 TEST_F(EmbeddedDeletionTest, WhiteSpaceAroundALocationHidesNoSharedFile) {
     writeLibrary({"a.mp3", "a2.mp3", "a.mp3"});
     replaceLast("<string>file://", "<string>\n\tfile://");

@@ -108,7 +108,8 @@ TEST_F(FileDeletionTest, CopiesThatShareAFileAreTrashedOnceAndBothDealtWith) {
     add(1, "B", true, path("a.mp3"));
     run(withFiles);
     EXPECT_THAT(journal("file"), ElementsAre(fileEntry("a.mp3")));
-    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed",
+                                        "B: deleted, file trashed: it is the file of “Song” by Artist, too"));
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
@@ -118,7 +119,8 @@ TEST_F(FileDeletionTest, CopiesThatShareAFileByALinkedFolderAreTrashedOnce) {
     add(1, "B", true, path("linked/a.mp3"));
     run(withFiles);
     EXPECT_THAT(journal("file"), ElementsAre(fileEntry("real/a.mp3")));
-    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed",
+                                        "B: deleted, file trashed: it is the file of “Song” by Artist, too"));
 }
 
 TEST_F(FileDeletionTest, TheOtherFormOfANameIsAnotherFile) {
@@ -129,7 +131,8 @@ TEST_F(FileDeletionTest, TheOtherFormOfANameIsAnotherFile) {
     addFile("C", false, composed);
     run(withFiles);
     EXPECT_THAT(journal("file"), ElementsAre(fileEntry(decomposed)));
-    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed",
+                                        "B: deleted, file trashed: it is the file of “Song” by Artist, too"));
     EXPECT_TRUE(exists(composed));
 }
 
@@ -164,7 +167,9 @@ TEST_F(FileDeletionTest, ALinkWhoseFileWasTrashedBeforeIsDealtWith) {
     std::filesystem::create_symlink(path("a.mp3"), path("link.mp3"));
     add(1, "B", true, path("link.mp3"));
     run(withFiles);
-    EXPECT_THAT(outcomes(), ElementsAre("A: deleted, file trashed", "B: deleted, file trashed"));
+    EXPECT_THAT(outcomes(),
+                ElementsAre("A: deleted, file trashed", "B: deleted, file trashed: it is a link, which is "
+                                                        "left; it is the file of “Song” by Artist, too"));
     EXPECT_TRUE(m_report.allDealtWith());
 }
 
