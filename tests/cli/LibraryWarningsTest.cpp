@@ -51,6 +51,21 @@ TEST_F(LibraryWarnings, SayNothingWhereOneFileIsHere) {
     EXPECT_EQ(find(library({})).errors, "");
 }
 
+TEST_F(LibraryWarnings, CountNoStreamAsAMissingFile) {
+    std::string text = libraryText({{.id = 1,
+                                     .name = "A",
+                                     .artist = "B",
+                                     .milliseconds = 1000,
+                                     .path = "/home/ann/a.mp3",
+                                     .type = "URL"}});
+    text.replace(text.find("file:"), 5, "http:");
+    for (const char* version : {"12.0", "9.2.1"}) {
+        const std::string said =
+            find(m_folder.write("Library.xml", text), {"--itunes-version", version}).errors;
+        EXPECT_THAT(said, ::testing::Not(HasSubstr("none of the library's files"))) << version;
+    }
+}
+
 TEST_F(LibraryWarnings, TellOfAMapThatNeverApplies) {
     m_folder.write("music/a.mp3", "x");
     const std::string file = library({"/C:/Music/a.mp3", "/C:/Music/a.mp3"});
