@@ -7,6 +7,8 @@
 #include "restore/FileReturn.h"
 #include "restore/RestoreRun.h"
 
+#include <filesystem>
+#include <system_error>
 #include <unordered_set>
 #include <utility>
 
@@ -69,6 +71,12 @@ RecordHeading headingOf(const LibraryRestore& restore, const RecordedCleanup& cl
     return heading;
 }
 
+/// That of a restore that never began.
+void removeBackup(const LibraryRestore& restore) {
+    std::error_code ignored; // It does no harm.
+    std::filesystem::remove(restore.backup(), ignored);
+}
+
 } // namespace
 
 CleanupRestore::CleanupRestore(std::string library, RecordedCleanup cleanup, Trash& trash,
@@ -96,10 +104,17 @@ Result<RestoreReport> CleanupRestore::carryOut(const RestoreTask& task) const {
     if (!restore) return restore.error();
     const std::vector<FileReturn> files = lookForFiles(m_cleanup, m_trash);
     auto record = CleanupRecord::create(headingOf(restore.value(), m_cleanup, task.program));
-    if (!record) return record.error();
+    if (!record) {
+        removeBackup(restore.value());
+        return record.error();
+    }
     RestoreRun run(restore.value(), record.value(), m_trash,
                    reportFor(m_cleanup, restore.value().expected(), files));
-    if (const Result<void> planned = run.plan(); !planned) return planned.error();
+    if (const Result<void> planned = run.plan(); !planned) {
+        record.value().discard();
+        removeBackup(restore.value());
+        return planned.error();
+    }
     return withLeftOut(run.carryOut(files, task));
 }
 

@@ -27,6 +27,8 @@ class FolderTrash final : public Trash {
         return file;
     }
     Result<RestoredFile> restoreFromTrash(const TrashedFile& file, const std::string& path) override {
+        if (!std::filesystem::exists(file.path()))
+            return Error{Error::Code::notFound, "it is not in the Trash"};
         std::filesystem::rename(file.path(), path);
         return RestoredFile{};
     }
