@@ -5,6 +5,7 @@
 #include "delete/DeletePlan.h"
 #include "delete/SharedIds.h"
 #include "library/LibraryOverview.h"
+#include "library/ReaderServices.h"
 #include "platform/Result.h"
 
 #include <functional>
@@ -40,6 +41,7 @@ struct ControllerServices {
     /// their persistent IDs; called on a worker thread.
     std::function<bool(const std::vector<TrackRecord*>&)> areTracksOfITunes =
         [](const std::vector<TrackRecord*>&) { return true; };
+    OpenNodes openNodes = XmlReader::open; ///< of a library file
     /// The tracks of the whole library that share a persistent ID, where iTunes tells; called on a worker
     /// thread.
     TracksOfId tracksOfId = {};

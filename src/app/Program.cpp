@@ -89,6 +89,7 @@ Program::Program(ProgramOptions options, Log& log, std::unique_ptr<AppleScript> 
 EmbeddedScripting::Options Program::scriptingOptions() {
     EmbeddedScripting::Options options;
     options.iTunesVersion = m_options.iTunesVersion;
+    options.library.reading = LibraryDocument::Reading::indexAndTracks;
     options.log = &m_log;
     options.writeFailed = [this](const Error& error) {
         QMetaObject::invokeMethod(
@@ -115,6 +116,7 @@ ControllerServices Program::controllerServices() {
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
         .areTracksOfITunes =
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
+        .openNodes = [this](const std::string& path) { return m_scripting.openNodes(path); },
         .tracksOfId = [this](std::string_view pid) { return tracksOfId(pid); },
         .libraryForesight = [this] { return foreseeWriting(); },
         .libraryFile = [this] { return m_scripts.usesEmbedded() ? m_libraryPath : std::string(); },

@@ -41,7 +41,7 @@ Search::Search(const ControllerServices& services, const ControllerViews& views,
     , m_progress(progress)
     , m_queries(services.scripts, services.log)
     , m_readers({workers.center, services.scripts, services.files, services.preferences, services.sleeper,
-                 services.log, services.areTracksOfITunes}) {}
+                 services.log, services.areTracksOfITunes, services.openNodes}) {}
 
 bool Search::isStale(const WorkerEvent& event) const {
     return event.sender && event.sender->serial() < m_serial && event.sender->isCancelled();

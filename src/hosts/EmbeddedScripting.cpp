@@ -4,6 +4,7 @@
 #include "hosts/FinderApplication.h"
 #include "hosts/ITunesApplication.h"
 #include "library/QuotedTrack.h"
+#include "library/XmlReader.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
@@ -171,6 +172,13 @@ Result<std::vector<PlaylistInfo>> EmbeddedScripting::playlists() {
     const auto document = currentDocument();
     if (!document) return document.error();
     return document.value()->playlists();
+}
+
+std::unique_ptr<NodeReader> EmbeddedScripting::openNodes(const std::string& path) {
+    const std::lock_guard lock(m_lock);
+    LibraryDocument* const document = m_library.opened();
+    std::unique_ptr<NodeReader> nodes = document != nullptr ? document->plainNodes(path) : nullptr;
+    return nodes != nullptr ? std::move(nodes) : XmlReader::open(path);
 }
 
 Result<bool> EmbeddedScripting::hasTracks(const std::vector<TrackRecord*>& records) {

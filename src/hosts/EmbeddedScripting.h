@@ -78,6 +78,9 @@ class EmbeddedScripting final : public AppleScript {
 
     Result<int> trackCount();
     Result<std::vector<PlaylistInfo>> playlists();
+    /// The nodes of the library file at a path, by its index where that knows the file; null where it cannot
+    /// be opened. The reader is the caller's, on any thread.
+    std::unique_ptr<NodeReader> openNodes(const std::string& path);
     /// Whether records that a reader made of the library file are the tracks that scripts find, see
     /// SameTracks.h.
     Result<bool> hasTracks(const std::vector<TrackRecord*>& records);

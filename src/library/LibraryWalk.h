@@ -2,6 +2,7 @@
 #pragma once
 
 #include "library/LibraryKeys.h"
+#include "library/NodeReader.h"
 #include "library/RecordFiller.h"
 #include "library/TrackStorage.h"
 
@@ -18,9 +19,6 @@ namespace songsweep {
 class Log;
 class PlaylistItems;
 
-/// What a node of an XML document is; the numbers are those of libxml2's text reader. Others are skipped.
-enum class NodeType : int { none = 0, element = 1, text = 3, endElement = 15 };
-
 /// Makes records of the tracks of a library file, and lists the items of the chosen playlist.
 ///
 /// A state machine that is fed nodes and knows nothing of where they come from, so that tests and other
@@ -29,6 +27,27 @@ enum class NodeType : int { none = 0, element = 1, text = 3, endElement = 15 };
 /// opened and never closed. Constant time a node; keeps the recognised values alone.
 class LibraryWalk {
   public:
+    enum class Section : std::uint8_t { tracks, playlists, done };
+    enum class ElementName : std::uint8_t { none, key, other };
+
+    /// Where the walk is in the file, and what it has met.
+    struct State {
+        Section section = Section::tracks;
+        ElementName elementName = ElementName::none;
+        LibraryKey currentKey = LibraryKey::none;
+        int depth = 0;
+        bool secondLevelSeen = false;
+        bool inPlaylists = false;
+        bool playlistFound = false;
+        bool collecting = false;
+        bool isChosen = false; ///< of the playlist at hand, as the next
+        bool isMaster = false;
+        bool metMaster = false;
+        bool choseMaster = false;
+        std::int32_t trackCount = 0;
+        int progressCount = 0;
+    };
+
     /// After so many records `onProgress` is called with their number.
     static constexpr int recordsPerProgress = 500;
 
@@ -57,16 +76,19 @@ class LibraryWalk {
     /// After the last node.
     void finish() { m_filler.finish(); }
 
+    /// Whether what follows makes no records and changes none.
+    bool isPastTracks() const { return m_state.section != Section::tracks; }
+    /// What the walk knows, to go on with in another walk: once it is past the tracks, and was finished.
+    const State& state() const { return m_state; }
+    void resume(const State& state) { m_state = state; }
+
     /// Records made.
-    std::int32_t trackCount() const { return m_trackCount; }
+    std::int32_t trackCount() const { return m_state.trackCount; }
 
     /// The playlist whose items were listed.
     SearchCoverage::Playlist playlist() const;
 
   private:
-    enum class Section { tracks, playlists, done };
-    enum class ElementName { none, key, other };
-
     /// A comparison of known length, which becomes one of numbers: it is made a hundred times a track.
     template <std::size_t size>
     static bool is(std::string_view name, const char (&expected)[size]) {
@@ -74,7 +96,7 @@ class LibraryWalk {
     }
     void openElement(std::string_view name) {
         if (is(name, "dict")) openDict();
-        m_elementName = is(name, "key") ? ElementName::key : ElementName::other;
+        m_state.elementName = is(name, "key") ? ElementName::key : ElementName::other;
     }
     void closeElement(std::string_view name) {
         if (is(name, "dict")) closeDict();
@@ -94,21 +116,8 @@ class LibraryWalk {
     std::optional<std::string> m_playlist; // lower case
     RecordFiller m_filler;
 
-    Section m_section = Section::tracks;
-    ElementName m_elementName = ElementName::none;
-    LibraryKey m_currentKey = LibraryKey::none;
+    State m_state;
     TrackRecord* m_currentRecord = nullptr;
-    int m_depth = 0;
-    bool m_secondLevelSeen = false;
-    bool m_inPlaylists = false;
-    bool m_playlistFound = false;
-    bool m_collecting = false;
-    bool m_isChosen = false; // of the playlist at hand, as the next
-    bool m_isMaster = false;
-    bool m_metMaster = false;
-    bool m_choseMaster = false;
-    std::int32_t m_trackCount = 0;
-    int m_progressCount = 0;
 };
 
 } // namespace songsweep

@@ -2,8 +2,9 @@
 #include "library/SWXMLParser.h"
 
 #include "library/LibraryWalk.h"
+#include "library/NodeReader.h"
+#include "library/ReadTracks.h"
 #include "library/WorkerEvent.h"
-#include "library/XmlReader.h"
 #include "operations/NotificationCenter.h"
 #include "platform/ExceptionReason.h"
 #include "platform/Files.h"
@@ -62,14 +63,14 @@ void SWXMLParser::read() {
     if (!attributes) return post(EventName::xmlErrorParsing);
     post(EventName::xmlModifiedDate, *attributes);
 
-    const std::unique_ptr<XmlReader> reader = XmlReader::open(finder.localPath(*path));
+    const std::unique_ptr<NodeReader> reader = m_services.openNodes(finder.localPath(*path));
     if (!reader) return post(EventName::xmlErrorParsing);
     const Clock::time_point start = Clock::now();
     log("Begin Parse XML");
     if (parse(*reader)) process(start);
 }
 
-bool SWXMLParser::parse(XmlReader& reader) {
+bool SWXMLParser::parse(NodeReader& reader) {
     try {
         return readTracks(reader);
     } catch (...) {
@@ -78,10 +79,11 @@ bool SWXMLParser::parse(XmlReader& reader) {
     }
 }
 
-bool SWXMLParser::readTracks(XmlReader& reader) {
+bool SWXMLParser::readTracks(NodeReader& reader) {
     m_list->records.reserve(static_cast<std::size_t>(std::clamp(m_trueTrackCount, 0, mostRecordsReserved)));
     LibraryWalk walk(*m_list, m_songlist, m_searchparams.playlist, m_services.log,
                      [this](int records) { post(EventName::progressx, ProgressUnits{records}); });
+    if (const std::unique_ptr<ReadTracks> tracks = reader.takeTracks()) takeOver(*tracks, walk);
     if (!walkWhole(reader, walk)) return false;
     walk.finish();
     m_trackCount = walk.trackCount();
@@ -98,6 +100,16 @@ bool SWXMLParser::readTracks(XmlReader& reader) {
     return false;
 }
 
+/// What the walk did before is told as if it were done now.
+void SWXMLParser::takeOver(ReadTracks& tracks, LibraryWalk& walk) {
+    *m_list->storage = std::move(*tracks.list.storage);
+    m_list->records = std::move(tracks.list.records);
+    walk.resume(tracks.walk);
+    for (int told = LibraryWalk::recordsPerProgress; told <= walk.trackCount() && !isCancelled();
+         told += LibraryWalk::recordsPerProgress)
+        post(EventName::progressx, ProgressUnits{LibraryWalk::recordsPerProgress});
+}
+
 /// A track is deleted by its persistent ID: one that iTunes reads in another way would take another track.
 bool SWXMLParser::agreesWithITunes() const {
     if (m_trackCount != m_trueTrackCount) {
@@ -110,7 +122,7 @@ bool SWXMLParser::agreesWithITunes() const {
     return false;
 }
 
-bool SWXMLParser::walkWhole(XmlReader& reader, LibraryWalk& walk) {
+bool SWXMLParser::walkWhole(NodeReader& reader, LibraryWalk& walk) {
     XmlNode node;
     while (!isCancelled()) {
         if (!reader.read(node)) return true;
@@ -123,7 +135,7 @@ bool SWXMLParser::walkWhole(XmlReader& reader, LibraryWalk& walk) {
     return false;
 }
 
-void SWXMLParser::tellReadError(const XmlReader& reader) {
+void SWXMLParser::tellReadError(const NodeReader& reader) {
     if (std::exchange(m_readErrorTold, true)) return;
     post(EventName::readError, std::make_shared<ReadError>(*reader.error()));
 }

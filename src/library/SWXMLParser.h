@@ -19,7 +19,8 @@
 namespace songsweep {
 
 class LibraryWalk;
-class XmlReader;
+class NodeReader;
+struct ReadTracks;
 
 /// Fills the track list from iTunes' library file.
 ///
@@ -52,11 +53,12 @@ class SWXMLParser final : public Operation {
     using Clock = std::chrono::steady_clock;
 
     void read();
-    bool parse(XmlReader& reader);
-    bool readTracks(XmlReader& reader);
+    bool parse(NodeReader& reader);
+    bool readTracks(NodeReader& reader);
+    void takeOver(ReadTracks& tracks, LibraryWalk& walk);
     bool agreesWithITunes() const;
-    bool walkWhole(XmlReader& reader, LibraryWalk& walk);
-    void tellReadError(const XmlReader& reader);
+    bool walkWhole(NodeReader& reader, LibraryWalk& walk);
+    void tellReadError(const NodeReader& reader);
     void process(Clock::time_point start);
     void finish();
 

@@ -22,6 +22,7 @@ class TrackStorage::Impl {
 TrackStorage::TrackStorage()
     : m_impl(std::make_unique<Impl>()) {}
 TrackStorage::~TrackStorage() = default;
+TrackStorage& TrackStorage::operator=(TrackStorage&& other) noexcept = default;
 
 TrackRecord& TrackStorage::makeRecord() {
     return *new (m_impl->records.allocate(sizeof(TrackRecord), alignof(TrackRecord))) TrackRecord;

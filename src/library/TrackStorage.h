@@ -20,8 +20,12 @@ class TrackStorage {
   public:
     TrackStorage();
     TrackStorage(const TrackStorage&) = delete;
+    TrackStorage(TrackStorage&&) = delete;
     TrackStorage& operator=(const TrackStorage&) = delete;
     ~TrackStorage();
+
+    /// Becomes what the other was, with all its records and texts at their addresses.
+    TrackStorage& operator=(TrackStorage&& other) noexcept;
 
     TrackRecord& makeRecord();
 

@@ -2,6 +2,7 @@
 #include "libraryfile/LibraryDocument.h"
 
 #include "library/Trim.h"
+#include "libraryfile/PlainReader.h"
 
 #include <algorithm>
 #include <numeric>
@@ -15,17 +16,22 @@ constexpr int mostAttempts = 3;
 struct IndexedFile {
     LibraryFile file;
     LibraryIndex index;
+    std::optional<TracksOfPass> tracks;
 };
 
 /// Opens and indexes a file; one that is written to meanwhile is read again.
-Result<IndexedFile> readIndexed(const std::string& path) {
+Result<IndexedFile> readIndexed(const std::string& path, LibraryDocument::Reading reading) {
     for (int attempt = 0; attempt < mostAttempts; ++attempt) {
         auto file = LibraryFile::open(path);
         if (!file) return file.error();
-        auto index = LibraryIndex::read(file.value());
+        std::optional<TrackPass> tracks;
+        if (reading == LibraryDocument::Reading::indexAndTracks) tracks.emplace();
+        auto index = LibraryIndex::read(file.value(), tracks ? &*tracks : nullptr);
         if (index && index.value().stamp != file.value().stamp()) continue;
         if (!index) return index.error();
-        return IndexedFile{std::move(file).value(), std::move(index).value()};
+        IndexedFile indexed{std::move(file).value(), std::move(index).value(), {}};
+        if (tracks && indexed.index.plain) indexed.tracks = tracks->found();
+        return indexed;
     }
     return Error{Error::Code::busy, path + " is being rewritten"};
 }
@@ -43,11 +49,13 @@ std::vector<std::uint32_t> presentationOrder(const std::vector<PlaylistSlot>& pl
 } // namespace
 
 Result<std::unique_ptr<LibraryDocument>> LibraryDocument::open(const std::string& path, Options options) {
-    auto read = readIndexed(path);
+    auto read = readIndexed(path, options.reading);
     if (!read) return read.error();
     IndexedFile indexed = std::move(read).value();
-    return std::unique_ptr<LibraryDocument>(
+    std::unique_ptr<LibraryDocument> document(
         new LibraryDocument(path, options, std::move(indexed.file), std::move(indexed.index)));
+    document->m_tracks = std::move(indexed.tracks);
+    return document;
 }
 
 LibraryDocument::LibraryDocument(std::string path, Options options, LibraryFile file, LibraryIndex index)
@@ -64,7 +72,7 @@ Result<void> LibraryDocument::refresh() {
     const auto stamp = LibraryFile::stampOf(m_path);
     if (!stamp) return stamp.error();
     if (stamp.value() == m_index.stamp) return {};
-    auto read = readIndexed(m_path);
+    auto read = readIndexed(m_path, Reading::indexAlone);
     if (!read) return read.error();
     IndexedFile fresh = std::move(read).value();
     PersistentIdTable table;
@@ -84,6 +92,7 @@ Result<void> LibraryDocument::refresh() {
 void LibraryDocument::adopt(LibraryFile file, LibraryIndex index, PersistentIdTable table) {
     m_file = std::make_shared<const LibraryFile>(std::move(file));
     m_index = std::move(index);
+    m_tracks.reset();
     m_byPersistentId = std::move(table);
     m_playlistOrder = presentationOrder(m_index.playlists);
     forgetValues();
@@ -178,6 +187,17 @@ std::vector<LibraryDocument::TrackPosition> LibraryDocument::tracksWithTrackId(s
          at != m_byTrackId.end() && idOf(*at) == trackId; ++at)
         if (!isDeleted(*at)) found.push_back(*at);
     return found;
+}
+
+std::unique_ptr<NodeReader> LibraryDocument::plainNodes(const std::string& path) {
+    if (!m_index.plain) return nullptr;
+    auto file = LibraryFile::open(path);
+    if (!file || file.value().stamp() != m_index.stamp) return nullptr;
+    auto owned = std::make_unique<const LibraryFile>(std::move(file).value());
+    if (!m_tracks) return std::make_unique<PlainReader>(std::move(owned));
+    auto reader = std::make_unique<PlainReader>(std::move(owned), *std::move(m_tracks));
+    m_tracks.reset();
+    return reader;
 }
 
 Result<const EntryValues*> LibraryDocument::values(TrackPosition track) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/NodeReader.h"
 #include "libraryfile/DeletionMemory.h"
 #include "libraryfile/EntryValues.h"
 #include "libraryfile/LibraryChanges.h"
@@ -11,6 +12,7 @@
 #include "libraryfile/SameTracks.h"
 #include "libraryfile/TrackFields.h"
 #include "libraryfile/TrackListing.h"
+#include "libraryfile/TrackPass.h"
 
 #include <array>
 #include <chrono>
@@ -53,7 +55,11 @@ class LibraryDocument {
   public:
     using TrackPosition = std::uint32_t;
 
+    /// What is read where the file is indexed first: a program that is about to search has the tracks read by
+    /// the same pass.
+    enum class Reading : std::uint8_t { indexAlone, indexAndTracks };
     struct Options {
+        Reading reading = Reading::indexAlone;
         std::chrono::milliseconds lockTimeout{5000}; ///< how long a write waits for another program's
     };
 
@@ -97,6 +103,11 @@ class LibraryDocument {
     /// The tracks of a track ID, mostly one. Microseconds but for the first call, which sorts them.
     std::vector<TrackPosition> tracksWithTrackId(std::int64_t trackId);
     std::int64_t trackId(TrackPosition track) const { return m_index.tracks[track].trackId; }
+
+    /// The nodes of the file at a path, where it is the one that was indexed, and plain; null where they are
+    /// any parser's business. The first reader has the tracks that were read with the index. Costs a look at
+    /// the file; the reader may be used on another thread.
+    std::unique_ptr<NodeReader> plainNodes(const std::string& path);
 
     /// Whether records that a reader made of the file are its tracks, see SameTracks.h.
     bool hasTracks(const std::vector<TrackRecord*>& records) const {
@@ -205,6 +216,7 @@ class LibraryDocument {
     Options m_options;
     std::shared_ptr<const LibraryFile> m_file; ///< never null; a pass may hold it longer than the document
     LibraryIndex m_index;
+    std::optional<TracksOfPass> m_tracks; // until a reader takes them
     PersistentIdTable m_byPersistentId;
     std::vector<std::uint32_t> m_playlistOrder;
     std::vector<std::optional<Listed>> m_lists; // of every playlist, as asked for

@@ -12,6 +12,8 @@
 
 namespace songsweep {
 
+class TrackPass;
+
 /// One entry of the dictionary of tracks. The range begins at the white space before its key and ends behind
 /// its value, so that an entry taken out leaves no blank line.
 struct TrackSlot {
@@ -70,10 +72,11 @@ struct LibraryIndex {
     XmlEntities entities;
     FileStamp stamp;
     bool trackIdsRepeat = false; ///< two tracks share an ID by which playlists refer to them
+    bool plain = false;          ///< a PlainReader reads the file as any parser does
 
     /// Reads the file once, front to back. Refuses what is not well formed, cut off, or no library, with the
-    /// line.
-    static Result<LibraryIndex> read(const LibraryFile& file);
+    /// line. `tracks`, where given, reads them on the way.
+    static Result<LibraryIndex> read(const LibraryFile& file, TrackPass* tracks = nullptr);
 };
 
 /// Finds tracks by persistent ID: their positions ordered by it. 4 bytes a track, well below a microsecond a

@@ -3,7 +3,9 @@
 #include "library/Trim.h"
 #include "library/ValueFormats.h"
 #include "libraryfile/LibraryIndex.h"
+#include "libraryfile/PlainNodes.h"
 #include "libraryfile/TagScanner.h"
+#include "libraryfile/TrackPass.h"
 
 #include <algorithm>
 #include <limits>
@@ -341,15 +343,19 @@ void Indexer::resolveItems() {
 
 } // namespace
 
-Result<LibraryIndex> LibraryIndex::read(const LibraryFile& file) {
+Result<LibraryIndex> LibraryIndex::read(const LibraryFile& file, TrackPass* tracks) {
     LibraryIndex index;
     index.stamp = file.stamp();
     TagScanner scanner(file);
     Indexer indexer(index, scanner.entities());
+    PlainNodes nodes(file);
+    index.plain = true;
     Tag tag;
     do {
         if (!scanner.next(tag)) return scanner.error();
         if (!indexer.take(tag)) return scanner.errorAt(tag.begin, indexer.reason());
+        index.plain = index.plain && nodes.take(tag);
+        if (index.plain && tracks != nullptr) tracks->take(tag, nodes);
     } while (tag.kind != Tag::Kind::endOfDocument);
     index.entities = scanner.entities();
     return index;

@@ -14,19 +14,17 @@ constexpr std::size_t deepestNesting = 256;
 constexpr std::ptrdiff_t longestUsualTag = 16;
 
 /// The names of the elements, in their order.
-constexpr std::array<std::string_view, 9> elementNames{"plist",   "dict", "array", "key", "string",
-                                                       "integer", "true", "false", ""};
-
-std::string_view nameOf(Element element) { return elementNames[static_cast<std::size_t>(element)]; }
+constexpr std::array<std::string_view, 12> elementNames{"plist", "dict", "array", "key",  "string", "integer",
+                                                        "real",  "date", "data",  "true", "false",  ""};
 
 Element elementOf(std::string_view name) {
     const auto found = std::find(elementNames.begin(), elementNames.end() - 1, name);
     return static_cast<Element>(found - elementNames.begin());
 }
 
-/// The only element of those inside a property list that can begin with this letter.
-Element usualElement(char first) {
-    switch (first) {
+/// The only element of those inside a property list that can begin with these letters.
+Element usualElement(const char* name) {
+    switch (*name) {
     case 'k':
         return Element::key;
     case 's':
@@ -34,7 +32,10 @@ Element usualElement(char first) {
     case 'i':
         return Element::integer;
     case 'd':
-        return Element::dict;
+        if (name[1] == 'i') return Element::dict;
+        return name[2] == 't' && name[3] == 'e' ? Element::date : Element::data;
+    case 'r':
+        return Element::real;
     case 'a':
         return Element::array;
     case 't':
@@ -55,9 +56,20 @@ bool endsName(char c) { return isXmlSpace(c) || c == '>' || c == '/'; }
 
 } // namespace
 
+std::string_view nameOf(Element element) { return elementNames[static_cast<std::size_t>(element)]; }
+
 TagScanner::TagScanner(const LibraryFile& file)
     : m_file(file)
     , m_window(file) {
+    m_text = m_at = m_window.begin();
+}
+
+TagScanner::TagScanner(const LibraryFile& file, std::uint64_t offset, std::vector<Element> open)
+    : m_file(file)
+    , m_window(file, offset)
+    , m_open(std::move(open))
+    , m_started(true)
+    , m_rootSeen(true) {
     m_text = m_at = m_window.begin();
 }
 
@@ -67,6 +79,7 @@ bool TagScanner::next(Tag& tag) {
     if (findTag()) return takeUsualTag(tag) || (findTagEnd() && readTag(tag));
     if (!m_failure.empty() || m_window.error() || !finish()) return false;
     tag = Tag();
+    tag.text = {m_text, static_cast<std::size_t>(m_at - m_text)};
     return true;
 }
 
@@ -81,7 +94,7 @@ bool TagScanner::takeUsualTag(Tag& tag) {
     const auto* at = static_cast<const char*>(std::memchr(m_at, '<', static_cast<std::size_t>(end - m_at)));
     if (at == nullptr || end - at < longestUsualTag || m_open.empty()) return false;
     const bool closes = at[1] == '/';
-    const Element element = closes ? m_open.back() : usualElement(at[1]);
+    const Element element = closes ? m_open.back() : usualElement(at + 1);
     const std::string_view name = nameOf(element);
     const char* nameBegin = at + (closes ? 2 : 1);
     const char* nameEnd = nameBegin + name.size();

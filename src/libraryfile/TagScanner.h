@@ -11,10 +11,26 @@
 
 namespace songsweep {
 
-/// The elements that the index tells apart; `other` is any other name.
-enum class Element : std::uint8_t { plist, dict, array, key, string, integer, isTrue, isFalse, other };
+/// The elements of a property list; `other` is any other name.
+enum class Element : std::uint8_t {
+    plist,
+    dict,
+    array,
+    key,
+    string,
+    integer,
+    real,
+    date,
+    data,
+    isTrue,
+    isFalse,
+    other
+};
 
-/// One tag of a document and the raw bytes between the tag before it and this one.
+/// "key"; nothing of `other`.
+std::string_view nameOf(Element element);
+
+/// One tag of a document, or its end, and the raw bytes between the tag before it and this one.
 struct Tag {
     enum class Kind : std::uint8_t { open, close, empty, endOfDocument };
 
@@ -36,6 +52,8 @@ struct Tag {
 class TagScanner {
   public:
     explicit TagScanner(const LibraryFile& file);
+    /// Begins behind a tag up to which the file was scanned, inside these elements, none of another name.
+    TagScanner(const LibraryFile& file, std::uint64_t offset, std::vector<Element> open);
 
     /// Moves on to the next tag, or to the end of the document. False where the document is not well formed
     /// or cannot be read; `error` says why.

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "library/NodeReader.h"
+
+#include "library/ReadTracks.h"
+
+namespace songsweep {
+
+NodeReader::NodeReader() = default;
+NodeReader::~NodeReader() = default;
+
+std::unique_ptr<ReadTracks> NodeReader::takeTracks() { return nullptr; }
+
+} // namespace songsweep
