@@ -77,9 +77,11 @@ struct WorkerEvent {
     const Operation* sender = nullptr; ///< the worker; nothing where a view posted it
 };
 
-/// Whether the event counts a step, so that nobody waits for it: it rides along with the next one.
+/// Whether the event counts a step or hands over a record that its worker is done with, so that nobody waits
+/// for it: it rides along with the next one.
 inline bool isCount(const WorkerEvent& event) {
-    return event.name == EventName::progress || event.name == EventName::deleteAddCount;
+    return event.name == EventName::progress || event.name == EventName::deleteAddCount ||
+           event.name == EventName::step1 || event.name == EventName::step2;
 }
 
 } // namespace songsweep
