@@ -11,10 +11,13 @@
 
 #include <chrono>
 #include <cstdint>
+#include <exception>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 namespace songsweep {
 
@@ -51,6 +54,11 @@ class SWXMLParser final : public Operation {
 
   private:
     using Clock = std::chrono::steady_clock;
+    struct Admitted {
+        std::vector<TrackRecord*> records;
+        std::vector<const char*> paths;
+        std::exception_ptr failure; ///< of the record behind the last one
+    };
 
     void read();
     bool parse(NodeReader& reader);
@@ -63,9 +71,9 @@ class SWXMLParser final : public Operation {
     void finish();
 
     void keepTracksOfPlaylist();
-    bool keeps(TrackRecord& record);
+    Admitted admit(std::span<TrackRecord* const> records);
+    bool keeps(TrackRecord& record, bool isThere);
     bool findFile(TrackRecord& record);
-    bool fileExists(const TrackRecord& record) const;
     void makePath(TrackRecord& record);
 
     /// Logs an exception, empties the list and posts.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "library/CaseFolding.h"
+#include "library/FileLooks.h"
 #include "library/LibraryWalk.h"
 #include "library/LocationUrl.h"
 #include "library/SWXMLParser.h"
@@ -7,12 +8,18 @@
 #include "scripting/AppleScript.h"
 #include "scripting/TextLiteral.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <exception>
+#include <ranges>
 #include <stdexcept>
 
 namespace songsweep {
 
 namespace {
+
+/// So many files are looked at before the first of their records is handled.
+constexpr std::ptrdiff_t recordsAtATime = 1000;
 
 std::string locationScript(std::string_view pid) {
     std::string script = "tell application \"iTunes\" \n"
@@ -41,20 +48,40 @@ void SWXMLParser::keepTracksOfPlaylist() {
     // The kept records gather at the list's end, so that the whole costs one pass.
     std::vector<TrackRecord*>& records = m_list->records;
     auto kept = records.end();
-    for (auto record = records.end(); record != records.begin();) {
-        --record;
-        if (keeps(**record)) *--kept = *record;
+    FileLooks looks(m_services.files);
+    for (auto end = records.end(); end != records.begin();) {
+        const auto begin = end - std::min(recordsAtATime, end - records.begin());
+        const Admitted admitted = admit({begin, end});
+        const std::vector<char> isThere = looks.exist(admitted.paths);
+        for (std::size_t i = 0; i < isThere.size(); ++i)
+            if (keeps(*admitted.records[i], isThere[i] != 0)) *--kept = admitted.records[i];
+        if (admitted.failure) std::rethrow_exception(admitted.failure);
+        end = begin;
     }
     records.erase(records.begin(), kept);
 }
 
-bool SWXMLParser::keeps(TrackRecord& record) {
-    // The playlist is asked for every record: what it finds is used up.
-    const bool isInPlaylist = isInMusicPlaylist(record);
-    if (!record.isfile || !isInPlaylist) return false;
+/// The file tracks of the playlist among some records, from the last on, with their paths. What comes behind
+/// a record without a path is not looked at: its turn comes when those before it had theirs.
+SWXMLParser::Admitted SWXMLParser::admit(std::span<TrackRecord* const> records) {
+    Admitted admitted;
+    try {
+        for (TrackRecord* const record : records | std::views::reverse) {
+            // The playlist is asked for every record: what it finds is used up.
+            const bool isInPlaylist = isInMusicPlaylist(*record);
+            if (!record->isfile || !isInPlaylist) continue;
+            if (!record->location.empty()) makePath(*record);
+            admitted.records.push_back(record);
+            admitted.paths.push_back(record->location.c_str());
+        }
+    } catch (...) {
+        admitted.failure = std::current_exception();
+    }
+    return admitted;
+}
 
-    if (!record.location.empty()) makePath(record);
-    const bool isThere = fileExists(record) || findFile(record);
+bool SWXMLParser::keeps(TrackRecord& record, bool isThere) {
+    if (!isThere) isThere = findFile(record);
     if (!isThere && !m_searchparams.isignoredead) record.isdead = true;
     if (++m_progressCount == LibraryWalk::recordsPerProgress) {
         post(EventName::progressx, ProgressUnits{m_progressCount});
@@ -66,10 +93,6 @@ bool SWXMLParser::keeps(TrackRecord& record) {
 bool SWXMLParser::findFile(TrackRecord& record) {
     refreshLocationApplescript(record);
     if (!m_searchparams.isignoredead) log(record.location);
-    return fileExists(record);
-}
-
-bool SWXMLParser::fileExists(const TrackRecord& record) const {
     return !record.location.empty() && m_services.files.exists(record.location.c_str());
 }
 
