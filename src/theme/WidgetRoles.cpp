@@ -65,6 +65,7 @@ int grown(const QWidget& widget, const char* property) {
 
 void applyLengths(QWidget& widget) {
     if (widget.property("baseWidth").isValid()) widget.setMinimumWidth(grown(widget, "baseWidth"));
+    if (widget.property("baseFixedWidth").isValid()) widget.setFixedWidth(grown(widget, "baseFixedWidth"));
     if (widget.property("baseHeight").isValid()) widget.setMinimumHeight(grown(widget, "baseHeight"));
     if (widget.property("baseFixedHeight").isValid()) widget.setFixedHeight(grown(widget, "baseFixedHeight"));
 }
