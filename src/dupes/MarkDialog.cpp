@@ -4,6 +4,7 @@
 #include "dupes/MarkingRules.h"
 #include "dupes/UpperCaseValidator.h"
 #include "theme/Announcement.h"
+#include "theme/DialogFrame.h"
 #include "ui_MarkDialog.h"
 
 #include <QFileDialog>
@@ -58,7 +59,12 @@ QString previewText(const MarkPreview& preview) {
     if (preview.total == 0) return QStringLiteral("No tracks to mark");
     const QString counts = QStringLiteral(" %1 of %2").arg(preview.marked).arg(preview.total);
     const QString none = preview.matches ? QString() : QStringLiteral("No track matches. ");
-    return none + (preview.inForce ? QStringLiteral("Marked") : QStringLiteral("Would mark")) + counts;
+    if (preview.inForce) return none + QStringLiteral("Marked") + counts;
+    const QString lost = preview.byHand == 0 ? QString()
+                         : preview.byHand == 1
+                             ? QStringLiteral(",\nreplaces 1 mark made by hand")
+                             : QStringLiteral(",\nreplaces %1 marks made by hand").arg(preview.byHand);
+    return none + QStringLiteral("Would mark") + counts + lost;
 }
 
 QString helperText(MarkType markType, bool exceptOne) {
@@ -71,7 +77,7 @@ QString helperText(MarkType markType, bool exceptOne) {
 } // namespace
 
 MarkDialog::MarkDialog(QWidget* parent)
-    : QDialog(parent)
+    : QDialog(parent, dialogFrame(Qt::Dialog))
     , m_ui(std::make_unique<Ui::MarkDialog>()) {
     m_ui->setupUi(this);
     for (const auto& [field, radio, combo] : fieldControls) {

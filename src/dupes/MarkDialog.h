@@ -23,6 +23,7 @@ struct MarkPreview {
     int marked = 0;       ///< tracks that the choice marks
     int total = 0;        ///< tracks in the results
     bool inForce = false; ///< the present marks are already these
+    int byHand = 0;       ///< marks made by hand, which the choice replaces
     bool matches = true;  ///< some track is of the kind, or in the folder, that the choice names
 
     bool operator==(const MarkPreview&) const = default;

@@ -18,6 +18,25 @@ MarkVerdict MarkVerdicts::of(std::size_t row) {
     return {true, reason(row)};
 }
 
+std::string MarkVerdicts::reasonToKeep(std::size_t row) {
+    if (of(row).checked) return {};
+    if (row != m_marks.kept) return "kept: the rule has nothing against it";
+    for (std::size_t other = m_group.first; other < m_group.end; ++other)
+        if (other != row && m_losers.checked.at(other - m_group.first) && !m_rows.at(other)->isdead)
+            return valuesAgainst(other);
+    return "kept: one copy stays";
+}
+
+/// Of the kept copy against another one, which loses: the values in the reason of that one change places.
+std::string MarkVerdicts::valuesAgainst(std::size_t other) const {
+    const TrackRecord& kept = *m_rows.at(m_marks.kept);
+    const std::string swapped =
+        m_rule.words.reason(m_rule.words, {kept, *m_rows.at(other), m_choice.text, true});
+    const std::size_t values = swapped.rfind(": ");
+    return values == std::string::npos ? "kept: the other copies go by the rule"
+                                       : "kept" + swapped.substr(values);
+}
+
 void MarkVerdicts::evaluateGroupOf(std::size_t row) {
     m_group = groupAt(m_rows, row);
     m_marks = m_rule.walks.evaluate(m_rows, m_group.first, m_group.end, m_choice);

@@ -19,10 +19,14 @@ class MarkVerdicts {
     MarkVerdicts(const TrackRows& rows, MarkChoice choice);
 
     MarkVerdict of(std::size_t row);
+    /// Why a row stays, "kept: 320 against 128", by the values that the rule compares; empty for a row that
+    /// the rule checks.
+    std::string reasonToKeep(std::size_t row);
 
   private:
     void evaluateGroupOf(std::size_t row);
     std::string reason(std::size_t row) const;
+    std::string valuesAgainst(std::size_t other) const;
 
     const TrackRows& m_rows;
     MarkChoice m_choice;

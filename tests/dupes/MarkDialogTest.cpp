@@ -203,6 +203,10 @@ TEST_F(MarkDialogTest, ShowsWhatTheChoiceWouldDo) {
     dialog.setPreview({.marked = 37, .total = 81, .inForce = false});
     EXPECT_EQ(line.text(), QStringLiteral("Would mark 37 of 81"));
     EXPECT_EQ(test::accessibleName(line), QStringLiteral("Would mark 37 of 81"));
+    dialog.setPreview({.marked = 37, .total = 81, .inForce = false, .byHand = 7});
+    EXPECT_EQ(line.text(), QStringLiteral("Would mark 37 of 81,\nreplaces 7 marks made by hand"));
+    dialog.setPreview({.marked = 37, .total = 81, .inForce = false, .byHand = 1});
+    EXPECT_EQ(line.text(), QStringLiteral("Would mark 37 of 81,\nreplaces 1 mark made by hand"));
     dialog.setPreview({.marked = 37, .total = 81, .inForce = true});
     EXPECT_EQ(line.text(), QStringLiteral("Marked 37 of 81"));
     dialog.setPreview({.marked = 37, .total = 81, .inForce = false, .matches = false});
