@@ -3,6 +3,7 @@
 
 #include "platform/OwnDescriptor.h"
 
+#include <QDir>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -11,7 +12,9 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
+#include <filesystem>
 
 namespace songsweep {
 
@@ -48,6 +51,23 @@ std::optional<std::string> documentsFolder() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (folder.isEmpty()) return std::nullopt;
     return folder.toStdString();
+}
+
+std::string statesFolder() {
+    const char* const given = std::getenv("XDG_STATE_HOME");
+    if (given != nullptr && *given == '/') return given;
+    return QDir::homePath().toStdString() + "/.local/state";
+}
+
+std::optional<std::string> logFolder(const std::optional<std::string>& documents, const std::string& states) {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    if (documents && fs::is_directory(*documents, error)) return documents;
+    if (states.empty()) return std::nullopt;
+    const std::string own = states + "/songsweep";
+    fs::create_directories(own, error);
+    if (!fs::is_directory(own, error)) return std::nullopt;
+    return own;
 }
 
 bool redirectStandardError(const std::optional<std::string>& folder, Log& log, int descriptor) {

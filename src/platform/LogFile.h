@@ -13,6 +13,12 @@ namespace songsweep {
 /// The user's Documents folder; nothing where there is none.
 std::optional<std::string> documentsFolder();
 
+/// The folder that the log goes to: the Documents folder where it exists, else the program's own among the
+/// desktop's states, which is made. Nothing where there is neither.
+std::optional<std::string> logFolder(const std::optional<std::string>& documents, const std::string& states);
+/// The folder of the desktop's states: "$XDG_STATE_HOME", or ".local/state" in the home folder.
+std::string statesFolder();
+
 /// Sends standard error to "songsweep-log.txt" in the folder, emptied, for the rest of the process.
 ///
 /// True on success. The log is told the file's path while its lines still go to the console, and why it
