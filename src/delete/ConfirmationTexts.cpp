@@ -3,13 +3,20 @@
 
 #include "library/ValueFormats.h"
 
+#include <QLocale>
+
 namespace songsweep::confirmationTexts {
 
 namespace {
 
+int songsLost(const DeleteConfirmationFacts& facts, FilesToTrash files) {
+    if (files == FilesToTrash::none || facts.filesPending) return facts.groupsLosingEveryCopy;
+    return files == FilesToTrash::all ? facts.groupsLosingSharedFiles : facts.groupsLosingEveryFile;
+}
+
 /// One of two wordings by the count; "%1" in the second is the count.
 QString worded(int count, const QString& one, const QString& many) {
-    return count == 1 ? one : QString(many).replace(QStringLiteral("%1"), QString::number(count));
+    return count == 1 ? one : QString(many).replace(QStringLiteral("%1"), QLocale().toString(count));
 }
 
 } // namespace
@@ -85,9 +92,8 @@ QString refusedLine(const DeleteConfirmationFacts& facts) {
                   QStringLiteral("%1 files cannot go to the Trash, and are kept."));
 }
 
-QString warning(const DeleteConfirmationFacts& facts, bool withFiles) {
-    const int lost =
-        withFiles && !facts.filesPending ? facts.groupsLosingEveryFile : facts.groupsLosingEveryCopy;
+QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files) {
+    const int lost = songsLost(facts, files);
     if (lost == 0 && !facts.libraryObstacle.empty()) return QStringLiteral("The library cannot be written.");
     if (lost == 0) return {};
     return worded(lost, QStringLiteral("No copy of 1 song will be left."),

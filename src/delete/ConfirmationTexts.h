@@ -28,8 +28,11 @@ QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString missingLine(const DeleteConfirmationFacts& facts);
 QString refusedLine(const DeleteConfirmationFacts& facts);
-/// What will be lost for good, or else what is in the way of all; `withFiles` is the user's choice.
-QString warning(const DeleteConfirmationFacts& facts, bool withFiles);
+/// Which files the user chose to trash.
+enum class FilesToTrash { none, unshared, all };
+
+/// What will be lost for good, or else what is in the way of all.
+QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files);
 
 /// Bytes in megabytes, written as sizes are in the table: one tenth above the truncated value.
 QString megabytes(std::int64_t bytes);

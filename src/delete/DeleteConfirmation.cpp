@@ -3,9 +3,11 @@
 
 #include "delete/ConfirmationTexts.h"
 #include "theme/Announcement.h"
+#include "theme/DialogFrame.h"
 #include "ui_DeleteConfirmation.h"
 
 #include <QPushButton>
+#include <QToolButton>
 
 namespace songsweep {
 
@@ -21,12 +23,13 @@ void showLine(Control* control, const QString& text) {
 } // namespace
 
 DeleteConfirmation::DeleteConfirmation(QWidget* parent)
-    : QDialog(parent, Qt::Sheet)
+    : QDialog(parent, dialogFrame(Qt::Sheet))
     , m_ui(std::make_unique<Ui::DeleteConfirmation>()) {
     m_ui->setupUi(this);
     setUpButtons();
     connect(m_ui->delConfFileCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
-    connect(m_ui->delConfSharedCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
+    connect(m_ui->delConfTrashSharedCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
+    connect(m_ui->delConfOptionsButton, &QToolButton::toggled, this, &DeleteConfirmation::showOptions);
     setFacts({});
 }
 
@@ -34,7 +37,8 @@ DeleteConfirmation::~DeleteConfirmation() = default;
 
 void DeleteConfirmation::setFacts(const DeleteConfirmationFacts& facts) {
     m_facts = facts;
-    m_ui->delConfSharedCK->setChecked(true);
+    m_ui->delConfTrashSharedCK->setChecked(false);
+    m_ui->delConfOptionsButton->setChecked(false);
     updateHeading();
     updateLines();
 }
@@ -47,7 +51,13 @@ void DeleteConfirmation::updateFacts(const DeleteConfirmationFacts& facts) {
 
 bool DeleteConfirmation::deletesFiles() const { return m_ui->delConfFileCK->isChecked(); }
 
-bool DeleteConfirmation::leavesSharedFiles() const { return m_ui->delConfSharedCK->isChecked(); }
+bool DeleteConfirmation::leavesSharedFiles() const {
+    return !hasSharedOption() || !m_ui->delConfTrashSharedCK->isChecked();
+}
+
+bool DeleteConfirmation::hasSharedOption() const {
+    return deletesFiles() && m_facts.sharedFiles > 0 && !m_facts.filesPending && !m_facts.libraryUnknown;
+}
 
 void DeleteConfirmation::showEvent(QShowEvent* event) {
     m_cancelButton->setFocus();
@@ -84,8 +94,22 @@ void DeleteConfirmation::updateHeading() {
 
 void DeleteConfirmation::updateLines() {
     m_deleteButton->setEnabled(!deletesFiles() || !m_facts.filesPending);
-    showWarning(confirmationTexts::warning(m_facts, deletesFiles()));
+    using confirmationTexts::FilesToTrash;
+    const FilesToTrash withFiles = leavesSharedFiles() ? FilesToTrash::unshared : FilesToTrash::all;
+    showWarning(confirmationTexts::warning(m_facts, deletesFiles() ? withFiles : FilesToTrash::none));
     showLines(lines());
+    showOptions();
+}
+
+void DeleteConfirmation::showOptions() {
+    const bool isOpen = m_ui->delConfOptionsButton->isChecked();
+    // So that nothing moves when the box of the files is switched.
+    QSizePolicy policy = m_ui->delConfOptionsButton->sizePolicy();
+    policy.setRetainSizeWhenHidden(m_facts.sharedFiles > 0);
+    m_ui->delConfOptionsButton->setSizePolicy(policy);
+    m_ui->delConfOptionsButton->setVisible(hasSharedOption());
+    m_ui->delConfOptionsButton->setArrowType(isOpen ? Qt::DownArrow : Qt::RightArrow);
+    m_ui->delConfTrashSharedCK->setVisible(hasSharedOption() && isOpen);
 }
 
 DeleteConfirmation::Lines DeleteConfirmation::lines() const {
@@ -102,7 +126,7 @@ DeleteConfirmation::Lines DeleteConfirmation::lines() const {
 
 void DeleteConfirmation::showLines(const Lines& lines) {
     showLine(m_ui->delConfTrashLabel, lines.trash);
-    showLine(m_ui->delConfSharedCK, lines.shared);
+    showLine(m_ui->delConfSharedLabel, lines.shared);
     showLine(m_ui->delConfMissingLabel, lines.missing);
     showLine(m_ui->delConfRefusedLabel, lines.refused);
     m_ui->delConfRefusedLabel->setToolTip(QString::fromStdString(m_facts.refusal));

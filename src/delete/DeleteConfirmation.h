@@ -18,7 +18,8 @@ class DeleteConfirmation;
 /// The sheet that asks before tracks are deleted.
 ///
 /// Return and Escape both cancel; deleting needs a deliberate key or click. Whether files go to the Trash is
-/// kept from one confirmation to the next; leaving files that other tracks use is on again each time. The
+/// kept from one confirmation to the next; files that other tracks use are left each time again, unless
+/// somebody opens the options and says otherwise. The
 /// room of the lines about files and of the warning is reserved, so that nothing moves when the box is
 /// switched or when the files have been looked at; until then files cannot be deleted, but tracks can. Main
 /// thread.
@@ -35,6 +36,8 @@ class DeleteConfirmation : public QDialog {
     void updateFacts(const DeleteConfirmationFacts& facts);
 
     bool deletesFiles() const;
+    /// Whether files that tracks which stay use too are kept, as they are until somebody looks for the
+    /// option.
     bool leavesSharedFiles() const;
 
   Q_SIGNALS:
@@ -48,6 +51,8 @@ class DeleteConfirmation : public QDialog {
     void setUpButtons();
     void updateHeading();
     void updateLines();
+    void showOptions();
+    bool hasSharedOption() const;
     void showWarning(const QString& text);
     struct Lines {
         QString trash = {};

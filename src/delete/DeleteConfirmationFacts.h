@@ -20,6 +20,7 @@ struct DeleteConfirmationFacts {
     std::string libraryObstacle = {}; ///< why the library will not be written; "" where nothing is in the way
     int groupsLosingEveryCopy = 0;    ///< by what the search saw
     int groupsLosingEveryFile = 0;    ///< groups of which no copy is left if files go, too
+    int groupsLosingSharedFiles = 0;  ///< the same if files shared with tracks that stay go, too
     bool embeddedLibrary = false;     ///< the library is a file that this program itself writes
     bool libraryUnknown = false;      ///< the other tracks could not be looked at, so that no file goes
     bool filesPending = false;        ///< the files are still looked at: the file counts say nothing yet

@@ -75,7 +75,7 @@ class Survey {
     }
 
     void lookAtCopiesThatStay(DeleteConfirmationFacts& facts) {
-        facts.groupsLosingEveryFile = 0;
+        facts.groupsLosingEveryFile = facts.groupsLosingSharedFiles = 0;
         std::size_t marked = 0;
         std::size_t other = 0;
         for (const SurveyedRows::Song& song : m_rows.songs) {
@@ -83,6 +83,7 @@ class Survey {
             const bool isLost = losesFile ? !anyCopyStays(other, song.othersEnd) : song.losesEveryCopy;
             if (losesFile && !isLost) m_plan.keptSongs.insert(song.gid);
             facts.groupsLosingEveryFile += isLost ? 1 : 0;
+            facts.groupsLosingSharedFiles += isLost || losesSharedFiles(song, losesFile, other) ? 1 : 0;
             marked = song.markedEnd;
             other = song.othersEnd;
         }
@@ -115,6 +116,20 @@ class Survey {
             return !m_isStopped() && isWorkingCopy(m_sources.files, copy.location);
         };
         return std::any_of(at(m_rows.others, first), at(m_rows.others, end), stays);
+    }
+
+    /// Whether a song loses all that is left of it once files go that its tracks share with marked ones. It
+    /// may be one of which nothing is marked.
+    bool losesSharedFiles(const SurveyedRows::Song& song, bool losesFile, std::size_t firstOther) const {
+        if (m_plan.shared.empty() || m_plan.libraryUnknown) return false;
+        bool touches = losesFile;
+        for (std::size_t place = firstOther; place < song.othersEnd && !m_isStopped(); ++place) {
+            const Text location = m_rows.others[place].location;
+            const bool isShared = !m_markedFiles.filesAt(location.string()).empty();
+            touches = touches || isShared;
+            if (!isShared && isWorkingCopy(m_sources.files, location)) return false;
+        }
+        return touches;
     }
 
     /// False where the survey is stopped.

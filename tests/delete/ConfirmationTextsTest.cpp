@@ -31,7 +31,8 @@ TEST(ConfirmationTexts, AreWordedForOne) {
     EXPECT_EQ(texts::sharedLine(one, true),
               QStringLiteral("1 file is shared with a track that stays, and is kept."));
     EXPECT_EQ(texts::missingLine(one), QStringLiteral("1 file is missing already."));
-    EXPECT_EQ(texts::warning(one, false), QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(one, texts::FilesToTrash::none),
+              QStringLiteral("No copy of 1 song will be left."));
 }
 
 TEST(ConfirmationTexts, AreWordedForMany) {
@@ -48,7 +49,8 @@ TEST(ConfirmationTexts, AreWordedForMany) {
     EXPECT_EQ(texts::sharedLine(two, true),
               QStringLiteral("2 files are shared with tracks that stay, and are kept."));
     EXPECT_EQ(texts::missingLine(two), QStringLiteral("2 files are missing already."));
-    EXPECT_EQ(texts::warning(two, false), QStringLiteral("No copy of 2 songs will be left."));
+    EXPECT_EQ(texts::warning(two, texts::FilesToTrash::none),
+              QStringLiteral("No copy of 2 songs will be left."));
 }
 
 TEST(ConfirmationTexts, SayNothingWhereThereIsNothingToCount) {
@@ -59,7 +61,7 @@ TEST(ConfirmationTexts, SayNothingWhereThereIsNothingToCount) {
     EXPECT_EQ(texts::trashLine(none, true), QString());
     EXPECT_EQ(texts::sharedLine(none, true), QString());
     EXPECT_EQ(texts::missingLine(none), QString());
-    EXPECT_EQ(texts::warning(none, false), QString());
+    EXPECT_EQ(texts::warning(none, texts::FilesToTrash::none), QString());
 }
 
 TEST(ConfirmationTexts, SpeakOfTheLibraryAndItsCopyWhereItIsEmbedded) {
@@ -81,10 +83,13 @@ TEST(ConfirmationTexts, AddSharedFilesToTheTrashWhenTheyAreNotLeft) {
 
 TEST(ConfirmationTexts, WarnOfTheSongsThatLoseEveryFileWhereFilesGo) {
     DeleteConfirmationFacts facts = {.groupsLosingEveryCopy = 1, .groupsLosingEveryFile = 3};
-    EXPECT_EQ(texts::warning(facts, false), QStringLiteral("No copy of 1 song will be left."));
-    EXPECT_EQ(texts::warning(facts, true), QStringLiteral("No copy of 3 songs will be left."));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+              QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::unshared),
+              QStringLiteral("No copy of 3 songs will be left."));
     facts.filesPending = true;
-    EXPECT_EQ(texts::warning(facts, true), QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::unshared),
+              QStringLiteral("No copy of 1 song will be left."));
 }
 
 TEST(ConfirmationTexts, TellOfFilesThatTheTrashRefuses) {
@@ -97,9 +102,11 @@ TEST(ConfirmationTexts, TellOfFilesThatTheTrashRefuses) {
 
 TEST(ConfirmationTexts, WarnOfTheLibraryUnlessThereIsWorse) {
     DeleteConfirmationFacts facts = {.libraryObstacle = "cannot write in /music"};
-    EXPECT_EQ(texts::warning(facts, false), QStringLiteral("The library cannot be written."));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+              QStringLiteral("The library cannot be written."));
     facts.groupsLosingEveryCopy = 1;
-    EXPECT_EQ(texts::warning(facts, false), QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+              QStringLiteral("No copy of 1 song will be left."));
 }
 
 TEST(ConfirmationTexts, WriteMegabytesAsTheSizeColumnDoes) {

@@ -25,6 +25,21 @@ TEST_F(DeleteConfirmationFactsTest, TheFactsCountFilesBytesAndWhatIsShared) {
     EXPECT_EQ(facts({{"X", path("shared9")}}), expected);
 }
 
+TEST_F(DeleteConfirmationFactsTest, SongsThatLoseTheirFileWithTheSharedOnesAreCounted) {
+    addFile("A", true, "shared.mp3");
+    add(m_list.rows.back()->gid, "B", false, path("shared.mp3"));
+    add(7, "C", false, path("shared.mp3")); // of a song of which nothing is marked
+    add(7, "D", false, path("gone"));
+    add(8, "E", false, path("shared.mp3"));
+    addFile("F", false, "own.mp3");
+    m_list.rows.back()->gid = 8;
+    DeleteConfirmationFacts found;
+    ASSERT_TRUE(
+        surveyFiles(SurveyedRows(m_list.rows), {m_files, libraryWith({})}, found, [] { return false; }));
+    EXPECT_EQ(found.groupsLosingEveryFile, 0);
+    EXPECT_EQ(found.groupsLosingSharedFiles, 2);
+}
+
 TEST_F(DeleteConfirmationFactsTest, TheNamesOfOneFileCountItsBytesOnce) {
     addFile("A", true, "four");
     std::filesystem::create_hard_link(path("four"), path("other name"));

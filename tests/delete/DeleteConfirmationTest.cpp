@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,7 @@ DeleteConfirmationFacts threeTracks() {
 QStringList visibleLines(const DeleteConfirmation& sheet) {
     QStringList lines;
     const auto& trash = child<QLabel>(sheet, "delConfTrashLabel");
-    const auto& shared = child<QCheckBox>(sheet, "delConfSharedCK");
+    const auto& shared = child<QLabel>(sheet, "delConfSharedLabel");
     const auto& missing = child<QLabel>(sheet, "delConfMissingLabel");
     if (!trash.isHidden()) lines.append(trash.text());
     if (!shared.isHidden()) lines.append(shared.text());
@@ -41,6 +42,11 @@ QStringList visibleLines(const DeleteConfirmation& sheet) {
     const auto& refused = child<QLabel>(sheet, "delConfRefusedLabel");
     if (!refused.isHidden()) lines.append(refused.text());
     return lines;
+}
+
+void trashSharedFiles(const DeleteConfirmation& sheet) {
+    child<QToolButton>(sheet, "delConfOptionsButton").click();
+    child<QCheckBox>(sheet, "delConfTrashSharedCK").click();
 }
 
 TEST_F(DeleteConfirmationTest, StartsWithTheFilesLeftWhereTheyAre) {
@@ -75,7 +81,9 @@ TEST_F(DeleteConfirmationTest, CountsSharedFilesWithTheOthersOnceTheyAreNotLeft)
     sheet.setFacts(threeTracks());
     child<QCheckBox>(sheet, "delConfFileCK").click();
     EXPECT_TRUE(sheet.leavesSharedFiles());
-    child<QCheckBox>(sheet, "delConfSharedCK").click();
+    EXPECT_TRUE(child<QCheckBox>(sheet, "delConfTrashSharedCK").isHidden())
+        << "nobody trashes them by accident";
+    trashSharedFiles(sheet);
     EXPECT_FALSE(sheet.leavesSharedFiles());
     EXPECT_EQ(visibleLines(sheet),
               QStringList({QStringLiteral("3 files, 9.6 MB, go to the Trash."),
@@ -87,10 +95,25 @@ TEST_F(DeleteConfirmationTest, KeepsTheFileOptionButOffersToLeaveSharedFilesEach
     DeleteConfirmation sheet;
     sheet.setFacts(threeTracks());
     child<QCheckBox>(sheet, "delConfFileCK").click();
-    child<QCheckBox>(sheet, "delConfSharedCK").click();
+    trashSharedFiles(sheet);
     sheet.setFacts(threeTracks());
     EXPECT_TRUE(sheet.deletesFiles());
     EXPECT_TRUE(sheet.leavesSharedFiles());
+}
+
+TEST_F(DeleteConfirmationTest, WarnsOfSongsThatLoseTheirFileWithTheSharedOnes) {
+    DeleteConfirmationFacts facts = threeTracks();
+    facts.groupsLosingSharedFiles = 2;
+    DeleteConfirmation sheet;
+    sheet.setFacts(facts);
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_EQ(child<QLabel>(sheet, "delConfWarningLabel").text(), QString());
+    trashSharedFiles(sheet);
+    EXPECT_EQ(child<QLabel>(sheet, "delConfWarningLabel").text(),
+              QStringLiteral("No copy of 2 songs will be left."));
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    EXPECT_TRUE(sheet.leavesSharedFiles()) << "no file goes at all";
+    EXPECT_TRUE(child<QToolButton>(sheet, "delConfOptionsButton").isHidden());
 }
 
 TEST_F(DeleteConfirmationTest, DoesNotMoveWhenTheFileOptionIsSwitched) {
@@ -166,11 +189,13 @@ TEST_F(DeleteConfirmationTest, KeepsFocusAndPlaceWhenTheFilesWereLookedAt) {
     sheet.setFacts(pendingTracks());
     child<QCheckBox>(sheet, "delConfFileCK").click();
     test::open(sheet);
-    const QSize before = sheet.size();
+    const QPoint place = sheet.pos();
+    const int width = sheet.width();
     child<QCheckBox>(sheet, "delConfFileCK").setFocus();
     sheet.updateFacts(threeTracks());
     QCoreApplication::sendPostedEvents();
-    EXPECT_EQ(sheet.size(), before);
+    EXPECT_EQ(sheet.pos(), place);
+    EXPECT_EQ(sheet.width(), width);
     EXPECT_EQ(sheet.focusWidget(), &child<QCheckBox>(sheet, "delConfFileCK"));
     EXPECT_EQ(test::filledButtons(sheet), QStringList(QStringLiteral("&Cancel")));
 }
@@ -307,9 +332,11 @@ TEST_F(DeleteConfirmationTest, VisitsTheOptionsAndThenTheButtons) {
     DeleteConfirmation sheet;
     sheet.setFacts(threeTracks());
     child<QCheckBox>(sheet, "delConfFileCK").setChecked(true);
+    child<QToolButton>(sheet, "delConfOptionsButton").click();
     test::open(sheet);
     const QStringList expected{QStringLiteral("delConfCancelButton"), QStringLiteral("delConfOkButton"),
-                               QStringLiteral("delConfFileCK"), QStringLiteral("delConfSharedCK")};
+                               QStringLiteral("delConfFileCK"), QStringLiteral("delConfOptionsButton"),
+                               QStringLiteral("delConfTrashSharedCK")};
     EXPECT_EQ(test::tabOrder(sheet), expected);
 }
 

@@ -35,7 +35,7 @@ class DeletePlanFixture : public DeleteFixture {
         DeleteConfirmationFacts facts;
         const auto isStopped = [] { return false; };
         EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), {m_files, libraryWith(others)}, facts, isStopped));
-        facts.groupsLosingEveryFile = 0;
+        facts.groupsLosingEveryFile = facts.groupsLosingSharedFiles = 0;
         return facts;
     }
 };

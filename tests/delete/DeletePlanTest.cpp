@@ -163,8 +163,10 @@ TEST_F(DeletePlanTest, ALibraryThatCannotBeLookedAtKeepsEveryFileWhateverIsWante
         surveyFiles(SurveyedRows(m_list.rows), {m_files, [](const LocationVisitor&) { return false; }}, facts,
                     [] { return false; });
     ASSERT_TRUE(made);
-    EXPECT_EQ(facts, (DeleteConfirmationFacts{
-                         .missingFiles = 1, .groupsLosingEveryFile = 1, .libraryUnknown = true}));
+    EXPECT_EQ(facts, (DeleteConfirmationFacts{.missingFiles = 1,
+                                              .groupsLosingEveryFile = 1,
+                                              .groupsLosingSharedFiles = 1,
+                                              .libraryUnknown = true}));
     made->giveUpSharedFiles();
     EXPECT_THAT(made->shared, UnorderedElementsAre(&a));
 }
