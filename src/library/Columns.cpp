@@ -24,6 +24,8 @@ std::string_view yesOrNo(const TrackRecord& record, std::string& /*made*/) {
     return record.hasartwork ? "Yes" : "No";
 }
 
+std::string_view fileOf(const TrackRecord& record, std::string& /*made*/) { return fileName(record); }
+
 /// What a column puts into a row's key, behind the group's place.
 using AddValue = void(SortKey& key, const TrackRecord& record);
 
@@ -41,6 +43,8 @@ template <Text TrackRecord::*field>
 void addInteger(SortKey& key, const TrackRecord& record) {
     key.number(integerValue(record.*field));
 }
+
+void addFileName(SortKey& key, const TrackRecord& record) { key.text(fileName(record)); }
 
 void addNothing(SortKey& /*key*/, const TrackRecord& /*record*/) {}
 
@@ -86,9 +90,10 @@ constexpr std::array<ColumnInfo, allColumns.size()> columns = {{
      textOf<&TrackRecord::playcount>, addKeys<addInteger<&TrackRecord::playcount>>},
     {Column::dateadded, "dateadded", "Date added", "Date added", "", text, 128, left, end, made<dateadded>,
      addKeys<addNumber<&TrackRecord::dateaddedv>>},
-    {Column::hasartwork, "hasartwork", "Artwork", "Artwork", "", text, 64, centre, end, yesOrNo,
+    {Column::hasartwork, "hasartwork", "Artwork", "Artwork", "", text, 72, centre, end, yesOrNo,
      addKeys<addNumber<&TrackRecord::hasartwork>>},
-    {Column::location, "location", "Location", "Location", "", text, 360, left, middle,
+    {Column::file, "file", "File", "File", "", text, 180, left, middle, fileOf, addKeys<addFileName>},
+    {Column::location, "location", "Location", "Location", "", text, 300, left, middle,
      textOf<&TrackRecord::location>, addKeys<addText<&TrackRecord::location>>},
 }};
 
@@ -101,6 +106,17 @@ constexpr bool rowsStandAtTheirColumns() {
 static_assert(rowsStandAtTheirColumns());
 
 } // namespace
+
+std::string_view fileName(const TrackRecord& record) {
+    const std::string_view location = record.location;
+    return location.substr(location.rfind('/') + 1);
+}
+
+std::string_view fileFolder(const TrackRecord& record) {
+    const std::string_view location = record.location;
+    const std::size_t end = location.rfind('/');
+    return end == std::string_view::npos ? std::string_view() : location.substr(0, end);
+}
 
 const ColumnInfo& columnInfo(Column column) { return columns.at(static_cast<std::size_t>(column)); }
 

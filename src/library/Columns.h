@@ -25,13 +25,14 @@ enum class Column {
     playcount,
     dateadded,
     hasartwork,
+    file,
     location,
 };
 
 inline constexpr std::array allColumns = {
-    Column::checkbox,  Column::dtrack,     Column::name,       Column::artist, Column::album,
-    Column::time,      Column::bitrate,    Column::sizestring, Column::rating, Column::playcount,
-    Column::dateadded, Column::hasartwork, Column::location,
+    Column::checkbox,  Column::dtrack,     Column::name,       Column::artist,   Column::album,
+    Column::time,      Column::bitrate,    Column::sizestring, Column::rating,   Column::playcount,
+    Column::dateadded, Column::hasartwork, Column::file,       Column::location,
 };
 
 /// What draws the cells of a column.
@@ -47,7 +48,7 @@ enum class Elision { end, middle };
 /// and the command line read. A new column is a new row.
 struct ColumnInfo {
     Column column;
-    std::string_view identifier;  ///< the record's key that it shows; "dtrack" is the one that is no key
+    std::string_view identifier;  ///< the record's key that it shows; "dtrack" and "file" are no keys
     std::string_view title;       ///< in the header; empty for the two narrow columns
     std::string_view spokenTitle; ///< what a screen reader calls it
     std::string_view toolTip;     ///< of the header; empty for none
@@ -65,6 +66,12 @@ struct ColumnInfo {
 };
 
 const ColumnInfo& columnInfo(Column column);
+
+/// The name of the record's file with its ending, and the folder in which it lies; all of a location without
+/// a
+/// "/" is a name.
+std::string_view fileName(const TrackRecord& record);
+std::string_view fileFolder(const TrackRecord& record);
 
 inline std::string_view identifier(Column column) { return columnInfo(column).identifier; }
 

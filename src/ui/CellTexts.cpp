@@ -25,6 +25,10 @@ QString displayText(const TrackRecord& record, Column column) {
     return fromText(info.text(record, made));
 }
 
+QString drawnText(const TrackRecord& record, Column column) {
+    return column == Column::location ? fromText(fileFolder(record)) : displayText(record, column);
+}
+
 QString spokenText(const TrackRecord& record, Column column) {
     switch (column) {
     case Column::checkbox:

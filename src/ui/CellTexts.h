@@ -14,6 +14,9 @@ namespace songsweep {
 /// What stands in a cell of text; empty for the columns that are drawn (check box, missing file, rating).
 QString displayText(const TrackRecord& record, Column column);
 
+/// What is drawn of it: of a location the folder, since its name stands in a column of its own.
+QString drawnText(const TrackRecord& record, Column column);
+
 /// What a screen reader says for a cell, "Title: value": "Bit rate: 320", "Rating: 3 of 5 stars" or "Not
 /// rated", "File missing" or "File present", "Marked" or "Not marked".
 QString spokenText(const TrackRecord& record, Column column);

@@ -61,8 +61,13 @@ class SWTableView : public QTableView {
     void didClickTableColumn(songsweep::Column column);
 
   protected:
-    /// The space bar is an event of its own; every other key goes to the base class.
+    /// The space bar is an event of its own, Ctrl with Up and Down goes by groups; every other key goes to
+    /// the base class.
     void keyDown(QKeyEvent* event);
+
+    /// Home and End go to the first and the last row, and Left and Right nowhere, since rows are what is
+    /// current here and not cells.
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -89,6 +94,8 @@ class SWTableView : public QTableView {
     void giveLocationTheRest();
     void drawCurrentRow();
     void updateRow(int row);
+    int rowOfNeighbouringGroup(int key) const;
+    void goToGroup(const QKeyEvent& event);
     QMenu* disabledCopy();
     QPoint keyboardMenuPosition() const;
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "library/Groups.h"
 #include "ui/ColumnLook.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
@@ -65,7 +66,54 @@ void SWTableView::keyDown(QKeyEvent* event) {
         Q_EMIT tableviewSpacebar();
         return;
     }
+    const bool isUpOrDown = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (isUpOrDown && event->modifiers().testFlag(Qt::ControlModifier)) return goToGroup(*event);
     QTableView::keyPressEvent(event);
+}
+
+/// The first row of the group before or behind the current row's; from inside a group, up is its own first.
+int SWTableView::rowOfNeighbouringGroup(int key) const {
+    const std::vector<TrackRecord*>& rows = m_model->rows();
+    auto row = static_cast<std::size_t>(std::max(currentIndex().row(), 0));
+    if (key == Qt::Key_Down) {
+        const std::size_t next = groupEnd(rows, row);
+        return static_cast<int>(next < rows.size() ? next : row);
+    }
+    if (row > 0) --row; // the first row of a group goes on to the one before
+    while (row > 0 && rows[row - 1]->gid == rows[row]->gid)
+        --row;
+    return static_cast<int>(row);
+}
+
+void SWTableView::goToGroup(const QKeyEvent& event) {
+    if (m_model->rows().empty()) return;
+    const QModelIndex target = m_model->index(rowOfNeighbouringGroup(event.key()), sectionOf(Column::name));
+    if (!event.modifiers().testFlag(Qt::ShiftModifier)) {
+        // The view's own command would toggle the row, as Ctrl is held.
+        const auto command = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+        return selectionModel()->setCurrentIndex(target, command);
+    }
+    const int from = currentIndex().row();
+    QItemSelection rows(m_model->index(std::min(from, target.row()), 0),
+                        m_model->index(std::max(from, target.row()), columnCount - 1));
+    selectionModel()->select(rows, QItemSelectionModel::Select);
+    selectionModel()->setCurrentIndex(target, QItemSelectionModel::NoUpdate);
+}
+
+QModelIndex SWTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    const int rows = m_model->rowCount();
+    const int column = currentIndex().isValid() ? currentIndex().column() : sectionOf(Column::name);
+    switch (action) {
+    case MoveHome:
+        return m_model->index(0, column);
+    case MoveEnd:
+        return m_model->index(rows - 1, column);
+    case MoveLeft:
+    case MoveRight:
+        return currentIndex();
+    default:
+        return QTableView::moveCursor(action, modifiers);
+    }
 }
 
 void SWTableView::keyboardSearch(const QString& typed) {

@@ -42,7 +42,7 @@ void TextCell::drawInterior(QPainter& painter, const QStyleOptionViewItem& optio
     const ColumnLook& look = columnLook(column);
     const QRect rect = textRect(option.rect);
     const QFontMetrics& font = option.fontMetrics;
-    const QString whole = onOneLine(index.data(Qt::DisplayRole).toString());
+    const QString whole = onOneLine(index.data(TrackTableModel::DrawnRole).toString());
     const QString text = font.elidedText(whole, look.elision, rect.width());
 
     painter.setFont(option.font);

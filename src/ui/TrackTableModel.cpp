@@ -148,6 +148,8 @@ QVariant TrackTableModel::data(const QModelIndex& index, int role) const {
         return record.isdead;
     case StarsRole:
         return record.rating;
+    case DrawnRole:
+        return drawnText(record, column);
     default:
         return {};
     }

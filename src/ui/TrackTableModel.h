@@ -24,6 +24,7 @@ class TrackTableModel : public QAbstractTableModel {
         TintedRole = Qt::UserRole, ///< bool: the row lies on the tinted band
         MissingRole,               ///< bool: the file of the track is missing
         StarsRole,                 ///< int, 0 to 5
+        DrawnRole,                 ///< QString: what is drawn of a text, the folder of a location
     };
 
     /// What a reload found to be different.

@@ -281,11 +281,48 @@ TEST_F(SWTableViewTest, RowsAreTwentyFourPixelsHighAndMoreWhereTheFontNeedsIt) {
     EXPECT_EQ(view.rowHeight(0), view.fontMetrics().height() + 6);
 }
 
+TEST_F(SWTableViewTest, HomeAndEndGoToTheFirstAndTheLastRow) {
+    view.setCurrentIndex(cell(4, Column::album));
+    QTest::keyClick(&view, Qt::Key_End);
+    EXPECT_EQ(view.currentIndex(), cell(11, Column::album));
+    QTest::keyClick(&view, Qt::Key_Home);
+    EXPECT_EQ(view.currentIndex(), cell(0, Column::album));
+    EXPECT_EQ(view.selectedRows(), Rows{0});
+}
+
+TEST_F(SWTableViewTest, LeftAndRightDoNotDriftSideways) {
+    view.resize(500, 400);
+    view.setCurrentIndex(cell(4, Column::name));
+    for (int press = 0; press < 9; ++press)
+        QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(view.currentIndex(), cell(4, Column::name));
+    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+}
+
+/// The first rows of the sample's groups are 0, 2, 4, 7 and 9.
+TEST_F(SWTableViewTest, CtrlUpAndDownGoByGroups) {
+    view.setCurrentIndex(cell(0, Column::name));
+    std::vector<int> rows;
+    for (int press = 0; press < 5; ++press) {
+        QTest::keyClick(&view, Qt::Key_Down, Qt::ControlModifier);
+        rows.push_back(view.currentIndex().row());
+    }
+    EXPECT_EQ(rows, (Rows{2, 4, 7, 9, 9}));
+    view.setCurrentIndex(cell(11, Column::name));
+    QTest::keyClick(&view, Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(view.currentIndex().row(), 9) << "from inside a group to its first row";
+    QTest::keyClick(&view, Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(view.currentIndex().row(), 7);
+    EXPECT_EQ(view.selectedRows(), Rows{7});
+    QTest::keyClick(&view, Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(view.selectedRows(), (Rows{4, 5, 6, 7}));
+}
+
 TEST_F(SWTableViewTest, LocationTakesTheRestOfTheWidth) {
     const int location = static_cast<int>(Column::location);
     EXPECT_EQ(view.header().length(), view.viewport()->width());
     view.resize(900, 400);
-    EXPECT_GE(view.columnWidth(location), 360);
+    EXPECT_GE(view.columnWidth(location), 300);
     EXPECT_GT(view.header().length(), view.viewport()->width());
 }
 

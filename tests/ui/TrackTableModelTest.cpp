@@ -39,7 +39,7 @@ class TrackTableModelTest : public ::testing::Test {
 TEST_F(TrackTableModelTest, AnEmptyListHasNoRows) {
     model.reload({});
     EXPECT_EQ(model.rowCount(), 0);
-    EXPECT_EQ(model.columnCount(), 13);
+    EXPECT_EQ(model.columnCount(), 14);
     EXPECT_FALSE(model.index(0, 0).isValid());
 }
 
@@ -51,7 +51,12 @@ TEST_F(TrackTableModelTest, CellsShowTheValuesOfTheirKeys) {
     EXPECT_EQ(shown(model, 0, Column::sizestring), QStringLiteral("8.6 MB"));
     EXPECT_EQ(shown(model, 0, Column::playcount), QStringLiteral("57"));
     EXPECT_FALSE(shown(model, 0, Column::dateadded).isEmpty());
-    EXPECT_EQ(shown(model, 8, Column::location), QString::fromUtf8(list.rows[8]->location.c_str()));
+    const QString location = QString::fromUtf8(list.rows[8]->location.c_str());
+    EXPECT_EQ(shown(model, 8, Column::location), location);
+    const QString folder =
+        model.index(8, static_cast<int>(Column::location)).data(TrackTableModel::DrawnRole).toString();
+    EXPECT_EQ(folder + QLatin1Char('/') + shown(model, 8, Column::file), location);
+    EXPECT_FALSE(shown(model, 8, Column::file).contains(QLatin1Char('/')));
 }
 
 TEST_F(TrackTableModelTest, ArtworkIsYesOrNo) {

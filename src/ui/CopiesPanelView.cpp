@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "ui/CopiesPanelView.h"
+
+#include "theme/Metrics.h"
+#include "theme/ThemeColors.h"
+#include "ui/CellTexts.h"
+#include "ui/ColumnLook.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include <array>
+
+namespace songsweep {
+
+namespace {
+
+constexpr int panelHeight = 168;
+constexpr int copyWidth = 240;
+constexpr int valueHeight = 22;
+constexpr int markRow = 0;
+constexpr int firstValueRow = 1;
+
+constexpr std::array shownColumns = {
+    Column::file,      Column::name,      Column::artist,     Column::album,
+    Column::time,      Column::bitrate,   Column::sizestring, Column::rating,
+    Column::playcount, Column::dateadded, Column::hasartwork, Column::location,
+};
+
+QString valueOf(const TrackRecord& record, Column column) {
+    if (column == Column::rating) return record.rating > 0 ? QString::number(record.rating) : QString();
+    return drawnText(record, column);
+}
+
+/// Of each row whether the copies have not all the same there.
+template <class Copies>
+std::vector<bool> differingRows(const Copies& copies) {
+    std::vector<bool> differing(shownColumns.size(), false);
+    for (std::size_t row = 0; row < differing.size(); ++row)
+        for (const auto& copy : copies)
+            if (copy.values[static_cast<int>(row)] != copies.front().values[static_cast<int>(row)])
+                differing[row] = true;
+    return differing;
+}
+
+} // namespace
+
+CopiesPanelView::CopiesPanelView(QWidget* parent)
+    : QTableWidget(parent) {
+    setObjectName(QStringLiteral("copiesPanel"));
+    setAccessibleName(QStringLiteral("Copies of the song"));
+    setFrameShape(QFrame::NoFrame);
+    setShowGrid(false);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
+    horizontalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setUpRows();
+    applyMetrics();
+    connect(this, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* item) {
+        if (!m_isFilling && item->row() == markRow)
+            Q_EMIT markClicked(item->column(), item->checkState() == Qt::Checked);
+    });
+}
+
+void CopiesPanelView::setUpRows() {
+    QStringList titles = {QStringLiteral("Marked")};
+    for (const Column column : shownColumns)
+        titles << columnLook(column).spokenTitle;
+    titles.last() = QStringLiteral("Folder");
+    setRowCount(static_cast<int>(titles.size()));
+    setVerticalHeaderLabels(titles);
+}
+
+QSize CopiesPanelView::sizeHint() const {
+    return {QTableWidget::sizeHint().width(), scaledLength(panelHeight, this)};
+}
+
+void CopiesPanelView::applyMetrics() {
+    verticalHeader()->setDefaultSectionSize(scaledLength(valueHeight, this));
+    horizontalHeader()->setDefaultSectionSize(scaledLength(copyWidth, this));
+}
+
+void CopiesPanelView::showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons) {
+    m_copies.clear();
+    for (const TrackRecord* const record : copies) {
+        if (m_copies.size() == mostCopies) break;
+        Copy copy{record->checkbox, reasons.value(static_cast<int>(m_copies.size())), {}};
+        for (const Column column : shownColumns)
+            copy.values << valueOf(*record, column);
+        m_copies.push_back(std::move(copy));
+    }
+    fill();
+}
+
+void CopiesPanelView::fill() {
+    const QScopedValueRollback<bool> filling(m_isFilling, true);
+    setColumnCount(static_cast<int>(m_copies.size()));
+    if (m_copies.empty()) return;
+    const std::vector<bool> differing = differingRows(m_copies);
+    for (int column = 0; column < columnCount(); ++column)
+        fillCopy(column, differing);
+}
+
+void CopiesPanelView::fillCopy(int column, const std::vector<bool>& differing) {
+    const Copy& copy = m_copies[static_cast<std::size_t>(column)];
+    auto* mark = new QTableWidgetItem(copy.reason);
+    mark->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    mark->setCheckState(copy.marked ? Qt::Checked : Qt::Unchecked);
+    mark->setToolTip(copy.reason);
+    setItem(markRow, column, mark);
+    for (int row = 0; row < static_cast<int>(differing.size()); ++row) {
+        const bool differs = differing[static_cast<std::size_t>(row)];
+        auto* item = new QTableWidgetItem(copy.values[row]);
+        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        item->setToolTip(copy.values[row]);
+        QFont emphasis = font();
+        if (differs) emphasis.setWeight(QFont::DemiBold);
+        item->setFont(emphasis);
+        item->setForeground(differs ? themeColors(palette()).text : themeColors(palette()).secondaryText);
+        setItem(firstValueRow + row, column, item);
+    }
+}
+
+void CopiesPanelView::changeEvent(QEvent* event) {
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) applyMetrics();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) fill();
+}
+
+} // namespace songsweep

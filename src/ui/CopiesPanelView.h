@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/TrackRecord.h"
+
+#include <QStringList>
+#include <QTableWidget>
+
+#include <vector>
+
+namespace songsweep {
+
+/// The copies of one song side by side, a column for each: its mark with the reason, then value for value.
+/// What differs between them stands out, and what they have in common steps back.
+///
+/// Shows texts and keeps no record; made again with every group, of which it shows the first dozen copies.
+/// Main thread.
+class CopiesPanelView : public QTableWidget {
+    Q_OBJECT
+  public:
+    /// More copies than fit beside each other tell nobody more.
+    static constexpr int mostCopies = 12;
+
+    explicit CopiesPanelView(QWidget* parent = nullptr);
+
+    /// `reasons` has one for each copy, "" for none.
+    void showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons);
+
+    QSize sizeHint() const override;
+
+  Q_SIGNALS:
+    /// The mark of the copy, counted from 0, was clicked.
+    void markClicked(int copy, bool marked);
+
+  protected:
+    void changeEvent(QEvent* event) override;
+
+  private:
+    struct Copy {
+        bool marked;
+        QString reason;
+        QStringList values; ///< of the rows below the mark's
+    };
+
+    void setUpRows();
+    void fill();
+    void fillCopy(int column, const std::vector<bool>& differing);
+    void applyMetrics();
+
+    std::vector<Copy> m_copies;
+    bool m_isFilling = false;
+};
+
+} // namespace songsweep
