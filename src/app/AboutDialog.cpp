@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AboutDialog.h"
 
+#include "theme/DialogFrame.h"
 #include "ui_AboutDialog.h"
 
 #include <QKeyEvent>
@@ -8,7 +9,7 @@
 namespace songsweep {
 
 AboutDialog::AboutDialog(QWidget* parent)
-    : QDialog(parent)
+    : QDialog(parent, dialogFrame(Qt::Dialog))
     , m_ui(std::make_unique<Ui::AboutDialog>()) {
     m_ui->setupUi(this);
     setFocusPolicy(Qt::StrongFocus);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AlertBox.h"
 
+#include "theme/DialogFrame.h"
 #include "theme/Metrics.h"
 
 #include <QGridLayout>
@@ -32,7 +33,7 @@ void tune(QMessageBox& box) {
 } // namespace
 
 AlertBox::AlertBox(Icon icon, const QString& text, QWidget* parent)
-    : QMessageBox(icon, QStringLiteral("Songsweep"), text, NoButton, parent, Qt::Sheet) {
+    : QMessageBox(icon, QStringLiteral("Songsweep"), text, NoButton, parent, dialogFrame(Qt::Sheet)) {
     setTextFormat(Qt::PlainText);
     setAttribute(Qt::WA_DeleteOnClose);
 }

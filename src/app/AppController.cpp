@@ -173,6 +173,19 @@ void AppController::markMenuClick(std::int32_t tag) {
     if (isIdle()) m_marks.markMenuClick(tag);
 }
 
+void AppController::undoMarks() {
+    if (isIdle()) m_marks.undo();
+}
+
+void AppController::redoMarks() {
+    if (isIdle()) m_marks.redo();
+}
+
+std::string AppController::markReason(const TrackRecord& record) const {
+    MarkReasons* const reasons = m_results.markReasons();
+    return reasons && !isDeletingRows() ? reasons->of(record) : std::string();
+}
+
 // Deleting.
 
 void AppController::deleteButtonClick() {

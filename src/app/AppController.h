@@ -80,6 +80,12 @@ class AppController {
     std::string folderInLibrary(const std::string& folder) const;
     void markNone();
     void markMenuClick(std::int32_t tag);
+    void undoMarks();
+    void redoMarks();
+    /// Why the record is marked, or stays; empty where no rule has marked anything, and while the rows are a
+    /// worker's.
+    std::string markReason(const TrackRecord& record) const;
+    int marksByHand() const { return m_results.markHistory().marksByHand(); }
 
     // Deleting.
     void deleteButtonClick();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/DetailsDialog.h"
 
+#include "theme/DialogFrame.h"
 #include "theme/Metrics.h"
 
 #include <QClipboard>
@@ -28,7 +29,7 @@ QString inOneLine(const std::string& text) {
 } // namespace
 
 DetailsDialog::DetailsDialog(const QString& title, const std::vector<std::string>& lines, QWidget* parent)
-    : QDialog(parent, Qt::Sheet)
+    : QDialog(parent, dialogFrame(Qt::Sheet))
     , m_list(new QPlainTextEdit(this)) {
     setWindowTitle(title);
     setWindowModality(Qt::WindowModal);

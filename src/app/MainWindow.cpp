@@ -3,6 +3,10 @@
 
 #include "app/BringToFront.h"
 #include "app/Progress.h"
+#include "app/ProgressTexts.h"
+#include "app/TableFilter.h"
+#include "library/ListGain.h"
+#include "library/ValueFormats.h"
 #include "theme/Announcement.h"
 #include "ui/EmptyPageView.h"
 #include "ui/NoticeBarView.h"
@@ -18,10 +22,28 @@
 
 namespace songsweep {
 
+namespace {
+
+QString countedSongs(int count) {
+    return count == 1 ? QStringLiteral("1 song") : QStringLiteral("%L1 songs").arg(count);
+}
+
+/// "· 104 copies of 48 songs · 56 marked, 412.0 MB"
+QString gainText(const ListGain& gain) {
+    const QString held = QStringLiteral("· %L1 copies of %2").arg(gain.copies).arg(countedSongs(gain.songs));
+    if (gain.marked == 0) return held;
+    return held + QStringLiteral(" · %L1 marked, %2")
+                      .arg(gain.marked)
+                      .arg(QString::fromStdString(megabytes(gain.markedBytes)));
+}
+
+} // namespace
+
 MainWindow::MainWindow(Log& log, QWidget* parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
-    , m_model(new TrackTableModel(this)) {
+    , m_model(new TrackTableModel(this))
+    , m_filter(new TableFilter(this)) {
     m_ui->setupUi(this);
     m_lengths.emplace(*this);
     m_ui->contentStack->setBackgroundRole(QPalette::Base);
@@ -31,11 +53,14 @@ MainWindow::MainWindow(Log& log, QWidget* parent)
     setUpPageKeys();
     setUpTable(log);
     setUpContextMenu();
+    setUpFilter();
+    setUpDetails();
     setUpNotice();
     connectFileMenu();
     connectMarkAndTrackMenu();
     connectWindowAndHelpMenu();
     applyMetrics();
+    setUndoNames({}, {});
     setMarkEnabled(false);
     setDeleteEnabled(false);
     m_ui->emptyPage->setFocus(Qt::OtherFocusReason);
@@ -49,11 +74,15 @@ QAction& MainWindow::quitMenuitem() const { return *m_ui->quitMenuitem; }
 
 void MainWindow::reloadTable(const DisplayedList& tableDataSource) {
     const bool firstResults = m_model->rows().empty();
-    m_ui->tableview->reloadData(tableDataSource);
+    m_filter->setList(tableDataSource);
+    m_ui->tableview->reloadData(m_filter->shown());
+    m_ui->filterField->setEnabled(!tableDataSource.rows.empty());
     if (firstResults && !m_model->rows().empty())
         m_ui->tableview->selectionModel()->setCurrentIndex(m_model->index(0, static_cast<int>(Column::name)),
                                                            QItemSelectionModel::NoUpdate);
     updateSearchedLabel();
+    updateGainLabel();
+    updateDetails();
     Q_EMIT tableReloaded();
 }
 
@@ -100,9 +129,14 @@ void MainWindow::setSortIndicator(Column column, bool ascending) {
 
 void MainWindow::clearSortIndicator() { m_ui->tableview->header().clearSortIndicator(); }
 
-std::vector<int> MainWindow::selectedRows() const { return m_ui->tableview->selectedRows(); }
+std::vector<int> MainWindow::selectedRows() const {
+    std::vector<int> rows = m_ui->tableview->selectedRows();
+    for (int& row : rows)
+        row = m_filter->rowOf(row);
+    return rows;
+}
 
-int MainWindow::selectedRow() const { return m_ui->tableview->selectedRow(); }
+int MainWindow::selectedRow() const { return m_filter->rowOf(m_ui->tableview->selectedRow()); }
 
 void MainWindow::beginProgress() {
     m_progressVisible = true;
@@ -122,6 +156,10 @@ void MainWindow::setProgressValue(double percent) {
     m_ui->progressValueLabel->setText(QStringLiteral("%1 %").arg(value));
 }
 
+void MainWindow::setProgressCounts(const ProgressCounts& counts) {
+    m_ui->progressCountLabel->setText(progressText(counts));
+}
+
 void MainWindow::setProgressText(const std::string& phase) {
     showLive(*m_ui->progressInfoLabel, QString::fromStdString(phase));
 }
@@ -138,14 +176,33 @@ void MainWindow::setSearchedText(const std::string& text) {
 }
 
 void MainWindow::updateSearchedLabel() {
-    const bool results = m_tableVisible && !m_model->rows().empty();
+    const bool results = m_tableVisible && !m_filter->all().rows.empty();
     m_ui->searchedLabel->setText(results ? m_searchedText : QString());
+    m_ui->gainLabel->setVisible(results);
+}
+
+/// At every reload, which also follows the space bar, so that its user sees what is marked by now.
+void MainWindow::updateGainLabel() {
+    const ListGain gain = gainOf(m_filter->all().rows);
+    const auto shown = static_cast<int>(m_filter->shown().rows.size());
+    const QString filtered =
+        shown == gain.copies ? QString() : QStringLiteral("· %L1 of %L2 shown ").arg(shown).arg(gain.copies);
+    m_ui->gainLabel->setText(gain.copies == 0 ? QString() : filtered + gainText(gain));
 }
 
 void MainWindow::setSearchEnabled(bool enabled) {
     m_ui->searchButton->setEnabled(enabled);
     m_ui->emptyPage->searchButton().setEnabled(enabled);
     validateMenuItems();
+}
+
+void MainWindow::setUndoNames(const std::string& undo, const std::string& redo) {
+    const auto name = [](QAction& item, const QString& verb, const std::string& what) {
+        item.setText(what.empty() ? verb : verb + QStringLiteral(" “%1”").arg(QString::fromStdString(what)));
+        item.setEnabled(!what.empty());
+    };
+    name(*m_ui->undoMenuitem, QStringLiteral("&Undo"), undo);
+    name(*m_ui->redoMenuitem, QStringLiteral("&Redo"), redo);
 }
 
 void MainWindow::setMarkEnabled(bool enabled) {
@@ -168,8 +225,10 @@ void MainWindow::validateMenuItems() {
 
 void MainWindow::openAtFirstSize() {
     constexpr QSize wanted(1280, 760);
+    // The frame is the window manager's, and known only once the window is on the screen.
+    constexpr QSize frame(8, 40);
     const QRect free = screen()->availableGeometry();
-    resize(wanted.boundedTo(free.size()));
+    resize(wanted.boundedTo(free.size() - frame));
 }
 
 void MainWindow::present() {

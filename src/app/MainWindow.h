@@ -19,6 +19,7 @@
 #include <vector>
 
 class QAction;
+class QActionGroup;
 
 namespace songsweep {
 
@@ -26,8 +27,10 @@ namespace Ui {
 class MainWindow;
 }
 
+class CopiesPanelView;
 class Log;
 class SWTableView;
+class TableFilter;
 class TrackTableModel;
 
 /// The main window: toolbar, menus, the content page (results, empty state, progress or blank) and the strip.
@@ -52,6 +55,12 @@ class MainWindow : public QMainWindow,
     /// Asked before the file chooser opens and before a dragged library is taken; while it says no, the menu
     /// item beeps.
     void setOpenLibraryGuard(std::function<bool()> guard) { m_mayOpenLibrary = std::move(guard); }
+    /// Says why a copy is marked, or stays; "" for nothing.
+    void setCopyReason(std::function<QString(const TrackRecord&)> reason) {
+        m_copyReason = std::move(reason);
+    }
+    /// Shows only the songs of which no copy would be left.
+    void showSongsLosingEveryCopy();
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
 
@@ -71,6 +80,7 @@ class MainWindow : public QMainWindow,
     void setStatusText(const std::string& text) override;
     void setStatusVisible(bool visible) override;
     void setSearchedText(const std::string& text) override;
+    void setUndoNames(const std::string& undo, const std::string& redo) override;
     void setMarkEnabled(bool enabled) override;
     void setDeleteEnabled(bool enabled) override;
 
@@ -79,6 +89,7 @@ class MainWindow : public QMainWindow,
     void endProgress() override;
     /// What is no percentage shows as 0.
     void setProgressValue(double percent) override;
+    void setProgressCounts(const ProgressCounts& counts) override;
     void setProgressText(const std::string& phase) override;
 
     // NoticeView: a line over the content, or the page where there is no row left
@@ -86,7 +97,7 @@ class MainWindow : public QMainWindow,
     void hideNotice() override;
     void showNoticeDetails(const std::vector<std::string>& lines) override;
 
-    /// Opens at 1280 by 760, or at the screen's free size where that is less.
+    /// Opens at 1280 by 760, or at the screen's free size without the frame where that is less.
     void openAtFirstSize();
     /// Brings the window to the front.
     void present();
@@ -100,6 +111,8 @@ class MainWindow : public QMainWindow,
     void cancelformButtonClick();
     void openLibrary(const std::string& path);
     void markMenuClick(std::int32_t tag);
+    void undoMarksClick();
+    void redoMarksClick();
     void playMenuClick();
     void showinFinderMenuClick();
     void mainWindowMenuClick();
@@ -107,6 +120,8 @@ class MainWindow : public QMainWindow,
     void websiteButtonClick();
     void helpButtonClick();
     void contactButtonClick();
+    /// The keys that the window knows, one to a line.
+    void keyboardMenuClick(const std::vector<std::string>& lines);
     void tableviewSpacebar();
     void tableviewDoubleClick();
     void didClickTableColumn(songsweep::Column column);
@@ -135,6 +150,13 @@ class MainWindow : public QMainWindow,
     void setUpContextMenu();
     void setUpNotice();
     bool isNoticePage() const;
+    void setUpFilter();
+    void filterRows();
+    void clearFilterControls();
+    void endFilter();
+    void showFilteredRows();
+    void setUpDetails();
+    void updateDetails();
     void connectFileMenu();
     void connectMarkAndTrackMenu();
     void connectWindowAndHelpMenu();
@@ -142,11 +164,20 @@ class MainWindow : public QMainWindow,
     void validateMenuItems();
     void showPage();
     void updateSearchedLabel();
+    void updateGainLabel();
+    void fillSortMenu();
+    void copyRows() const;
+    std::vector<std::string> keyboardLines() const;
     void setSearchEnabled(bool enabled);
 
     std::unique_ptr<Ui::MainWindow> m_ui;
     std::optional<LayoutLengths> m_lengths;
     TrackTableModel* m_model;
+    TableFilter* m_filter;
+    QActionGroup* m_filterKinds = nullptr;
+    CopiesPanelView* m_details = nullptr;
+    int m_firstOfDetails = 0; ///< the shown row of the first copy in the panel
+    std::function<QString(const TrackRecord&)> m_copyReason = [](const TrackRecord&) { return QString(); };
     std::function<bool()> m_mayOpenLibrary = [] { return true; };
     LibraryOverview m_library;
     QString m_searchedText;

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 #include "library/LocationUrl.h"
+#include "ui/CopiedRows.h"
+#include "ui/SWTableView.h"
+#include "ui/TrackTableModel.h"
 #include "ui_MainWindow.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QUrl>
 
@@ -53,6 +58,12 @@ void MainWindow::dropEvent(QDropEvent* event) {
     if (path.empty()) return;
     event->acceptProposedAction();
     Q_EMIT openLibrary(path);
+}
+
+/// As tables take them: a row to a line, its cells between tabs.
+void MainWindow::copyRows() const {
+    const QString text = tabSeparated(*m_model, m_ui->tableview->selectedRows());
+    if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

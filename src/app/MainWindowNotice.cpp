@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
+#include "app/TableFilter.h"
 #include "ui/NoticeBarView.h"
 #include "ui/NoticePageView.h"
 #include "ui/TrackTableModel.h"
@@ -60,6 +61,6 @@ void MainWindow::hideNotice() {
 void MainWindow::showNoticeDetails(const std::vector<std::string>& lines) { Q_EMIT noticeDetails(lines); }
 
 /// Whether the message has the page for itself: what happened left nothing else to show.
-bool MainWindow::isNoticePage() const { return m_notice && m_tableVisible && m_model->rows().empty(); }
+bool MainWindow::isNoticePage() const { return m_notice && m_tableVisible && m_filter->all().rows.empty(); }
 
 } // namespace songsweep

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
+#include "app/TableFilter.h"
 #include "theme/Icons.h"
 #include "theme/Metrics.h"
+#include "ui/ColumnLook.h"
 #include "ui/EmptyPageView.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
@@ -61,8 +63,9 @@ void MainWindow::setUpPageKeys() {
 
 void MainWindow::setUpTable(Log& log) {
     m_model->setDtrackImage(dtrackImage());
-    m_model->setObjectValueHandler(
-        [this](Column column, int row, bool value) { Q_EMIT setObjectValue(value, column, row); });
+    m_model->setObjectValueHandler([this](Column column, int row, bool value) {
+        Q_EMIT setObjectValue(value, column, m_filter->rowOf(row));
+    });
     SWTableView* table = m_ui->tableview;
     table->setUp(*m_model, log);
     connect(table, &SWTableView::tableviewSpacebar, this, &MainWindow::tableviewSpacebar);
@@ -98,17 +101,62 @@ void MainWindow::connectFileMenu() {
 }
 
 void MainWindow::connectMarkAndTrackMenu() {
+    fillSortMenu();
     connect(m_ui->autoMarkMenuitem, &QAction::triggered, this, &MainWindow::markButtonClick);
     const std::array<QAction*, 4> byTag = {m_ui->markSelectedMenuitem, m_ui->unmarkSelectedMenuitem,
                                            m_ui->markAllMenuitem, m_ui->unmarkAllMenuitem};
     for (std::size_t tag = 0; tag < byTag.size(); ++tag)
         connect(byTag[tag], &QAction::triggered, this,
                 [this, tag] { Q_EMIT markMenuClick(static_cast<std::int32_t>(tag)); });
+    connect(m_ui->undoMenuitem, &QAction::triggered, this, &MainWindow::undoMarksClick);
+    connect(m_ui->redoMenuitem, &QAction::triggered, this, &MainWindow::redoMarksClick);
+    connect(m_ui->copyRowsMenuitem, &QAction::triggered, this, &MainWindow::copyRows);
     connect(m_ui->playMenuitem, &QAction::triggered, this, &MainWindow::playMenuClick);
     connect(m_ui->showinFinderMenuitem, &QAction::triggered, this, &MainWindow::showinFinderMenuClick);
 }
 
+/// For whoever has no pointer; the titles stand in their order, but for those that order nothing.
+void MainWindow::fillSortMenu() {
+    for (const Column column : allColumns) {
+        if (column == Column::dtrack) continue;
+        QAction* item = m_ui->sortMenu->addAction(columnLook(column).spokenTitle);
+        connect(item, &QAction::triggered, this, [this, column] { Q_EMIT didClickTableColumn(column); });
+    }
+}
+
+/// "Ctrl+F: Search" of every menu, and the keys of the table, which stand in no menu.
+std::vector<std::string> MainWindow::keyboardLines() const {
+    std::vector<std::string> lines;
+    const auto add = [&](const QString& keys, const QString& what) {
+        lines.push_back((keys + QStringLiteral(": ") + what).toStdString());
+    };
+    for (const QMenu* menu : m_ui->mainMenu->findChildren<QMenu*>())
+        for (const QAction* item : menu->actions())
+            if (!item->shortcut().isEmpty())
+                add(item->shortcut().toString(QKeySequence::NativeText),
+                    item->text().remove(QLatin1Char('&')).remove(QStringLiteral("...")));
+    struct Key {
+        const char* keys;
+        const char* what;
+    };
+    static constexpr std::array tableKeys = {
+        Key{"Space", "Mark the selected rows, or unmark them where all are marked"},
+        Key{"Up, Down", "The row before, the next row; with Shift more rows"},
+        Key{"Home, End", "The first row, the last row"},
+        Key{"Ctrl+Up, Ctrl+Down", "The first row of the group before, of the next group"},
+        Key{"Esc", "In the filter: all rows again"},
+        Key{"Letters", "The next track whose name begins so"},
+        Key{"Tab", "From control to control"},
+        Key{"Esc", "Cancel a search or a deletion, close a dialog"},
+    };
+    for (const Key& key : tableKeys)
+        add(QLatin1String(key.keys), QLatin1String(key.what));
+    return lines;
+}
+
 void MainWindow::connectWindowAndHelpMenu() {
+    connect(m_ui->keyboardMenuitem, &QAction::triggered, this,
+            [this] { Q_EMIT keyboardMenuClick(keyboardLines()); });
     connect(m_ui->mainWindowMenuitem, &QAction::triggered, this, &MainWindow::mainWindowMenuClick);
     connect(m_ui->helpMenuitem, &QAction::triggered, this, &MainWindow::helpButtonClick);
     connect(m_ui->websiteMenuitem, &QAction::triggered, this, &MainWindow::websiteButtonClick);

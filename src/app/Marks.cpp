@@ -26,10 +26,10 @@ void Marks::markOkButtonClick(const MarkChoice& choice) {
     std::vector<TrackRecord*>& rows = m_results.tableDataSource().rows;
     if (rows.empty()) return;
     m_log.line("markTyp = " + std::to_string(static_cast<std::int32_t>(choice.markType)));
-    applyMarkChoice(rows, choice);
+    m_results.markHistory().record(MarkHistory::By::rule, "Mark by rule", rows,
+                                   [&] { applyMarkChoice(rows, choice); });
     m_results.setMarkedBy(choice);
-    m_results.reloadTable();
-    m_results.setStatusLabel();
+    showMarks();
 }
 
 void Marks::markCancelButtonClick() { m_view.closeMarkWindow(); }
@@ -40,29 +40,41 @@ void Marks::markFolderButtonClick() {
 }
 
 /// "Unmark all" is markMenuClick(3). This is kept for a control without a tag, such as a button.
-void Marks::markNone() { setMarks(m_results.tableDataSource().rows, false); }
+void Marks::markNone() { setMarks("Unmark all", m_results.tableDataSource().rows, false); }
 
 void Marks::markMenuClick(std::int32_t tag) {
     const bool value = tag == 0 || tag == 2;
-    if (tag >= 2)
-        setMarks(m_results.tableDataSource().rows, value);
-    else
-        setMarks(m_results.selectedRecords(), value);
+    if (tag >= 2) {
+        setMarks(value ? "Mark all" : "Unmark all", m_results.tableDataSource().rows, value);
+    } else {
+        setMarks(value ? "Mark selected" : "Unmark selected", m_results.selectedRecords(), value);
+    }
 }
 
-void Marks::setMarks(const std::vector<TrackRecord*>& rows, bool value) {
+void Marks::setMarks(const std::string& name, const std::vector<TrackRecord*>& rows, bool value) {
+    setByHand(name, rows, value);
+    showMarks();
+}
+
+void Marks::setByHand(const std::string& name, const std::vector<TrackRecord*>& rows, bool value) {
     m_results.setMarkedBy(std::nullopt);
-    for (TrackRecord* const record : rows)
-        record->checkbox = value;
+    m_results.markHistory().record(MarkHistory::By::hand, name, rows, [&] {
+        for (TrackRecord* const record : rows)
+            record->checkbox = value;
+    });
+    m_results.showHistory();
+}
+
+void Marks::showMarks() {
     m_results.reloadTable();
     m_results.setStatusLabel();
+    m_results.showHistory();
 }
 
 void Marks::setObjectValue(bool value, Column column, int row) {
     TrackRecord* const record = m_results.recordAt(row);
     if (column == Column::checkbox && record) {
-        record->checkbox = value;
-        m_results.setMarkedBy(std::nullopt);
+        setByHand(value ? "Mark" : "Unmark", {record}, value);
         m_results.setStatusLabel();
     }
     m_results.reloadTable();
@@ -72,10 +84,22 @@ void Marks::toggleSelectedRows() {
     const std::vector<TrackRecord*> selected = m_results.selectedRecords();
     const bool allChecked =
         std::all_of(selected.begin(), selected.end(), [](const TrackRecord* each) { return each->checkbox; });
-    if (!selected.empty()) m_results.setMarkedBy(std::nullopt);
-    for (TrackRecord* const record : selected)
-        record->checkbox = !allChecked;
+    if (!selected.empty()) setByHand(allChecked ? "Unmark" : "Mark", selected, !allChecked);
     m_results.reloadTable();
+}
+
+void Marks::undo() {
+    if (m_results.markHistory().undoName().empty()) return;
+    m_results.setMarkedBy(std::nullopt);
+    m_results.markHistory().undo();
+    showMarks();
+}
+
+void Marks::redo() {
+    if (m_results.markHistory().redoName().empty()) return;
+    m_results.setMarkedBy(std::nullopt);
+    m_results.markHistory().redo();
+    showMarks();
 }
 
 } // namespace songsweep

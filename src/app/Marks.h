@@ -4,6 +4,7 @@
 #include "library/Columns.h"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace songsweep {
@@ -30,9 +31,14 @@ class Marks {
     void setObjectValue(bool value, Column column, int row);
     /// Checks the selected rows, or unchecks them where all are checked.
     void toggleSelectedRows();
+    /// Takes the last change of marks back, and does it again.
+    void undo();
+    void redo();
 
   private:
-    void setMarks(const std::vector<TrackRecord*>& rows, bool value);
+    void setMarks(const std::string& name, const std::vector<TrackRecord*>& rows, bool value);
+    void setByHand(const std::string& name, const std::vector<TrackRecord*>& rows, bool value);
+    void showMarks();
 
     Results& m_results;
     MarkView& m_view;

@@ -3,6 +3,7 @@
 
 #include "app/BringToFront.h"
 #include "theme/Announcement.h"
+#include "theme/DialogFrame.h"
 #include "ui_ParametersDialog.h"
 
 #include <QPushButton>
@@ -10,7 +11,7 @@
 namespace songsweep {
 
 ParametersDialog::ParametersDialog(QWidget* parent)
-    : QDialog(parent)
+    : QDialog(parent, dialogFrame(Qt::Dialog))
     , m_ui(std::make_unique<Ui::ParametersDialog>()) {
     m_ui->setupUi(this);
     setUpButtons();
@@ -23,6 +24,7 @@ ParametersDialog::ParametersDialog(QWidget* parent)
     // A name too long for the box is cut there, so that the dialog does not grow with it.
     connect(m_ui->paramLocationCB, &QComboBox::currentTextChanged, m_ui->paramLocationCB,
             [list = m_ui->paramLocationCB](const QString& name) { list->setToolTip(name); });
+    connect(this, &QDialog::rejected, this, &ParametersDialog::putBack);
     updateWarning();
 }
 
@@ -63,7 +65,19 @@ void ParametersDialog::selectPlaylist(int index) { m_ui->paramLocationCB->setCur
 
 void ParametersDialog::showEvent(QShowEvent* event) {
     m_ui->paramSameNameCK->setFocus();
+    if (!event->spontaneous()) m_atOpening = parameters();
     QDialog::showEvent(event);
+}
+
+void ParametersDialog::putBack() {
+    m_ui->paramSameNameCK->setChecked(m_atOpening.issamename);
+    m_ui->paramSameArtistCK->setChecked(m_atOpening.issameartist);
+    m_ui->paramSameAlbumCK->setChecked(m_atOpening.issamealbum);
+    m_ui->paramSameTimeCK->setChecked(m_atOpening.issametime);
+    m_ui->paramSimilarCK->setChecked(m_atOpening.issimilar);
+    m_ui->paramIgnoreDeadCK->setChecked(m_atOpening.isignoredead);
+    if (m_atOpening.playlist)
+        m_ui->paramLocationCB->setCurrentText(QString::fromStdString(*m_atOpening.playlist));
 }
 
 void ParametersDialog::setUpButtons() {

@@ -17,8 +17,9 @@ class ParametersDialog;
 
 /// The window that a search starts from: which fields must agree, and which playlist is searched.
 ///
-/// It gives SearchParameters and keeps its settings between openings; it stays open until it is told to
-/// close, so that whoever starts the search decides when. Main thread.
+/// It gives SearchParameters and keeps its settings between openings, as they were before one that was
+/// cancelled; it stays open until it is told to close, so that whoever starts the search decides when. Main
+/// thread.
 class ParametersDialog : public QDialog, public SearchView {
     Q_OBJECT
 
@@ -48,8 +49,10 @@ class ParametersDialog : public QDialog, public SearchView {
   private:
     void setUpButtons();
     void updateWarning();
+    void putBack();
 
     std::unique_ptr<Ui::ParametersDialog> m_ui;
+    SearchParameters m_atOpening; ///< what Cancel goes back to
 };
 
 } // namespace songsweep

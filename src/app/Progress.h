@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 
 namespace songsweep {
 
@@ -24,6 +25,14 @@ struct Progress {
     /// The bar's value, a percentage; the phase's beginning while there is nothing to count.
     double percent() const { return total == 0 ? progressBase : progressBase + progressSpan * (prc / total); }
 };
+
+/// How many seconds are left of a task of which that much is done in that time, at the pace until now;
+/// nothing in its first five seconds, in which no pace tells anything.
+inline std::optional<int> secondsLeft(double percent, std::int64_t elapsedMilliseconds) {
+    constexpr std::int64_t firstMilliseconds = 5000;
+    if (elapsedMilliseconds < firstMilliseconds || !(percent > 0) || percent > 100) return std::nullopt;
+    return static_cast<int>(static_cast<double>(elapsedMilliseconds) * (100 - percent) / percent / 1000);
+}
 
 /// A percentage as bars and texts show it: whole, so that 100 means done; within 0 and 100; 0 where it is
 /// none.

@@ -26,7 +26,9 @@ ProgressView& ProgressDisplay::view(ProgressBar bar) {
 void ProgressDisplay::showProgressWindow(ProgressBar bar) {
     m_progressTimer.start();
     m_shownBar = bar;
+    m_elapsed.start();
     setValue(0);
+    view(bar).setProgressCounts({});
     view(bar).beginProgress();
 }
 
@@ -44,6 +46,15 @@ void ProgressDisplay::setValue(double percent) {
     m_formprogressView.setProgressValue(percent);
 }
 
-void ProgressDisplay::updateProgress() { setValue(m_progress.percent()); }
+void ProgressDisplay::updateProgress() {
+    setValue(m_progress.percent());
+    if (m_shownBar) view(*m_shownBar).setProgressCounts(counts());
+}
+
+ProgressCounts ProgressDisplay::counts() const {
+    return {.done = static_cast<int>(m_progress.prc),
+            .total = m_progress.total,
+            .secondsLeft = secondsLeft(m_progress.percent(), m_elapsed.elapsed())};
+}
 
 } // namespace songsweep

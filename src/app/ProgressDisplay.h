@@ -4,6 +4,7 @@
 #include "app/Progress.h"
 #include "library/WorkerEvent.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <optional>
@@ -12,6 +13,7 @@
 namespace songsweep {
 
 class ProgressView;
+struct ProgressCounts;
 
 /// The two progress bars: the one in the sheet, while deleting, and the one in the main window, while
 /// searching.
@@ -41,11 +43,13 @@ class ProgressDisplay {
   private:
     ProgressView& view(ProgressBar bar);
     void updateProgress();
+    ProgressCounts counts() const;
 
     ProgressView& m_progressView;
     ProgressView& m_formprogressView;
     Progress m_progress;
     std::optional<ProgressBar> m_shownBar;
+    QElapsedTimer m_elapsed; ///< since the bar was shown
     QTimer m_progressTimer;
 };
 

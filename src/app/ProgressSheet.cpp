@@ -2,6 +2,8 @@
 #include "app/ProgressSheet.h"
 
 #include "app/Progress.h"
+#include "app/ProgressTexts.h"
+#include "theme/DialogFrame.h"
 #include "ui_ProgressSheet.h"
 
 #include <QEvent>
@@ -17,7 +19,7 @@ constexpr int activationMilliseconds = 500;
 } // namespace
 
 ProgressSheet::ProgressSheet(QWidget* parent)
-    : QDialog(parent, Qt::Sheet)
+    : QDialog(parent, dialogFrame(Qt::Sheet))
     , m_ui(std::make_unique<Ui::ProgressSheet>()) {
     m_ui->setupUi(this);
     setFocusPolicy(Qt::StrongFocus);
@@ -67,6 +69,10 @@ void ProgressSheet::changeEvent(QEvent* event) {
 
 void ProgressSheet::setProgressText(const std::string& title) {
     m_ui->progressLabel->setText(QString::fromStdString(title));
+}
+
+void ProgressSheet::setProgressCounts(const ProgressCounts& counts) {
+    m_ui->progressCountLabel->setText(progressText(counts));
 }
 
 void ProgressSheet::setProgressValue(double percent) { m_ui->progress->setValue(wholePercent(percent)); }

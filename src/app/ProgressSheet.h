@@ -34,6 +34,7 @@ class ProgressSheet : public QDialog, public ProgressView {
     void endProgress() override;
     /// What is no number shows as 0, what lies outside 0 to 100 as the nearer end.
     void setProgressValue(double percent) override;
+    void setProgressCounts(const ProgressCounts& counts) override;
     void setProgressText(const std::string& title) override;
 
   Q_SIGNALS:

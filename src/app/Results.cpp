@@ -28,11 +28,25 @@ std::vector<TrackRecord*> Results::selectedRecords() const {
 
 void Results::begin(std::shared_ptr<TrackStorage> storage) {
     m_tableDataSource = {{}, std::move(storage)};
-    m_lastMark.reset();
+    forgetMarks();
     reloadTable();
     m_view.setHorizontalScroller(false);
     m_horizontalScrollbarShowCount = 0;
 }
+
+void Results::forgetMarks() {
+    m_lastMark.reset();
+    m_reasons.reset();
+    m_history.clear();
+    showHistory();
+}
+
+void Results::setMarkedBy(std::optional<MarkChoice> rule) {
+    m_lastMark = std::move(rule);
+    if (m_lastMark) m_reasons = std::make_unique<MarkReasons>(m_tableDataSource, *m_lastMark);
+}
+
+void Results::showHistory() { m_view.setUndoNames(m_history.undoName(), m_history.redoName()); }
 
 void Results::hide() {
     m_view.setTableVisible(false);
@@ -65,7 +79,7 @@ void Results::showEmptyState() {
 
 void Results::forget() {
     m_tableDataSource = {};
-    m_lastMark.reset();
+    forgetMarks();
     m_view.setSearchedText("");
     showEmptyState();
 }
@@ -91,6 +105,8 @@ void Results::validity() {
     if (m_tableDataSource.rows.empty()) return;
     m_lastMark.reset();
     removeBrokenGroups(m_tableDataSource.rows);
+    m_history.keepOnly(m_tableDataSource.rows);
+    showHistory();
     realignShowID();
     reloadTable();
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "dupes/MarkChoice.h"
+#include "dupes/MarkHistory.h"
+#include "dupes/MarkReasons.h"
 #include "library/DisplayedList.h"
 
 #include <memory>
@@ -55,14 +57,25 @@ class Results {
     /// Shows what a deletion left.
     void showRowsLeft();
     /// Marks were set by a rule, or by hand. The status follows where the caller wants it to.
-    void setMarkedBy(std::optional<MarkChoice> rule) { m_lastMark = std::move(rule); }
+    void setMarkedBy(std::optional<MarkChoice> rule);
+    /// Of the rule that marked last; null where none did. They stay when marks or order change.
+    MarkReasons* markReasons() const { return m_reasons.get(); }
+    /// What can be undone of the marks; forgotten with the rows.
+    MarkHistory& markHistory() { return m_history; }
+    const MarkHistory& markHistory() const { return m_history; }
+    /// Tells the view what can be undone.
+    void showHistory();
     void reloadTable();
     void setStatusLabel();
 
   private:
+    void forgetMarks();
+
     ResultsView& m_view;
     DisplayedList m_tableDataSource;
     std::optional<MarkChoice> m_lastMark;
+    std::unique_ptr<MarkReasons> m_reasons;
+    MarkHistory m_history;
     std::optional<Column> m_sortColumn;
     bool m_sortAscending = false;
     bool m_sortIndicatorShown = false;

@@ -4,6 +4,7 @@
 #include "app/AppController.h"
 #include "app/WindowActions.h"
 #include "app/Windows.h"
+#include "platform/BufferedLog.h"
 #include "platform/LogFile.h"
 #include "platform/RecentFiles.h"
 #include "platform/SignalWatch.h"
@@ -22,6 +23,7 @@ namespace songsweep {
 
 namespace {
 
+constexpr std::uint64_t mostLogBytes = 20'000'000;
 constexpr const char* libraryIsAsBefore = "The library is as it was before.";
 
 void nameApplication(const std::string& version) {
@@ -71,10 +73,11 @@ void writeLibrary(Program& program, Windows& windows) {
     QApplication::exec();
 }
 
-int runUntilQuit(ProgramOptions options, InterruptibleLog& log, const std::function<bool()>& redirectLog) {
+int runUntilQuit(ProgramOptions options, InterruptibleLog& output, Log& log,
+                 const std::function<bool()>& redirectLog) {
     // Quitting lets a deletion turn the sound on again and the library be written.
-    const SignalWatch signals([&log](int) {
-        log.endSoon();
+    const SignalWatch signals([&output](int) {
+        output.endSoon();
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     });
     options.recentFiles = nativeRecentFiles();
@@ -87,6 +90,13 @@ int runUntilQuit(ProgramOptions options, InterruptibleLog& log, const std::funct
     return exitCode;
 }
 
+/// The lines come to the file from then on, and a console gets each at once.
+bool redirectLog(BufferedLog& log) {
+    const bool isRedirected = redirectStandardError(logFolder(documentsFolder(), statesFolder()), log);
+    if (isRedirected) log.begin();
+    return isRedirected;
+}
+
 } // namespace
 
 int runWindow(ProgramOptions options, const std::string& logFile, int argumentCount, char** arguments) {
@@ -97,15 +107,16 @@ int runWindow(ProgramOptions options, const std::string& logFile, int argumentCo
     keepNoSettingsFile();
     applyTheme(application);
     InterruptibleLog console(STDERR_FILENO, InterruptibleLog::Descriptor::staysOpen);
-    if (logFile.empty())
-        return runUntilQuit(std::move(options), console,
-                            [&console] { return redirectStandardError(documentsFolder(), console); });
+    if (logFile.empty()) {
+        BufferedLog log(console, mostLogBytes);
+        return runUntilQuit(std::move(options), console, log, [&] { return redirectLog(log); });
+    }
     const Result<std::unique_ptr<InterruptibleLog>> file = openLogFile(logFile);
     if (!file) {
         console.line("songsweep: " + file.error().message);
         return EXIT_FAILURE;
     }
-    return runUntilQuit(std::move(options), *file.value(), {});
+    return runUntilQuit(std::move(options), *file.value(), *file.value(), {});
 }
 
 } // namespace songsweep

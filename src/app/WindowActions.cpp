@@ -3,7 +3,6 @@
 
 #include "app/AppController.h"
 #include "app/Windows.h"
-#include "dupes/MarkVerdicts.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
 
@@ -40,6 +39,8 @@ void WindowActions::connectToolbarAndMenus() {
     connect(window, &MainWindow::cancelformButtonClick, this, [=] { controller->cancelformButtonClick(); });
     connect(window, &MainWindow::markMenuClick, this,
             [=](std::int32_t tag) { controller->markMenuClick(tag); });
+    connect(window, &MainWindow::undoMarksClick, this, [=] { controller->undoMarks(); });
+    connect(window, &MainWindow::redoMarksClick, this, [=] { controller->redoMarks(); });
     connect(window, &MainWindow::playMenuClick, this, [=] { controller->playMenuClick(); });
     connect(window, &MainWindow::showinFinderMenuClick, this, [=] { controller->showinFinderMenuClick(); });
     connect(window, &MainWindow::mainWindowMenuClick, this, [=] { controller->mainWindowMenuClick(); });
@@ -55,6 +56,9 @@ void WindowActions::connectLinks() {
     connect(window, &MainWindow::websiteButtonClick, this, [=] { controller->websiteButtonClick(); });
     connect(window, &MainWindow::helpButtonClick, this, [=] { controller->helpButtonClick(); });
     connect(window, &MainWindow::contactButtonClick, this, [=] { controller->contactButtonClick(); });
+    connect(window, &MainWindow::keyboardMenuClick, this, [this](const std::vector<std::string>& lines) {
+        m_windows.showDetails(QStringLiteral("Keyboard"), lines);
+    });
     connect(about, &AboutDialog::websiteRequested, this, [=] { controller->websiteButtonClick(); });
     connect(about, &AboutDialog::helpRequested, this, [=] { controller->helpButtonClick(); });
     connect(about, &AboutDialog::contactRequested, this, [=] { controller->contactButtonClick(); });
@@ -70,16 +74,15 @@ void WindowActions::connectTable() {
             [=](Column column) { controller->didClickTableColumn(column); });
     connect(window, &MainWindow::setObjectValue, this,
             [=](bool value, Column column, int row) { controller->setObjectValue(value, column, row); });
+    window->setCopyReason(
+        [=](const TrackRecord& record) { return QString::fromStdString(controller->markReason(record)); });
     window->tableModel().setMarkReason([this](int row) { return markReason(row); });
 }
 
-/// Why the rule that marked last marked the row; empty for a mark that somebody set by hand.
+/// Why the row is marked; empty where no rule marked any.
 QString WindowActions::markReason(int row) const {
-    const auto& choice = m_controller.lastMarkChoice();
-    const std::vector<TrackRecord*>& rows = m_windows.mainWindow().tableModel().rows();
-    const auto index = static_cast<std::size_t>(row);
-    if (!choice || !rows.at(index)->checkbox) return {};
-    return QString::fromStdString(MarkVerdicts(rows, *choice).of(index).reason);
+    const TrackRecord& record = *m_windows.mainWindow().tableModel().rows().at(static_cast<std::size_t>(row));
+    return record.checkbox ? QString::fromStdString(m_controller.markReason(record)) : QString();
 }
 
 void WindowActions::connectParametersDialog() {
@@ -115,6 +118,7 @@ void WindowActions::updateMarkPreview() {
     dialog.setPreview({.marked = effect.marked,
                        .total = static_cast<int>(rows.size()),
                        .inForce = effect.inForce,
+                       .byHand = m_controller.marksByHand(),
                        .matches = matchesRow(rows, choice)});
 }
 

@@ -4,6 +4,7 @@
 #include "restore/CleanupCell.h"
 #include "restore/RestoreTexts.h"
 #include "theme/Announcement.h"
+#include "theme/DialogFrame.h"
 #include "ui_RestoreDialog.h"
 
 #include <QPushButton>
@@ -38,7 +39,7 @@ bool hasLostFiles(const RestoreReport& report) {
 } // namespace
 
 RestoreDialog::RestoreDialog(QWidget* parent)
-    : QDialog(parent, Qt::Sheet)
+    : QDialog(parent, dialogFrame(Qt::Sheet))
     , m_ui(std::make_unique<Ui::RestoreDialog>()) {
     m_ui->setupUi(this);
     setUpList();

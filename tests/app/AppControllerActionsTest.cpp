@@ -107,6 +107,43 @@ TEST_F(AppControllerActionsTest, TheRuleOfTheMarksIsForgottenWhereItNoLongerExpl
     EXPECT_FALSE(isKnownAfter([this] { controller->resetForLibrary(); }));
 }
 
+TEST_F(AppControllerActionsTest, MarksAreUndoneAndDoneAgain) {
+    addRows({1, 1, 2, 2});
+    controller->markMenuClick(2);
+    controller->markNone();
+    controller->undoMarks();
+    EXPECT_EQ(controller->getCheckedCount(), 4);
+    EXPECT_EQ(controller->marksByHand(), 4);
+    controller->undoMarks();
+    controller->undoMarks();
+    EXPECT_EQ(controller->getCheckedCount(), 0);
+    view.calls.clear();
+    controller->redoMarks();
+    EXPECT_EQ(controller->getCheckedCount(), 4);
+    EXPECT_TRUE(view.has("setStatusText 4 of 4 marked"));
+    controller->setObjectValue(false, Column::checkbox, 1);
+    controller->redoMarks();
+    EXPECT_EQ(controller->getCheckedCount(), 3) << "what was taken back is forgotten";
+}
+
+TEST_F(AppControllerActionsTest, ReasonsSurviveSortingAndMarksByHand) {
+    addRows({1, 1});
+    records[0]->dateaddedv = 1;
+    records[1]->dateaddedv = 2;
+    EXPECT_EQ(controller->markReason(*records[0]), "");
+    controller->markOkButtonClick({MarkType::latestAdded, true, ""});
+    const std::string reason = controller->markReason(*records[0]);
+    EXPECT_FALSE(reason.empty());
+    EXPECT_EQ(controller->marksByHand(), 0);
+    controller->didClickTableColumn(Column::dateadded);
+    controller->setObjectValue(true, Column::checkbox, 1);
+    EXPECT_EQ(controller->markReason(*records[0]), reason);
+    EXPECT_EQ(controller->markReason(*records[1]), "marked by hand");
+    EXPECT_EQ(controller->marksByHand(), 1);
+    controller->resetForLibrary();
+    EXPECT_EQ(controller->markReason(*records[0]), "");
+}
+
 TEST_F(AppControllerActionsTest, WhatChangesNoMarkKeepsItsRule) {
     addRows({1, 1});
     controller->markOkButtonClick({MarkType::latestAdded, true, ""});

@@ -44,7 +44,7 @@ std::unique_ptr<QDialog> markDialog() {
     auto dialog = std::make_unique<MarkDialog>();
     dialog->selectMissingItems();
     dialog->fillKinds({std::string(300, 'W')});
-    dialog->setPreview({.marked = 123456, .total = 1000000, .inForce = false});
+    dialog->setPreview({.marked = 123456, .total = 1000000, .inForce = false, .byHand = 123456});
     return dialog;
 }
 
@@ -84,6 +84,13 @@ TEST_P(DialogLook, IsAsWideAsDesigned) {
     dialog->show();
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(dialog->width(), GetParam().width);
+}
+
+TEST_P(DialogLook, CannotBeMinimised) {
+    const Qt::WindowFlags flags = GetParam().make()->windowFlags();
+    EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint)) << "the window manager would add its own";
+    EXPECT_TRUE(flags.testFlag(Qt::WindowCloseButtonHint));
+    EXPECT_FALSE(flags.testFlag(Qt::WindowMinimizeButtonHint));
 }
 
 TEST_P(DialogLook, ClipsNothingAtTwiceTheFontSize) {

@@ -34,7 +34,7 @@ TEST_F(MainWindowLayoutTest, LengthsGrowWithTheFont) {
     EXPECT_EQ(control<QWidget>("toolbar").height() + 1, 96);
     EXPECT_EQ(control<QProgressBar>("formprogress").width(), 2 * 364);
     const int barEnd = control<QWidget>("formprogress").geometry().right();
-    EXPECT_EQ(control<QWidget>("formprogressCancelButton").geometry().left() - barEnd - 1, 2 * 4);
+    EXPECT_EQ(control<QWidget>("formprogressCancelButton").geometry().left() - barEnd - 1, 2 * 8);
 }
 
 class MainWindowAtScale : public ThemedTest, public ::testing::WithParamInterface<double> {};

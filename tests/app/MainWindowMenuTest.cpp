@@ -90,8 +90,14 @@ TEST_F(MainWindowMenuTest, EveryItemWithAKeyIsPressedByIt) {
         {"showinFinderMenuitem", Qt::CTRL | Qt::SHIFT | Qt::Key_R},
         {"mainWindowMenuitem", Qt::CTRL | Qt::Key_0},
         {"helpMenuitem", Qt::NoModifier | Qt::Key_F1},
+        {"undoMenuitem", Qt::CTRL | Qt::Key_Z},
+        {"redoMenuitem", Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+        {"copyRowsMenuitem", Qt::CTRL | Qt::Key_C},
+        {"detailsMenuitem", Qt::CTRL | Qt::Key_I},
+        {"filterMenuitem", Qt::CTRL | Qt::Key_L},
         {"closeMenuitem", Qt::CTRL | Qt::Key_W},
     };
+    window.setUndoNames("Mark all", "Unmark all");
     window.setOpenLibraryGuard([] { return false; });
     showResults(list);
     for (const auto& [name, key] : keys) {
@@ -134,6 +140,41 @@ TEST_F(MainWindowMenuTest, ShortcutsWorkFromTheTable) {
     EXPECT_EQ(deletes.size(), 1);
     ASSERT_EQ(marks.size(), 2);
     EXPECT_EQ(marks[1][0].toInt(), 2);
+}
+
+TEST_F(MainWindowMenuTest, UndoAndRedoAreNamedAfterWhatTheyDo) {
+    EXPECT_FALSE(item("undoMenuitem").isEnabled());
+    window.setUndoNames("Mark all", "");
+    EXPECT_EQ(item("undoMenuitem").text(), QStringLiteral("&Undo “Mark all”"));
+    QSignalSpy undo(&window, &MainWindow::undoMarksClick);
+    item("undoMenuitem").trigger();
+    item("redoMenuitem").trigger();
+    EXPECT_EQ(undo.size(), 1);
+    window.setUndoNames("", "Mark all");
+    QSignalSpy redo(&window, &MainWindow::redoMarksClick);
+    item("redoMenuitem").trigger();
+    EXPECT_EQ(redo.size(), 1);
+}
+
+TEST_F(MainWindowMenuTest, EveryOrderCanBeHadWithoutAPointer) {
+    QSignalSpy sorts(&window, &MainWindow::didClickTableColumn);
+    const QList<QAction*> items = control<QMenu>("sortMenu").actions();
+    EXPECT_EQ(items.size(), static_cast<int>(allColumns.size()) - 1) << "missing files have no order";
+    items.last()->trigger();
+    ASSERT_EQ(sorts.size(), 1);
+    EXPECT_EQ(sorts[0][0].value<Column>(), Column::location);
+}
+
+TEST_F(MainWindowMenuTest, TheKeysOfMenusAndTableAreListed) {
+    QSignalSpy lists(&window, &MainWindow::keyboardMenuClick);
+    item("keyboardMenuitem").trigger();
+    ASSERT_EQ(lists.size(), 1);
+    const auto lines = lists[0][0].value<std::vector<std::string>>();
+    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(),
+                            [](const std::string& line) { return line == "Ctrl+F: Search"; }));
+    EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
+        return line.starts_with("Ctrl+Up, Ctrl+Down: ");
+    }));
 }
 
 TEST_F(MainWindowMenuTest, TheContextMenuHoldsTheTrackAndMarkItems) {

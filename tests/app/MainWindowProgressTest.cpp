@@ -37,7 +37,7 @@ TEST_F(MainWindowProgressTest, TheProgressValueEndsWhereItsBarEnds) {
         const QRect bar = control<QProgressBar>("formprogress").geometry();
         EXPECT_EQ(control<QLabel>("progressValueLabel").geometry().right(), bar.right());
         EXPECT_EQ(control<QLabel>("progressInfoLabel").geometry().left(), bar.left());
-        EXPECT_EQ(control<QToolButton>("formprogressCancelButton").geometry().left(), bar.right() + 1 + 4);
+        EXPECT_EQ(control<QToolButton>("formprogressCancelButton").geometry().left(), bar.right() + 1 + 8);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "ui/TrackTableModel.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QSignalSpy>
 
@@ -45,6 +46,31 @@ TEST_F(MainWindowResultsTest, ALongPlaylistIsCutWithDotsBeforeWhatWasCompared) {
     const QLabel& status = control<QLabel>("statusBottomLabel");
     EXPECT_GE(status.width(), status.sizeHint().width());
     EXPECT_LE(status.geometry().right(), searched.geometry().left());
+}
+
+TEST_F(MainWindowResultsTest, TheStripTellsTheGainAtOnce) {
+    list.rows[0]->checkbox = false;
+    showResults(list);
+    const auto& gain = control<QLabel>("gainLabel");
+    const int marked = checkedCount(list.rows);
+    EXPECT_TRUE(gain.text().startsWith(QStringLiteral("· 12 copies of 5 songs · %1 marked, ").arg(marked)))
+        << gain.text().toStdString();
+    list.rows[0]->checkbox = true;
+    window.reloadTable(list); // all that the space bar does
+    EXPECT_TRUE(gain.text().contains(QStringLiteral("· %1 marked, ").arg(marked + 1)));
+    for (TrackRecord* row : list.rows)
+        row->checkbox = false;
+    window.reloadTable(list);
+    EXPECT_EQ(gain.text(), QStringLiteral("· 12 copies of 5 songs"));
+    window.setTableVisible(false);
+    EXPECT_FALSE(gain.isVisible());
+}
+
+TEST_F(MainWindowResultsTest, SelectedRowsAreCopied) {
+    showResults(list);
+    window.tableview().setCurrentIndex(window.tableModel().index(2, 2));
+    item("copyRowsMenuitem").trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count(QLatin1Char('\n')), 2) << "titles and a row";
 }
 
 TEST_F(MainWindowResultsTest, WithoutResultsTheStripIsEmpty) {

@@ -24,6 +24,30 @@ void clearFields(const ParametersDialog& dialog) {
         child<QCheckBox>(dialog, name).setChecked(false);
 }
 
+TEST_F(ParametersDialogTest, CancelPutsTheFieldsBack) {
+    ParametersDialog dialog;
+    dialog.addPlaylist("Library");
+    dialog.addPlaylist("Party");
+    dialog.selectPlaylist(1);
+    dialog.showParamWindow();
+    const SearchParameters before = dialog.parameters();
+    for (const char* name : {"paramSameNameCK", "paramSameArtistCK", "paramSameAlbumCK", "paramSameTimeCK",
+                             "paramSimilarCK", "paramIgnoreDeadCK"})
+        dialog.findChild<QCheckBox*>(QLatin1String(name))->toggle();
+    dialog.selectPlaylist(0);
+    dialog.findChild<QPushButton*>(QStringLiteral("paramCancelButton"))->click();
+    EXPECT_EQ(dialog.parameters(), before);
+}
+
+TEST_F(ParametersDialogTest, ItsPlaylistsMayBeYetToCome) {
+    ParametersDialog dialog;
+    const auto* search = dialog.findChild<QPushButton*>(QStringLiteral("paramSearchButton"));
+    dialog.setPlaylistsPending(true);
+    EXPECT_FALSE(search->isEnabled());
+    dialog.setPlaylistsPending(false);
+    EXPECT_TRUE(search->isEnabled());
+}
+
 TEST_F(ParametersDialogTest, StartsWithEveryFieldButAlbumAndNoPlaylist) {
     const ParametersDialog dialog;
     SearchParameters expected;
@@ -99,7 +123,7 @@ TEST_F(ParametersDialogTest, SearchesOnReturnFromAnywhereAndLeavesClosingToOther
     EXPECT_TRUE(dialog.isVisible());
 }
 
-TEST_F(ParametersDialogTest, CancelsOnEscapeAndKeepsItsSettings) {
+TEST_F(ParametersDialogTest, CancelsOnEscapeAndKeepsTheSettingsOfASearch) {
     ParametersDialog dialog;
     QSignalSpy cancels(&dialog, &ParametersDialog::rejected);
     test::open(dialog);
@@ -107,7 +131,13 @@ TEST_F(ParametersDialogTest, CancelsOnEscapeAndKeepsItsSettings) {
     test::press(dialog, Qt::Key_Escape);
     EXPECT_EQ(cancels.count(), 1);
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_FALSE(dialog.parameters().issamename);
+    EXPECT_TRUE(dialog.parameters().issamename) << "as before";
+    test::open(dialog);
+    test::press(dialog, Qt::Key_Space);
+    dialog.closeParamWindow();
+    test::open(dialog);
+    test::press(dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.parameters().issamename) << "a search was begun with it";
 }
 
 TEST_F(ParametersDialogTest, BeginsAtNameAtEveryOpeningAndVisitsEveryControl) {

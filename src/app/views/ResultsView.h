@@ -34,6 +34,8 @@ class ResultsView {
     virtual void setStatusVisible(bool /*visible*/) {}
     /// What was searched, beside the results; empty while there are none.
     virtual void setSearchedText(const std::string& /*text*/) {}
+    /// What the marks' last change was, and what was taken back last; "" for nothing.
+    virtual void setUndoNames(const std::string& /*undo*/, const std::string& /*redo*/) {}
     virtual void setMarkEnabled(bool /*enabled*/) {}
     virtual void setDeleteEnabled(bool /*enabled*/) {}
 };

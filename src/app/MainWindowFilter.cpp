@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "app/MainWindow.h"
+#include "app/TableFilter.h"
+#include "theme/Icons.h"
+#include "ui/SWTableView.h"
+#include "ui_MainWindow.h"
+
+#include <QActionGroup>
+#include <QLineEdit>
+#include <QMenu>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <array>
+
+namespace songsweep {
+
+namespace {
+
+using Kind = RowFilter::Kind;
+
+struct KindItem {
+    Kind kind;
+    const char* name;
+};
+
+constexpr std::array kindItems = {KindItem{Kind::all, "All"}, KindItem{Kind::marked, "Marked"},
+                                  KindItem{Kind::missing, "Missing"},
+                                  KindItem{Kind::losingEveryCopy, "Losing every copy"}};
+
+} // namespace
+
+void MainWindow::setUpFilter() {
+    QLineEdit* field = m_ui->filterField;
+    QAction* magnifier = field->addAction(themedIcon(Icon::search), QLineEdit::LeadingPosition);
+    magnifier->setToolTip(QStringLiteral("What is shown"));
+    auto* kinds = new QMenu(field);
+    m_filterKinds = new QActionGroup(this);
+    for (const KindItem& each : kindItems) {
+        QAction* item = kinds->addAction(QLatin1String(each.name));
+        item->setCheckable(true);
+        item->setChecked(each.kind == Kind::all);
+        item->setData(static_cast<int>(each.kind));
+        m_filterKinds->addAction(item);
+    }
+    connect(magnifier, &QAction::triggered, kinds,
+            [field, kinds] { kinds->popup(field->mapToGlobal(QPoint(0, field->height()))); });
+    connect(m_filterKinds, &QActionGroup::triggered, this, &MainWindow::filterRows);
+    connect(field, &QLineEdit::textChanged, this, &MainWindow::filterRows);
+    connect(field, &QLineEdit::returnPressed, m_ui->tableview, [this] { m_ui->tableview->setFocus(); });
+    auto* leave = new QShortcut(Qt::Key_Escape, field);
+    leave->setContext(Qt::WidgetShortcut);
+    connect(leave, &QShortcut::activated, this, &MainWindow::endFilter);
+    connect(m_ui->filterMenuitem, &QAction::triggered, field, [field] {
+        field->setFocus(Qt::ShortcutFocusReason);
+        field->selectAll();
+    });
+    connect(m_filter, &TableFilter::changed, this, &MainWindow::showFilteredRows);
+    connect(m_filter, &TableFilter::dropped, this, &MainWindow::clearFilterControls);
+}
+
+void MainWindow::filterRows() {
+    m_filter->setFilter({static_cast<Kind>(m_filterKinds->checkedAction()->data().toInt()),
+                         m_ui->filterField->text().toStdString()});
+}
+
+void MainWindow::clearFilterControls() {
+    const QSignalBlocker blocker(m_ui->filterField);
+    m_ui->filterField->clear();
+    m_filterKinds->actions().first()->setChecked(true);
+}
+
+/// Escape shows all rows again, and goes back to them.
+void MainWindow::endFilter() {
+    clearFilterControls();
+    filterRows();
+    m_ui->tableview->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::showSongsLosingEveryCopy() {
+    clearFilterControls();
+    for (QAction* item : m_filterKinds->actions())
+        if (item->data().toInt() == static_cast<int>(Kind::losingEveryCopy)) item->setChecked(true);
+    filterRows();
+    m_ui->tableview->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::showFilteredRows() {
+    m_ui->tableview->reloadData(m_filter->shown());
+    updateGainLabel();
+}
+
+} // namespace songsweep
