@@ -141,6 +141,7 @@ class MainWindow : public QMainWindow,
     void changeEvent(QEvent* event) override;
 
   private:
+    void chooseFolder();
     void setUpToolbar();
     void setUpToolTips();
     void setUpEmptyPage();

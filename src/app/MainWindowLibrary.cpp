@@ -139,4 +139,21 @@ void MainWindow::chooseLibrary() {
     dialog->open();
 }
 
+void MainWindow::chooseFolder() {
+    if (!m_mayOpenLibrary()) {
+        QApplication::beep();
+        return;
+    }
+    auto* dialog = new QFileDialog(this, QStringLiteral("Choose music folder"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::MusicLocation));
+    connect(dialog, &QFileDialog::urlSelected, this, [this](const QUrl& url) {
+        const auto path = pathOfUrl(url.toEncoded(QUrl::FullyEncoded).toStdString());
+        if (path && !path->empty()) Q_EMIT openLibrary(*path);
+    });
+    dialog->open();
+}
+
 } // namespace songsweep

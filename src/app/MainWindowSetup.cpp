@@ -88,6 +88,7 @@ void MainWindow::setUpContextMenu() {
 
 void MainWindow::connectFileMenu() {
     connect(m_ui->openLibraryMenuitem, &QAction::triggered, this, &MainWindow::chooseLibrary);
+    connect(m_ui->openFolderMenuitem, &QAction::triggered, this, &MainWindow::chooseFolder);
     connect(m_ui->searchMenuitem, &QAction::triggered, this, &MainWindow::startButtonClick);
     connect(m_ui->deleteMarkedMenuitem, &QAction::triggered, this, &MainWindow::deleteMarkedMenuClick);
     connect(m_ui->restoreMenuitem, &QAction::triggered, this, &MainWindow::restoreMenuClick);

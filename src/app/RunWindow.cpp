@@ -8,6 +8,7 @@
 #include "platform/LogFile.h"
 #include "platform/RecentFiles.h"
 #include "platform/SignalWatch.h"
+#include "scan/FolderLibrary.h"
 #include "theme/SongsweepStyle.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace songsweep {
 
@@ -46,16 +48,25 @@ void keepNoSettingsFile() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
 
+/// What the windows are opened with.
+struct Beginning {
+    Log& log;
+    std::function<bool()> redirectLog;
+    std::string folder; ///< of music, to be read at once; empty for none
+};
+
 /// Until somebody quits; the workers have returned then.
-int runController(Program& program, Windows& windows, const std::function<bool()>& redirectLog) {
+int runController(Program& program, Windows& windows, const Beginning& beginning) {
     AppController controller(program.controllerServices(), windows.views());
-    const WindowActions actions(windows, controller,
-                                [&program](const std::string& path) { return program.openLibrary(path); });
-    controller.awakeFromNib(redirectLog);
+    WindowActions actions(
+        windows, controller, [&program](const std::string& path) { return program.openLibrary(path); },
+        beginning.log);
+    controller.awakeFromNib(beginning.redirectLog);
     windows.mainWindow().openAtFirstSize();
     windows.showMainWindow();
     controller.beginLibrary(CurrentLibrary::Telling::page);
     controller.lookForInterruption();
+    if (!beginning.folder.empty()) actions.open(beginning.folder);
     const int exitCode = QApplication::exec();
     controller.applicationShouldTerminate();
     windows.mainWindow().hide(); // what still runs is waited for
@@ -81,11 +92,13 @@ int runUntilQuit(ProgramOptions options, InterruptibleLog& output, Log& log,
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     });
     options.recentFiles = nativeRecentFiles();
+    // The window opens first, and reads a folder under a sheet.
+    const std::string folder = isFolder(options.library) ? std::exchange(options.library, {}) : std::string();
     Program program(std::move(options), log);
     Windows windows(log);
     program.setWriteFailedHandler(
         [&windows](const std::string& reason) { windows.alertCantWrite(reason + "\n" + libraryIsAsBefore); });
-    const int exitCode = runController(program, windows, redirectLog);
+    const int exitCode = runController(program, windows, {log, redirectLog, folder});
     writeLibrary(program, windows);
     return exitCode;
 }

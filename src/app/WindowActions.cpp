@@ -3,6 +3,8 @@
 
 #include "app/AppController.h"
 #include "app/Windows.h"
+#include "platform/UsualLibraries.h"
+#include "scan/FolderLibrary.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
 
@@ -13,10 +15,11 @@
 
 namespace songsweep {
 
-WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary)
+WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log)
     : m_windows(windows)
     , m_controller(controller)
-    , m_openLibrary(std::move(openLibrary)) {
+    , m_openLibrary(std::move(openLibrary))
+    , m_folder(windows, log) {
     connectToolbarAndMenus();
     connectLinks();
     connectTable();
@@ -87,8 +90,9 @@ QString WindowActions::markReason(int row) const {
 
 void WindowActions::connectParametersDialog() {
     ParametersDialog* dialog = &m_windows.paramWindow();
-    connect(dialog, &ParametersDialog::searchRequested, this,
-            [this](const SearchParameters& parameters) { m_controller.paramOkButtonClick(parameters); });
+    connect(dialog, &ParametersDialog::searchRequested, this, [this](const SearchParameters& parameters) {
+        m_folder.update([this, parameters] { m_controller.paramOkButtonClick(parameters); });
+    });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.paramCancelButtonClick(); });
 }
 
@@ -188,10 +192,27 @@ void WindowActions::chooseLibrary(const std::string& path) {
     m_windows.askBeforeMarksAreLost(marks, [this, path] { openLibrary(path); });
 }
 
+/// A folder that has a library stands for that; of any other its music is the library.
 void WindowActions::openLibrary(const std::string& path) {
-    if (!m_controller.mayOpenLibrary()) return; // what was asked for meanwhile
+    if (!m_controller.mayOpenLibrary() || m_folder.isReading()) return; // what was asked for meanwhile
+    if (isFolder(path) && usualLibraries(path).empty()) {
+        openFolder(path);
+    } else {
+        openFile(path);
+    }
+}
+
+void WindowActions::openFolder(const std::string& path) {
+    m_folder.open(path, [this, path](FolderActions::Outcome outcome, const std::string& library) {
+        if (outcome == FolderActions::Outcome::read) openFile(library);
+        if (outcome == FolderActions::Outcome::empty) openFile(path); // which says what is missing
+    });
+}
+
+void WindowActions::openFile(const std::string& path) {
     const OpenedLibrary opened = m_openLibrary(path);
     if (!opened.turned) return m_windows.alertCantOpen(opened.problem);
+    m_folder.noteLibrary(path);
     if (!m_controller.resetForLibrary()) return;
     m_controller.beginLibrary(CurrentLibrary::Telling::alert);
     m_controller.lookForInterruption();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/FolderActions.h"
 #include "app/OpenedLibrary.h"
 
 #include <QObject>
@@ -23,7 +24,10 @@ class WindowActions : public QObject {
     /// Turns the embedded library to another file.
     using OpenLibrary = std::function<OpenedLibrary(const std::string& path)>;
 
-    WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary);
+    WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log);
+
+    /// Opens a library file or a folder, as if the user had dropped it on the window.
+    void open(const std::string& path) { chooseLibrary(path); }
 
   private:
     void connectToolbarAndMenus();
@@ -37,6 +41,8 @@ class WindowActions : public QObject {
     void connectApplication();
     void chooseLibrary(const std::string& path);
     void openLibrary(const std::string& path);
+    void openFolder(const std::string& path);
+    void openFile(const std::string& path);
     void updateMarkPreview();
     QString markReason(int row) const;
     void quit();
@@ -44,6 +50,7 @@ class WindowActions : public QObject {
     Windows& m_windows;
     AppController& m_controller;
     OpenLibrary m_openLibrary;
+    FolderActions m_folder;
 };
 
 } // namespace songsweep

@@ -37,6 +37,11 @@ QString explanation(const DeleteConfirmationFacts& facts) {
                                   : QStringLiteral("iTunes cannot undo this."));
 }
 
+QString filesGo(const DeleteConfirmationFacts& facts) {
+    return worded(facts.tracks, QStringLiteral("Its file goes to the Trash."),
+                  QStringLiteral("Their files go to the Trash."));
+}
+
 QString fileOption(const DeleteConfirmationFacts& facts) {
     return worded(facts.tracks, QStringLiteral("Move its &file to the Trash too"),
                   QStringLiteral("Move their &files to the Trash too"));

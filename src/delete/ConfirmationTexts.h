@@ -12,6 +12,8 @@ namespace songsweep::confirmationTexts {
 QString heading(const DeleteConfirmationFacts& facts);
 QString explanation(const DeleteConfirmationFacts& facts);
 QString fileOption(const DeleteConfirmationFacts& facts);
+/// What takes the option's place where a track is its file.
+QString filesGo(const DeleteConfirmationFacts& facts);
 QString deleteButton(const DeleteConfirmationFacts& facts);
 
 /// What is told while no file is to be trashed.

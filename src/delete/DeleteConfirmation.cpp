@@ -49,7 +49,13 @@ void DeleteConfirmation::updateFacts(const DeleteConfirmationFacts& facts) {
     updateLines();
 }
 
-bool DeleteConfirmation::deletesFiles() const { return m_ui->delConfFileCK->isChecked(); }
+void DeleteConfirmation::setFilesAlwaysGo(bool always) {
+    m_filesAlwaysGo = always;
+    updateHeading();
+    updateLines();
+}
+
+bool DeleteConfirmation::deletesFiles() const { return m_filesAlwaysGo || m_ui->delConfFileCK->isChecked(); }
 
 bool DeleteConfirmation::leavesSharedFiles() const {
     return !hasSharedOption() || !m_ui->delConfTrashSharedCK->isChecked();
@@ -80,9 +86,11 @@ void DeleteConfirmation::setUpButtons() {
 void DeleteConfirmation::updateHeading() {
     const bool some = m_facts.tracks > 0;
     m_ui->delConfHeadingLabel->setText(confirmationTexts::heading(m_facts));
-    m_ui->delConfTextLabel->setText(confirmationTexts::explanation(m_facts));
+    QString explanation = confirmationTexts::explanation(m_facts);
+    if (m_filesAlwaysGo && some) explanation += QChar::Space + confirmationTexts::filesGo(m_facts);
+    m_ui->delConfTextLabel->setText(explanation);
     m_ui->delConfFileCK->setText(confirmationTexts::fileOption(m_facts));
-    m_ui->delConfFileCK->setVisible(some);
+    m_ui->delConfFileCK->setVisible(some && !m_filesAlwaysGo);
     m_ui->delConfLines->setVisible(some);
     m_deleteButton->setText(confirmationTexts::deleteButton(m_facts));
 #ifdef Q_OS_MACOS

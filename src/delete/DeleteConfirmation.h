@@ -35,6 +35,9 @@ class DeleteConfirmation : public QDialog {
     /// Changes the lines about files, which are known now, and nothing else.
     void updateFacts(const DeleteConfirmationFacts& facts);
 
+    /// Whether a track is its file, so that there is nothing to choose about files.
+    void setFilesAlwaysGo(bool always);
+
     bool deletesFiles() const;
     /// Whether files that tracks which stay use too are kept, as they are until somebody looks for the
     /// option.
@@ -67,6 +70,7 @@ class DeleteConfirmation : public QDialog {
     QPushButton* m_cancelButton = nullptr;
     QPushButton* m_deleteButton = nullptr;
     DeleteConfirmationFacts m_facts;
+    bool m_filesAlwaysGo = false;
 };
 
 } // namespace songsweep

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scan/FolderLibrary.h"
 
+#include "library/LocationUrl.h"
 #include "libraryfile/FileNames.h"
 #include "libraryfile/LibraryFile.h"
 #include "platform/LocalName.h"
@@ -11,6 +12,7 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
+#include <string_view>
 
 namespace songsweep {
 
@@ -49,6 +51,24 @@ Result<FolderLibrary> FolderLibrary::of(const std::string& folder, const std::st
     const std::string path = canonicalPath(folder);
     const std::string base = dataFolder + "/songsweep/" + shortName(path) + " " + numberOf(path);
     return FolderLibrary{path, base + ".xml", base + ".memory"};
+}
+
+std::optional<FolderLibrary> FolderLibrary::ofLibrary(const std::string& library,
+                                                      const std::string& dataFolder) {
+    constexpr std::size_t beginningSize = 16384; // a path has 4096 bytes at most, each three when escaped
+    constexpr std::string_view key = "<key>Music Folder</key><string>";
+    const Result<LibraryFile> file = LibraryFile::open(library);
+    if (!file) return {};
+    std::string beginning(beginningSize, '\0');
+    const Result<std::size_t> count = file.value().read(0, beginning.data(), beginning.size());
+    const std::size_t begin = beginning.find(key);
+    if (!count || begin == std::string::npos) return {};
+    const std::string_view text = std::string_view(beginning).substr(begin + key.size());
+    const std::optional<std::string> folder = pathOfFileUrl(text.substr(0, text.find('<')));
+    if (!folder) return {};
+    const Result<FolderLibrary> place = of(*folder, dataFolder);
+    if (!place || canonicalPath(place.value().library) != canonicalPath(library)) return {};
+    return place.value();
 }
 
 } // namespace songsweep

@@ -3,6 +3,7 @@
 
 #include "platform/Result.h"
 
+#include <optional>
 #include <string>
 
 namespace songsweep {
@@ -17,6 +18,10 @@ struct FolderLibrary {
 
     /// Of a folder by any of its names; `dataFolder` is the user's. An error where there is no such folder.
     static Result<FolderLibrary> of(const std::string& folder, const std::string& dataFolder);
+
+    /// That of a library file, which says itself of which folder it is; nothing for a file that is another
+    /// library, or whose folder is gone. Reads the file's beginning.
+    static std::optional<FolderLibrary> ofLibrary(const std::string& library, const std::string& dataFolder);
 };
 
 /// Whether the path is that of a folder, links followed.

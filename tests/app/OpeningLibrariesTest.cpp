@@ -11,6 +11,9 @@ namespace {
 
 class OpeningLibrariesTest : public WindowsFixture {
   protected:
+    OpeningLibrariesTest() { qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder.path() + "/data")); }
+    ~OpeningLibrariesTest() override { qunsetenv("XDG_DATA_HOME"); }
+
     void answer(const char* label) {
         for (QAbstractButton* button : alert()->buttons())
             if (button->text().remove(QLatin1Char('&')) == QLatin1String(label)) return button->click();
@@ -62,7 +65,7 @@ TEST_F(OpeningLibrariesTest, AFolderOpensTheLibraryInIt) {
 TEST_F(OpeningLibrariesTest, AFolderWithoutALibraryIsTold) {
     folder.write("Pictures/cat.png", "");
     Q_EMIT window().openLibrary(folder.path() + "/Pictures");
-    ASSERT_NE(alert(), nullptr);
+    ASSERT_TRUE(runEventLoopUntil([this] { return alert() != nullptr; }));
     EXPECT_TRUE(alert()->informativeText().contains(QStringLiteral("/Pictures holds no library file.")));
 }
 

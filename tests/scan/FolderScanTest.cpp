@@ -424,6 +424,19 @@ TEST_F(FolderScanTest, FailsWhereTheFolderIsGone) {
     EXPECT_EQ(LibraryDocument::open(gone.library).value()->trackCount(), 1);
 }
 
+TEST_F(FolderScanTest, KnowsTheFolderOfALibrary) {
+    writeTitled("a.mp3", "A");
+    scan();
+    const auto known = FolderLibrary::ofLibrary(place().library, m_folder.path() + "/data");
+    ASSERT_TRUE(known);
+    EXPECT_EQ(known->folder, place().folder);
+    // A copy of it is a library like any other.
+    fs::copy_file(place().library, m_folder.path() + "/copy.xml");
+    EXPECT_FALSE(FolderLibrary::ofLibrary(m_folder.path() + "/copy.xml", m_folder.path() + "/data"));
+    fs::rename(root(), root() + " elsewhere");
+    EXPECT_FALSE(FolderLibrary::ofLibrary(known->library, m_folder.path() + "/data"));
+}
+
 TEST_F(FolderScanTest, TellsFoldersOfOneNameApart) {
     fs::create_directories(m_folder.path() + "/other/Music");
     const FolderLibrary other = FolderLibrary::of(m_folder.path() + "/other/Music", m_folder.path()).value();
