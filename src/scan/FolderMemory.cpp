@@ -19,6 +19,9 @@ constexpr std::string_view magic = "songsweep folder memory 1\n";
 /// machine of the other order finds it damaged.
 class Packer {
   public:
+    /// For about so many bytes.
+    explicit Packer(std::size_t size) { m_bytes.reserve(size); }
+
     template <class Number>
     void number(Number value) {
         static_assert(std::is_integral_v<Number>);
@@ -131,7 +134,11 @@ std::optional<FolderMemory> FolderMemory::read(const std::string& path) {
 }
 
 Result<void> FolderMemory::write(const std::string& path) const {
-    Packer packer;
+    constexpr std::size_t bytesOfTrack = 76; // and its path
+    std::size_t size = 0;
+    for (const KnownFile& track : tracks)
+        size += bytesOfTrack + track.path.size();
+    Packer packer(size);
     visitStamp(library, packer);
     packer.number(std::uint64_t{tracks.size()});
     for (const KnownFile& track : tracks)
@@ -140,7 +147,7 @@ Result<void> FolderMemory::write(const std::string& path) const {
     for (const FoundFile& playlist : playlists)
         visitPlaylist(playlist, packer);
     const std::string contents = packer.take();
-    Packer hash;
+    Packer hash(sizeof(std::uint64_t));
     hash.number(hash64(contents));
     Result<NewFile> file = NewFile::createFor(path);
     if (!file) return file.error();

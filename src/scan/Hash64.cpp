@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "scan/Hash64.h"
 
+#include <bit>
 #include <cstddef>
+#include <cstring>
 
 namespace songsweep {
 
@@ -18,6 +20,10 @@ std::uint64_t mixed(std::uint64_t value) {
 /// Up to eight bytes, the first one lowest.
 std::uint64_t word(std::string_view bytes) {
     std::uint64_t value = 0;
+    if (std::endian::native == std::endian::little && bytes.size() == sizeof(value)) {
+        std::memcpy(&value, bytes.data(), sizeof(value));
+        return value;
+    }
     for (std::size_t i = 0; i < bytes.size(); ++i)
         value |= std::uint64_t{static_cast<unsigned char>(bytes[i])} << (8 * i);
     return value;

@@ -27,7 +27,6 @@ LibraryUpdate::LibraryUpdate(const FolderLibrary& place, const ScanWatch& watch,
     , m_watch(watch)
     , m_old(old)
     , m_plan(plan)
-    , m_numbers(plan.known)
     , m_now(secondsNow())
     , m_isChanged(writing == Writing::inAnyCase || plan.vanished.count() > 0) {}
 
@@ -69,6 +68,7 @@ Result<void> LibraryUpdate::begin() {
     if (!file) return file.error();
     m_writer.emplace(std::move(file).value(), m_place.folder);
     m_writer->begin(m_now);
+    m_numbers.emplace(m_plan.known);
     m_memory.tracks.reserve(m_plan.steps.size());
     return {};
 }
@@ -108,8 +108,8 @@ KnownFile LibraryUpdate::trackOf(const ScanStep& step, const SoundFacts& facts, 
     }
     ++report.added;
     KnownFile track;
-    track.persistentId = m_numbers.persistentId(step.file.path);
-    track.trackId = m_numbers.trackId();
+    track.persistentId = m_numbers->persistentId(step.file.path);
+    track.trackId = m_numbers->trackId();
     track.dateAdded = m_now;
     return track;
 }

@@ -43,7 +43,7 @@ class LibraryUpdate {
     const ScanWatch& m_watch;
     const LibraryFile& m_old;
     ScanPlan& m_plan;
-    NewNumbers m_numbers;
+    std::optional<NewNumbers> m_numbers; ///< made when the writing begins
     std::int64_t m_now;
     bool m_isChanged;
     std::optional<LibraryWriter> m_writer;
