@@ -11,6 +11,20 @@ pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(TAGLIB REQUIRED IMPORTED_TARGET taglib)
 
+
+# What compares the sound of copies; without it the program builds, and says so.
+if(SONGSWEEP_SOUND)
+    pkg_check_modules(CODECS IMPORTED_TARGET libavformat libavcodec libavutil libswresample)
+    pkg_check_modules(CHROMAPRINT IMPORTED_TARGET libchromaprint)
+    if(NOT CODECS_FOUND OR NOT CHROMAPRINT_FOUND)
+        message(STATUS "Without libavformat or Chromaprint: sounds cannot be compared")
+        set(SONGSWEEP_SOUND OFF)
+    endif()
+endif()
+if(NOT SONGSWEEP_SOUND)
+    set(SONGSWEEP_VERSION_NOTE ", without comparing sounds")
+endif()
+
 if(SONGSWEEP_TESTS)
     find_package(GTest REQUIRED)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)

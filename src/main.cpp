@@ -24,7 +24,8 @@ int main(int argumentCount, char** arguments) {
     openStandardDescriptors();
     survivePipesThatClose();
     returnLargeBlocksAtOnce();
-    const auto parsed = cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION);
+    const auto parsed =
+        cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION SONGSWEEP_VERSION_NOTE);
     if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);
     const auto& command = std::get<cli::Command>(parsed);
     if (const auto* window = std::get_if<cli::LibraryOptions>(&command))
