@@ -110,6 +110,8 @@ class AppController {
     void noticeCloseButtonClick() { m_notices.close(); }
 
     // What views and commands look at.
+    /// Puts the rows into another order, the numbers of the rows as they stand; groups stay together.
+    void arrangeRows(const std::vector<std::size_t>& order) { m_results.arrangeRows(order); }
     const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
     int getCheckedCount() const { return m_results.getCheckedCount(); }

@@ -84,6 +84,17 @@ void Results::forget() {
     showEmptyState();
 }
 
+void Results::arrangeRows(const std::vector<std::size_t>& order) {
+    std::vector<TrackRecord*> arranged;
+    arranged.reserve(order.size());
+    for (const std::size_t row : order)
+        arranged.push_back(m_tableDataSource.rows[row]);
+    m_tableDataSource.rows = std::move(arranged);
+    m_lastMark.reset();
+    clearSortIndicator();
+    reloadTable();
+}
+
 void Results::didClickTableColumn(Column column) {
     if (m_sortColumn != column) clearSortIndicator();
     m_sortAscending = m_sortColumn != column || !m_sortAscending;

@@ -49,6 +49,8 @@ class Results {
     /// Forgets everything, for another library.
     void forget();
 
+    /// Puts the rows into another order: the numbers of the rows as they stand.
+    void arrangeRows(const std::vector<std::size_t>& order);
     void didClickTableColumn(Column column);
     void clearSortIndicator();
     void realignShowID();

@@ -74,7 +74,7 @@ std::string differingWords(std::string_view text, std::string_view otherText) {
     Words words = allWords;
     Words others = allOthers;
     dropCommonWords(words, others);
-    const std::string mine = unwrapped(joined(words));
+    std::string mine = unwrapped(joined(words));
     const std::string theirs = unwrapped(joined(others));
     if (mine.empty() && theirs.empty()) return "“" + std::string(text) + "”";
     if (theirs.empty()) return mine;
