@@ -100,6 +100,7 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
         ->check(checkField)
         ->type_name("FIELDS")
         ->default_str("name,artist,time");
+    command.add_flag("--sound", options.sound, "Listen to the copies, and tell recordings apart");
     auto* const similar =
         command.add_flag("--similar", options.parameters.issimilar,
                          "Compare without small differences: punctuation, accents, (Remastered), a guest");

@@ -7,6 +7,10 @@
 #include <optional>
 #include <string>
 
+namespace songsweep {
+class RecordingGroups;
+}
+
 namespace songsweep::cli {
 
 class LibrarySession;
@@ -25,6 +29,11 @@ ExitCode runScan(const ScanOptions& options, const std::string& version);
 /// spelling. The exit code where the rule, by kind or folder, matches no track, which is told; nothing is
 /// marked then.
 std::optional<ExitCode> markByRule(LibrarySession& session, const MarkOptions& options);
+
+/// The same by recording: the rule keeps a copy of each, and none is marked of which no copy would stay. The
+/// groups are split by it, and stay so.
+std::optional<ExitCode> markRecordings(LibrarySession& session, const MarkOptions& options,
+                                       RecordingGroups& recordings);
 
 /// Prints "songsweep: MESSAGE" on standard error, safe for a terminal.
 void tell(const std::string& message);

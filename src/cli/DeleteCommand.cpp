@@ -3,8 +3,10 @@
 #include "cli/LibrarySession.h"
 #include "cli/OutcomeReport.h"
 #include "cli/Output.h"
+#include "cli/SoundOption.h"
 #include "delete/DeletePrediction.h"
 #include "delete/TrackFacts.h"
+#include "dupes/RecordingGroups.h"
 #include "platform/ReasonWithPath.h"
 
 #include <algorithm>
@@ -95,13 +97,24 @@ ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output&
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
 }
 
+/// Where sounds were compared, each recording stays a group of its own, so that the deletion looks for a copy
+/// of it that stays.
+std::optional<ExitCode> mark(LibrarySession& session, const DeleteOptions& options,
+                             const std::optional<ComparedSounds>& sounds) {
+    if (!sounds) return markByRule(session, options);
+    RecordingGroups recordings(session.controller().tableDataSource().rows, *sounds);
+    return markRecordings(session, options, recordings);
+}
+
 } // namespace
 
 ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
     using Purpose = LibrarySession::Purpose;
     LibrarySession session(options, version, options.dryRun ? Purpose::look : Purpose::cleanUp);
     if (const auto problem = session.search()) return *problem;
-    if (const auto problem = markByRule(session, options)) return *problem;
+    std::optional<ComparedSounds> sounds;
+    if (const auto problem = compareSoundsIfAsked(session, options, sounds)) return *problem;
+    if (const auto problem = mark(session, options, sounds)) return *problem;
     const int lost = groupsLosingEveryCopy(session.controller().tableDataSource().rows);
     if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
     // Opened first, so that nothing is deleted whose outcome cannot be told. What a deletion came to is told

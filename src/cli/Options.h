@@ -29,6 +29,7 @@ struct LibraryOptions {
 /// The options of `find`, which `mark` and `delete` know too.
 struct FindOptions : LibraryOptions {
     SearchParameters parameters; ///< its playlist is nothing where none was given
+    bool sound = false;          ///< compare the sound of what is found
     OutputFormat format = OutputFormat::text;
     std::string output; ///< path; empty for standard output
 };

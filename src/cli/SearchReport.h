@@ -3,9 +3,11 @@
 
 #include "cli/Options.h"
 #include "library/TrackRecord.h"
+#include "sound/SoundComparison.h"
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +25,8 @@ struct SearchReport {
     std::function<std::string(int row)> reason = {};
     /// By row, how a copy differs from the plainest of its group; empty where small differences count.
     std::vector<std::vector<std::string>> differences = {};
+    /// By row; nothing where sounds were not compared.
+    std::optional<ComparedSounds> sounds = {};
 };
 
 /// Writes the report in a format.

@@ -27,7 +27,7 @@ class Usage : public test::ProgramTest {
 TEST_F(Usage, TellsTheVersion) {
     const RunResult result = run({"--version"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "Songsweep " SONGSWEEP_VERSION "\n");
+    EXPECT_EQ(result.output, "Songsweep " SONGSWEEP_VERSION SONGSWEEP_VERSION_NOTE "\n");
 }
 
 TEST_F(Usage, TellsEveryCommandAndOption) {
