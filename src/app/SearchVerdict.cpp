@@ -24,6 +24,12 @@ std::string unlistedReason(const SearchScope& scope) {
     return "the library file has no playlist named " + quotedName(scope);
 }
 
+/// The library's playlist lists each track that iTunes has; a playlist of the user leaves out what it likes.
+std::string leftOutReason(const SearchCoverage& coverage) {
+    return "the library's own playlist leaves out " +
+           counted(static_cast<std::size_t>(coverage.leftOutTracks), "track");
+}
+
 /// Why no track was compared though the playlist was found.
 std::string nothingListedReason(const SearchScope& scope) {
     const std::string playlist = scope.isLibrary ? "the library" : "the playlist " + quotedName(scope);
@@ -50,6 +56,8 @@ SearchVerdict SearchVerdict::of(const SearchScope& scope) {
     else if (isOther)
         failed(searchedTracks(scope.listedTracks, scope) + "the first playlist named " + quotedName(scope) +
                " in the library file is not the library");
+    else if (scope.isLibrary && coverage.leftOutTracks > 0)
+        failed(searchedTracks(scope.listedTracks, scope) + leftOutReason(coverage));
     if (verdict.isComplete && scope.listedTracks == 0 && scope.libraryTracks > 0)
         verdict.notes.push_back(searchedTracks(0, scope) + nothingListedReason(scope));
     return verdict;

@@ -69,6 +69,7 @@ SWXMLParser::Admitted SWXMLParser::admit(std::span<TrackRecord* const> records) 
         for (TrackRecord* const record : records | std::views::reverse) {
             // The playlist is asked for every record: what it finds is used up.
             const bool isInPlaylist = isInMusicPlaylist(*record);
+            if (record->isfile && !isInPlaylist) ++m_list->coverage.leftOutTracks;
             if (!record->isfile || !isInPlaylist) continue;
             if (!record->location.empty()) makePath(*record);
             admitted.records.push_back(record);

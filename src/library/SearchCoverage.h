@@ -18,6 +18,7 @@ struct SearchCoverage {
 
     Playlist playlist = Playlist::chosen;
     int playlistTracks = 0;        ///< items of the playlist
+    int leftOutTracks = 0;         ///< tracks of the file that are files, and no items of the playlist
     int unreadTracks = 0;          ///< tracks that iTunes was asked for in vain
     std::string unreadReason = {}; ///< why, of the first of them
     std::string brokenOff = {};    ///< why the reading or the grouping ended early; empty where it did not

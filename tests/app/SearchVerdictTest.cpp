@@ -71,6 +71,23 @@ TEST_F(SearchVerdictTest, TellsOfAPlaylistThatTookTheLibrarysPlace) {
     EXPECT_EQ(SearchVerdict::of(m_scope), SearchVerdict()) << "a playlist is another one than the library";
 }
 
+TEST_F(SearchVerdictTest, TellsOfTracksThatTheLibrarysPlaylistLeavesOut) {
+    m_scope.coverage.leftOutTracks = 1;
+    expect(incomplete, "11000 of 12000 tracks were searched: the library's own playlist leaves out 1 track");
+    m_scope.listedTracks = 0;
+    m_scope.coverage.playlistTracks = 0;
+    m_scope.coverage.leftOutTracks = 12000;
+    expect(incomplete, "0 of 12000 tracks were searched: the library's own playlist leaves out 12000 tracks");
+    m_scope.coverage.playlist = Playlist::none;
+    expect(incomplete, "0 of 12000 tracks were searched: the library file has no playlist named “Music”");
+}
+
+TEST_F(SearchVerdictTest, LetsAPlaylistOfTheUserLeaveTracksOut) {
+    m_scope.isLibrary = false;
+    m_scope.coverage.leftOutTracks = 1000;
+    EXPECT_EQ(SearchVerdict::of(m_scope), SearchVerdict());
+}
+
 TEST_F(SearchVerdictTest, TellsWhyNothingWasCompared) {
     m_scope.listedTracks = 0;
     expect(complete, "0 of 12000 tracks were searched: none that the library lists is a file to be searched");

@@ -17,6 +17,7 @@ using test::SamplePlaylist;
 using test::SampleTrack;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::Not;
 
 void replace(std::string& text, const std::string& from, const std::string& to) {
@@ -119,6 +120,35 @@ TEST_F(OddLibrary, IsNotClearedByAPlaylistOfTheLibrarysName) {
     EXPECT_EQ(found.exitCode, 1);
     EXPECT_THAT(found.errors, HasSubstr("1 of 2 tracks were searched: the first playlist named “Library” in "
                                         "the library file is not the library"));
+}
+
+TEST_F(OddLibrary, IsNotClearedByALibraryPlaylistThatLeavesTracksOut) {
+    const std::vector<SampleTrack> tracks = {track(1, "Song"), track(2, "Song"), track(3, "Other")};
+    const std::vector<std::pair<SamplePlaylist, std::string>> cases = {
+        {{"Library", {1, 3}, true},
+         "2 of 3 tracks were searched: the library's own playlist leaves out 1 track"},
+        {{"Library", {}, true},
+         "0 of 3 tracks were searched: the library's own playlist leaves out 3 tracks"},
+        {{"Party", {1}}, "1 of 3 tracks were searched: the library's own playlist leaves out 2 tracks"}};
+    for (const auto& [library, note] : cases) {
+        const std::string odd = libraryText(tracks, {library});
+        const RunResult found = runOn(odd, {"find"});
+        EXPECT_EQ(found.exitCode, 1);
+        EXPECT_THAT(found.errors, HasSubstr("Library.xml: " + note + "\n"));
+        EXPECT_THAT(found.output, HasSubstr("0 songs in 0 groups\n" + note + "\n"));
+        const RunResult asJson = runOn(odd, {"find", "--format", "json"});
+        EXPECT_EQ(asJson.exitCode, 1);
+        EXPECT_EQ(json::parse(asJson.output).at("notes"), json::array({note}));
+        EXPECT_THAT(foundIds(odd, {"--itunes-version", "9.2.1"}),
+                    ElementsAre("0000000000000001", "0000000000000002"));
+    }
+}
+
+TEST_F(OddLibrary, IsClearedThoughTheLibraryListsNoStreams) {
+    SampleTrack stream = track(2, "Song");
+    stream.type = "URL";
+    const std::string odd = libraryText({track(1, "Song"), stream}, {{"Library", {1}, true}});
+    EXPECT_THAT(foundIds(odd), IsEmpty());
 }
 
 /// The reader takes the name in two pieces, none of which is it: as where it was renamed meanwhile.

@@ -131,6 +131,15 @@ TEST_F(SWXMLParserTest, OfTwoPlaylistsOfTheNameTheFirstCountsAndAnItemListedTwic
     EXPECT_THAT(m_trace, testing::Contains("Songs count in Music playlist End: 1"));
 }
 
+TEST_F(SWXMLParserTest, CountsTheFileTracksThatThePlaylistLeavesOut) {
+    useFiveTracks();
+    run(all(), fiveTracks);
+    EXPECT_EQ(m_list->coverage.leftOutTracks, 1);
+    m_list = std::make_shared<TrackList>();
+    run({.playlist = "favourites"}, fiveTracks);
+    EXPECT_EQ(m_list->coverage.leftOutTracks, 3) << "the stream that it leaves out is no file";
+}
+
 TEST_F(SWXMLParserTest, APlaylistThatDoesNotExistAdmitsNoTrack) {
     useFiveTracks();
     run({.playlist = "nowhere"}, fiveTracks);
