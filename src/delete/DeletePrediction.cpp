@@ -2,6 +2,7 @@
 #include "delete/DeletePrediction.h"
 
 #include "delete/Obstacles.h"
+#include "delete/StayingFiles.h"
 #include "library/QuotedTrack.h"
 
 #include <filesystem>
@@ -28,8 +29,8 @@ class GoingFiles {
     std::unordered_map<std::string, const TrackRecord*> m_first;
 };
 
-void predictFile(const TrackRecord& record, const DeletePlan& plan, GoingFiles& going,
-                 DeleteOutcome& outcome) {
+void predictFile(const TrackRecord& record, const DeletePlan& plan, const StayingFiles& staying,
+                 GoingFiles& going, DeleteOutcome& outcome) {
     using File = DeleteOutcome::File;
     const auto file = plan.files.find(&record);
     if (file == plan.files.end()) {
@@ -38,6 +39,8 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, GoingFiles& 
         return;
     } else if (file->second.obstacle) {
         outcome.keepFile(file->second.obstacle);
+    } else if (const std::string reason = staying.reasonToKeep(file->second); !reason.empty()) {
+        outcome.keepFile(reason);
     } else if (!file->second.refusal.empty()) {
         outcome.keepFile(file->second.refusal);
     } else {
@@ -65,6 +68,7 @@ DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFi
                              const TracksOfId& tracksOfId) {
     DeleteReport report;
     SharedIds ids(rows, tracksOfId);
+    const StayingFiles staying = isDelFile ? StayingFiles(rows, plan, ids) : StayingFiles();
     GoingFiles going;
     for (const TrackRecord* const record : rows) {
         if (!record->checkbox) continue;
@@ -72,7 +76,7 @@ DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFi
         predictTrack(*record, ids, outcome);
         if (!isDelFile) continue;
         if (outcome.track == DeleteOutcome::Track::deleted) {
-            predictFile(*record, plan, going, outcome);
+            predictFile(*record, plan, staying, going, outcome);
         } else {
             predictKeptFile(*record, plan, outcome);
         }

@@ -132,6 +132,7 @@ void DeleteProc::unmute(std::exception_ptr& failure) {
 bool DeleteProc::deleteRows() {
     const std::size_t count = m_list.rows.size();
     m_sharedIds.emplace(m_list.rows, m_services.tracksOfId);
+    if (m_isDelFile) m_fileDeletion.keepFiles(m_list.rows, *m_sharedIds);
     m_stayingCopies.emplace(m_list.rows, m_keptSongs, m_services.files);
     Compaction compaction(m_list.rows);
     for (std::size_t pass = 0; pass < count; ++pass) {

@@ -80,6 +80,8 @@ void FileDeletion::decide(const TrackRecord& record, DeleteOutcome& outcome, std
         outcome.keepFile(obstacle);
     } else if (!isPlanned) {
         outcome.keepFile("it is not the file that was looked at");
+    } else if (const std::string reason = m_staying.reasonToKeep(*planned); !reason.empty()) {
+        outcome.keepFile(reason);
     } else if (const auto hfs = nameableHfsPath(record.location)) {
         trash(record, *hfs, number);
     } else {

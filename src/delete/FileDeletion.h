@@ -3,6 +3,7 @@
 
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
+#include "delete/StayingFiles.h"
 #include "libraryfile/RecordedCleanup.h"
 #include "platform/Files.h"
 #include "platform/Result.h"
@@ -33,6 +34,8 @@ class FileDeletion {
 
     /// What is planned for a marked track, and for its file if files go.
     RecordedTrack planFor(const TrackRecord& record, bool withFile) const;
+    /// Keeps the files of the rows that will stay from going with others; before the first file goes.
+    void keepFiles(const std::vector<TrackRecord*>& rows, SharedIds& ids) { m_staying = {rows, m_plan, ids}; }
     /// Deals with the track's file; the outcome is the report's next one. An exception of the standard kind,
     /// whatever it comes from, only keeps the file.
     void deleteFileOf(const TrackRecord& record, DeleteOutcome& outcome, std::size_t number);
@@ -59,6 +62,7 @@ class FileDeletion {
     AppleScript& m_scripts;
     const Files& m_files;
     DeletePlan m_plan;
+    StayingFiles m_staying;
     std::vector<Told> m_told;
     std::unordered_map<std::string, std::string> m_names; ///< of the files told, by canonical path
 };

@@ -82,12 +82,19 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     m_recordPath = record.value().path();
     m_record = std::move(record).value();
     m_plan = std::move(plan.tracks);
+    noteUsers();
     m_fates.assign(m_plan.size(), std::nullopt);
     m_written.assign(m_plan.size(), false);
     m_firstUnwritten = 0;
     m_track = 0;
     m_error.reset();
     return {};
+}
+
+void LibraryCleanup::noteUsers() {
+    m_users.clear();
+    for (std::size_t track = 0; track < m_plan.size(); ++track)
+        if (m_plan[track].file != FileStamp()) m_users[m_plan[track].file].push_back(track);
 }
 
 bool LibraryCleanup::beginTrack(std::size_t number) {
@@ -142,10 +149,22 @@ Result<void> LibraryCleanup::moveFiles(LibraryDocument& library) {
     return noted;
 }
 
+/// Nor must a track of the plan lose it whose turn is still to come, or that could not be deleted.
 bool LibraryCleanup::isGone(const HeldFile& file, LibraryDocument& library) const {
-    return std::all_of(file.tracks.begin(), file.tracks.end(), [&](std::size_t track) {
+    const auto users = m_users.find(file.stamp);
+    return areGone(file.tracks, library) && (users == m_users.end() || areGone(users->second, library));
+}
+
+bool LibraryCleanup::areGone(const std::vector<std::size_t>& tracks, LibraryDocument& library) const {
+    return std::all_of(tracks.begin(), tracks.end(), [&](std::size_t track) {
         return library.tracksWithPersistentId(m_plan[track].persistentId).empty();
     });
+}
+
+Error LibraryCleanup::reasonToKeep(const HeldFile& file) const {
+    const bool isOfOther = m_library.opened() != nullptr && areGone(file.tracks, *m_library.opened());
+    return {Error::Code::failed, isOfOther ? "another track that uses it is still in the library"
+                                           : "its track is still in the library"};
 }
 
 void LibraryCleanup::settle(const HeldFile& file, const Result<TrashedFile>& fate) {
@@ -158,9 +177,8 @@ void LibraryCleanup::settle(const HeldFile& file, const Result<TrashedFile>& fat
 Result<void> LibraryCleanup::finish() {
     Result<void> written;
     if (m_library.opened() != nullptr) written = write(*m_library.opened());
-    const Error kept = {Error::Code::failed, "its track is still in the library"};
     for (const HeldFile& file : m_files.takeAll())
-        settle(file, kept);
+        settle(file, reasonToKeep(file));
     m_library.beginScript(); // What is told from here on is what the disk says, whatever a write said.
     static_cast<void>(m_library.document());
     return written;

@@ -5,11 +5,13 @@
 #include "hosts/HeldFiles.h"
 #include "libraryfile/CleanupLock.h"
 #include "libraryfile/CleanupRecord.h"
+#include "libraryfile/FileStampHash.h"
 
 #include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace songsweep {
@@ -66,12 +68,17 @@ class LibraryCleanup {
     const std::string& record() const { return m_recordPath; }
 
   private:
+    using PlannedTracks = std::unordered_map<FileStamp, std::vector<std::size_t>, FileStampHash>;
+
     Result<void> beginRecord(LibraryDocument& library, CleanupPlan plan);
     Result<void> writeLibrary(LibraryDocument& library);
     Result<void> moveFiles(LibraryDocument& library);
+    void noteUsers();
     void noteWritten(LibraryDocument& library);
     void settle(const HeldFile& file, const Result<TrashedFile>& fate);
     bool isGone(const HeldFile& file, LibraryDocument& library) const;
+    bool areGone(const std::vector<std::size_t>& tracks, LibraryDocument& library) const;
+    Error reasonToKeep(const HeldFile& file) const;
 
     EmbeddedLibrary& m_library;
     Trash& m_trash;
@@ -80,6 +87,7 @@ class LibraryCleanup {
     std::string m_backup;
     std::string m_recordPath;
     std::vector<RecordedTrack> m_plan;
+    PlannedTracks m_users; ///< of files, by these
     HeldFiles m_files;
     std::vector<std::optional<Result<TrashedFile>>> m_fates; ///< by track of the plan
     std::vector<bool> m_written;      ///< the tracks that a written library does not have

@@ -6,6 +6,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace songsweep {
 namespace {
 
@@ -61,6 +63,21 @@ TEST_F(DeletePredictionTest, TellsWhichTracksStayInEarnest) {
     addFile("0", true, "b.mp3");
     add(1, "", true, path("gone.mp3"));
     expectTheSameInEarnest(test::makeDeletePlan(m_list.rows, m_files, {}));
+}
+
+TEST_F(DeletePredictionTest, TellsWhichFilesStayWithTracksThatStayInEarnest) {
+    addFile("A", true, "a.mp3");
+    add(1, "B", true, path("a.mp3"));
+    addFile("C", true, "c.mp3");
+    std::filesystem::create_hard_link(path("c.mp3"), path("d.mp3"));
+    add(1, "", true, path("d.mp3"));
+    addFile("E", true, "e.mp3");
+    m_tracksOfId = [](std::string_view pid) { return std::vector<std::string>(pid == "B" ? 2 : 1, "“S”"); };
+    DeletePlan plan = test::makeDeletePlan(m_list.rows, m_files, {});
+    plan.giveUpSharedFiles();
+    expectTheSameInEarnest(plan);
+    EXPECT_TRUE(exists("a.mp3") && exists("c.mp3") && exists("d.mp3"));
+    EXPECT_FALSE(exists("e.mp3"));
 }
 
 TEST_F(DeletePredictionTest, TellsWhichTracksShareTheirIdsInEarnest) {

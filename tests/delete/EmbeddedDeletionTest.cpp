@@ -96,7 +96,7 @@ class EmbeddedDeletionTest : public testing::Test {
         return found;
     }
 
-    DeleteReport deleteMarked(DisplayedList& list) {
+    DeleteReport deleteMarked(DisplayedList& list, bool leaveSharedFiles = true) {
         const LibraryLocations locations = [this](const LocationVisitor& visit) {
             return m_scripts->forEachLocation(visit).hasValue();
         };
@@ -110,9 +110,13 @@ class EmbeddedDeletionTest : public testing::Test {
         });
         EmbeddedCleanup cleanup(*m_scripts, [] { return true; }, {{"a test", {}}, "Songsweep test"});
         const TracksOfId tracksOfId = [this](std::string_view pid) { return m_scripts->tracksOfId(pid); };
-        DeleteProc(list, true, {m_center, *m_scripts, m_files, m_log, cleanup, tracksOfId},
-                   test::makeDeletePlan(list.rows, m_files, locations))
-            .main();
+        DeletePlan plan = test::makeDeletePlan(list.rows, m_files, locations);
+        if (!leaveSharedFiles) plan.giveUpSharedFiles();
+        DeleteProc operation(list, true, {m_center, *m_scripts, m_files, m_log, cleanup, tracksOfId},
+                             std::move(plan));
+        m_operation = &operation;
+        operation.main();
+        m_operation = nullptr;
         return report;
     }
 
@@ -128,6 +132,7 @@ class EmbeddedDeletionTest : public testing::Test {
     NotificationCenter<WorkerEvent> m_center;
     std::unique_ptr<EmbeddedScripting> m_scripts;
     std::vector<std::string> m_events; ///< of the deletion
+    DeleteProc* m_operation = nullptr; ///< while it runs
     std::function<void(EventName)> m_onEvent;
 
   private:
@@ -200,7 +205,42 @@ TEST_F(EmbeddedDeletionTest, AFileOfTwoTracksIsToldOfBothAndNamesTheOther) {
     EXPECT_EQ(m_trash.trashed, 1);
 }
 
-TEST_F(EmbeddedDeletionTest, ALinkWhoseTargetWentFirstIsToldTruly) {
+TEST_F(EmbeddedDeletionTest, AFileStaysWithATrackThatIsKeptForItsId) {
+    writeLibrary({"a.mp3", "a2.mp3", "a.mp3", "b2.mp3", "c.mp3"});
+    replaceAll(test::persistentIdOf(104), test::persistentIdOf(102));
+    for (const bool leaveSharedFiles : {true, false}) {
+        m_folder.write("library.xml", m_text);
+        DisplayedList list = search(5);
+        ASSERT_THAT(list.rows, SizeIs(4));
+        markItems(list.rows, MarkType::highestBitrate, true);
+        const DeleteReport report = deleteMarked(list, leaveSharedFiles);
+        ASSERT_THAT(report.outcomes, SizeIs(2));
+        EXPECT_EQ(outcomeText(report.outcomes[0]), "deleted, file kept: “Song 1”, which stays, uses it too");
+        EXPECT_THAT(outcomeText(report.outcomes[1]), testing::StartsWith("failed, file kept: 2 tracks of"));
+        EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
+        EXPECT_EQ(m_trash.trashed, 0);
+    }
+}
+
+TEST_F(EmbeddedDeletionTest, AFileStaysWithATrackWhoseTurnDidNotCome) {
+    writeLibrary({"a.mp3", "a2.mp3", "a.mp3", "b2.mp3"});
+    DisplayedList list = search(4);
+    markItems(list.rows, MarkType::highestBitrate, true);
+    m_onEvent = [&](EventName name) {
+        if (name != EventName::deleteAddCount) return;
+        EXPECT_TRUE(m_scripts->flush());
+        m_operation->cancel();
+    };
+    const DeleteReport report = deleteMarked(list);
+    ASSERT_THAT(report.outcomes, SizeIs(2));
+    EXPECT_EQ(outcomeText(report.outcomes[0]),
+              "deleted, file kept: another track that uses it is still in the library");
+    EXPECT_EQ(outcomeText(report.outcomes[1]), "not attempted");
+    EXPECT_TRUE(m_files.exists(m_folder.pathOf("a.mp3")));
+    EXPECT_EQ(libraryText(), test::withoutTracks(m_text, {100}));
+}
+
+TEST_F(EmbeddedDeletionTest, ALinkGoesWithItsTargetAlsoInALongRun) {
     std::filesystem::create_symlink("a.mp3", m_folder.pathOf("link.mp3"));
     writeLibrary({"a.mp3", "a2.mp3", "b.mp3", "b2.mp3"});
     std::filesystem::remove(m_folder.pathOf("b.mp3"));
@@ -210,15 +250,15 @@ TEST_F(EmbeddedDeletionTest, ALinkWhoseTargetWentFirstIsToldTruly) {
     int tracks = 0;
     m_onEvent = [&](EventName name) {
         if (name == EventName::deleteAddCount && ++tracks == 1) {
-            EXPECT_TRUE(m_scripts->flush()); // as in a long run, so that the target has gone
+            EXPECT_TRUE(m_scripts->flush()); // as in a long run
         }
     };
     const DeleteReport report = deleteMarked(list);
     ASSERT_THAT(report.outcomes, SizeIs(2));
     EXPECT_FALSE(m_files.exists(m_folder.pathOf("a.mp3")));
-    EXPECT_TRUE(std::filesystem::is_symlink(m_folder.pathOf("link.mp3")));
-    EXPECT_EQ(outcomeText(report.outcomes[1]),
-              "deleted, file trashed: it is a link, which is left; it is the file of “Song 0”, too");
+    EXPECT_FALSE(std::filesystem::is_symlink(m_folder.pathOf("link.mp3")));
+    EXPECT_EQ(outcomeText(report.outcomes[1]), "deleted, file trashed");
+    EXPECT_EQ(m_trash.trashed, 2);
 }
 
 TEST_F(EmbeddedDeletionTest, WhiteSpaceAroundALocationHidesNoSharedFile) {
