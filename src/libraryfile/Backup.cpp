@@ -17,7 +17,8 @@ namespace songsweep {
 namespace {
 
 std::string wordsFor(Backup::Purpose purpose) {
-    return purpose == Backup::Purpose::deletion ? "before deletions of" : "before restoring of";
+    if (purpose == Backup::Purpose::deletion) return "before deletions of";
+    return purpose == Backup::Purpose::restoration ? "before restoring of" : "before changes of";
 }
 
 /// A copy that has changed places with the library and back.

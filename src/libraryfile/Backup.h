@@ -18,7 +18,7 @@ class LibraryReplacement;
 /// Costs a copy of the library, which some file systems make at once.
 class Backup {
   public:
-    enum class Purpose : std::uint8_t { deletion, restoration }; ///< what the name says
+    enum class Purpose : std::uint8_t { deletion, restoration, change }; ///< what the name says
 
     /// Copies the version of that stamp, which must be the library of the replacement; `busy` where it is not
     /// any more. Leaves nothing behind on an error.

@@ -79,8 +79,8 @@ Result<void> LibraryDocument::write() {
         if (written) static_cast<void>(m_transaction->prepare(*m_file, m_index.stamp, m_index.stamp.size));
         return written;
     }
-    auto begun =
-        LibraryTransaction::begin(m_path, {"a script", m_options.lockTimeout}, Backup::Purpose::deletion);
+    const auto purpose = pendingDeletions() > 0 ? Backup::Purpose::deletion : Backup::Purpose::change;
+    auto begun = LibraryTransaction::begin(m_path, {"a script", m_options.lockTimeout}, purpose);
     if (!begun) return begun.error();
     LibraryTransaction transaction = std::move(begun).value();
     transaction.adoptBackup(m_backup);

@@ -72,7 +72,7 @@ TEST_F(LibraryChangeTest, AValueIsSeenAtOnceAndWrittenByAFlush) {
     EXPECT_EQ(content(), small("new &#38; better", {1, 2, 1}));
     EXPECT_EQ(m_library->pendingChanges(), 0U);
     EXPECT_EQ(nameOf(0), "new & better");
-    EXPECT_THAT(m_folder.names(), ElementsAre(StartsWith("library (before deletions of "), "library.xml"));
+    EXPECT_THAT(m_folder.names(), ElementsAre(StartsWith("library (before changes of "), "library.xml"));
     EXPECT_EQ(contentOf(m_library->backup()), small("old", {1, 2, 1}));
 }
 
