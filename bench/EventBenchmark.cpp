@@ -101,18 +101,18 @@ void postEvents(benchmark::State& state) {
     center.setObserver([&handled](const WorkerEvent&) { ++handled; });
     measure(state, [&center] {
         for (int event = 0; event < manyEvents; ++event)
-            center.post({EventName::step2, {}, nullptr});
+            center.post({EventName::progressx, {}, nullptr});
     });
 }
 
-/// Nine counts to every event that is waited for, as a grouping with one in ten a duplicate posts them.
+/// Nine counts to every event that is waited for.
 void postCountsAmongEvents(benchmark::State& state) {
     NotificationCenter<WorkerEvent> center;
     int handled = 0;
     center.setObserver([&handled](const WorkerEvent&) { ++handled; });
     measure(state, [&center] {
         for (int event = 0; event < manyEvents; ++event) {
-            center.post({event % 10 == 0 ? EventName::step2 : EventName::progress, {}, nullptr});
+            center.post({event % 10 == 0 ? EventName::progressx : EventName::progress, {}, nullptr});
         }
     });
 }
