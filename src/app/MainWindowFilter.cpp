@@ -64,10 +64,10 @@ void MainWindow::filterRows() {
                          m_ui->filterField->text().toStdString()});
 }
 
+/// The field's signals are left on, since its sign for clearing goes by them, too.
 void MainWindow::clearFilterControls() {
-    const QSignalBlocker blocker(m_ui->filterField);
-    m_ui->filterField->clear();
     m_filterKinds->actions().first()->setChecked(true);
+    m_ui->filterField->clear();
 }
 
 /// Escape shows all rows again, and goes back to them.

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolButton>
 
 namespace songsweep::test {
 namespace {
@@ -19,6 +20,15 @@ class MainWindowFilterTest : public MainWindowFixture {
         showResults(list);
     }
     QLineEdit& field() { return control<QLineEdit>("filterField"); }
+    QToolButton* clearSign() {
+        for (QToolButton* button : field().findChildren<QToolButton*>())
+            if (button->defaultAction()->objectName() == QLatin1String("_q_qlineeditclearaction"))
+                return button;
+        return nullptr;
+    }
+    bool waitForClearSign(double opacity) {
+        return runEventLoopUntil([&] { return clearSign()->property("opacity").toDouble() == opacity; });
+    }
     const std::vector<TrackRecord*>& shown() { return window.tableModel().rows(); }
     bool waitFor(std::size_t rows) {
         return runEventLoopUntil([this, rows] { return shown().size() == rows; });
@@ -59,11 +69,13 @@ TEST_F(MainWindowFilterTest, StaysWhenMarksChangeAndFollowsAnotherOrder) {
 TEST_F(MainWindowFilterTest, EscapeShowsAllRowsAgain) {
     field().setText(QStringLiteral("needle"));
     ASSERT_TRUE(waitFor(3));
+    ASSERT_TRUE(waitForClearSign(1));
     field().setFocus();
     QTest::keyClick(&field(), Qt::Key_Escape);
     EXPECT_EQ(shown().size(), 12U);
     EXPECT_EQ(field().text(), QString());
     EXPECT_EQ(focus(), QStringLiteral("tableview"));
+    EXPECT_TRUE(waitForClearSign(0));
 }
 
 TEST_F(MainWindowFilterTest, AnotherSearchIsNotFiltered) {
