@@ -30,7 +30,7 @@ QString countedSongs(int count) {
 
 /// "· 104 copies of 48 songs · 56 marked, 412.0 MB"
 QString gainText(const ListGain& gain) {
-    const QString held = QStringLiteral("· %L1 copies of %2").arg(gain.copies).arg(countedSongs(gain.songs));
+    QString held = QStringLiteral("· %L1 copies of %2").arg(gain.copies).arg(countedSongs(gain.songs));
     if (gain.marked == 0) return held;
     return held + QStringLiteral(" · %L1 marked, %2")
                       .arg(gain.marked)

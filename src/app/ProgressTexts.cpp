@@ -24,8 +24,7 @@ QString timeText(int seconds) {
 
 QString progressText(const ProgressCounts& counts) {
     if (counts.total <= 0) return {};
-    const QString text =
-        QStringLiteral("%L1 of %L2").arg(std::min(counts.done, counts.total)).arg(counts.total);
+    QString text = QStringLiteral("%L1 of %L2").arg(std::min(counts.done, counts.total)).arg(counts.total);
     if (!counts.secondsLeft) return text;
     return text + QStringLiteral(" – ") + timeText(*counts.secondsLeft);
 }

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <exception>
-#include <ranges>
 #include <stdexcept>
 
 namespace songsweep {
@@ -66,7 +65,8 @@ void SWXMLParser::keepTracksOfPlaylist() {
 SWXMLParser::Admitted SWXMLParser::admit(std::span<TrackRecord* const> records) {
     Admitted admitted;
     try {
-        for (TrackRecord* const record : records | std::views::reverse) {
+        for (std::size_t left = records.size(); left > 0; --left) {
+            TrackRecord* const record = records[left - 1];
             // The playlist is asked for every record: what it finds is used up.
             const bool isInPlaylist = isInMusicPlaylist(*record);
             if (record->isfile && !isInPlaylist) ++m_list->coverage.leftOutTracks;

@@ -23,7 +23,7 @@ namespace {
 
 constexpr int bufferBytes = 32 * 1024;
 /// Two minutes of the largest format, twice: a file that gives no sound for longer gives none.
-constexpr std::int64_t mostBytes = 256 * 1024 * 1024;
+constexpr std::int64_t mostBytes = std::int64_t{256} << 20;
 
 } // namespace
 
