@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CommandLine.h"
 
-#include "app/Program.h"
 #include "cli/Commands.h"
+#include "cli/OptionChecks.h"
 #include "cli/Output.h"
 #include "dupes/MarkRule.h"
-#include "library/RecentLibrary.h"
-#include "platform/DataFolder.h"
-#include "platform/Native.h"
 #include "platform/TerminalText.h"
-#include "scan/FolderLibrary.h"
 
 #include <CLI/CLI.hpp>
 
@@ -212,79 +208,9 @@ void finishFindOptions(FindOptions& options, const Raw& raw) {
     }
 }
 
-/// The library file that the options lead to, named or not; empty where there is none.
-std::string libraryOf(const LibraryOptions& options) {
-    if (!options.library.empty()) return options.library;
-    return recentLibrary(*nativePreferences()).path.value_or("");
-}
-
-/// Two names of one file: one path, or two that links lead to one file.
-bool nameOneFile(const std::string& one, const std::string& other) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    if (fs::equivalent(one, other, error)) return true;
-    const fs::path path = fs::weakly_canonical(one, error);
-    return !error && path == fs::weakly_canonical(other, error) && !error;
-}
-
-/// What is written beside the library must not take its place.
-void checkTarget(const std::string& option, const std::string& path, const LibraryOptions& options) {
-    if (!path.empty() && nameOneFile(path, libraryOf(options)))
-        throw CLI::ValidationError(option + " names the library itself, " + path);
-}
-
-void checkTargets(const FindOptions& options) {
-    checkTarget("--log", options.log, options);
-    checkTarget("--output", options.output, options);
-    if (!options.log.empty() && !options.output.empty() && nameOneFile(options.log, options.output))
-        throw CLI::ValidationError("--log and --output name one file, " + options.output);
-}
-
-/// Rules that need a word more.
-void checkMarkOptions(const MarkOptions& options) {
-    if (options.rule == "kind" && options.kind.empty())
-        throw CLI::ValidationError("--rule kind needs --kind");
-    if (options.rule == "folder" && options.folder.empty())
-        throw CLI::ValidationError("--rule folder needs --folder");
-}
-
 void checkFields(const Raw& raw) {
     const bool none = std::find(raw.same.begin(), raw.same.end(), "none") != raw.same.end();
     if (none && raw.same.size() > 1) throw CLI::ValidationError("--same none stands alone");
-}
-
-void checkDeleteOptions(const DeleteOptions& options) {
-    if (!options.dryRun && !options.yes)
-        throw CLI::ValidationError("delete needs --dry-run, to see what would happen, or --yes");
-    if (!options.files && isFolder(options.library))
-        throw CLI::ValidationError("delete needs --files here: a track of a folder is its file, and goes to "
-                                   "the Trash with it");
-}
-
-void checkRestoreOptions(const RestoreOptions& options) {
-    if (!options.list && !options.dryRun && !options.yes)
-        throw CLI::ValidationError(
-            "restore needs --list, or --dry-run, to see what would come back, or --yes");
-}
-
-void checkFinishOptions(const FinishOptions& options) {
-    if (!options.dryRun && !options.yes)
-        throw CLI::ValidationError("finish needs --dry-run, to see what would happen, or --yes");
-}
-
-/// What is written must be neither of the other things that are.
-void checkScanOptions(const ScanOptions& options) {
-    if (!options.library.empty()) throw CLI::ValidationError("scan takes a folder, and no --library");
-    if (!options.log.empty() && !options.output.empty() && nameOneFile(options.log, options.output))
-        throw CLI::ValidationError("--log and --output name one file, " + options.output);
-    const Result<FolderLibrary> place = FolderLibrary::of(options.folder, dataFolder());
-    if (!place) return;
-    for (const std::string& path : {place.value().library, place.value().memory})
-        for (const auto& [option, target] :
-             {std::pair("--log", options.log), std::pair("--output", options.output)})
-            if (!target.empty() && nameOneFile(path, target))
-                throw CLI::ValidationError(std::string(option) + " names the folder's own library, " +
-                                           target);
 }
 
 /// An option that counts on both sides of the command is given on one of them.
@@ -375,19 +301,19 @@ Command Parser::command() {
     }
     if (*restoreCommand) {
         finishOptionsOfNamedLibrary(restore, raw);
-        checkTarget("--log", restore.log, restore);
+        checkLog(restore);
         checkRestoreOptions(restore);
         return restore;
     }
     if (*finishCommand) {
         finishOptionsOfNamedLibrary(finish, raw);
-        checkTarget("--log", finish.log, finish);
+        checkLog(finish);
         checkFinishOptions(finish);
         return finish;
     }
     if (*scriptCommand) {
         finishLibraryOptions(script, raw);
-        checkTarget("--log", script.log, script);
+        checkLog(script);
         return script;
     }
     if (*scanCommand) {
@@ -398,7 +324,7 @@ Command Parser::command() {
     checkFile(raw);
     finishLibraryOptions(window, raw);
     if (!raw.file.empty()) window.library = raw.file;
-    checkTarget("--log", window.log, window);
+    checkLog(window);
     return window;
 }
 
