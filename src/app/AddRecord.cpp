@@ -3,6 +3,7 @@
 
 #include "library/LibraryValues.h"
 #include "platform/Epochs.h"
+#include "platform/LocalTime.h"
 #include "scripting/Descriptor.h"
 
 #include <cmath>
@@ -34,15 +35,6 @@ std::string textAt(const Descriptor& item, Item place) {
     return value ? value->stringValue().value_or(std::string()) : std::string();
 }
 
-/// Civil local time to UTC; in the hour that a change from summer time repeats, the platform chooses.
-std::int64_t utcOfLocal(std::int64_t localSeconds) {
-    const std::time_t asIfUtc = localSeconds;
-    std::tm civil = {};
-    gmtime_r(&asIfUtc, &civil);
-    civil.tm_isdst = -1;
-    return std::mktime(&civil);
-}
-
 void setDateAdded(TrackRecord& record, const Descriptor& item) {
     const Descriptor* const value = item.descriptorAtIndex(dateAddedItem);
     if (!value) return;
@@ -71,8 +63,7 @@ void setTexts(TrackRecord& record, TrackStorage& storage, const Descriptor& item
 
 std::int64_t minuteOfLongDateTime(std::int64_t longDateTime) {
     const std::int64_t reference = secondsSince1970(referenceDateEpoch);
-    const std::int64_t sinceReference =
-        utcOfLocal(longDateTime + secondsSince1970(longDateTimeEpoch)) - reference;
+    const std::int64_t sinceReference = utcOfLongDateTime(longDateTime) - reference;
     return std::llround(static_cast<double>(sinceReference) / 60.0) * 60 + reference;
 }
 

@@ -143,11 +143,13 @@ Result<void> ITunesApplication::deleteTracks(const Value& value) {
     return track->remove();
 }
 
-/// The tracks as they are in the playlist: one, or a list of several.
+/// To the end of a playlist, or to the place of a track in one. Gives the tracks as they are there: one, or a
+/// list of several.
 Result<Value> ITunesApplication::duplicate(const Command& command) {
     const Value* const to = command.argument(static_cast<TermCode>(ITunesParameter::to));
     const auto* const object = to ? std::get_if<ObjectPointer>(to) : nullptr;
     const auto playlist = object ? std::dynamic_pointer_cast<PlaylistObject>(*object) : nullptr;
+    if (to && command.direct && trackOf(*to)) return putInPlaceOf(*trackOf(*to), *command.direct);
     if (!playlist || !command.direct)
         return Error{Error::Code::notSupported, "tracks are duplicated to a playlist"};
     const auto addOne = [&](const Value& value) -> Result<ObjectPointer> {
@@ -167,6 +169,13 @@ Result<Value> ITunesApplication::duplicate(const Command& command) {
         all.emplace_back(std::move(added).value());
     }
     return interpreter::makeList(std::move(all));
+}
+
+Result<Value> ITunesApplication::putInPlaceOf(const TrackObject& place, const Value& value) {
+    const auto track = trackOf(value);
+    if (!track) return Error{Error::Code::notSupported, "one track takes the place of another"};
+    auto put = place.replaceBy(*track);
+    return put ? Result<Value>(std::move(put).value()) : put.error();
 }
 
 } // namespace songsweep

@@ -31,6 +31,7 @@ class ITunesApplication final : public interpreter::HostApplication {
     Result<std::string> fileOf(const interpreter::Value& value);
     Result<void> deleteTracks(const interpreter::Value& value);
     Result<interpreter::Value> duplicate(const interpreter::Command& command);
+    static Result<interpreter::Value> putInPlaceOf(const TrackObject& place, const interpreter::Value& value);
     Result<std::size_t> playlistCount() const;
 
     ITunesServices& m_services;

@@ -229,6 +229,17 @@ Result<void> TrackObject::remove() const {
     return {};
 }
 
+Result<ObjectPointer> TrackObject::replaceBy(const TrackObject& other) const {
+    const auto document = other.libraryWithTrack();
+    if (!document) return document.error();
+    if (m_place.playlist == 0) return Error{Error::Code::notSupported, "the library has each track once"};
+    LibraryDocument& tracks = *document.value();
+    if (auto changeable = checkChangeable(tracks, m_place.playlist); !changeable) return changeable.error();
+    const auto put = tracks.putInPlaceOf(m_place.playlist, m_place.item, other.m_track);
+    if (!put) return put.error();
+    return ObjectPointer(std::make_shared<TrackObject>(services(), other.m_track, m_place, m_specifier));
+}
+
 /// The place that the track has now in its playlist.
 Result<Value> TrackObject::index() const {
     TrackListing& tracks = library().value()->listing(m_place.playlist);

@@ -119,6 +119,9 @@ class TrackObject final : public ITunesObject {
     /// Deletes the track, where it was named by its place in the library; else takes it out of the playlist.
     Result<void> remove() const;
 
+    /// Puts another track where this one is in its playlist, and gives it as it is there.
+    Result<interpreter::ObjectPointer> replaceBy(const TrackObject& other) const;
+
     LibraryDocument::TrackPosition track() const { return m_track; }
 
   private:

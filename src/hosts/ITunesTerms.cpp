@@ -48,6 +48,8 @@ interpreter::Terminology iTunesTerminology() {
              property("skipped count", ITunesProperty::skippedCount),
              property("skipped date", ITunesProperty::skippedDate),
              property("modification date", ITunesProperty::modificationDate),
+             property("loved", ITunesProperty::loved),
+             property("album rating", ITunesProperty::albumRating),
              property("database ID", ITunesProperty::databaseId),
              property("id", ITunesProperty::id)},
             {elements("source", "sources", ITunesClass::source),

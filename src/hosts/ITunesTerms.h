@@ -35,6 +35,8 @@ enum class ITunesProperty : interpreter::TermCode {
     skippedCount,
     skippedDate,
     modificationDate,
+    loved,
+    albumRating,
     databaseId,
     id
 };

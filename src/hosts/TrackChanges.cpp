@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "hosts/TrackChanges.h"
 
+#include "library/ValueFormats.h"
+#include "platform/LocalTime.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -16,7 +19,7 @@ using interpreter::Value;
 
 /// A property that can be set.
 struct Settable {
-    enum class Form : std::uint8_t { name, text, number, percentage, absence };
+    enum class Form : std::uint8_t { name, text, number, percentage, date, presence, absence };
 
     ITunesProperty property;
     std::string_view word;
@@ -39,6 +42,11 @@ constexpr std::array settables{
     Settable{ITunesProperty::playedCount, "played count", "Play Count", Form::number},
     Settable{ITunesProperty::skippedCount, "skipped count", "Skip Count", Form::number},
     Settable{ITunesProperty::rating, "rating", "Rating", Form::percentage},
+    Settable{ITunesProperty::albumRating, "album rating", "Album Rating", Form::percentage},
+    Settable{ITunesProperty::dateAdded, "date added", "Date Added", Form::date},
+    Settable{ITunesProperty::playedDate, "played date", "Play Date UTC", Form::date},
+    Settable{ITunesProperty::skippedDate, "skipped date", "Skip Date", Form::date},
+    Settable{ITunesProperty::loved, "loved", "Loved", Form::presence},
     Settable{ITunesProperty::enabled, "enabled", "Disabled", Form::absence},
 };
 
@@ -71,11 +79,19 @@ Result<ValueChange> numberChange(const Settable& row, const Value& value, std::i
     return ValueChange{std::string(row.key), ValueChange::Form::integer, std::to_string(*number)};
 }
 
-Result<ValueChange> absenceChange(const Settable& row, const Value& value) {
+Result<ValueChange> dateChange(const Settable& row, const Value& value) {
+    const auto* const date = std::get_if<interpreter::Date>(&value);
+    const auto text = date ? libraryDate(utcOfLongDateTime(date->longDateTime)) : std::nullopt;
+    if (!text) return mustBe(row, "a date of the years 1 to 9999");
+    return ValueChange{std::string(row.key), ValueChange::Form::date, *text};
+}
+
+Result<ValueChange> truthChange(const Settable& row, const Value& value) {
     const auto* const truth = std::get_if<bool>(&value);
     if (!truth) return mustBe(row, "true or false");
+    const bool isWritten = *truth == (row.form == Form::presence);
     return ValueChange{
-        std::string(row.key), *truth ? ValueChange::Form::none : ValueChange::Form::isTrue, {}};
+        std::string(row.key), isWritten ? ValueChange::Form::isTrue : ValueChange::Form::none, {}};
 }
 
 Result<ValueChange> changeOf(const Settable& row, const Value& value) {
@@ -87,10 +103,25 @@ Result<ValueChange> changeOf(const Settable& row, const Value& value) {
         return numberChange(row, value, std::numeric_limits<std::int32_t>::max());
     case Form::percentage:
         return numberChange(row, value, 100);
+    case Form::date:
+        return dateChange(row, value);
+    case Form::presence:
     case Form::absence:
         break;
     }
-    return absenceChange(row, value);
+    return truthChange(row, value);
+}
+
+/// What else the file has to say when a property is another one: a rating that somebody gave is not one that
+/// iTunes computed, and the time of the last play stands there twice.
+void addCompanions(ITunesProperty property, const Value& value, std::vector<ValueChange>& changes) {
+    if (property == ITunesProperty::rating)
+        changes.push_back({"Rating Computed", ValueChange::Form::none, {}});
+    if (property == ITunesProperty::albumRating)
+        changes.push_back({"Album Rating Computed", ValueChange::Form::none, {}});
+    if (property == ITunesProperty::playedDate)
+        changes.push_back({"Play Date", ValueChange::Form::integer,
+                           std::to_string(std::get<interpreter::Date>(value).longDateTime)});
 }
 
 } // namespace
@@ -101,9 +132,7 @@ Result<std::vector<ValueChange>> changesOf(ITunesProperty property, const Value&
     auto change = changeOf(*row, value);
     if (!change) return change.error();
     std::vector<ValueChange> changes{std::move(change).value()};
-    // A rating that somebody gave is not one that iTunes computed from the album's.
-    if (property == ITunesProperty::rating)
-        changes.push_back({"Rating Computed", ValueChange::Form::none, {}});
+    addCompanions(property, value, changes);
     return changes;
 }
 

@@ -32,6 +32,8 @@ constexpr std::array trackProperties{
     TrackProperty{ITunesProperty::playedDate, "Play Date UTC", Form::date},
     TrackProperty{ITunesProperty::skippedCount, "Skip Count", Form::number},
     TrackProperty{ITunesProperty::skippedDate, "Skip Date", Form::date},
+    TrackProperty{ITunesProperty::loved, "Loved", Form::presence},
+    TrackProperty{ITunesProperty::albumRating, "Album Rating", Form::number},
     TrackProperty{ITunesProperty::modificationDate, "Date Modified", Form::date},
 };
 
@@ -56,10 +58,12 @@ Value valueOf(const TrackProperty& property, const EntryValues& values) {
     }
     case Form::date:
         return dateOrMissing(text);
+    case Form::presence:
     case Form::absence:
         break;
     }
-    return !found || found->element != "true";
+    const bool isTrue = found && found->element == "true";
+    return isTrue == (property.form == Form::presence);
 }
 
 } // namespace songsweep

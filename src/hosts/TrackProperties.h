@@ -17,7 +17,8 @@ struct TrackProperty {
         number,       ///< 0 where there is none
         milliseconds, ///< given in seconds; none is the missing value
         date,         ///< local time; none is the missing value
-        absence       ///< true where the value is not `<true/>`
+        presence,     ///< true where the value is `<true/>`
+        absence       ///< true where it is not
     };
 
     ITunesProperty property;

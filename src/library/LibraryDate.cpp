@@ -2,6 +2,7 @@
 #include "library/ValueFormats.h"
 
 #include <chrono>
+#include <string>
 #include <string_view>
 
 namespace songsweep {
@@ -55,6 +56,11 @@ class DateScanner {
     bool m_valid = true;
 };
 
+std::string twoDigits(std::int64_t number) {
+    const std::string text = std::to_string(number);
+    return number < 10 ? "0" + text : text;
+}
+
 } // namespace
 
 std::optional<std::int64_t> parseLibraryDate(std::string_view text) {
@@ -77,6 +83,20 @@ std::optional<std::int64_t> parseLibraryDate(std::string_view text) {
     if (!scanner.isCompleteAndValid() || !date.ok() || hour > 23 || minute > 59 || second > 59) return {};
     const sys_seconds instant = sys_days(date) + hours(hour) + minutes(minute) + seconds(second - zone);
     return std::int64_t{instant.time_since_epoch().count()};
+}
+
+std::optional<std::string> libraryDate(std::int64_t secondsSince1970) {
+    using namespace std::chrono;
+    const sys_seconds instant{seconds(secondsSince1970)};
+    const auto midnight = floor<days>(instant);
+    const year_month_day date(midnight);
+    const hh_mm_ss time(instant - midnight);
+    const int yearOfDate = int{date.year()};
+    if (yearOfDate < 0 || yearOfDate > 9999) return {};
+    return twoDigits(yearOfDate / 100) + twoDigits(yearOfDate % 100) + "-" +
+           twoDigits(unsigned{date.month()}) + "-" + twoDigits(unsigned{date.day()}) + "T" +
+           twoDigits(time.hours().count()) + ":" + twoDigits(time.minutes().count()) + ":" +
+           twoDigits(time.seconds().count()) + "Z";
 }
 
 } // namespace songsweep

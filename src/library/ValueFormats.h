@@ -39,6 +39,9 @@ std::string counted(std::size_t count, std::string_view noun);
 /// Seconds since 1970 UTC of a library date ("2009-03-14T15:09:26Z"); nothing where it is none.
 std::optional<std::int64_t> parseLibraryDate(std::string_view text);
 
+/// The library date of an instant; nothing outside of the years that it can write, 0 to 9999.
+std::optional<std::string> libraryDate(std::int64_t secondsSince1970);
+
 /// A date in the user's locale and time zone, short date and short time style.
 std::string shortDateTime(std::int64_t secondsSince1970);
 /// The same with the seconds, for dates that read alike without them.

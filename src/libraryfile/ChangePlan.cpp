@@ -5,6 +5,7 @@
 #include "libraryfile/LibraryRewrite.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 
 namespace songsweep {
@@ -29,6 +30,15 @@ std::int64_t idOf(const LibraryIndex& index, std::uint32_t track) {
 
 bool isTakenOut(const LibraryChanges::OfPlaylist* changes, std::uint32_t item) {
     return changes && changes->takenOut.contains(item);
+}
+
+/// The track that has an item of the index now, if it is another one; a deleted one has lost it.
+std::optional<std::uint32_t> newTrackOf(const LibraryChanges::OfPlaylist* changes, std::uint32_t item,
+                                        const LibraryIndex& index) {
+    if (!changes) return {};
+    const auto found = changes->replaced.find(item);
+    if (found == changes->replaced.end()) return {};
+    return index.tracks[found->second].deleted ? LibraryIndex::noTrack : found->second;
 }
 
 /// The tracks that were added to a playlist and are still to be there.
@@ -60,7 +70,11 @@ std::uint64_t ChangePlan::size() const {
 }
 
 void ChangePlan::takeOutDeletions() {
-    for (const ByteRange& range : rangesOfDeletions(*m_index))
+    const auto stays = [this](std::uint32_t playlist, std::uint32_t item) {
+        return newTrackOf(m_changes->ofPlaylist(playlist), item, *m_index).value_or(LibraryIndex::noTrack) !=
+               LibraryIndex::noTrack;
+    };
+    for (const ByteRange& range : rangesOfDeletions(*m_index, stays))
         m_edits.replace(range, {});
 }
 
@@ -89,7 +103,28 @@ Result<void> ChangePlan::changePlaylists() {
         const PlaylistSlot& playlist = m_index->playlists[number];
         for (const std::uint32_t item : changes.takenOut)
             if (!rule.goes(playlist.items[item])) m_edits.replace(playlist.rangeOf(playlist.items[item]), {});
+        if (auto replaced = replaceItems(playlist, changes, rule); !replaced) return replaced;
         if (auto added = addItems(playlist, stayingOf(&changes, *m_index)); !added) return added;
+    }
+    return {};
+}
+
+Result<void> ChangePlan::replaceItems(const PlaylistSlot& playlist, const LibraryChanges::OfPlaylist& changes,
+                                      const ItemRule& rule) {
+    for (const auto& [number, track] : changes.replaced) {
+        const ItemSlot& item = playlist.items[number];
+        const ByteRange range = playlist.rangeOf(item);
+        if (m_index->tracks[track].deleted) {
+            if (!rule.goes(item)) m_edits.replace(range, {});
+            continue;
+        }
+        const auto bytes = m_file->read(range);
+        if (!bytes) return bytes.error();
+        auto changed = itemWithTrackId(bytes.value(), m_index->tracks[track].trackId);
+        if (!changed)
+            return Error{Error::Code::invalid,
+                         "the playlist “" + playlist.name + "” has an item whose track ID cannot be changed"};
+        m_edits.replace(range, textPiece(std::move(*changed)));
     }
     return {};
 }
@@ -168,9 +203,14 @@ bool ChangePlan::hasItems(std::uint32_t playlist, const ItemRule& rule, const Li
     const PlaylistSlot& before = m_index->playlists[playlist];
     const PlaylistSlot& after = readBack.playlists[playlist];
     std::vector<std::int64_t> expected;
-    for (std::uint32_t item = 0; item < before.items.size(); ++item)
-        if (!rule.goes(before.items[item]) && !isTakenOut(changes, item))
+    for (std::uint32_t item = 0; item < before.items.size(); ++item) {
+        if (isTakenOut(changes, item)) continue;
+        if (const auto track = newTrackOf(changes, item, *m_index)) {
+            if (*track != LibraryIndex::noTrack) expected.push_back(idOf(*m_index, *track));
+        } else if (!rule.goes(before.items[item])) {
             expected.push_back(idOf(*m_index, before.items[item].track));
+        }
+    }
     for (const std::uint32_t track : stayingOf(changes, *m_index))
         expected.push_back(idOf(*m_index, track));
     return before.name == after.name &&

@@ -16,7 +16,8 @@ namespace songsweep {
 ///     auto plan = ChangePlan::of(file, index, changes);
 ///     transaction.replace(file, index.stamp, plan.value().pieces(), …plan.value().isResult(readBack)…);
 ///
-/// An item that is put into a playlist is written as another item of the file is, but for its track ID. Reads
+/// An item that is put into a playlist is written as another item of the file is, but for its track ID; one
+/// that becomes another track's keeps all of its bytes but that. Reads
 /// the entries of the changed tracks, and no others. What it was made of must outlive it.
 class ChangePlan {
   public:
@@ -39,6 +40,8 @@ class ChangePlan {
     void takeOutDeletions();
     Result<void> changeEntries();
     Result<void> changePlaylists();
+    Result<void> replaceItems(const PlaylistSlot& playlist, const LibraryChanges::OfPlaylist& changes,
+                              const ItemRule& rule);
     Result<void> addItems(const PlaylistSlot& playlist, const std::vector<std::uint32_t>& tracks);
     Result<std::string> itemsOf(const PlaylistSlot& playlist, const std::vector<std::uint32_t>& tracks) const;
     std::string itemPattern(const PlaylistSlot& playlist) const;

@@ -22,6 +22,8 @@ class DeletionMemory {
     /// Whether an index alone does not tell a track from others, so that its bytes must be noted.
     static bool needsBytes(const LibraryIndex& index, const PersistentIdTable& table, std::uint32_t track);
     void noteBytes(std::uint32_t track, std::string_view entry);
+    /// Of a track that is not deleted after all.
+    void forget(std::uint32_t track) { m_bytes.erase(track); }
 
     /// Marks in `fresh` what is deleted in `old`. Linear in the tracks; gives the number of deletions.
     std::size_t carryOver(const LibraryIndex& old, const PersistentIdTable& oldTable,

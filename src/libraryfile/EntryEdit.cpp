@@ -22,10 +22,15 @@ bool hasSeveral(const EntryValues& values, const EntryValue* value) {
            });
 }
 
+std::string_view elementName(Form form) {
+    if (form == Form::date) return "date";
+    return form == Form::text ? "string" : "integer";
+}
+
 /// The value's element as it is written; nothing for a text that XML cannot hold.
 std::optional<std::string> elementOf(const ValueChange& change) {
     if (change.form == Form::isTrue) return "<true/>";
-    const std::string name = change.form == Form::text ? "string" : "integer";
+    const std::string name(elementName(change.form));
     const auto text = encodeXmlText(change.text);
     if (!text) return {};
     return "<" + name + ">" + *text + "</" + name + ">";

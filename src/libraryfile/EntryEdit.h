@@ -14,11 +14,13 @@ namespace songsweep {
 
 /// A new value of one key of a track's entry.
 struct ValueChange {
-    enum class Form : std::uint8_t { text, integer, isTrue, none };
+    enum class Form : std::uint8_t { text, integer, date, isTrue, none };
 
     std::string key;
     Form form = Form::none; ///< `none` takes the key and its value out
-    std::string text;       ///< of a text or an integer
+    std::string text;       ///< of a text, an integer or a date ("2009-03-14T15:09:26Z")
+
+    bool operator==(const ValueChange&) const = default;
 };
 
 /// Bytes of an entry that give way to others; the place is measured from the entry's begin.

@@ -39,6 +39,7 @@ void LibraryChanges::takeOut(std::uint32_t playlist, std::uint32_t item, std::si
     OfPlaylist& changes = m_playlists[playlist];
     if (item < items) {
         changes.takenOut.insert(item);
+        changes.replaced.erase(item);
     } else {
         changes.added[item - items] = LibraryIndex::noTrack;
     }
@@ -48,6 +49,33 @@ void LibraryChanges::takeOut(std::uint32_t playlist, std::uint32_t item, std::si
 void LibraryChanges::add(std::uint32_t playlist, std::uint32_t track) {
     m_playlists[playlist].added.push_back(track);
     ++m_count;
+}
+
+void LibraryChanges::replace(std::uint32_t playlist, std::uint32_t item, std::size_t items,
+                             std::uint32_t track) {
+    OfPlaylist& changes = m_playlists[playlist];
+    if (item < items) {
+        changes.replaced[item] = track;
+    } else {
+        changes.added[item - items] = track;
+    }
+    ++m_count;
+}
+
+void LibraryChanges::withdraw(const std::unordered_set<std::uint32_t>& tracks, const LibraryIndex& index) {
+    std::erase_if(m_tracks, [&](const auto& changes) { return tracks.contains(changes.first); });
+    m_count = 0;
+    for (const auto& [track, changes] : m_tracks)
+        m_count += changes.size();
+    for (auto& [number, changes] : m_playlists) {
+        const std::vector<ItemSlot>& items = index.playlists[number].items;
+        std::erase_if(changes.takenOut,
+                      [&](std::uint32_t item) { return tracks.contains(items[item].track); });
+        std::erase_if(changes.replaced, [&](const auto& item) { return tracks.contains(item.second); });
+        for (std::uint32_t& added : changes.added)
+            if (tracks.contains(added)) added = LibraryIndex::noTrack;
+        m_count += changes.takenOut.size() + changes.replaced.size() + changes.added.size();
+    }
 }
 
 const LibraryChanges::OfPlaylist* LibraryChanges::ofPlaylist(std::uint32_t playlist) const {
@@ -68,7 +96,7 @@ bool LibraryChanges::carryOver(const LibraryIndex& old, const PersistentIdTable&
         }
         return m_playlists.empty();
     };
-    const bool isCarried = carry();
+    const bool isCarried = !m_isBound && carry();
     m_tracks = std::move(carried);
     if (!isCarried) clear();
     return isCarried;

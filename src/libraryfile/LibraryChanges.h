@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <map>
 #include <set>
+#include <unordered_set>
 #include <vector>
 
 namespace songsweep {
@@ -20,7 +21,8 @@ namespace songsweep {
 class LibraryChanges {
   public:
     struct OfPlaylist {
-        std::set<std::uint32_t> takenOut; ///< numbers of items of the index
+        std::set<std::uint32_t> takenOut;                ///< numbers of items of the index
+        std::map<std::uint32_t, std::uint32_t> replaced; ///< the same, and whose they are now
         std::vector<std::uint32_t> added; ///< tracks; `LibraryIndex::noTrack` for one taken out again
     };
 
@@ -37,12 +39,21 @@ class LibraryChanges {
     /// `items` is the number of items that the index has.
     void takeOut(std::uint32_t playlist, std::uint32_t item, std::size_t items);
     void add(std::uint32_t playlist, std::uint32_t track);
+    /// Makes an item that is there another track's.
+    void replace(std::uint32_t playlist, std::uint32_t item, std::size_t items, std::uint32_t track);
+    /// Takes back all that was done with these tracks: their values, the items that they got, and those of
+    /// their own that were taken out. Linear in the changes.
+    void withdraw(const std::unordered_set<std::uint32_t>& tracks, const LibraryIndex& index);
+
+    /// From now on the changes are those of this version of the file alone.
+    void bindToVersion() { m_isBound = true; }
     /// The changes of a playlist, null for none.
     const OfPlaylist* ofPlaylist(std::uint32_t playlist) const;
     const std::map<std::uint32_t, OfPlaylist>& playlists() const { return m_playlists; }
 
     /// Finds the changed tracks in a new version of the file: by a persistent ID that one track alone has, in
-    /// both. False, and nothing is left to be done, where one is not found, or where playlists are concerned.
+    /// both. False, and nothing is left to be done, where one is not found, where playlists are concerned, or
+    /// where the changes are bound to their version.
     bool carryOver(const LibraryIndex& old, const PersistentIdTable& oldTable, const LibraryIndex& fresh,
                    const PersistentIdTable& freshTable);
 
@@ -50,6 +61,7 @@ class LibraryChanges {
     std::map<std::uint32_t, std::vector<ValueChange>> m_tracks;
     std::map<std::uint32_t, OfPlaylist> m_playlists;
     std::size_t m_count = 0;
+    bool m_isBound = false;
 };
 
 } // namespace songsweep

@@ -132,9 +132,9 @@ TrackListing& LibraryDocument::listing(std::size_t playlist) {
 TrackListing LibraryDocument::newListing(std::size_t playlist) const {
     if (playlist == 0) return libraryListing();
     TrackListing listing;
-    const std::vector<ItemSlot>& items = this->playlist(playlist).items;
-    for (std::uint32_t item = 0; item < items.size(); ++item) {
-        const TrackPosition track = items[item].track;
+    const auto items = static_cast<std::uint32_t>(this->playlist(playlist).items.size());
+    for (std::uint32_t item = 0; item < items; ++item) {
+        const TrackPosition track = trackOfItem(playlist, item);
         if (track == LibraryIndex::noTrack || isDeleted(track) || isTakenOut(playlist, item)) continue;
         listing.append(track, item);
     }

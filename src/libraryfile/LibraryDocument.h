@@ -138,6 +138,16 @@ class LibraryDocument {
     /// error where the track has no track ID that is its alone.
     Result<std::uint32_t> add(std::size_t playlist, TrackPosition track);
 
+    /// Puts a track in the place of an item of a playlist that is not the library. An error as with `add`, or
+    /// where the item is there no more.
+    Result<void> putInPlaceOf(std::size_t playlist, std::uint32_t item, TrackPosition track);
+
+    /// Takes back all changes of some tracks, see LibraryChanges, and the deletions of others. Linear in the
+    /// changes.
+    void withdraw(const std::vector<TrackPosition>& changed, const std::vector<TrackPosition>& deleted);
+    /// What is changed from now until the next write is changed in this version of the file or not at all.
+    void bindChangesToVersion() { m_changes.bindToVersion(); }
+
     /// The number of deletions that `flush` has yet to write.
     std::size_t pendingDeletions() const { return m_deletedCount; }
     /// The number of other changes that it has yet to write, or to say that they were lost.
@@ -207,6 +217,8 @@ class LibraryDocument {
     TrackListing libraryListing() const;
     void listAdded(std::size_t playlist, TrackListing& listing) const;
     Result<std::string> entryOf(TrackPosition track) const;
+    Result<void> checkNameable(TrackPosition track);
+    TrackPosition trackOfItem(std::size_t playlist, std::uint32_t item) const;
     void forgetValues();
     bool isChanged() const { return m_deletedCount > 0 || pendingChanges() > 0; }
     Result<LibraryIndex> withoutDeletions(LibraryTransaction& transaction);

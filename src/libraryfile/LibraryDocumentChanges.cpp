@@ -29,17 +29,30 @@ bool LibraryDocument::isTakenOut(std::size_t playlist, std::uint32_t item) const
            changes->added[item - items] == LibraryIndex::noTrack;
 }
 
+/// As it is now, taken out or not.
+LibraryDocument::TrackPosition LibraryDocument::trackOfItem(std::size_t playlist, std::uint32_t item) const {
+    const LibraryChanges::OfPlaylist* const changes = m_changes.ofPlaylist(m_playlistOrder[playlist]);
+    const std::vector<ItemSlot>& items = this->playlist(playlist).items;
+    if (item >= items.size()) return changes->added[item - items.size()];
+    if (!changes) return items[item].track;
+    const auto replaced = changes->replaced.find(item);
+    return replaced == changes->replaced.end() ? items[item].track : replaced->second;
+}
+
 void LibraryDocument::takeOut(std::size_t playlist, std::uint32_t item) {
     if (isTakenOut(playlist, item)) return;
     m_changes.takeOut(m_playlistOrder[playlist], item, this->playlist(playlist).items.size());
     if (m_lists[playlist]) m_lists[playlist]->listing.strikeItem(item);
 }
 
-Result<std::uint32_t> LibraryDocument::add(std::size_t playlist, TrackPosition track) {
+Result<void> LibraryDocument::checkNameable(TrackPosition track) {
     const std::int64_t id = trackId(track);
-    if (id < 0 || tracksWithTrackId(id).size() != 1)
-        return Error{Error::Code::invalid,
-                     "the track has no ID of its own by which a playlist could name it"};
+    if (id >= 0 && tracksWithTrackId(id).size() == 1) return {};
+    return Error{Error::Code::invalid, "the track has no ID of its own by which a playlist could name it"};
+}
+
+Result<std::uint32_t> LibraryDocument::add(std::size_t playlist, TrackPosition track) {
+    if (auto nameable = checkNameable(track); !nameable) return nameable.error();
     const PlaylistSlot& slot = this->playlist(playlist);
     if (slot.container.form == ContainerSlot::Form::missing && slot.end == 0)
         return Error{Error::Code::invalid, "the playlist has no place for tracks"};
@@ -49,6 +62,28 @@ Result<std::uint32_t> LibraryDocument::add(std::size_t playlist, TrackPosition t
         static_cast<std::uint32_t>(slot.items.size() + m_changes.ofPlaylist(number)->added.size() - 1);
     if (m_lists[playlist]) listing(playlist).append(track, item);
     return item;
+}
+
+Result<void> LibraryDocument::putInPlaceOf(std::size_t playlist, std::uint32_t item, TrackPosition track) {
+    if (auto nameable = checkNameable(track); !nameable) return nameable;
+    if (isTakenOut(playlist, item) || isDeleted(trackOfItem(playlist, item)))
+        return Error{Error::Code::notFound, "the track is in the playlist no more"};
+    m_changes.replace(m_playlistOrder[playlist], item, this->playlist(playlist).items.size(), track);
+    if (m_lists[playlist]) listing(playlist).replaceTrack(item, track);
+    return {};
+}
+
+void LibraryDocument::withdraw(const std::vector<TrackPosition>& changed,
+                               const std::vector<TrackPosition>& deleted) {
+    m_changes.withdraw({changed.begin(), changed.end()}, m_index);
+    for (const TrackPosition track : deleted) {
+        if (!isDeleted(track)) continue;
+        m_index.tracks[track].deleted = false;
+        m_memory.forget(track);
+        --m_deletedCount;
+    }
+    forgetValues();
+    forgetLists();
 }
 
 /// Tracks that were added to a playlist come behind its items, with the numbers that follow.

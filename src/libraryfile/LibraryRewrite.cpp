@@ -45,13 +45,20 @@ bool itemsRemain(const LibraryIndex& original, const PlaylistSlot& before, const
 } // namespace
 
 std::vector<ByteRange> rangesOfDeletions(const LibraryIndex& index) {
+    return rangesOfDeletions(index, [](std::uint32_t, std::uint32_t) { return false; });
+}
+
+std::vector<ByteRange> rangesOfDeletions(const LibraryIndex& index, const StaysInPlaylist& stays) {
     std::vector<ByteRange> ranges;
     for (const TrackSlot& track : index.tracks)
         if (track.deleted) ranges.push_back(track.range());
     const ItemRule rule(index);
-    for (const PlaylistSlot& playlist : index.playlists)
-        for (const ItemSlot& item : playlist.items)
-            if (rule.goes(item)) ranges.push_back(playlist.rangeOf(item));
+    for (std::uint32_t number = 0; number < index.playlists.size(); ++number) {
+        const PlaylistSlot& playlist = index.playlists[number];
+        for (std::uint32_t item = 0; item < playlist.items.size(); ++item)
+            if (rule.goes(playlist.items[item]) && !stays(number, item))
+                ranges.push_back(playlist.rangeOf(playlist.items[item]));
+    }
     const auto byBegin = [](const ByteRange& a, const ByteRange& b) { return a.begin < b.begin; };
     if (!std::is_sorted(ranges.begin(), ranges.end(), byBegin))
         std::sort(ranges.begin(), ranges.end(), byBegin);

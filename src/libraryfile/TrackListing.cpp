@@ -37,6 +37,15 @@ std::vector<std::size_t> TrackListing::placesOfTrack(std::uint32_t track) {
     return places;
 }
 
+void TrackListing::replaceTrack(std::uint32_t item, std::uint32_t track) {
+    const auto slot = slotOfItem(item);
+    if (!slot) return;
+    const bool isThreaded = !m_previous.empty();
+    if (isThreaded) unthread(*slot);
+    m_tracks[*slot] = track;
+    if (isThreaded) threadBetween(*slot);
+}
+
 void TrackListing::strikeItem(std::uint32_t item) {
     if (const auto slot = slotOfItem(item)) strike(*slot);
 }
@@ -114,6 +123,24 @@ void TrackListing::threadSlots() {
 void TrackListing::thread(Slot slot) {
     const auto [last, isFirst] = m_last.try_emplace(m_tracks[slot], slot);
     m_previous.push_back(isFirst ? noSlot : std::exchange(last->second, slot));
+}
+
+/// Takes a slot out of the thread of its track.
+void TrackListing::unthread(Slot slot) {
+    const auto last = m_last.find(m_tracks[slot]);
+    Slot* link = &last->second;
+    while (*link != slot)
+        link = &m_previous[*link];
+    *link = m_previous[slot];
+    if (last->second == noSlot) m_last.erase(last);
+}
+
+/// Puts a slot into the thread of its track, which goes from the last slot to the first.
+void TrackListing::threadBetween(Slot slot) {
+    Slot* link = &m_last.try_emplace(m_tracks[slot], noSlot).first->second;
+    while (*link != noSlot && *link > slot)
+        link = &m_previous[*link];
+    m_previous[slot] = std::exchange(*link, slot);
 }
 
 } // namespace songsweep

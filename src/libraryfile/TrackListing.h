@@ -31,6 +31,9 @@ class TrackListing {
     /// Where the track is now, ascending. The first call is linear.
     std::vector<std::size_t> placesOfTrack(std::uint32_t track);
 
+    /// The item is another track's from now on. Costs what the two tracks have of items.
+    void replaceTrack(std::uint32_t item, std::uint32_t track);
+
     void strikeItem(std::uint32_t item);
     /// All items of the track. The first call is linear.
     void strikeTrack(std::uint32_t track);
@@ -47,6 +50,8 @@ class TrackListing {
     void growCounts();
     void threadSlots();
     void thread(Slot slot);
+    void unthread(Slot slot);
+    void threadBetween(Slot slot);
 
     std::vector<std::uint32_t> m_tracks; // by slot
     std::vector<std::uint32_t> m_items;

@@ -2,6 +2,7 @@
 //
 // What scripts ask of tracks and playlists, and change in them.
 #include "hosts/EmbeddedScriptingFixture.h"
+#include "platform/LocalTime.h"
 #include "scripting/SourceNotation.h"
 
 #include <gmock/gmock.h>
@@ -169,6 +170,48 @@ TEST_F(LibraryScriptTest, DuplicatesTracksToAPlaylist) {
                 HasSubstr("tracks are duplicated to a playlist"));
     EXPECT_THAT(failure("tell application \"iTunes\" to duplicate playlist 2 to playlist 2"),
                 HasSubstr("only tracks can be duplicated"));
+}
+
+TEST_F(LibraryScriptTest, PutsATrackInThePlaceOfAnother) {
+    open(smallLibrary());
+    EXPECT_EQ(shown(run("tell application \"iTunes\" to duplicate track \"Three\" to last track of playlist "
+                        "\"Twice\" whose name is \"Two\"")),
+              "track 3 of playlist 2 of application \"iTunes\"");
+    run("tell application \"iTunes\" to delete track \"Two\"");
+    const std::string names = "tell application \"iTunes\" to get name of every track of playlist \"Twice\"";
+    EXPECT_EQ(shown(run(names)), "{\"One\", \"Three\"}");
+    ASSERT_TRUE(m_scripts->flush());
+    EXPECT_EQ(shown(run(names)), "{\"One\", \"Three\"}");
+    for (const std::string place : {"track 1", "track 1 of playlist \"Smart\""})
+        EXPECT_NE(failure("tell application \"iTunes\" to duplicate track \"Three\" to " + place), "");
+    EXPECT_THAT(failure("tell application \"iTunes\" to duplicate tracks to track 1 of playlist \"Twice\""),
+                HasSubstr("one track takes the place of another"));
+    EXPECT_THAT(failure("tell application \"iTunes\" \nset t to track 1 of playlist \"Twice\" \ndelete t \n"
+                        "duplicate track \"Three\" to t \nend tell"),
+                HasSubstr("the track is in the playlist no more"));
+}
+
+TEST_F(LibraryScriptTest, SetsDatesAndWhetherATrackIsLoved) {
+    const auto played = [](const std::string& utc, const std::string& seconds) {
+        return "<key>Play Date</key><integer>" + seconds +
+               "</integer>\n\t\t\t<key>Play Date UTC</key><date>" + utc + "</date>";
+    };
+    const std::string later = played("2009-07-14T15:09:26Z", std::to_string(longDateTime(1247584166)));
+    const std::string rated = "\n\t\t\t<key>Album Rating</key><integer>60</integer>"
+                              "\n\t\t\t<key>Album Rating Computed</key><true/>";
+    open(libraryXml({{1, "A1", later}, {2, "A2", played("2008-01-01T00:00:00Z", "1") + rated}}, {}));
+    run("tell application \"iTunes\" \nset played date of track 2 to played date of track 1 \n"
+        "set loved of track 2 to true \nset album rating of track 2 to 80 \nend tell");
+    EXPECT_EQ(shown(run("tell application \"iTunes\" to get {loved, album rating} of every track")),
+              "{{false, true}, {0, 80}}");
+    ASSERT_TRUE(m_scripts->flush());
+    EXPECT_EQ(contentOf(m_path), libraryXml({{1, "A1", later},
+                                             {2, "A2",
+                                              later + "\n\t\t\t<key>Album Rating</key><integer>80</integer>"
+                                                      "\n\t\t\t<key>Loved</key><true/>"}},
+                                            {}));
+    EXPECT_THAT(failure("tell application \"iTunes\" to set date added of track 1 to 5"),
+                HasSubstr("date added is a date"));
 }
 
 TEST_F(LibraryScriptTest, SetsWhatTheFileSaysOfATrack) {

@@ -162,5 +162,11 @@ TEST_F(ShortDateTime, OfARecordIsEmptyWithoutADate) {
     EXPECT_NE(dateadded(TrackRecord{.dateaddedv = 0, .hasdate = true}), "");
 }
 
+TEST(LibraryDate, IsWrittenAsItIsRead) {
+    for (const std::string text : {"2009-03-14T15:09:26Z", "1969-12-31T23:59:59Z", "0001-01-01T00:00:00Z"})
+        EXPECT_EQ(libraryDate(parseLibraryDate(text).value()), text);
+    EXPECT_EQ(libraryDate(253402300800), std::nullopt) << "the year 10000";
+}
+
 } // namespace
 } // namespace songsweep

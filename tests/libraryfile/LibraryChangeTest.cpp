@@ -107,6 +107,59 @@ TEST_F(LibraryChangeTest, AnItemIsTakenOutAndItsTrackStays) {
     EXPECT_EQ(m_library->trackCount(), 3);
 }
 
+TEST_F(LibraryChangeTest, AnItemBecomesAnotherTracksAndStaysWhenItsFirstTrackGoes) {
+    open(small("a", {1, 2, 1, 3}));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1, 0, 2));
+    ASSERT_TRUE(m_library->putInPlaceOf(1, 2, 1));
+    EXPECT_THAT(m_library->listing(1).placesOfTrack(1), ElementsAre(1, 2));
+    ASSERT_TRUE(m_library->remove(0));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(1, 1, 2));
+    EXPECT_FALSE(m_library->putInPlaceOf(1, 0, 1)) << "the track of that item is gone";
+    ASSERT_TRUE(m_library->flush());
+    EXPECT_EQ(content(),
+              libraryXml({{2, idB, ""}, {3, "C3", ""}},
+                         {{"Library", "<key>Master</key><true/>", {2, 3}}, {"Twice", "", {2, 2, 3}}}));
+}
+
+TEST_F(LibraryChangeTest, AnItemThatAnotherTrackGotGoesWithThatTrack) {
+    open(small("a", {1, 2, 1}));
+    ASSERT_TRUE(m_library->putInPlaceOf(1, 1, 2));
+    ASSERT_TRUE(m_library->remove(2));
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 0));
+    ASSERT_TRUE(m_library->flush());
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 0));
+}
+
+TEST_F(LibraryChangeTest, WhatIsWithdrawnLeavesNothingBehind) {
+    open(small("a", {1, 2, 1, 3}));
+    rename(1, "kept");
+    rename(2, "other");
+    ASSERT_TRUE(m_library->putInPlaceOf(1, 0, 1));
+    m_library->takeOut(1, 1);
+    ASSERT_TRUE(m_library->add(1, 1));
+    ASSERT_TRUE(m_library->remove(0));
+    m_library->withdraw({1}, {0});
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1, 0, 2));
+    EXPECT_EQ(m_library->pendingDeletions(), 0U);
+    ASSERT_TRUE(m_library->flush());
+    EXPECT_EQ(nameOf(1), "");
+    EXPECT_EQ(nameOf(2), "other");
+    EXPECT_THAT(tracksOf(m_library->listing(1)), ElementsAre(0, 1, 0, 2));
+}
+
+TEST_F(LibraryChangeTest, ChangesBoundToTheirVersionAreNotMadeInAnother) {
+    open(small("old", {}));
+    m_library->bindChangesToVersion();
+    rename(0, "new");
+    replaceLibrary(small("theirs", {}));
+    EXPECT_FALSE(m_library->flush());
+    EXPECT_EQ(content(), small("theirs", {}));
+    rename(0, "ours");
+    replaceLibrary(small("theirs again", {}));
+    EXPECT_TRUE(m_library->flush()) << "the next changes are not bound";
+    EXPECT_EQ(content(), small("ours", {}));
+}
+
 TEST_F(LibraryChangeTest, WhatIsListedChangesWithEachTrackAndItem) {
     LibraryDocument& library = open(small("a", {1, 2, 1, 3, 2}));
     EXPECT_THAT(tracksOf(library.listing(0)), ElementsAre(0, 1, 2));

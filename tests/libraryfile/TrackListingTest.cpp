@@ -75,6 +75,10 @@ class PlainListing {
             m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(place));
         }
     }
+    void replace(std::uint32_t item, std::uint32_t track) {
+        for (std::size_t place = 0; place < m_items.size(); ++place)
+            if (m_items[place] == item) m_tracks[place] = track;
+    }
     const std::vector<std::uint32_t>& tracks() const { return m_tracks; }
     const std::vector<std::uint32_t>& items() const { return m_items; }
 
@@ -109,6 +113,10 @@ TEST(TrackListing, IsWhatAPlainListIs) {
             case 0:
                 listing.strikeTrack(track);
                 plain.strike([&](std::uint32_t each, std::uint32_t) { return each == track; });
+                break;
+            case 3:
+                listing.replaceTrack(item, track);
+                plain.replace(item, track);
                 break;
             case 1:
             case 2:
