@@ -67,6 +67,7 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     heading.tracks = plan.tracks.size();
     heading.withFiles = plan.withFiles;
     const std::string backup = heading.backup;
+    m_version = heading.version;
     auto record = CleanupRecord::create(std::move(heading));
     if (!record) return record.error();
     PresentIds ids(library);
@@ -125,8 +126,17 @@ Result<void> LibraryCleanup::writeLibrary(LibraryDocument& library) {
     if (!noted) return noted;
     if (!written) return written;
     m_record->written();
+    noteBackup(library);
     noteWritten(library);
     return {};
+}
+
+/// It was made again where another program had written the library before the first write.
+void LibraryCleanup::noteBackup(const LibraryDocument& library) {
+    const FileStamp version = library.cleanupHeading().version;
+    if (version == m_version) return;
+    m_record->backedUpAgain(version);
+    m_version = version;
 }
 
 /// The track in hand may have been told but in part; it is looked at again after the next write.

@@ -72,6 +72,7 @@ class LibraryCleanup {
 
     Result<void> beginRecord(LibraryDocument& library, CleanupPlan plan);
     Result<void> writeLibrary(LibraryDocument& library);
+    void noteBackup(const LibraryDocument& library);
     Result<void> moveFiles(LibraryDocument& library);
     void noteUsers();
     void noteWritten(LibraryDocument& library);
@@ -85,6 +86,7 @@ class LibraryCleanup {
     Write m_write;
     std::optional<CleanupRecord> m_record; ///< while the clean-up is on
     std::string m_backup;
+    FileStamp m_version; ///< of the library that the backup is a copy of
     std::string m_recordPath;
     std::vector<RecordedTrack> m_plan;
     PlannedTracks m_users; ///< of files, by these

@@ -171,6 +171,14 @@ void CleanupRecord::written() {
     handOver();
 }
 
+void CleanupRecord::backedUpAgain(const FileStamp& version) {
+    JsonLine line;
+    line.text("step", "backup");
+    addStamp(line, version);
+    add(line.finished());
+    handOver();
+}
+
 Result<void> CleanupRecord::trashing(std::span<const std::size_t> tracks) {
     add(JsonLine().text("step", "trashing").numbers("tracks", tracks).finished());
     return flush();

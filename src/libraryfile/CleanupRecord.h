@@ -20,6 +20,7 @@ namespace songsweep {
 ///     {"step":"planned"}     nothing is done before this line is on the disk
 ///     {"step":"writing",…}   a new version of the library is about to take its place
 ///     {"step":"written",…}   it has
+///     {"step":"backup",…}    the backup was made again, of this version
 ///     {"step":"trashing",…}  the files of these tracks are moved now
 ///     {"step":"trashed",…}   one file, and where it lies in the Trash
 ///     {"step":"outcome",…}   what became of one track
@@ -54,6 +55,8 @@ class CleanupRecord {
     /// The library is to be written without so many tracks more, or with them again. On the disk.
     Result<void> writing(std::size_t tracks);
     void written();
+    /// The backup is of another version than the heading says, since another program had written the library.
+    void backedUpAgain(const FileStamp& version);
 
     /// The files of these tracks are moved now. On the disk.
     Result<void> trashing(std::span<const std::size_t> tracks);

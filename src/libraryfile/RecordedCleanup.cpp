@@ -40,6 +40,7 @@ class Reader {
         if (step == "planned") m_cleanup.isPlanned = true;
         if (step == "writing") ++m_cleanup.writesBegun;
         if (step == "written") ++m_cleanup.writesDone;
+        if (step == "backup") takeBackup(line);
         if (step == "trashing") return takeBegun(line);
         if (step == "trashed") return takePlace(line);
         if (step == "outcome") return takeOutcome(line);
@@ -55,6 +56,13 @@ class Reader {
         m_begun = !m_begun && line.number("format") == knownFormat;
         m_cleanup.heading = recordHeadingIn(line, folderOf(m_cleanup.path));
         return m_begun;
+    }
+
+    /// The other program may have given the tracks other IDs.
+    void takeBackup(const RecordLine& line) {
+        m_cleanup.heading.version = stampIn(line);
+        for (RecordedCleanup::Track& track : m_cleanup.tracks)
+            track.plan.trackId = -1;
     }
 
     bool takeBegun(const RecordLine& line) {

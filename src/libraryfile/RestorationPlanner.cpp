@@ -45,8 +45,8 @@ Result<Restoration> RestorationPlanner::plan(const std::vector<RecordedTrack>& w
     return restoration;
 }
 
-/// The tracks of the backup that are meant: those of the persistent ID, and of the track ID where it is
-/// known.
+/// The tracks of the backup that are meant: those of the persistent ID, and of the track ID where it is known
+/// and one of them has it; a program that was killed may not have come to record that they were renumbered.
 RestorationPlanner::Sought RestorationPlanner::seek(const std::vector<RecordedTrack>& wanted) const {
     const auto& tracks = m_backup.index.tracks;
     PersistentIdTable table;
@@ -54,9 +54,12 @@ RestorationPlanner::Sought RestorationPlanner::seek(const std::vector<RecordedTr
     Sought sought;
     sought.tracks.resize(tracks.size());
     for (const RecordedTrack& track : wanted) {
+        const auto same = table.find(tracks, PersistentId::of(track.persistentId));
+        const auto isIt = [&](std::uint32_t position) { return tracks[position].trackId == track.trackId; };
+        const bool isKnown = std::any_of(same.begin(), same.end(), isIt);
         auto& meant = sought.ofWanted.emplace_back();
-        for (const std::uint32_t position : table.find(tracks, PersistentId::of(track.persistentId))) {
-            if (track.trackId >= 0 && tracks[position].trackId != track.trackId) continue;
+        for (const std::uint32_t position : same) {
+            if (isKnown && !isIt(position)) continue;
             meant.push_back(position);
             sought.tracks[position] = true;
         }

@@ -192,6 +192,21 @@ TEST_F(LibraryCleanupTest, LeavesNothingBehindWhereItsRecordCannotBeMade) {
     EXPECT_EQ(names(), before);
 }
 
+TEST_F(LibraryCleanupTest, RecordsThatItsBackupIsOfALaterVersion) {
+    ASSERT_TRUE(beginCleanup());
+    const FileStamp old = record().heading.version;
+    std::string rewritten = manyTracks(4);
+    rewritten.insert(rewritten.find("<dict>"), "<!-- another program -->");
+    replaceLibrary(rewritten);
+    const FileStamp version = LibraryFile::stampOf(m_path).value();
+    ASSERT_NE(version, old);
+    deleteTrack(1);
+    ASSERT_TRUE(finishCleanup() && endCleanup());
+    EXPECT_EQ(contentOf(backup()), rewritten);
+    EXPECT_EQ(record().heading.version, version);
+    EXPECT_EQ(record().tracks[1].plan.trackId, -1) << "it may be another one there";
+}
+
 TEST_F(LibraryCleanupTest, IsLockedUntilItsEnd) {
     ASSERT_TRUE(beginCleanup());
     EXPECT_FALSE(CleanupLock::acquire(m_path, {"another"}));

@@ -160,8 +160,14 @@ TEST_F(RestorationTest, OfSomeTracksLeavesTheOthersOut) {
 
 TEST_F(RestorationTest, ATrackThatTheBackupLacksIsNamedAndChangesNothing) {
     const std::string text = libraryXml(fiveTracks, twoLists);
-    EXPECT_EQ(restored(text, text, {track("B1"), track("A1", 77)}), text);
+    EXPECT_EQ(restored(text, text, {track("B1"), track("B2", 1)}), text);
     EXPECT_THAT(m_fates, ElementsAre(Fate::isUnknown, Fate::isUnknown));
+}
+
+TEST_F(RestorationTest, ATrackThatWasNumberedAnewIsFound) {
+    const std::string text = libraryXml(fiveTracks, twoLists);
+    EXPECT_EQ(restored(text, without(text, {1}), {track("A2", 77)}), text);
+    EXPECT_THAT(m_fates, ElementsAre(Fate::comesBack));
 }
 
 TEST_F(RestorationTest, WhatOthersChangedStays) {
