@@ -8,6 +8,7 @@
 #include "app/views/ApplicationView.h"
 #include "app/views/ControllerViews.h"
 #include "app/views/DeleteView.h"
+#include "delete/Cleanup.h"
 #include "delete/DeleteProc.h"
 #include "delete/FileSurvey.h"
 #include "delete/TrackFacts.h"
@@ -19,6 +20,18 @@ namespace songsweep {
 namespace {
 
 constexpr int deleteDelayMilliseconds = 100;
+
+/// On the queue of the surveys, since one that was cancelled may be at the library still.
+class Unlocking final : public Operation {
+  public:
+    explicit Unlocking(Cleanup& cleanup)
+        : m_cleanup(cleanup) {}
+
+    void main() override { m_cleanup.unlock(); }
+
+  private:
+    Cleanup& m_cleanup;
+};
 
 } // namespace
 
@@ -52,8 +65,9 @@ void Deletion::deleteButtonClick() {
 
 void Deletion::startSurvey(const DeleteConfirmationFacts& facts) {
     const DisplayedList& list = m_results.tableDataSource();
-    auto survey = std::make_unique<FileSurvey>(SurveyedRows(list.rows, list.storage), facts,
-                                               m_services.surveySources(), m_workers.center);
+    auto survey =
+        std::make_unique<FileSurvey>(SurveyedRows(list.rows, list.storage), facts, m_services.surveySources(),
+                                     m_services.cleanup, m_workers.center);
     m_pendingSurvey = survey->serial();
     m_surveys.add(std::move(survey));
 }
@@ -72,11 +86,14 @@ void Deletion::forgetSurvey() {
     m_plan = {};
 }
 
+void Deletion::unlockLibrary() { m_surveys.add(std::make_unique<Unlocking>(m_services.cleanup)); }
+
 void Deletion::delConfCancelButtonClick() {
     m_view.endDeleteConfirmation();
     if (m_phase != Phase::confirming) return;
     m_phase = Phase::none;
     forgetSurvey();
+    unlockLibrary();
 }
 
 void Deletion::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
@@ -121,6 +138,7 @@ void Deletion::abandon() {
     m_myTimer.stop();
     m_phase = Phase::none;
     m_plan = {};
+    unlockLibrary();
     QTimer::singleShot(0, &m_myTimer, m_abandoned);
 }
 
@@ -154,6 +172,7 @@ void Deletion::end(const WorkerEvent& event) {
     m_phase = Phase::none;
     if (const auto* report = std::get_if<std::shared_ptr<DeleteReport>>(&event.payload)) m_report = *report;
     m_results.validity();
+    unlockLibrary(); // of one that could not begin
 }
 
 } // namespace songsweep

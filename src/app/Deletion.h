@@ -26,7 +26,8 @@ struct ControllerViews;
 /// A deletion from its confirmation to its report.
 ///
 /// The confirmation opens at once; what it says of files comes when a survey of them has answered, on a queue
-/// of its own, so that no worker waits for a survey that takes long to stop. Between the confirmation and
+/// of its own, so that no worker waits for a survey that takes long to stop. The library is locked from the
+/// survey on, until the deletion has ended or was given up. Between the confirmation and
 /// the worker lies a short delay, in which a cancel leaves everything as it was. Main thread.
 class Deletion {
   public:
@@ -65,6 +66,7 @@ class Deletion {
 
     void startSurvey(const DeleteConfirmationFacts& facts);
     void forgetSurvey();
+    void unlockLibrary();
     void startWorker();
     void end(const WorkerEvent& event);
     void alertNotBegun();

@@ -52,6 +52,10 @@ Result<void> EmbeddedCleanup::lock() {
         m_scripts.withCleanup([&](LibraryCleanup& cleanup) { return cleanup.lock(m_identity.request); }));
 }
 
+void EmbeddedCleanup::unlock() {
+    m_scripts.withCleanup([](LibraryCleanup& cleanup) { cleanup.unlock(); });
+}
+
 Result<void> EmbeddedCleanup::begin(std::vector<RecordedTrack> tracks, Files files) {
     m_isOn = false;
     if (tracks.empty() || !m_isEmbedded()) return {};

@@ -25,9 +25,8 @@ class EmbeddedCleanup final : public Cleanup {
         , m_isEmbedded(std::move(isEmbedded))
         , m_identity(std::move(identity)) {}
 
-    /// Locks the library before `begin`, so that what is found in it meanwhile stays true.
-    Result<void> lock();
-
+    Result<void> lock() override;
+    void unlock() override;
     Result<void> begin(std::vector<RecordedTrack> tracks, Files files) override;
     bool beginTrack(std::size_t number) override;
     Result<void> finish() override;

@@ -40,6 +40,12 @@ class Cleanup {
     Cleanup& operator=(const Cleanup&) = delete;
     virtual ~Cleanup() = default;
 
+    /// Keeps others from changing the library before `begin`, so that what is found in it meanwhile stays
+    /// true; `busy` where another program does. Any thread.
+    virtual Result<void> lock() { return {}; }
+    /// Ends that where nothing was begun.
+    virtual void unlock() {}
+
     /// Takes the tracks over. On an error nothing must be deleted.
     // NOLINTNEXTLINE(performance-unnecessary-value-param): those that write a record move them
     virtual Result<void> begin(std::vector<RecordedTrack> /*tracks*/, Files /*files*/) { return {}; }

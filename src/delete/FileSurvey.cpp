@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/FileSurvey.h"
 
+#include "delete/Cleanup.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 
@@ -9,16 +10,20 @@
 namespace songsweep {
 
 FileSurvey::FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, SurveySources sources,
-                       NotificationCenter<WorkerEvent>& center)
+                       Cleanup& cleanup, NotificationCenter<WorkerEvent>& center)
     : m_rows(std::move(rows))
     , m_facts(std::move(facts))
     , m_sources(std::move(sources))
+    , m_cleanup(cleanup)
     , m_center(center) {}
 
+/// What keeps the library from being locked but another program, the look at the library tells.
 void FileSurvey::main() {
     m_facts.filesPending = false;
+    const Result<void> locked = m_cleanup.lock();
     auto plan = surveyFiles(m_rows, m_sources, m_facts, [this] { return isCancelled(); });
     if (!plan) return;
+    if (!locked && locked.error().code == Error::Code::busy) m_facts.libraryObstacle = locked.error().message;
     auto answer = std::make_shared<SurveyAnswer>(SurveyAnswer{std::move(*plan), m_facts});
     m_center.post({EventName::surveyDone, std::move(answer), this});
 }

@@ -9,6 +9,7 @@
 
 namespace songsweep {
 
+class Cleanup;
 struct WorkerEvent;
 template <typename Event>
 class NotificationCenter;
@@ -23,12 +24,13 @@ struct SurveyAnswer {
 ///
 /// With a million tracks on a slow disk that takes minutes, in which the window has to answer. It is no
 /// worker of the event chain: its one event, "surveyDone" with the answer, starts no other, and it has a
-/// queue of its own, so that nobody waits for it. A survey that was cancelled stops before its next look at
-/// the file system and says nothing.
+/// queue of its own, so that nobody waits for it. It locks the library for the clean-up that may follow; who
+/// drops it or its answer unlocks the library behind it. A survey that was cancelled stops before its next
+/// look at the file system and says nothing.
 class FileSurvey final : public Operation {
   public:
-    /// `facts` are those that need no file system. The centre outlives the survey.
-    FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, SurveySources sources,
+    /// `facts` are those that need no file system. Clean-up and centre outlive the survey.
+    FileSurvey(SurveyedRows rows, DeleteConfirmationFacts facts, SurveySources sources, Cleanup& cleanup,
                NotificationCenter<WorkerEvent>& center);
 
     void main() override;
@@ -37,6 +39,7 @@ class FileSurvey final : public Operation {
     SurveyedRows m_rows;
     DeleteConfirmationFacts m_facts;
     SurveySources m_sources;
+    Cleanup& m_cleanup;
     NotificationCenter<WorkerEvent>& m_center;
 };
 

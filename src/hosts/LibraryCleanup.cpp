@@ -49,6 +49,10 @@ Result<void> LibraryCleanup::lock(const CleanupLock::Request& request) {
     return document ? document.value()->lockForCleanup(request) : Result<void>(document.error());
 }
 
+void LibraryCleanup::unlock() {
+    if (!isOn() && m_library.opened() != nullptr) m_library.opened()->endCleanup();
+}
+
 Result<void> LibraryCleanup::begin(const CleanupLock::Request& request, CleanupPlan plan) {
     if (m_library.opened() != nullptr)
         if (auto written = m_write(*m_library.opened()); !written) return written;

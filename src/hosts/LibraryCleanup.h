@@ -37,6 +37,8 @@ class LibraryCleanup {
 
     /// Locks the library for a clean-up that has yet to begin, and removes what killed programs left.
     Result<void> lock(const CleanupLock::Request& request);
+    /// Ends that, unless a clean-up has begun.
+    void unlock();
     /// Writes what is pending, locks the library until `end`, makes a backup, tries the replacing, and writes
     /// the plan down. An error where that fails, so that nothing must be deleted; nothing is left of it then.
     /// Takes as long as a copy of the library.

@@ -10,7 +10,7 @@
 namespace songsweep {
 
 Result<void> LibraryDocument::lockForCleanup(const CleanupLock::Request& request) {
-    endCleanup();
+    if (m_transaction) return {};
     auto begun = LibraryTransaction::begin(m_path, request, Backup::Purpose::deletion);
     if (!begun) return begun.error();
     m_transaction = std::move(begun).value();

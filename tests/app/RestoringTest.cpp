@@ -2,6 +2,7 @@
 #include "WindowsFixture.h"
 #include "libraryfile/CleanupLock.h"
 #include "libraryfile/RecordedCleanup.h"
+#include "libraryfile/TemporaryName.h"
 #include "support/EventLoop.h"
 #include "support/SampleCleanup.h"
 #include "support/Widgets.h"
@@ -105,6 +106,17 @@ class Restoring : public OwnTrash, public TemporaryFolder, public WindowsFixture
     }
     void waitForLines(const std::string& part) {
         ASSERT_TRUE(runEventLoopUntil([&] { return lines().find(part) != std::string::npos; })) << lines();
+    }
+
+    /// Whether nobody has locked the library; seen without a lock of its own, which others could meet.
+    bool isFree() const { return !fs::exists(folder.path() + "/" + TemporaryName::ofLock("library.xml")); }
+    /// Opens the confirmation and waits until the survey has locked the library.
+    void askToDeleteOne() {
+        search();
+        controller->setObjectValue(true, Column::checkbox, 0);
+        controller->setStatusLabel();
+        press("deleteButton");
+        ASSERT_TRUE(runEventLoopUntil([this] { return !isFree(); }));
     }
 
     std::string m_whole = present();
@@ -304,6 +316,43 @@ TEST_F(Restoring, ALibraryThatIsOpenedIsLookedAt) {
     Q_EMIT window().openLibrary(library);
     auto& bar = child<NoticeBarView>(window(), "noticeBar");
     ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
+}
+
+TEST_F(Restoring, TheLibraryIsLockedWhileADeletionIsConfirmed) {
+    ASSERT_NO_FATAL_FAILURE(askToDeleteOne());
+    const auto other = CleanupLock::acquire(library, {"the command delete"});
+    ASSERT_FALSE(other);
+    EXPECT_THAT(other.error().message, HasSubstr("another Songsweep (the window, process "));
+    press("delConfCancelButton");
+    EXPECT_TRUE(runEventLoopUntil([this] { return isFree(); }));
+}
+
+TEST_F(Restoring, TheLibraryIsFreeWhereADeletionIsGivenUpBeforeItBegins) {
+    ASSERT_NO_FATAL_FAILURE(askToDeleteOne());
+    press("delConfOkButton");
+    EXPECT_FALSE(isFree());
+    controller->cancelButtonClick();
+    EXPECT_TRUE(runEventLoopUntil([this] { return isFree(); }));
+    EXPECT_EQ(present(), m_whole);
+}
+
+TEST_F(Restoring, TheLibraryIsFreeWhereADeletionCouldNotBegin) {
+    ASSERT_NO_FATAL_FAILURE(askToDeleteOne());
+    folder.write("library.xml", m_whole.substr(0, m_whole.size() - 20)); // not well-formed any more
+    press("delConfOkButton");
+    EXPECT_TRUE(runEventLoopUntil([this] { return isFree(); }));
+}
+
+TEST_F(Restoring, TheLibraryIsLockedFromTheConfirmationToTheEndOfTheDeletion) {
+    ASSERT_NO_FATAL_FAILURE(askToDeleteOne());
+    press("delConfOkButton");
+    bool wasFree = false;
+    EXPECT_TRUE(runEventLoopUntil([&] {
+        wasFree |= present() == m_whole && isFree();
+        return present() != m_whole;
+    }));
+    EXPECT_FALSE(wasFree);
+    EXPECT_TRUE(runEventLoopUntil([this] { return isFree(); }));
 }
 
 TEST_F(Restoring, SaysWhereThereIsNothing) {

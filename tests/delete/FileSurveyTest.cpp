@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/FileSurvey.h"
 
+#include "delete/Cleanup.h"
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
 #include "platform/Files.h"
@@ -13,6 +14,18 @@ namespace songsweep {
 namespace {
 
 using testing::UnorderedElementsAre;
+
+/// A clean-up that somebody else may keep from locking the library.
+struct LockNotingCleanup final : Cleanup {
+    Result<void> lock() override {
+        if (isBusy) return Error{Error::Code::busy, "another Songsweep is cleaning up"};
+        isLocked = true;
+        return {};
+    }
+
+    bool isBusy = false;
+    bool isLocked = false;
+};
 
 /// Two copies of a song with files of their own, of which the first is marked.
 class FileSurveyTest : public testing::Test {
@@ -36,11 +49,12 @@ class FileSurveyTest : public testing::Test {
     std::unique_ptr<FileSurvey> survey(const LibraryLocations& locations = {}) {
         return std::make_unique<FileSurvey>(SurveyedRows(m_list.rows, m_list.storage),
                                             DeleteConfirmationFacts{.tracks = 7, .filesPending = true},
-                                            SurveySources{m_files, locations}, m_center);
+                                            SurveySources{m_files, locations}, m_cleanup, m_center);
     }
 
     test::TemporaryFolder m_folder;
     Files m_files;
+    LockNotingCleanup m_cleanup;
     DisplayedList m_list;
     NotificationCenter<WorkerEvent> m_center;
     std::uint64_t m_serial = 0;
@@ -54,6 +68,21 @@ TEST_F(FileSurveyTest, AnswersWithThePlanAndTheCompletedFacts) {
     EXPECT_EQ(m_serial, made->serial());
     EXPECT_EQ(m_answer->facts, (DeleteConfirmationFacts{.tracks = 7, .filesToTrash = 1, .bytesToTrash = 5}));
     EXPECT_EQ(m_answer->plan.files.size(), 1U);
+}
+
+TEST_F(FileSurveyTest, LocksTheLibraryForTheDeletionThatMayFollow) {
+    bool wasLocked = false;
+    survey([&](const LocationVisitor&) {
+        wasLocked = m_cleanup.isLocked;
+        return true;
+    })->main();
+    EXPECT_TRUE(wasLocked && m_cleanup.isLocked);
+}
+
+TEST_F(FileSurveyTest, TellsWhoElseIsAtTheLibrary) {
+    m_cleanup.isBusy = true;
+    survey()->main();
+    EXPECT_EQ(m_answer->facts.libraryObstacle, "another Songsweep is cleaning up");
 }
 
 TEST_F(FileSurveyTest, SaysNothingOnceItIsCancelled) {

@@ -207,6 +207,18 @@ TEST_F(LibraryCleanupTest, RecordsThatItsBackupIsOfALaterVersion) {
     EXPECT_EQ(record().tracks[1].plan.trackId, -1) << "it may be another one there";
 }
 
+TEST_F(LibraryCleanupTest, IsLockedBeforeItBeginsUntilItIsGivenUp) {
+    const auto with = [this](auto act) { return m_scripts->withCleanup(act); };
+    ASSERT_TRUE(with([](LibraryCleanup& cleanup) { return cleanup.lock({"a test"}); }));
+    ASSERT_TRUE(with([](LibraryCleanup& cleanup) { return cleanup.lock({"a test"}); })) << "it is ours";
+    EXPECT_FALSE(CleanupLock::acquire(m_path, {"another"}));
+    m_scripts->withCleanup([](LibraryCleanup& cleanup) { cleanup.unlock(); });
+    EXPECT_TRUE(CleanupLock::acquire(m_path, {"another"}));
+    ASSERT_TRUE(beginCleanup());
+    m_scripts->withCleanup([](LibraryCleanup& cleanup) { cleanup.unlock(); });
+    EXPECT_FALSE(CleanupLock::acquire(m_path, {"another"})) << "it has begun";
+}
+
 TEST_F(LibraryCleanupTest, IsLockedUntilItsEnd) {
     ASSERT_TRUE(beginCleanup());
     EXPECT_FALSE(CleanupLock::acquire(m_path, {"another"}));
