@@ -57,12 +57,12 @@ void EmbeddedCleanup::unlock() {
 }
 
 Result<void> EmbeddedCleanup::begin(std::vector<RecordedTrack> tracks, Files files) {
-    m_isOn = false;
+    m_isOn = m_hasBegun = false;
     if (tracks.empty() || !m_isEmbedded()) return {};
     auto begun = withPath(m_scripts.withCleanup([&](LibraryCleanup& cleanup) {
         return cleanup.begin(m_identity.request, {m_identity.program, files == Files::go, std::move(tracks)});
     }));
-    m_isOn = begun.hasValue();
+    m_isOn = m_hasBegun = begun.hasValue();
     return begun;
 }
 
@@ -94,7 +94,7 @@ Result<void> EmbeddedCleanup::end(const DeleteReport& report, RecordEnd::How how
 }
 
 Cleanup::Traces EmbeddedCleanup::traces() {
-    if (!m_isOn) return {};
+    if (!m_hasBegun) return {};
     return m_scripts.withCleanup([](LibraryCleanup& cleanup) {
         return Traces{cleanup.backup(), cleanup.record()};
     });

@@ -42,6 +42,7 @@ class EmbeddedCleanup final : public Cleanup {
     std::function<bool()> m_isEmbedded;
     Identity m_identity;
     bool m_isOn = false;
+    bool m_hasBegun = false; ///< one of this library file, the last time
 };
 
 } // namespace songsweep

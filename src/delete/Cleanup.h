@@ -61,6 +61,7 @@ class Cleanup {
 
     /// Writes down what became of everything. An error says that this could not be written.
     virtual Result<void> end(const DeleteReport& /*report*/, RecordEnd::How /*how*/) { return {}; }
+    /// Of the clean-up that is on, or of the last one; one that did nothing leaves nothing.
     virtual Traces traces() { return {}; }
 };
 

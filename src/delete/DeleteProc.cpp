@@ -61,11 +61,7 @@ void DeleteProc::main() {
 bool DeleteProc::begin() {
     const auto files = m_isDelFile ? Cleanup::Files::go : Cleanup::Files::stay;
     const Result<void> begun = m_services.cleanup.begin(plannedTracks(), files);
-    if (begun) {
-        const Cleanup::Traces traces = m_services.cleanup.traces();
-        m_report->backup = traces.backup;
-        m_report->record = traces.record;
-    } else {
+    if (!begun) {
         m_report->notBegun = begun.error().message;
         noteNotAttempted();
     }
@@ -115,6 +111,9 @@ void DeleteProc::finish() {
 void DeleteProc::endCleanup(RecordEnd::How how) {
     const auto ended = m_services.cleanup.end(*m_report, hasFailed() ? RecordEnd::How::failed : how);
     if (!ended) m_services.log.line("The record has no end : " + ended.error().message);
+    const Cleanup::Traces traces = m_services.cleanup.traces();
+    m_report->backup = traces.backup;
+    m_report->record = traces.record;
 }
 
 bool DeleteProc::hasFailed() const { return !m_report->notBegun.empty() || !m_report->notWritten.empty(); }

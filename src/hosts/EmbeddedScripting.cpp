@@ -81,7 +81,9 @@ Result<void> EmbeddedScripting::runLast(std::string_view source) {
     const std::lock_guard lock(m_lock);
     m_ended = true;
     static_cast<void>(runLocked(source, Places::leftOut)); // What matters is written also where it fails.
-    return flushLocked();
+    auto written = flushLocked();
+    m_cleanup.endAtOnce();
+    return written;
 }
 
 Result<std::optional<Descriptor>> EmbeddedScripting::runLocked(std::string_view source, Places places) {

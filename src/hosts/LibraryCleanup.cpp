@@ -92,6 +92,7 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     m_written.assign(m_plan.size(), false);
     m_firstUnwritten = 0;
     m_track = 0;
+    m_hasActed = false;
     m_error.reset();
     return {};
 }
@@ -124,6 +125,7 @@ Result<void> LibraryCleanup::write(LibraryDocument& library) {
 
 Result<void> LibraryCleanup::writeLibrary(LibraryDocument& library) {
     if (library.pendingDeletions() == 0) return m_write(library);
+    m_hasActed = true;
     auto noted = m_record->writing(library.pendingDeletions());
     if (!noted) library.rollback();
     auto written = m_write(library);
@@ -152,6 +154,7 @@ void LibraryCleanup::noteWritten(LibraryDocument& library) {
 
 Result<void> LibraryCleanup::moveFiles(LibraryDocument& library) {
     const auto files = m_files.take([&](const HeldFile& file) { return isGone(file, library); });
+    m_hasActed |= !files.empty();
     Result<void> noted;
     for (std::span<const HeldFile> rest = files; !rest.empty();) {
         const auto batch = rest.first(std::min(filesABatch, rest.size()));
@@ -206,6 +209,12 @@ bool LibraryCleanup::hasTrack(std::size_t number) const {
 
 Result<void> LibraryCleanup::end(std::span<const RecordedOutcome> outcomes, RecordEnd::How how,
                                  const std::string& reason) {
+    if (!isOn()) return {};
+    if (!m_hasActed && !m_error) {
+        leaveNothing();
+        m_plan.clear();
+        return {};
+    }
     for (std::size_t track = 0; track < outcomes.size(); ++track)
         m_record->outcome(track, outcomes[track]);
     auto ended = m_record->end(how, reason);
@@ -214,6 +223,18 @@ Result<void> LibraryCleanup::end(std::span<const RecordedOutcome> outcomes, Reco
     m_plan.clear();
     m_error.reset();
     return ended;
+}
+
+void LibraryCleanup::endAtOnce() {
+    if (isOn() && !m_hasActed && !m_error) leaveNothing();
+}
+
+void LibraryCleanup::leaveNothing() {
+    m_record->discard();
+    m_record.reset();
+    if (m_library.opened() != nullptr) m_library.opened()->abandonCleanup();
+    m_backup.clear();
+    m_recordPath.clear();
 }
 
 } // namespace songsweep

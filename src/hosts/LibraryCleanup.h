@@ -61,11 +61,16 @@ class LibraryCleanup {
     /// What became of the file of a track of the plan; nothing where no text deleted it. After `finish`.
     std::optional<Result<TrashedFile>> fateOfFile(std::size_t track) const { return m_fates.at(track); }
 
-    /// Writes down what became of the tracks of the plan, and unlocks the library.
+    /// Writes down what became of the tracks of the plan, and unlocks the library. Of a clean-up that did
+    /// nothing, neither backup nor record is left.
     Result<void> end(std::span<const RecordedOutcome> outcomes, RecordEnd::How how,
                      const std::string& reason);
 
-    /// Of this clean-up, or of the last one.
+    /// For the end of the program: of a clean-up that has done something, the record stays without its end,
+    /// as after a kill.
+    void endAtOnce();
+
+    /// Of this clean-up, or of the last one; "" where nothing is left of it.
     const std::string& backup() const { return m_backup; }
     const std::string& record() const { return m_recordPath; }
 
@@ -75,6 +80,7 @@ class LibraryCleanup {
     Result<void> beginRecord(LibraryDocument& library, CleanupPlan plan);
     Result<void> writeLibrary(LibraryDocument& library);
     void noteBackup(const LibraryDocument& library);
+    void leaveNothing();
     Result<void> moveFiles(LibraryDocument& library);
     void noteUsers();
     void noteWritten(LibraryDocument& library);
@@ -90,6 +96,7 @@ class LibraryCleanup {
     std::string m_backup;
     FileStamp m_version; ///< of the library that the backup is a copy of
     std::string m_recordPath;
+    bool m_hasActed = false; ///< the library was to be written, or a file to be moved
     std::vector<RecordedTrack> m_plan;
     PlannedTracks m_users; ///< of files, by these
     HeldFiles m_files;

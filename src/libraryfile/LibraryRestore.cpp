@@ -115,6 +115,8 @@ bool LibraryRestore::isNarrowed() const { return m_state->transaction.isNarrowed
 
 const LibraryRestore::Outcome& LibraryRestore::expected() const { return m_state->outcome; }
 
+void LibraryRestore::abandon() { m_state->transaction.abandon(); }
+
 Result<LibraryRestore::Outcome> LibraryRestore::write() {
     if (auto written = attempt([&] { return m_state->replace(); }); !written) return written.error();
     return m_state->outcome;

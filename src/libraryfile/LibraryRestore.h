@@ -59,6 +59,9 @@ class LibraryRestore {
     bool isNarrowed() const;
     const Outcome& expected() const;
 
+    /// Removes the backup of what is not begun.
+    void abandon();
+
     /// Writes; the lock goes on until the object ends. An error says that nothing was restored.
     Result<Outcome> write();
 

@@ -63,12 +63,19 @@ Result<void> RestoreRun::plan() {
 
 RestoreReport RestoreRun::carryOut(const std::vector<FileReturn>& files, const RestoreTask& task) {
     setBack(m_report.tracks);
-    if (task.isCancelled())
-        m_report.end = End::cancelled;
-    else if (writeEntries())
-        moveFiles(files, task);
+    if (task.isCancelled()) return leaveNothing();
+    if (writeEntries()) moveFiles(files, task);
     forgetMoved(files);
     writeOutcomes();
+    return std::move(m_report);
+}
+
+RestoreReport RestoreRun::leaveNothing() {
+    m_record.discard();
+    m_restore.abandon();
+    m_report.end = End::cancelled;
+    m_report.backup.clear();
+    m_report.record.clear();
     return std::move(m_report);
 }
 

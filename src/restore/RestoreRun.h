@@ -22,6 +22,7 @@ class RestoreRun {
     RestoreReport carryOut(const std::vector<FileReturn>& files, const RestoreTask& task);
 
   private:
+    RestoreReport leaveNothing();
     bool writeEntries();
     void moveFiles(const std::vector<FileReturn>& files, const RestoreTask& task);
     void moveFile(std::size_t track, const TrashedFile& place);

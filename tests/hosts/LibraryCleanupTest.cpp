@@ -192,6 +192,31 @@ TEST_F(LibraryCleanupTest, LeavesNothingBehindWhereItsRecordCannotBeMade) {
     EXPECT_EQ(names(), before);
 }
 
+TEST_F(LibraryCleanupTest, LeavesNothingBehindWhereItDidNothing) {
+    const auto before = m_folder.names();
+    ASSERT_TRUE(beginCleanup());
+    EXPECT_NE(backup(), "");
+    ASSERT_TRUE(finishCleanup() && endCleanup(RecordEnd::How::cancelled));
+    EXPECT_EQ(m_folder.names(), before);
+    EXPECT_EQ(backup(), "");
+}
+
+TEST_F(LibraryCleanupTest, EndsAtOnceAsAfterAKill) {
+    const auto before = m_folder.names();
+    ASSERT_TRUE(beginCleanup());
+    EXPECT_TRUE(m_scripts->runLast(test::unmuteText));
+    EXPECT_EQ(m_folder.names(), before) << "nothing was deleted";
+    EXPECT_TRUE(endCleanup()) << "the worker is still there";
+    open(manyTracks(4));
+    ASSERT_TRUE(beginCleanup());
+    deleteTrack(2);
+    deleteFile(2);
+    EXPECT_TRUE(m_scripts->runLast(test::unmuteText));
+    EXPECT_FALSE(record().end);
+    EXPECT_EQ(record().writesDone, 1U);
+    EXPECT_TRUE(record().tracks[2].trash);
+}
+
 TEST_F(LibraryCleanupTest, RecordsThatItsBackupIsOfALaterVersion) {
     ASSERT_TRUE(beginCleanup());
     const FileStamp old = record().heading.version;
