@@ -9,7 +9,8 @@ SurveySources ControllerServices::surveySources() const {
     return {.files = files,
             .locations = libraryLocations,
             .trash = &desktop.trash(),
-            .libraryForesight = libraryForesight};
+            .libraryForesight = libraryForesight,
+            .tracksOfId = tracksOfId};
 }
 
 } // namespace songsweep

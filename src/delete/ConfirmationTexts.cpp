@@ -19,48 +19,51 @@ QString worded(int count, const QString& one, const QString& many) {
     return count == 1 ? one : QString(many).replace(QStringLiteral("%1"), QLocale().toString(count));
 }
 
+int going(const DeleteConfirmationFacts& facts) { return facts.tracks - facts.keptTracks; }
+
 } // namespace
 
 QString heading(const DeleteConfirmationFacts& facts) {
     if (facts.tracks == 0) return QStringLiteral("No tracks are marked");
+    if (going(facts) == 0) return QStringLiteral("No track can be deleted");
     const QString where = facts.embeddedLibrary ? QStringLiteral("the library") : QStringLiteral("iTunes");
-    return worded(facts.tracks, QStringLiteral("Delete 1 track from "),
+    return worded(going(facts), QStringLiteral("Delete 1 track from "),
                   QStringLiteral("Delete %1 tracks from ")) +
            where + QStringLiteral("?");
 }
 
 QString explanation(const DeleteConfirmationFacts& facts) {
-    if (facts.tracks == 0) return QStringLiteral("Nothing will be deleted.");
-    return worded(facts.tracks, QStringLiteral("It also leaves every playlist. "),
+    if (going(facts) == 0) return QStringLiteral("Nothing will be deleted.");
+    return worded(going(facts), QStringLiteral("It also leaves every playlist. "),
                   QStringLiteral("They also leave every playlist. ")) +
            (facts.embeddedLibrary ? QStringLiteral("A copy of the library file is kept beside it.")
                                   : QStringLiteral("iTunes cannot undo this."));
 }
 
 QString filesGo(const DeleteConfirmationFacts& facts) {
-    return worded(facts.tracks, QStringLiteral("Its file goes to the Trash."),
+    return worded(going(facts), QStringLiteral("Its file goes to the Trash."),
                   QStringLiteral("Their files go to the Trash."));
 }
 
 QString fileOption(const DeleteConfirmationFacts& facts) {
-    return worded(facts.tracks, QStringLiteral("Move its &file to the Trash too"),
+    return worded(going(facts), QStringLiteral("Move its &file to the Trash too"),
                   QStringLiteral("Move their &files to the Trash too"));
 }
 
 QString deleteButton(const DeleteConfirmationFacts& facts) {
-    if (facts.tracks == 0) return QStringLiteral("&Delete");
-    return worded(facts.tracks, QStringLiteral("&Delete 1 track"), QStringLiteral("&Delete %1 tracks"));
+    if (going(facts) == 0) return QStringLiteral("&Delete");
+    return worded(going(facts), QStringLiteral("&Delete 1 track"), QStringLiteral("&Delete %1 tracks"));
 }
 
 QString filesStayLine(const DeleteConfirmationFacts& facts) {
-    return worded(facts.tracks, QStringLiteral("The file stays where it is."),
+    return worded(going(facts), QStringLiteral("The file stays where it is."),
                   QStringLiteral("The files stay where they are."));
 }
 
 QString filesPendingLine() { return QStringLiteral("Looking at the files..."); }
 
 QString libraryUnknownLine(const DeleteConfirmationFacts& facts) {
-    return worded(facts.tracks,
+    return worded(going(facts),
                   QStringLiteral("The rest of the library could not be read, so the file stays."),
                   QStringLiteral("The rest of the library could not be read, so the files stay."));
 }
@@ -100,7 +103,12 @@ QString refusedLine(const DeleteConfirmationFacts& facts) {
 QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files) {
     const int lost = songsLost(facts, files);
     if (lost == 0 && !facts.libraryObstacle.empty()) return QStringLiteral("The library cannot be written.");
-    if (lost == 0) return {};
+    if (lost == 0)
+        return facts.keptTracks == 0
+                   ? QString()
+                   : worded(facts.keptTracks,
+                            QStringLiteral("1 track shares its ID with another one, and stays."),
+                            QStringLiteral("%1 tracks share their IDs with others, and stay."));
     return worded(lost, QStringLiteral("No copy of 1 song will be left."),
                   QStringLiteral("No copy of %1 songs will be left."));
 }

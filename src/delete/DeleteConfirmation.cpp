@@ -84,7 +84,7 @@ void DeleteConfirmation::setUpButtons() {
 }
 
 void DeleteConfirmation::updateHeading() {
-    const bool some = m_facts.tracks > 0;
+    const bool some = m_facts.tracks > m_facts.keptTracks;
     m_ui->delConfHeadingLabel->setText(confirmationTexts::heading(m_facts));
     QString explanation = confirmationTexts::explanation(m_facts);
     if (m_filesAlwaysGo && some) explanation += QChar::Space + confirmationTexts::filesGo(m_facts);

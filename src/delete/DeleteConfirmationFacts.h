@@ -10,6 +10,7 @@ namespace songsweep {
 /// counts assume that files are to be trashed and that files shared with a track that stays are left.
 struct DeleteConfirmationFacts {
     int tracks = 0;
+    int keptTracks = 0; ///< of them, those that stay since one that is not marked has their persistent ID
     int filesToTrash = 0;
     std::int64_t bytesToTrash = 0; ///< a file of several names counts once
     int sharedFiles = 0;           ///< files that a track that stays uses too

@@ -2,6 +2,7 @@
 #include "delete/DeletePlan.h"
 
 #include "delete/DeleteConfirmationFacts.h"
+#include "delete/KeptIds.h"
 #include "delete/MarkedEntries.h"
 #include "delete/MarkedFiles.h"
 #include "delete/MarkedIds.h"
@@ -30,6 +31,7 @@ class Survey {
         : m_rows(rows)
         , m_sources(sources)
         , m_isStopped(isStopped)
+        , m_keptIds(rows, sources.tracksOfId, isStopped)
         , m_entries(sources.files)
         , m_markedFiles(sources.files) {}
 
@@ -37,14 +39,21 @@ class Survey {
         for (const SurveyedRows::Track& track : m_rows.marked) {
             if (m_isStopped()) return;
             m_ids.add(track.pid);
-            m_entries.add(track);
-            if (auto file = m_markedFiles.add(track)) m_plan.files.emplace(track.record, std::move(*file));
+            if (!stays(track)) m_entries.add(track);
+            auto file = m_markedFiles.add(track, stays(track));
+            if (m_keptIds.contains(track.pid))
+                ++m_kept;
+            else if (!file)
+                ++m_missing;
+            if (file) m_plan.files.emplace(track.record, std::move(*file));
         }
     }
 
     void lookAtOthers() {
         const LibraryLocations& locations = m_sources.locations;
         if (m_markedFiles.empty()) return;
+        for (const SurveyedRows::Track& track : m_rows.marked)
+            if (m_keptIds.contains(track.pid) && !lookAtOther(track.location.string())) return;
         for (const SurveyedRows::Other& row : m_rows.others) {
             const bool isDoomed = m_ids.contains(row.pid);
             if ((isDoomed || !locations) && !lookAtOther(row.location.string())) return;
@@ -80,7 +89,9 @@ class Survey {
         std::size_t other = 0;
         for (const SurveyedRows::Song& song : m_rows.songs) {
             const bool losesFile = anyFileGoes(marked, song.markedEnd);
-            const bool isLost = losesFile ? !anyCopyStays(other, song.othersEnd) : song.losesEveryCopy;
+            const bool isLost =
+                losesFile ? !anyCopyStays(other, song.othersEnd) && !anyKeptCopy(marked, song.markedEnd)
+                          : song.losesEveryCopy;
             if (losesFile && !isLost) m_plan.keptSongs.insert(song.gid);
             facts.groupsLosingEveryFile += isLost ? 1 : 0;
             facts.groupsLosingSharedFiles += isLost || losesSharedFiles(song, losesFile, other) ? 1 : 0;
@@ -90,7 +101,8 @@ class Survey {
     }
 
     void count(DeleteConfirmationFacts& facts) const {
-        facts.missingFiles = static_cast<int>(m_rows.marked.size() - m_plan.files.size());
+        facts.keptTracks = m_kept;
+        facts.missingFiles = m_missing;
         facts.libraryUnknown = m_plan.libraryUnknown;
         if (!m_plan.libraryUnknown) m_markedFiles.count(m_plan, facts);
     }
@@ -100,8 +112,12 @@ class Survey {
   private:
     using PlannedFiles = std::unordered_map<const TrackRecord*, PlannedFile>;
 
+    bool stays(const SurveyedRows::Track& track) const {
+        return trackObstacle(track.pid) || m_keptIds.contains(track.pid);
+    }
+
     bool goes(PlannedFiles::const_iterator file, const SurveyedRows::Track& track) const {
-        return file != m_plan.files.end() && !file->second.obstacle && !trackObstacle(track.pid);
+        return file != m_plan.files.end() && !file->second.obstacle && !stays(track);
     }
 
     bool anyFileGoes(std::size_t first, std::size_t end) const {
@@ -132,6 +148,14 @@ class Survey {
         return touches;
     }
 
+    bool anyKeptCopy(std::size_t first, std::size_t end) const {
+        return std::any_of(at(m_rows.marked, first), at(m_rows.marked, end),
+                           [this](const SurveyedRows::Track& copy) {
+                               return m_keptIds.contains(copy.pid) && !m_isStopped() &&
+                                      isWorkingCopy(m_sources.files, copy.location);
+                           });
+    }
+
     /// False where the survey is stopped.
     bool lookAtOther(const std::string& path) {
         if (m_isStopped()) return false;
@@ -149,10 +173,13 @@ class Survey {
     const SurveyedRows& m_rows;
     const SurveySources& m_sources;
     const std::function<bool()>& m_isStopped;
+    KeptIds m_keptIds;
     MarkedIds m_ids;
     MarkedEntries m_entries;
     MarkedFiles m_markedFiles;
     DeletePlan m_plan;
+    int m_kept = 0;    // marked tracks that stay for their IDs
+    int m_missing = 0; // files of the others
 };
 
 } // namespace

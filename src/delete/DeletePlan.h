@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "delete/SharedIds.h"
 #include "library/DisplayedList.h"
 #include "library/TrackRecord.h"
 #include "libraryfile/LibraryFile.h"
@@ -36,6 +37,7 @@ struct SurveySources {
     Trash* trash = nullptr;          ///< null: nobody foresees what it refuses
     /// Whether the library could be written if the deletion began now; any thread.
     std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
+    TracksOfId tracksOfId = {}; ///< not set: the rows are all that is known
 };
 
 /// The file of a marked track as it was when it was looked at.
@@ -102,6 +104,9 @@ struct SurveyedRows {
 /// Of a group that loses a file, the copies that are to stay are looked at again, whatever the search saw:
 /// one of them must be a regular file, not empty, and readable, or the group counts as losing every file. A
 /// group whose marked files are all missing already loses none, and is judged as the search saw it.
+///
+/// Marked tracks that will stay for a shared persistent ID are counted apart, and stay with their files,
+/// which they use like any track that is not marked.
 ///
 /// Foresees what will keep a file from the Trash, in the order of the rows, as there may be room for some
 /// alone, and what will keep the library from being written. Makes nothing.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "delete/MarkedEntries.h"
 
-#include "delete/Obstacles.h"
 #include "platform/Files.h"
 #include "platform/LocalName.h"
 
@@ -9,10 +8,7 @@
 
 namespace songsweep {
 
-/// A track that cannot be deleted stays, so that its row stands for no entry.
-void MarkedEntries::add(const SurveyedRows::Track& track) {
-    if (!trackObstacle(track.pid)) m_locations.emplace(track.pid, track.location);
-}
+void MarkedEntries::add(const SurveyedRows::Track& track) { m_locations.emplace(track.pid, track.location); }
 
 bool MarkedEntries::take(std::string_view pid, const std::string& path) {
     const auto [first, last] = m_locations.equal_range(pid);

@@ -20,6 +20,7 @@ class MarkedEntries {
     explicit MarkedEntries(const Files& files)
         : m_files(files) {}
 
+    /// A marked track that goes; the row of one that stays stands for no entry.
     void add(const SurveyedRows::Track& track);
 
     /// Whether a marked row stands for this entry; it does so for no other then.

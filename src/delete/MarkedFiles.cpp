@@ -27,7 +27,7 @@ FileStamp stampOf(const FileAttributes& file) {
     return {file.device, file.inode, file.size, file.modificationNanoseconds};
 }
 
-std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
+std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track, bool stays) {
     const std::string path = track.location.string();
     const auto attributes = isPath(path) ? m_files.attributes(path) : std::nullopt;
     if (!attributes) return std::nullopt;
@@ -39,7 +39,7 @@ std::optional<PlannedFile> MarkedFiles::add(const SurveyedRows::Track& track) {
     if (isNew) m_bySight.emplace(sightOf(*attributes), &file);
     file.tracks.push_back(track.record);
     file.attributes = *attributes;
-    file.canGo = file.canGo || (!planned.obstacle && !trackObstacle(track.pid));
+    file.canGo = file.canGo || (!planned.obstacle && !stays);
     return planned;
 }
 

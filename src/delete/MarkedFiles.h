@@ -36,8 +36,8 @@ class MarkedFiles {
 
     bool empty() const { return m_byKey.empty(); }
 
-    /// Takes in the file of a marked track; nothing where it does not exist.
-    std::optional<PlannedFile> add(const SurveyedRows::Track& track);
+    /// Takes in the file of a marked track, which may stay nevertheless; nothing where it does not exist.
+    std::optional<PlannedFile> add(const SurveyedRows::Track& track, bool stays);
 
     /// The marked files that the path leads to, under this name or another one; one may come twice.
     std::vector<const MarkedFile*> filesAt(const std::string& path) const;

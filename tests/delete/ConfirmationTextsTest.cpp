@@ -35,6 +35,20 @@ TEST(ConfirmationTexts, AreWordedForOne) {
               QStringLiteral("No copy of 1 song will be left."));
 }
 
+TEST(ConfirmationTexts, LeaveOutTracksThatStayForASharedId) {
+    DeleteConfirmationFacts facts{.tracks = 3, .keptTracks = 1, .embeddedLibrary = true};
+    EXPECT_EQ(texts::heading(facts), QStringLiteral("Delete 2 tracks from the library?"));
+    EXPECT_EQ(texts::deleteButton(facts), QStringLiteral("&Delete 2 tracks"));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+              QStringLiteral("1 track shares its ID with another one, and stays."));
+    facts.keptTracks = 3;
+    EXPECT_EQ(texts::heading(facts), QStringLiteral("No track can be deleted"));
+    EXPECT_EQ(texts::explanation(facts), QStringLiteral("Nothing will be deleted."));
+    EXPECT_EQ(texts::deleteButton(facts), QStringLiteral("&Delete"));
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::all),
+              QStringLiteral("3 tracks share their IDs with others, and stay."));
+}
+
 TEST(ConfirmationTexts, AreWordedForMany) {
     const DeleteConfirmationFacts two = counts(2);
     EXPECT_EQ(texts::heading(two), QStringLiteral("Delete 2 tracks from iTunes?"));

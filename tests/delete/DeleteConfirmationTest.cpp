@@ -141,6 +141,24 @@ TEST_F(DeleteConfirmationTest, ReservesNoRoomForItsWarning) {
     EXPECT_EQ(test::clippedControls(sheet), QStringList());
 }
 
+TEST_F(DeleteConfirmationTest, CountsAnewOnceTheFilesWereLookedAt) {
+    DeleteConfirmation sheet;
+    sheet.setFacts({.tracks = 3, .filesPending = true});
+    sheet.updateFacts({.tracks = 3, .keptTracks = 1});
+    EXPECT_EQ(child<QLabel>(sheet, "delConfHeadingLabel").text(),
+              QStringLiteral("Delete 2 tracks from iTunes?"));
+}
+
+TEST_F(DeleteConfirmationTest, OffersNothingWhereEachTrackStays) {
+    DeleteConfirmation sheet;
+    sheet.setFacts({.tracks = 3, .keptTracks = 3});
+    sheet.show();
+    EXPECT_FALSE(child<QCheckBox>(sheet, "delConfFileCK").isVisible());
+    EXPECT_FALSE(child<QWidget>(sheet, "delConfLines").isVisible());
+    sheet.setFilesAlwaysGo(true);
+    EXPECT_EQ(child<QLabel>(sheet, "delConfTextLabel").text(), QStringLiteral("Nothing will be deleted."));
+}
+
 TEST_F(DeleteConfirmationTest, OffersNoFilesWhereTheRestOfTheLibraryCouldNotBeRead) {
     DeleteConfirmation sheet;
     sheet.setFacts({.tracks = 3, .missingFiles = 1, .libraryUnknown = true});

@@ -28,6 +28,35 @@ class DeletePlanTest : public test::DeletePlanFixture {
     }
 };
 
+TEST_F(DeletePlanTest, CountsTracksThatStayForASharedIdApartWithTheirFiles) {
+    addFile("A", true, "a.mp3");
+    addFile("A", false, "b.mp3");
+    addFile("C", true, "c.mp3");
+    addFile("D", true, "d.mp3");
+    add(1, "E", true, path("a.mp3")); // uses the file of a track that stays
+    add(1, "F", true, path("missing.mp3"));
+    DeleteConfirmationFacts facts;
+    SurveySources sources{m_files, libraryWith({})};
+    sources.tracksOfId = [](std::string_view pid) { return std::vector<std::string>(pid == "D" ? 2 : 1); };
+    const auto plan = surveyFiles(SurveyedRows(m_list.rows), sources, facts, [] { return false; });
+    ASSERT_TRUE(plan);
+    EXPECT_EQ(facts.keptTracks, 2);
+    EXPECT_EQ(facts.filesToTrash, 1) << "that of C";
+    EXPECT_EQ(facts.sharedFiles, 1) << "that of E";
+    EXPECT_EQ(facts.missingFiles, 1);
+    EXPECT_TRUE(plan->shared.contains(m_list.rows[4]));
+}
+
+TEST_F(DeletePlanTest, ATrackThatStaysForASharedIdIsACopyThatStays) {
+    addFile("A", true, "a.mp3");
+    addFile("B", true, "b.mp3");
+    DeleteConfirmationFacts facts;
+    SurveySources sources{m_files, libraryWith({})};
+    sources.tracksOfId = [](std::string_view pid) { return std::vector<std::string>(pid == "A" ? 2 : 1); };
+    ASSERT_TRUE(surveyFiles(SurveyedRows(m_list.rows), sources, facts, [] { return false; }));
+    EXPECT_EQ(facts.groupsLosingEveryFile, 0);
+}
+
 /// A file system on which every file has the same number.
 class OneNumberFiles final : public Files {
   public:
