@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 using std::chrono::microseconds;
 using test::RunResult;
 
-constexpr int killsATest = 20;
+constexpr int fewKills = 20;
 constexpr int songs = 24;
 constexpr int copies = 3;
 constexpr int trackCount = songs * copies;
@@ -195,19 +195,31 @@ class KilledDeletion : public test::ProgramTest, public testing::WithParamInterf
             EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
     }
 
+    void checkThatAllComesBack() {
+        const RunResult back = run({"restore", "--library", path("Library.xml"), "--yes"});
+        if (!m_gone.empty()) {
+            EXPECT_EQ(back.exitCode, 0) << back.errors << back.output;
+        }
+        ASSERT_NO_FATAL_FAILURE(checkLibrary());
+        ASSERT_NO_FATAL_FAILURE(checkFiles());
+        EXPECT_TRUE(m_gone.empty());
+        EXPECT_EQ(m_trashed, 0);
+    }
+
     std::string m_text; ///< of the library as it was
     std::set<int> m_marked;
     std::set<int> m_gone; ///< from the library, when it was last looked at
     int m_trashed = 0;    ///< files in the Trash, when it was last looked at
 };
 
-TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
+TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompletedOrTakenBack) {
     std::mt19937 random(GetParam());
     const microseconds duration = durationOfARun();
     std::uniform_int_distribution<int> moment(0, static_cast<int>(duration.count()));
     int filesLeft = 0;
     int ended = 0;
-    for (int kill = 0; kill < killsATest; ++kill) {
+    const int kills = test::killsATest(fewKills);
+    for (int kill = 0; kill < kills; ++kill) {
         const microseconds delay(moment(random));
         SCOPED_TRACE("seed " + std::to_string(GetParam()) + ", kill " + std::to_string(kill) + " after " +
                      std::to_string(delay.count()) + " of " + std::to_string(duration.count()) +
@@ -219,9 +231,13 @@ TEST_P(KilledDeletion, LosesNeitherTracksNorFilesAndCanBeCompleted) {
         ASSERT_NO_FATAL_FAILURE(checkRecord());
         filesLeft += m_trashed < static_cast<int>(m_gone.size()) ? 1 : 0;
         ended += m_gone == m_marked ? 1 : 0;
-        ASSERT_NO_FATAL_FAILURE(checkThatTheWorkCanBeCompleted());
+        if (kill % 2 == 0) {
+            ASSERT_NO_FATAL_FAILURE(checkThatTheWorkCanBeCompleted());
+        } else {
+            ASSERT_NO_FATAL_FAILURE(checkThatAllComesBack());
+        }
     }
-    std::cout << "seed " << GetParam() << ": of " << killsATest << " kills within " << duration.count()
+    std::cout << "seed " << GetParam() << ": of " << kills << " kills within " << duration.count()
               << " microseconds " << filesLeft << " left files of deleted tracks, " << ended
               << " the new library\n";
 }

@@ -16,7 +16,7 @@ using std::chrono::microseconds;
 using test::RunResult;
 
 constexpr int songs = 12;
-constexpr int killsATest = 5;
+constexpr int fewKills = 5;
 
 class KilledRestore : public test::RecordedDeletionTest, public testing::WithParamInterface<unsigned> {
   protected:
@@ -64,7 +64,8 @@ TEST_P(KilledRestore, IsBroughtToItsEndByTheNextOne) {
     std::uniform_int_distribution<int> moment(0, static_cast<int>(duration.count()));
     int written = 0;
     int inTheMiddle = 0;
-    for (int kill = 0; kill < killsATest; ++kill) {
+    const int kills = test::killsATest(fewKills);
+    for (int kill = 0; kill < kills; ++kill) {
         const microseconds delay(moment(random));
         SCOPED_TRACE("seed " + std::to_string(GetParam()) + ", killed after " +
                      std::to_string(delay.count()) + " microseconds");
@@ -80,7 +81,7 @@ TEST_P(KilledRestore, IsBroughtToItsEndByTheNextOne) {
         expectAllBack();
         if (HasFailure()) break;
     }
-    std::cout << "seed " << GetParam() << ": of " << killsATest << " kills within " << duration.count()
+    std::cout << "seed " << GetParam() << ": of " << kills << " kills within " << duration.count()
               << " microseconds " << written << " left the new library, " << inTheMiddle
               << " files in both places\n";
 }

@@ -31,6 +31,12 @@ bool hasPendingSignal(pid_t process) {
 
 } // namespace
 
+int killsATest(int few) {
+    bool isNumber = false;
+    const int wanted = qEnvironmentVariableIntValue("SONGSWEEP_KILLS", &isNumber);
+    return isNumber ? wanted : few;
+}
+
 ProgramTest::ProgramTest()
     : m_environment(QProcessEnvironment::systemEnvironment()) {
     const QString home = QString::fromStdString(path("home"));

@@ -22,6 +22,10 @@ struct RunResult {
     std::string errors;
 };
 
+/// How often a test kills the program at random moments: few times, since each needs a run of its own, or as
+/// many as SONGSWEEP_KILLS says.
+int killsATest(int few);
+
 /// A test that runs the real program, in a home of its own and without a desktop session.
 class ProgramTest : public ::testing::Test {
   protected:

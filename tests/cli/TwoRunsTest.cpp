@@ -25,6 +25,9 @@ class TwoRuns : public test::ProgramTest {
     void SetUp() override { makeAnew(); }
 
     void makeAnew() {
+        for (const auto& entry : fs::directory_iterator(m_folder.path()))
+            fs::remove_all(entry.path());
+        fs::create_directories(path("home/data"));
         std::vector<test::SampleTrack> tracks;
         for (int id = 1; id <= 2 * songs; ++id) {
             tracks.push_back({.id = id,
@@ -90,6 +93,40 @@ TEST_F(TwoRuns, OfOppositeRulesLeaveACopyOfEachSongAtOnce) {
         expectACopyOfEachSong();
     }
     EXPECT_GT(deleted, 0) << "one of them does its work";
+}
+
+TEST_F(TwoRuns, OfADeletionAndARestoreAtOnceLoseNothing) {
+    int refusals = 0;
+    for (const milliseconds delay : {milliseconds(0), milliseconds(10), milliseconds(20), milliseconds(40),
+                                     milliseconds(60), milliseconds(90), milliseconds(130)}) {
+        SCOPED_TRACE(std::to_string(delay.count()) + " ms apart");
+        makeAnew();
+        const std::string whole = m_folder.read("Library.xml");
+        ASSERT_EQ(run(command("highest-bitrate")).exitCode, 0);
+        m_folder.write("Library.xml", whole); // so that there is something to delete again
+        for (int id = 1; id <= 2 * songs; id += 2)
+            fs::copy_file(fileOf(id + 1), fileOf(id));
+        QProcess deletion;
+        QProcess restore;
+        prepare(deletion, command("lowest-bitrate"));
+        prepare(restore, {"restore", "--library", path("Library.xml"), "--yes"});
+        deletion.start();
+        std::this_thread::sleep_for(delay);
+        restore.start();
+        const RunResult one = test::resultOf(deletion);
+        const RunResult two = test::resultOf(restore);
+        for (const RunResult& result : {one, two}) {
+            EXPECT_TRUE(result.exitCode == 0 || result.exitCode == 1) << result.errors;
+            refusals += result.errors.find("another Songsweep (") != std::string::npos ? 1 : 0;
+        }
+        // Each file of the library lies in its place or in the Trash.
+        std::size_t files = 0;
+        for (const std::string& folder : {path("music"), path("home/data/Trash/files")})
+            files += static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
+        EXPECT_EQ(files, static_cast<std::size_t>(3 * songs));
+        EXPECT_EQ(run({"find", "--library", path("Library.xml")}).exitCode, 0) << "it can be read";
+    }
+    EXPECT_GT(refusals, 0) << "they met, and one was told who holds the library";
 }
 
 } // namespace
