@@ -61,9 +61,14 @@ std::string withoutTrailingBlanks(std::string line) {
     return line;
 }
 
+bool isVisibleAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
+}
+
 } // namespace
 
 int displayWidth(std::string_view text) {
+    if (isVisibleAscii(text)) return static_cast<int>(text.size());
     int width = 0;
     const auto length = static_cast<std::int32_t>(text.size());
     for (std::int32_t at = 0; at < length;) {
