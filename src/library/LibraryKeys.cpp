@@ -14,39 +14,39 @@ namespace songsweep {
 namespace {
 
 struct NamedKey {
-    std::string_view name; // lower case
+    std::string_view name; // as iTunes writes it
     LibraryKey key;
 };
 
 /// By length. Sample values are as libraries have them.
 constexpr std::array namedKeys = {
-    NamedKey{"name", LibraryKey::name},        // Don&#39;t Stop &#38; Go
-    NamedKey{"size", LibraryKey::size},        // 7437492; 3221225472 of a film
-    NamedKey{"album", LibraryKey::album},      // ( )
-    NamedKey{"artist", LibraryKey::artist},    // Sigur Rós
-    NamedKey{"rating", LibraryKey::rating},    // 80, of 100
-    NamedKey{"tracks", LibraryKey::tracks},    // no value, a dictionary follows
-    NamedKey{"master", LibraryKey::master},    // true, of the playlist that is the library
-    NamedKey{"folder", LibraryKey::folder},    // true, of a folder of playlists
-    NamedKey{"visible", LibraryKey::visible},  // false, mostly of the library
-    NamedKey{"bit rate", LibraryKey::bitRate}, // 256
-    NamedKey{"track id", LibraryKey::trackId}, // 1873
+    NamedKey{"Name", LibraryKey::name},        // Don&#39;t Stop &#38; Go
+    NamedKey{"Size", LibraryKey::size},        // 7437492; 3221225472 of a film
+    NamedKey{"Album", LibraryKey::album},      // ( )
+    NamedKey{"Artist", LibraryKey::artist},    // Sigur Rós
+    NamedKey{"Rating", LibraryKey::rating},    // 80, of 100
+    NamedKey{"Tracks", LibraryKey::tracks},    // no value, a dictionary follows
+    NamedKey{"Master", LibraryKey::master},    // true, of the playlist that is the library
+    NamedKey{"Folder", LibraryKey::folder},    // true, of a folder of playlists
+    NamedKey{"Visible", LibraryKey::visible},  // false, mostly of the library
+    NamedKey{"Bit Rate", LibraryKey::bitRate}, // 256
+    NamedKey{"Track ID", LibraryKey::trackId}, // 1873
     // file://localhost/Users/ann/Music/iTunes/iTunes%20Music/Bj%C3%B6rk/Homogenic/01%20Hunter.mp3
     // file://localhost/C:/Documents%20and%20Settings/ann/My%20Music/R&#38;B/track.mp3
     // file:///Volumes/Music/a.m4a (version 11.1 and later); http://radio.example.com:8000/ of a stream
-    NamedKey{"location", LibraryKey::location},
-    NamedKey{"playlists", LibraryKey::playlists},                         // no value, an array follows
-    NamedKey{"total time", LibraryKey::totalTime},                        // 187429, in milliseconds
-    NamedKey{"play count", LibraryKey::playCount},                        // 12
-    NamedKey{"track type", LibraryKey::trackType},                        // File; URL; Remote
-    NamedKey{"date added", LibraryKey::dateAdded},                        // 2009-03-14T15:09:26Z
-    NamedKey{"smart info", LibraryKey::smartInfo},                        // data, of a smart playlist
-    NamedKey{"track number", LibraryKey::trackNumber},                    // 7
-    NamedKey{"persistent id", LibraryKey::persistentId},                  // 6B0F3E1C22C4A9D7
-    NamedKey{"artwork count", LibraryKey::artworkCount},                  // 1
-    NamedKey{"playlist items", LibraryKey::playlistItems},                // no value, an array follows
-    NamedKey{"distinguished kind", LibraryKey::distinguishedKind},        // 4, of the music
-    NamedKey{"playlist persistent id", LibraryKey::playlistPersistentId}, // F2A4C9D1E87B6053
+    NamedKey{"Location", LibraryKey::location},
+    NamedKey{"Playlists", LibraryKey::playlists},                         // no value, an array follows
+    NamedKey{"Total Time", LibraryKey::totalTime},                        // 187429, in milliseconds
+    NamedKey{"Play Count", LibraryKey::playCount},                        // 12
+    NamedKey{"Track Type", LibraryKey::trackType},                        // File; URL; Remote
+    NamedKey{"Date Added", LibraryKey::dateAdded},                        // 2009-03-14T15:09:26Z
+    NamedKey{"Smart Info", LibraryKey::smartInfo},                        // data, of a smart playlist
+    NamedKey{"Track Number", LibraryKey::trackNumber},                    // 7
+    NamedKey{"Persistent ID", LibraryKey::persistentId},                  // 6B0F3E1C22C4A9D7
+    NamedKey{"Artwork Count", LibraryKey::artworkCount},                  // 1
+    NamedKey{"Playlist Items", LibraryKey::playlistItems},                // no value, an array follows
+    NamedKey{"Distinguished Kind", LibraryKey::distinguishedKind},        // 4, of the music
+    NamedKey{"Playlist Persistent ID", LibraryKey::playlistPersistentId}, // F2A4C9D1E87B6053
 };
 
 static_assert(std::is_sorted(namedKeys.begin(), namedKeys.end(), [](const NamedKey& a, const NamedKey& b) {
@@ -64,9 +64,11 @@ constexpr std::array<std::uint8_t, longestName + 2> firstOfLength = [] {
     return first;
 }();
 
+/// The same name, of the same length, in any case; nearly all are as iTunes writes them, or another.
 bool isName(std::string_view text, std::string_view name) {
-    return std::equal(text.begin(), text.end(), name.begin(),
-                      [](char a, char b) { return asciiLower(a) == b; });
+    if (asciiLower(text.front()) != asciiLower(name.front())) return false;
+    return text == name || std::equal(text.begin(), text.end(), name.begin(),
+                                      [](char a, char b) { return asciiLower(a) == asciiLower(b); });
 }
 
 LibraryKey keyNamed(std::string_view text) {
