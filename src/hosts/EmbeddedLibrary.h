@@ -35,7 +35,7 @@ class EmbeddedLibrary {
     const std::optional<Error>& error() const { return m_error; }
 
   private:
-    Result<void> openOrRefresh();
+    Result<void> openOrRefresh(const Result<FileStamp>& stamp);
 
     std::string m_path;
     LibraryDocument::Options m_options;

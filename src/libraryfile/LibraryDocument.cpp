@@ -70,8 +70,11 @@ LibraryDocument::~LibraryDocument() = default;
 
 Result<void> LibraryDocument::refresh() {
     const auto stamp = LibraryFile::stampOf(m_path);
-    if (!stamp) return stamp.error();
-    if (stamp.value() == m_index.stamp) return {};
+    return stamp ? refresh(stamp.value()) : stamp.error();
+}
+
+Result<void> LibraryDocument::refresh(const FileStamp& stamp) {
+    if (stamp == m_index.stamp) return {};
     auto read = readIndexed(m_path, Reading::indexAlone);
     if (!read) return read.error();
     IndexedFile fresh = std::move(read).value();
@@ -112,10 +115,15 @@ std::vector<PlaylistInfo> LibraryDocument::playlists() {
     for (std::size_t i = 0; i < playlistCount(); ++i) {
         const PlaylistSlot& slot = playlist(i);
         const bool library = i == 0;
-        infos.push_back({slot.name, slot.persistentId, static_cast<int>(listing(i).size()), library,
+        infos.push_back({slot.name, slot.persistentId, static_cast<int>(trackCountOf(i)), library,
                          library || slot.smart, slot.folder});
     }
     return infos;
+}
+
+/// Keeps no list for its length's sake.
+std::size_t LibraryDocument::trackCountOf(std::size_t playlist) {
+    return m_lists[playlist] ? listing(playlist).size() : newListing(playlist).size();
 }
 
 TrackListing& LibraryDocument::listing(std::size_t playlist) {

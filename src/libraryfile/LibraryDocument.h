@@ -77,9 +77,10 @@ class LibraryDocument {
     const std::string& path() const { return m_path; }
 
     /// Indexes the file again if it changed on disk; deletions not yet written are made in the new version
-    /// too. On an error nothing is known about the tracks until a
-    /// later call succeeds.
+    /// too. On an error nothing is known about the tracks until a later call succeeds.
     Result<void> refresh();
+    /// The same for a caller that has just looked at the file.
+    Result<void> refresh(const FileStamp& stamp);
 
     /// The number of entries of the dictionary of tracks, without deleted ones.
     int trackCount() const { return static_cast<int>(m_index.tracks.size() - m_deletedCount); }
@@ -213,6 +214,7 @@ class LibraryDocument {
     Result<void> writeIn(LibraryTransaction& transaction);
     Result<void> replaceLibrary(LibraryTransaction& transaction);
     Result<void> checkWellFormednessOnce();
+    std::size_t trackCountOf(std::size_t playlist);
     TrackListing newListing(std::size_t playlist) const;
     TrackListing libraryListing() const;
     void listAdded(std::size_t playlist, TrackListing& listing) const;
