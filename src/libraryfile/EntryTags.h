@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "libraryfile/Property.h"
 #include "libraryfile/XmlText.h"
 
 #include <algorithm>
@@ -36,6 +37,14 @@ class EntryTags {
         m_end = end + 1;
         readName(m_bytes.substr(at + 1, end - at - 1));
         return true;
+    }
+
+    /// Moves on behind the property that is next, see Property.h; false where something else is.
+    bool takeProperty(Property& property) {
+        const char* const behind =
+            readProperty(m_bytes.data() + m_end, m_bytes.data() + m_bytes.size(), property);
+        if (behind != nullptr) m_end = static_cast<std::size_t>(behind - m_bytes.data());
+        return behind != nullptr;
     }
 
     Kind kind() const { return m_kind; }

@@ -29,8 +29,6 @@ enum class LibraryPlace : std::uint8_t {
     value
 };
 
-bool needsDecoding(char c) { return c == '&' || c == '<' || c == '\r'; }
-
 /// Builds the index from the tags of a library, tag by tag.
 class Indexer {
   public:
@@ -59,6 +57,22 @@ class Indexer {
         case Tag::Kind::endOfDocument:
             return finish();
         }
+        return !m_reason;
+    }
+
+    /// Whether the keys that come next are those of a property each, and no names of tracks.
+    bool expectsProperties() const {
+        if (m_places.empty()) return false;
+        const LibraryPlace place = m_places.back();
+        return place == LibraryPlace::track || place == LibraryPlace::item ||
+               place == LibraryPlace::playlist || place == LibraryPlace::top;
+    }
+
+    /// What its four tags would do; only where properties are expected.
+    bool take(const Property& property) {
+        m_leaf = false;
+        m_key = libraryKey(property.key);
+        valueEnds(property.element, property.value);
         return !m_reason;
     }
 
@@ -165,7 +179,7 @@ class Indexer {
             keyEnds(text);
             break;
         case LibraryPlace::value:
-            valueEnds(tag, text);
+            valueEnds(tag.element, text);
             break;
         case LibraryPlace::track:
             trackEnds(tag);
@@ -196,7 +210,7 @@ class Indexer {
         }
     }
 
-    void valueEnds(const Tag& tag, std::string_view text) {
+    void valueEnds(Element element, std::string_view text) {
         if (m_key == LibraryKey::none || m_places.empty()) return;
         switch (m_places.back()) {
         case LibraryPlace::track:
@@ -206,7 +220,7 @@ class Indexer {
             itemValue(text);
             break;
         case LibraryPlace::playlist:
-            playlistValue(tag.element, text);
+            playlistValue(element, text);
             break;
         case LibraryPlace::value:
             return;
@@ -280,7 +294,7 @@ class Indexer {
 
     /// The text of raw bytes; mostly they are the text.
     std::string_view decoded(std::string_view raw) {
-        if (std::none_of(raw.begin(), raw.end(), needsDecoding)) return raw;
+        if (isItsOwnText(raw)) return raw;
         auto text = decodeXmlText(raw, m_entities);
         if (!text) m_reason = "a broken reference";
         m_decoded = std::move(text).value_or("");
@@ -346,16 +360,25 @@ void Indexer::resolveItems() {
 Result<LibraryIndex> LibraryIndex::read(const LibraryFile& file, TrackPass* tracks) {
     LibraryIndex index;
     index.stamp = file.stamp();
+    index.plain = true;
     TagScanner scanner(file);
     Indexer indexer(index, scanner.entities());
     PlainNodes nodes(file);
-    index.plain = true;
     Tag tag;
+    Property property;
+    const auto takeNodes = [&](const auto& piece) {
+        index.plain = index.plain && nodes.take(piece);
+        if (index.plain && tracks != nullptr) tracks->take(nodes, piece.end);
+    };
     do {
+        if (indexer.expectsProperties() && scanner.takeProperty(property)) {
+            if (!indexer.take(property)) return scanner.errorAt(property.end, indexer.reason());
+            takeNodes(property);
+            continue;
+        }
         if (!scanner.next(tag)) return scanner.error();
         if (!indexer.take(tag)) return scanner.errorAt(tag.begin, indexer.reason());
-        index.plain = index.plain && nodes.take(tag);
-        if (index.plain && tracks != nullptr) tracks->take(tag, nodes);
+        takeNodes(tag);
     } while (tag.kind != Tag::Kind::endOfDocument);
     index.entities = scanner.entities();
     return index;

@@ -59,14 +59,36 @@ bool isBlank(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c == '\n' || c == '\t' || c == ' '; });
 }
 
-/// Whether a text is its bytes as they stand, without a further look: visible ASCII and blanks, no markup.
+/// An ASCII character that neither is control nor could be part of markup.
+constexpr bool isSimple(char c) {
+    return static_cast<signed char>(c) >= ' ' && c != '&' && c != '<' && c != ']';
+}
+
+/// The same of eight bytes at once.
+bool areSimple(std::uint64_t bytes) {
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    constexpr std::uint64_t highBits = ones << 7;
+    const auto none = [&](char c) {
+        const std::uint64_t difference = bytes ^ (ones * static_cast<unsigned char>(c));
+        return (difference - ones) & ~difference; // has a high bit where a byte is the character
+    };
+    const std::uint64_t control = (bytes - ones * ' ') & ~bytes;
+    return ((bytes | control | none('&') | none('<') | none(']')) & highBits) == 0;
+}
+
+/// Whether a text is its bytes as they stand, without a further look. Texts are short, so that vectors of
+/// the processor's own gain nothing.
 bool isSimple(std::string_view text) {
-    bool simple = true;
-    for (const char letter : text) { // without a branch, so that many bytes are looked at at once
-        const auto c = static_cast<signed char>(letter);
-        simple &= ((c >= ' ') | (c == '\n') | (c == '\t')) & (c != '&') & (c != '<') & (c != ']');
-    }
-    return simple;
+    constexpr std::size_t word = sizeof(std::uint64_t);
+    if (text.size() < word) return std::all_of(text.begin(), text.end(), [](char c) { return isSimple(c); });
+    const auto wordAt = [&](std::size_t at) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, text.data() + at, word);
+        return bytes;
+    };
+    for (std::size_t at = 0; at + word < text.size(); at += word)
+        if (!areSimple(wordAt(at))) return false;
+    return areSimple(wordAt(text.size() - word));
 }
 
 /// Whether the raw bytes are a text that any parser of XML reads alike, once its references are replaced.
@@ -123,6 +145,21 @@ bool PlainNodes::take(const Tag& tag) {
     return false;
 }
 
+bool PlainNodes::take(const Property& property) {
+    m_count = 0;
+    if (m_depth == deepest) return false;
+    const std::string_view key = nameOf(Element::key);
+    const std::string_view name = nameOf(property.element);
+    add({NodeType::element, key, {}});
+    if (!takeText(property.key)) return false;
+    add({NodeType::endElement, key, {}});
+    add({NodeType::element, name, {}});
+    if (property.isEmptyTag) return true;
+    if (!takeText(property.value)) return false;
+    add({NodeType::endElement, name, {}});
+    return true;
+}
+
 bool PlainNodes::takeRoot(const Tag& tag) {
     m_rootSeen = true;
     m_open[m_depth++] = tag.element;
@@ -155,9 +192,9 @@ bool PlainNodes::takeText(std::string_view raw) {
     if (!isSimple(raw)) {
         if (raw.size() > longestText || !isPlainText(raw) || !hasKnownReferencesAlone(raw)) return false;
         if (raw.find('&') != std::string_view::npos) {
-            auto decoded = decodeXmlText(raw, {});
-            if (!decoded) return false;
-            m_decoded = std::move(*decoded);
+            auto replaced = decodeXmlText(raw, {});
+            if (!replaced) return false;
+            m_decoded = std::move(*replaced);
             text = m_decoded;
         }
     }

@@ -27,8 +27,10 @@ class PlainNodes {
 
     /// The next tag of the file, or its end; false where the document is not plain.
     bool take(const Tag& tag);
+    /// The same of a whole property.
+    bool take(const Property& property);
 
-    /// What the tag added: at most a text and the tag's own. Live until the next is taken.
+    /// What that added: of a tag at most a text and its own. Live until the next is taken.
     std::span<const XmlNode> nodes() const { return {m_nodes.data(), m_count}; }
 
     /// The elements open behind it.
@@ -50,7 +52,7 @@ class PlainNodes {
     std::size_t m_depth = 0;
     bool m_rootSeen = false;
     std::string m_decoded;
-    std::array<XmlNode, 2> m_nodes;
+    std::array<XmlNode, 6> m_nodes; // of a property
     std::size_t m_count = 0;
 };
 

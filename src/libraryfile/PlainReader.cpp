@@ -21,15 +21,17 @@ bool PlainReader::read(XmlNode& node) {
         node = {};
         if (m_error) return true;
         if (m_ended) return false;
-        if (!readTag()) m_error = ReadError{0, "The file was changed while it was read"};
+        if (!readOn()) m_error = ReadError{0, "The file was changed while it was read"};
     }
     node = m_nodes.nodes()[m_next++];
     return true;
 }
 
-bool PlainReader::readTag() {
+bool PlainReader::readOn() {
     m_next = 0;
-    if (m_scanner.next(m_tag) && m_nodes.take(m_tag)) {
+    if (m_scanner.takeProperty(m_property)) {
+        if (m_nodes.take(m_property)) return true;
+    } else if (m_scanner.next(m_tag) && m_nodes.take(m_tag)) {
         m_ended = m_tag.kind == Tag::Kind::endOfDocument;
         return true;
     }

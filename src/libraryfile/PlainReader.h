@@ -27,14 +27,15 @@ class PlainReader final : public NodeReader {
     const std::optional<ReadError>& error() const override { return m_error; }
 
   private:
-    bool readTag();
+    bool readOn();
 
     std::unique_ptr<const LibraryFile> m_file;
     std::unique_ptr<ReadTracks> m_tracks;
     TagScanner m_scanner;
     PlainNodes m_nodes;
     Tag m_tag;
-    std::size_t m_next = 0; // of the tag's nodes
+    Property m_property;
+    std::size_t m_next = 0; // of the nodes at hand
     bool m_ended = false;
     std::optional<ReadError> m_error;
 };

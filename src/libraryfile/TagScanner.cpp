@@ -2,49 +2,15 @@
 #include "libraryfile/TagScanner.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace songsweep {
 
 namespace {
 
-constexpr std::size_t deepestNesting = 256;
-
-constexpr std::ptrdiff_t longestUsualTag = 16;
-
-/// The names of the elements, in their order.
-constexpr std::array<std::string_view, 12> elementNames{"plist", "dict", "array", "key",  "string", "integer",
-                                                        "real",  "date", "data",  "true", "false",  ""};
-
 Element elementOf(std::string_view name) {
     const auto found = std::find(elementNames.begin(), elementNames.end() - 1, name);
     return static_cast<Element>(found - elementNames.begin());
-}
-
-/// The only element of those inside a property list that can begin with these letters.
-Element usualElement(const char* name) {
-    switch (*name) {
-    case 'k':
-        return Element::key;
-    case 's':
-        return Element::string;
-    case 'i':
-        return Element::integer;
-    case 'd':
-        if (name[1] == 'i') return Element::dict;
-        return name[2] == 't' && name[3] == 'e' ? Element::date : Element::data;
-    case 'r':
-        return Element::real;
-    case 'a':
-        return Element::array;
-    case 't':
-        return Element::isTrue;
-    case 'f':
-        return Element::isFalse;
-    default:
-        return Element::other;
-    }
 }
 
 bool startsName(char c) {
@@ -55,8 +21,6 @@ bool startsName(char c) {
 bool endsName(char c) { return isXmlSpace(c) || c == '>' || c == '/'; }
 
 } // namespace
-
-std::string_view nameOf(Element element) { return elementNames[static_cast<std::size_t>(element)]; }
 
 TagScanner::TagScanner(const LibraryFile& file)
     : m_file(file)
@@ -85,34 +49,6 @@ bool TagScanner::next(Tag& tag) {
 
 Error TagScanner::error() const {
     return m_window.error() ? *m_window.error() : errorAt(m_failedAt, m_failure);
-}
-
-/// Takes the next tag where it is one of the usual ones, without attributes, and stands in the window: nearly
-/// all of them are. What it leaves goes the general way.
-bool TagScanner::takeUsualTag(Tag& tag) {
-    const char* end = m_window.end();
-    const auto* at = static_cast<const char*>(std::memchr(m_at, '<', static_cast<std::size_t>(end - m_at)));
-    if (at == nullptr || end - at < longestUsualTag || m_open.empty()) return false;
-    const bool closes = at[1] == '/';
-    const Element element = closes ? m_open.back() : usualElement(at + 1);
-    const std::string_view name = nameOf(element);
-    const char* nameBegin = at + (closes ? 2 : 1);
-    const char* nameEnd = nameBegin + name.size();
-    if (name.empty() || std::memcmp(nameBegin, name.data(), name.size()) != 0) return false;
-    const bool empty = !closes && nameEnd[0] == '/' && nameEnd[1] == '>';
-    if (nameEnd[0] != '>' && !empty) return false;
-
-    m_at = at;
-    tag.kind = closes ? Tag::Kind::close : empty ? Tag::Kind::empty : Tag::Kind::open;
-    tag.element = element;
-    if (closes) {
-        m_open.pop_back();
-    } else if (!empty) {
-        if (m_open.size() == deepestNesting) return false;
-        m_open.push_back(element);
-    }
-    finishTag(tag, empty ? nameEnd + 1 : nameEnd);
-    return true;
 }
 
 void TagScanner::finishTag(Tag& tag, const char* tagEnd) {

@@ -1,34 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "libraryfile/Element.h"
 #include "libraryfile/FileWindow.h"
+#include "libraryfile/Property.h"
 #include "libraryfile/XmlText.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace songsweep {
-
-/// The elements of a property list; `other` is any other name.
-enum class Element : std::uint8_t {
-    plist,
-    dict,
-    array,
-    key,
-    string,
-    integer,
-    real,
-    date,
-    data,
-    isTrue,
-    isFalse,
-    other
-};
-
-/// "key"; nothing of `other`.
-std::string_view nameOf(Element element);
 
 /// One tag of a document, or its end, and the raw bytes between the tag before it and this one.
 struct Tag {
@@ -59,6 +43,10 @@ class TagScanner {
     /// or cannot be read; `error` says why.
     bool next(Tag& tag);
 
+    /// Moves on behind the property that is next inside a dictionary, see Property.h. False, and nothing is
+    /// taken, where something else is next.
+    bool takeProperty(Property& property);
+
     /// Why the last `next` failed, with the line where there is one.
     Error error() const;
 
@@ -68,6 +56,8 @@ class TagScanner {
     Error errorAt(std::uint64_t offset, const std::string& reason) const;
 
   private:
+    static constexpr std::size_t deepestNesting = 256;
+
     bool start();
     void finishTag(Tag& tag, const char* tagEnd);
     bool checkDeclaration(std::string_view declaration);

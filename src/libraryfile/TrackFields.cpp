@@ -10,6 +10,7 @@ namespace songsweep {
 namespace {
 
 constexpr int entryDepth = 1; // inside the entry's dictionary
+constexpr std::size_t usualValues = 16;
 
 } // namespace
 
@@ -19,7 +20,15 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
     LibraryKey key = LibraryKey::none;
     int depth = 0;
     bool leaf = false;
-    while (tags.next()) {
+    Property property;
+    for (;;) {
+        if (depth == entryDepth && tags.takeProperty(property)) {
+            leaf = false;
+            key = LibraryKey::none;
+            if (!fields.keep(property, entities)) return {};
+            continue;
+        }
+        if (!tags.next()) break;
         if (tags.kind() == EntryTags::Kind::open) {
             // The key before the entry's dictionary is the entry's own.
             if (depth > 0 || tags.name() == "dict") ++depth;
@@ -44,8 +53,20 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
     return fields;
 }
 
+bool TrackFields::keep(const Property& property, const XmlEntities& entities) {
+    const LibraryKey key = libraryKey(property.key);
+    if (isItsOwnText(property.value)) {
+        if (key != LibraryKey::other) keep(key, std::string(property.value));
+        return true;
+    }
+    auto value = decodeXmlText(property.value, entities);
+    if (value) keep(key, std::move(*value));
+    return value.has_value();
+}
+
 void TrackFields::keep(LibraryKey key, std::string value) {
     if (key == LibraryKey::none || key == LibraryKey::other) return;
+    if (m_values.empty()) m_values.reserve(usualValues);
     m_values.emplace_back(key, std::move(value));
 }
 

@@ -12,6 +12,8 @@
 
 namespace songsweep {
 
+struct Property;
+
 /// The values of one entry of the dictionary of tracks, by their library keys.
 ///
 /// Made from the entry's bytes when somebody asks for a track; values are the library's texts as they stand,
@@ -32,6 +34,7 @@ class TrackFields {
     }
 
   private:
+    bool keep(const Property& property, const XmlEntities& entities);
     void keep(LibraryKey key, std::string value);
 
     std::vector<std::pair<LibraryKey, std::string>> m_values;

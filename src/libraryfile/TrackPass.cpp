@@ -10,7 +10,7 @@ TrackPass::TrackPass()
     : m_found{std::make_unique<ReadTracks>(), 0, {}}
     , m_walk(m_found.tracks->list, m_noItems, std::nullopt, m_noLog, [](int) {}) {}
 
-void TrackPass::take(const Tag& tag, const PlainNodes& nodes) {
+void TrackPass::take(const PlainNodes& nodes, std::uint64_t end) {
     if (m_state != State::reading) return;
     try {
         for (const XmlNode& node : nodes.nodes())
@@ -19,7 +19,7 @@ void TrackPass::take(const Tag& tag, const PlainNodes& nodes) {
         m_walk.finish();
         m_state = State::found;
         m_found.tracks->walk = m_walk.state();
-        m_found.end = tag.end;
+        m_found.end = end;
         m_found.open.assign(nodes.open().begin(), nodes.open().end());
     } catch (const std::exception&) {
         m_state = State::failed;

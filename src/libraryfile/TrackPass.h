@@ -31,8 +31,8 @@ class TrackPass {
     TrackPass& operator=(const TrackPass&) = delete;
     ~TrackPass() = default;
 
-    /// The next tag and its nodes.
-    void take(const Tag& tag, const PlainNodes& nodes);
+    /// The nodes of the next tag or property, and where in the file it ends.
+    void take(const PlainNodes& nodes, std::uint64_t end);
 
     /// The tracks, once the pass is over and the file was plain; nothing where their end did not come, or the
     /// walk would have ended with an exception: the search is to meet that itself.

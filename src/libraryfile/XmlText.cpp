@@ -168,7 +168,7 @@ std::optional<std::string> encodeXmlText(std::string_view text) {
 }
 
 std::optional<std::string> decodeXmlText(std::string_view raw, const XmlEntities& entities) {
-    if (raw.find_first_of("&<\r") == std::string_view::npos) return std::string(raw);
+    if (isItsOwnText(raw)) return std::string(raw);
     Decoder decoder(entities);
     if (!decoder.decode(raw, 0)) return {};
     return decoder.take();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <optional>
 #include <string>
@@ -10,6 +11,11 @@ namespace songsweep {
 
 /// The internal entities that a document declares: name and replacement text.
 using XmlEntities = std::map<std::string, std::string, std::less<>>;
+
+/// Whether raw bytes are their text as they stand, as mostly they are.
+inline bool isItsOwnText(std::string_view raw) {
+    return std::none_of(raw.begin(), raw.end(), [](char c) { return c == '&' || c == '<' || c == '\r'; });
+}
 
 /// The text of a run of raw bytes between two tags: references are replaced, CDATA sections unpacked,
 /// comments and processing instructions left out, line breaks made "\n".

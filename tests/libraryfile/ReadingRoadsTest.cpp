@@ -2,100 +2,50 @@
 //
 // A search reads a library by libxml2, by the scanner of plain files, or goes on from tracks that were read
 // with the index. Nobody sees which.
-#include "library/ReaderFixture.h"
-#include "library/XmlReader.h"
+#include "libraryfile/ReadingRoads.h"
+
 #include "libraryfile/LibraryDocument.h"
 #include "libraryfile/LibraryFixture.h"
 #include "support/TestData.h"
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>
 #include <random>
-#include <tuple>
 
 namespace songsweep {
+
+namespace test {
+
+void PrintTo(const RoadOutcome& outcome, std::ostream* out) { *out << shown(outcome); }
+
+} // namespace test
+
 namespace {
 
 using Reading = LibraryDocument::Reading;
 
-/// All that is known of a record.
-using Values = std::vector<std::string>;
-
-Values valuesOf(const TrackRecord& record) {
-    const auto number = [](auto value) { return std::to_string(value); };
-    return {record.name.string(),    record.artist.string(),    record.album.string(),
-            record.time.string(),    record.bitrate.string(),   record.size.string(),
-            record.pid.string(),     record.playcount.string(), record.location.string(),
-            record.trackid.string(), number(record.dateaddedv), number(record.timev),
-            number(record.rating),   number(record.hasartwork), number(record.isfile),
-            number(record.isdead),   number(record.hasdate)};
-}
-
-/// What a run did, and what it left.
-struct Outcome {
-    test::Trace trace;
-    std::vector<ReadError> errors;
-    std::vector<Values> records;
-    SearchCoverage::Playlist playlist = SearchCoverage::Playlist::none;
-    int playlistTracks = 0;
-
-    bool operator==(const Outcome&) const = default;
-};
-
-void PrintTo(const Outcome& outcome, std::ostream* out) {
-    *out << testing::PrintToString(outcome.trace) << testing::PrintToString(outcome.records);
-    for (const ReadError& error : outcome.errors)
-        *out << " line " << error.line << ": " << error.reason;
-}
-
-class ReadingRoadsTest : public test::ReaderFixture {
+class ReadingRoadsTest : public testing::Test {
   protected:
-    ReadingRoadsTest() {
-        // Behind a read error there is no end.
-        m_onEvent = [this](const WorkerEvent& event, SWXMLParser& parser) {
-            if (event.name == EventName::readError) parser.cancel();
-            if (event.name == m_cancelAt) parser.cancel();
-        };
-    }
-
-    Outcome outcome(const OpenNodes& openNodes, const std::string& playlist, int tracks) {
-        m_trace.clear();
-        m_readErrors.clear();
-        m_list = std::make_shared<TrackList>();
-        m_services.openNodes = openNodes;
-        run({.playlist = playlist}, tracks);
-        Outcome outcome{traceWithoutSeconds(),
-                        m_readErrors,
-                        {},
-                        m_list->coverage.playlist,
-                        m_list->coverage.playlistTracks};
-        for (const TrackRecord* record : m_list->records)
-            outcome.records.push_back(valuesOf(*record));
-        return outcome;
-    }
+    void useLibraryText(const std::string& library) { m_folder.write("library.xml", library); }
+    std::string path(const std::string& name) const { return m_folder.pathOf(name); }
 
     /// Reads by all roads, and says whether the file was plain.
     bool expectOneOutcome(const std::string& library, const std::string& playlist) {
         useLibraryText(library);
-        auto opened = LibraryDocument::open(path("library.xml"), {.reading = Reading::indexAndTracks});
-        if (!opened) return false;
-        LibraryDocument& document = *opened.value();
-        const int tracks = document.trackCount();
-        const Outcome parsed = outcome(XmlReader::open, playlist, tracks);
-        bool isPlain = false;
-        const OpenNodes byDocument = [&](const std::string& path) -> std::unique_ptr<NodeReader> {
-            auto nodes = document.plainNodes(path);
-            isPlain = nodes != nullptr;
-            return isPlain ? std::move(nodes) : XmlReader::open(path);
-        };
-        EXPECT_EQ(outcome(byDocument, playlist, tracks), parsed) << "goes on from the tracks\n" << library;
-        EXPECT_EQ(outcome(byDocument, playlist, tracks), parsed) << "by the scanner\n" << library;
-        return isPlain;
+        auto outcomes = test::readByAllRoads(path("library.xml"), playlist, m_cancelAt);
+        EXPECT_EQ(outcomes.fromTracks, outcomes.parsed) << "goes on from the tracks\n" << library;
+        EXPECT_EQ(outcomes.scanned, outcomes.parsed) << "by the scanner\n" << library;
+        EXPECT_EQ(test::differenceOfIndexes(path("library.xml"), library), "") << library;
+        m_trace = std::move(outcomes.parsed.trace);
+        return outcomes.isPlain;
     }
 
     EventName m_cancelAt = EventName::readError;
+    std::vector<std::string> m_trace;
+    test::Folder m_folder;
 };
 
 /// A library with all that a record keeps.
@@ -171,8 +121,9 @@ TEST_F(ReadingRoadsTest, AllLeadToTheSameForLibrariesChangedAtRandom) {
 }
 
 TEST_F(ReadingRoadsTest, AllLeadToTheSameForTheTestLibraries) {
-    for (const auto& entry : std::filesystem::directory_iterator(test::testData("library")))
-        expectOneOutcome(test::contentOf(entry.path()), "Library");
+    for (const char* folder : {"library", "reading-roads"})
+        for (const auto& entry : std::filesystem::directory_iterator(test::testData(folder)))
+            expectOneOutcome(test::contentOf(entry.path()), "Library");
     EXPECT_TRUE(expectOneOutcome(usualLibrary(), "Some"));
     EXPECT_TRUE(expectOneOutcome(usualLibrary(), "None"));
     EXPECT_TRUE(expectOneOutcome(test::libraryXml({}, {}), "Library"));
