@@ -13,7 +13,7 @@ namespace songsweep {
 
 namespace {
 
-constexpr std::string_view magic = "songsweep folder memory 1\n";
+constexpr std::string_view magic = "songsweep folder memory 2\n";
 
 /// Values one behind the other, numbers in the machine's own order: nobody carries a memory elsewhere, and a
 /// machine of the other order finds it damaged.
@@ -33,6 +33,7 @@ class Packer {
         number(static_cast<std::uint32_t>(value.size()));
         m_bytes += value;
     }
+    void truth(bool value) { number(static_cast<std::uint8_t>(value ? 1 : 0)); }
     std::string take() { return std::move(m_bytes); }
 
   private:
@@ -54,6 +55,11 @@ class Unpacker {
         std::uint32_t size = 0;
         number(size);
         value = take(size);
+    }
+    void truth(bool& value) {
+        std::uint8_t byte = 0;
+        number(byte);
+        value = byte != 0;
     }
     bool isWhole() const { return m_whole; }
     std::size_t left() const { return m_left.size(); }
@@ -101,6 +107,13 @@ void visitPlaylist(Found& playlist, Visitor& visitor) {
     visitor.number(playlist.modificationNanoseconds);
 }
 
+template <class Mounted, class Visitor>
+void visitMounted(Mounted& mounted, Visitor& visitor) {
+    visitor.text(mounted.path);
+    visitor.number(mounted.device);
+    visitor.truth(mounted.isLink);
+}
+
 /// A count that the bytes left could hold at all.
 std::size_t countOf(Unpacker& unpacker) {
     std::uint64_t count = 0;
@@ -129,6 +142,9 @@ std::optional<FolderMemory> FolderMemory::read(const std::string& path) {
     memory.playlists.resize(countOf(unpacker));
     for (FoundFile& playlist : memory.playlists)
         visitPlaylist(playlist, unpacker);
+    memory.mounted.resize(countOf(unpacker));
+    for (MountedFolder& mounted : memory.mounted)
+        visitMounted(mounted, unpacker);
     if (!unpacker.isWhole()) return {};
     return memory;
 }
@@ -146,6 +162,9 @@ Result<void> FolderMemory::write(const std::string& path) const {
     packer.number(std::uint64_t{playlists.size()});
     for (const FoundFile& playlist : playlists)
         visitPlaylist(playlist, packer);
+    packer.number(std::uint64_t{mounted.size()});
+    for (const MountedFolder& each : mounted)
+        visitMounted(each, packer);
     const std::string contents = packer.take();
     Packer hash(sizeof(std::uint64_t));
     hash.number(hash64(contents));
@@ -154,7 +173,7 @@ Result<void> FolderMemory::write(const std::string& path) const {
     file.value().append(magic);
     file.value().append(hash.take());
     file.value().append(contents);
-    return file.value().takePlace();
+    return file.value().takePlace(NewFile::Safety::asItComes); // One that is lost or damaged is made again.
 }
 
 } // namespace songsweep

@@ -19,6 +19,7 @@ struct FolderMemory {
     FileStamp library; ///< the version of the library file that the entries' places belong to
     std::vector<KnownFile> tracks;
     std::vector<FoundFile> playlists; ///< without device and inode
+    std::vector<MountedFolder> mounted;
 
     /// Nothing where there is none, or one that is damaged or of another version of the program.
     static std::optional<FolderMemory> read(const std::string& path);

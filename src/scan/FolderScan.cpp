@@ -12,6 +12,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <future>
 #include <utility>
 
 namespace songsweep {
@@ -26,10 +27,10 @@ std::int64_t secondsNow() {
     return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// A library without tracks, so that there is one to lock.
+/// A library without tracks, so that there is one to lock. An empty file is what a loss of power left of one.
 Result<void> makeLibrary(const FolderLibrary& place) {
     std::error_code error;
-    if (std::filesystem::exists(place.library, error)) return {};
+    if (const auto size = std::filesystem::file_size(place.library, error); !error && size > 0) return {};
     const std::string folder = folderOf(place.library);
     std::filesystem::create_directories(folder, error);
     if (error) return systemError(error.value(), "make the folder", folder);
@@ -37,7 +38,7 @@ Result<void> makeLibrary(const FolderLibrary& place) {
     if (!file) return file.error();
     LibraryWriter writer(std::move(file).value(), place.folder);
     writer.begin(secondsNow());
-    const Result<FileStamp> stamp = writer.finish({}, {});
+    const Result<FileStamp> stamp = writer.finish({}, {}, NewFile::Safety::asItComes);
     return stamp ? Result<void>() : stamp.error();
 }
 
@@ -57,18 +58,22 @@ ScanReport reportOf(const FolderContents& contents) {
 Result<ScanReport> update(const FolderLibrary& place, const ScanWatch& watch) {
     const Result<LibraryFile> old = LibraryFile::open(place.library);
     if (!old) return old.error();
-    std::optional<FolderMemory> memory = FolderMemory::read(place.memory);
+    auto reading = std::async(std::launch::async, [&] { return FolderMemory::read(place.memory); });
+    Result<FolderContents> contents = walkFolder(place.folder, watch.isCancelled);
+    std::optional<FolderMemory> memory = reading.get();
+    if (!contents) return contents.error();
     const bool current = isCurrent(memory, old.value());
     const std::vector<FoundFile> knownPlaylists = memory ? memory->playlists : std::vector<FoundFile>();
-    Result<std::vector<KnownFile>> known =
+    const std::vector<MountedFolder> mountedBefore = memory ? memory->mounted : std::vector<MountedFolder>();
+    Result<KnownTracks> known =
         knownTracks(old.value(), place.folder, std::move(memory).value_or(FolderMemory()));
     if (!known) return known.error();
-    Result<FolderContents> contents = walkFolder(place.folder, watch.isCancelled);
-    if (!contents) return contents.error();
     ScanReport report = reportOf(contents.value());
-    ScanPlan plan(std::move(known).value(), std::move(contents).value());
-    const bool asItWas = current && areSamePlaylists(plan.playlists, knownPlaylists);
-    LibraryUpdate work(place, watch, old.value(), plan,
+    ScanPlan plan(place.folder, std::move(known.value().tracks), std::move(contents).value(), mountedBefore);
+    report.unread.insert(report.unread.end(), plan.away.begin(), plan.away.end());
+    const bool asItWas =
+        current && areSamePlaylists(plan.playlists, knownPlaylists) && plan.mounted == mountedBefore;
+    LibraryUpdate work(place, watch, old.value(), plan, known.value().deleted,
                        asItWas ? LibraryUpdate::Writing::whenTracksChange
                                : LibraryUpdate::Writing::inAnyCase);
     const Result<std::optional<FolderMemory>> next = work.run(report);

@@ -2,6 +2,7 @@
 #include "scan/FolderWalk.h"
 
 #include "libraryfile/LibraryFile.h"
+#include "platform/Ascii.h"
 #include "platform/SystemError.h"
 #include "scan/SoundFormat.h"
 
@@ -24,13 +25,19 @@ namespace {
 
 using FileId = std::pair<std::uint64_t, std::uint64_t>; // device and inode
 
-constexpr std::array<std::string_view, 6> trashFolders = {"$RECYCLE.BIN", "RECYCLER", "Recycled",
-                                                          "#recycle",     "@Recycle", "lost+found"};
+/// In lower case: the same name is written in several ways.
+constexpr std::array<std::string_view, 7> trashFolders = {
+    "$recycle.bin", "recycler", "recycled", "#recycle", "@recycle", "lost+found", "network trash folder"};
 
-bool isLeftOut(std::string_view name) {
-    return name.starts_with('.') ||
-           std::find(trashFolders.begin(), trashFolders.end(), name) != trashFolders.end();
+bool isTrashFolder(std::string_view name) {
+    const auto isSame = [&](std::string_view trash) {
+        return std::equal(name.begin(), name.end(), trash.begin(), trash.end(),
+                          [](char one, char other) { return asciiLower(one) == other; });
+    };
+    return std::any_of(trashFolders.begin(), trashFolders.end(), isSame);
 }
+
+bool isLeftOut(std::string_view name) { return name.starts_with('.') || isTrashFolder(name); }
 
 FileId idOf(const struct stat& status) {
     return {static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino)};
@@ -60,7 +67,9 @@ class Walk {
         , m_isCancelled(isCancelled) {}
 
     Result<FolderContents> run() {
-        if (const int problem = enter(m_folder, {}); problem != 0)
+        struct stat around {};
+        if (::stat((m_folder + "/..").c_str(), &around) == 0) m_device = idOf(around).first;
+        if (const int problem = enter({{}, m_device}); problem != 0)
             return systemError(problem, "open the folder", m_folder);
         while (!m_links.empty() && !m_cancelled)
             followLinks();
@@ -79,32 +88,46 @@ class Walk {
     };
     using Folder = std::unique_ptr<DIR, CloseFolder>;
 
+    /// A folder that is come to.
+    struct Visit {
+        std::string path;     ///< below the folder; "" for itself
+        std::uint64_t device; ///< of the folder around it, and then its own
+        bool isLink = false;
+        std::vector<std::string> below = {}; ///< names of folders in it
+
+        std::string prefix() const { return path.empty() ? path : path + "/"; }
+    };
+
     /// The folder and all below it; 0 or the errno where it cannot be opened.
-    int enter(const std::string& path, const std::string& prefix) {
-        std::vector<std::string> below;
-        if (const int problem = lookThrough(path, prefix, below); problem != 0) return problem;
-        for (const std::string& name : below) {
+    int enter(Visit visit) {
+        if (const int problem = lookThrough(visit); problem != 0) return problem;
+        for (const std::string& name : visit.below) {
             if (m_cancelled || (m_cancelled = m_isCancelled())) break;
-            enterBelow(prefix + name);
+            enterBelow({visit.prefix() + name, visit.device});
         }
         return 0;
     }
 
     /// One folder alone, which is closed again before those below it are opened.
-    int lookThrough(const std::string& path, const std::string& prefix, std::vector<std::string>& below) {
-        const Folder folder(::opendir(path.c_str()));
+    int lookThrough(Visit& visit) {
+        const Folder folder(::opendir((m_folder + "/" + visit.path).c_str()));
         if (!folder) return errno;
         struct stat status {};
         if (::fstat(::dirfd(folder.get()), &status) != 0) return errno;
         if (!m_folders.insert(idOf(status)).second) return 0;
+        const std::uint64_t around = std::exchange(visit.device, idOf(status).first);
+        if (visit.device != around) m_contents.mounted.push_back({visit.path, visit.device, visit.isLink});
+        if (visit.path.empty()) m_device = visit.device;
+        const std::string prefix = visit.prefix();
         for (const Name& name : namesIn(*folder, prefix))
-            look(::dirfd(folder.get()), name, prefix, below);
+            look(::dirfd(folder.get()), name, prefix, visit.below);
         return 0;
     }
 
-    void enterBelow(const std::string& path) {
-        if (const int problem = enter(m_folder + "/" + path, path + "/"); problem != 0)
-            m_contents.folders.push_back({path, systemError(problem, "open the folder", path).message});
+    void enterBelow(const Visit& visit) {
+        if (const int problem = enter(visit); problem != 0)
+            m_contents.folders.push_back(
+                {visit.path, systemError(problem, "open the folder", visit.path).message});
     }
 
     /// In a fixed order, so that the same folder is always the same library.
@@ -153,6 +176,12 @@ class Walk {
         m_contents.files.push_back({path, systemError(errorNumber, "look at", path).message});
     }
 
+    /// It may lead to a disk that is not there now.
+    void noteDeadLink(const std::string& link, int errorNumber) {
+        m_contents.deadLinks.push_back(link);
+        if (isOfInterest(link)) noteProblem(link, errorNumber);
+    }
+
     void keep(FoundFile file) {
         (soundFormatOf(file.path) ? m_contents.tracks : m_contents.playlists).push_back(std::move(file));
     }
@@ -162,9 +191,9 @@ class Walk {
         for (const std::string& link : std::exchange(m_links, {})) {
             struct stat status {};
             if (::stat((m_folder + "/" + link).c_str(), &status) != 0) {
-                if (isOfInterest(link)) noteProblem(link, errno);
+                noteDeadLink(link, errno);
             } else if (S_ISDIR(status.st_mode)) {
-                enterBelow(link);
+                enterBelow({link, m_device, true});
             } else if (S_ISREG(status.st_mode) && isOfInterest(link)) {
                 m_fileLinks.push_back(foundFile(link, status));
             }
@@ -184,6 +213,7 @@ class Walk {
     const std::string& m_folder;
     const std::function<bool()>& m_isCancelled;
     bool m_cancelled = false;
+    std::uint64_t m_device = 0; ///< of the folder of music
     FolderContents m_contents;
     std::set<FileId> m_folders; ///< that were come to
     std::vector<std::string> m_links;

@@ -25,12 +25,23 @@ struct UnreadPath {
     std::string reason; ///< a sentence without its full stop
 };
 
+/// A folder that lies on another device than the one around it.
+struct MountedFolder {
+    std::string path; ///< below the folder of music; "" for itself
+    std::uint64_t device = 0;
+    bool isLink = false; ///< a link leads there
+
+    bool operator==(const MountedFolder&) const = default;
+};
+
 /// What lies in a folder of music.
 struct FolderContents {
-    std::vector<FoundFile> tracks;    ///< always in the same order
-    std::vector<FoundFile> playlists; ///< the same
-    std::vector<UnreadPath> folders;  ///< that could not be opened: what is in them is not known
-    std::vector<UnreadPath> files;    ///< that could not be asked for their size
+    std::vector<FoundFile> tracks;      ///< always in the same order
+    std::vector<FoundFile> playlists;   ///< the same
+    std::vector<UnreadPath> folders;    ///< that could not be opened: what is in them is not known
+    std::vector<UnreadPath> files;      ///< that could not be asked for their size
+    std::vector<std::string> deadLinks; ///< that lead nowhere now
+    std::vector<MountedFolder> mounted;
 };
 
 /// Finds the sound files and the playlist files below a folder, by the endings of their names.

@@ -40,41 +40,54 @@ std::optional<KnownFile> knownFile(const LibraryFile& library, const LibraryInde
 /// By the path of its track, what the memory knows.
 class Remembered {
   public:
-    explicit Remembered(const std::vector<KnownFile>& tracks) {
+    explicit Remembered(std::vector<KnownFile>& tracks)
+        : m_tracks(tracks)
+        , m_isThere(tracks.size()) {
         m_byPath.reserve(tracks.size());
-        for (const KnownFile& track : tracks)
-            m_byPath.emplace(track.path, &track);
+        for (std::size_t number = 0; number < tracks.size(); ++number)
+            m_byPath.emplace(tracks[number].path, number);
     }
 
-    void complete(KnownFile& known) const {
+    void complete(KnownFile& known) {
         const auto found = m_byPath.find(known.path);
-        if (found == m_byPath.end() || found->second->persistentId != known.persistentId) return;
-        const KnownFile& remembered = *found->second;
+        if (found == m_byPath.end() || m_tracks[found->second].persistentId != known.persistentId) return;
+        const KnownFile& remembered = m_tracks[found->second];
+        m_isThere[found->second] = true;
         known.size = remembered.size;
         known.modificationNanoseconds = remembered.modificationNanoseconds;
         known.duration = remembered.duration;
         known.soundHash = remembered.soundHash;
     }
 
+    /// Those of the memory that were not completed.
+    std::vector<KnownFile> takeRest() {
+        std::vector<KnownFile> rest;
+        for (std::size_t number = 0; number < m_tracks.size(); ++number)
+            if (!m_isThere[number]) rest.push_back(std::move(m_tracks[number]));
+        return rest;
+    }
+
   private:
-    std::unordered_map<std::string_view, const KnownFile*> m_byPath;
+    std::vector<KnownFile>& m_tracks;
+    std::vector<bool> m_isThere;
+    std::unordered_map<std::string_view, std::size_t> m_byPath;
 };
 
 } // namespace
 
-Result<std::vector<KnownFile>> knownTracks(const LibraryFile& library, const std::string& folder,
-                                           FolderMemory memory) {
-    if (memory.library == library.stamp()) return std::move(memory.tracks);
+Result<KnownTracks> knownTracks(const LibraryFile& library, const std::string& folder, FolderMemory memory) {
+    if (memory.library == library.stamp()) return KnownTracks{std::move(memory.tracks), {}};
     const Result<LibraryIndex> index = LibraryIndex::read(library);
     if (!index) return index.error();
-    const Remembered remembered(memory.tracks);
-    std::vector<KnownFile> known;
+    Remembered remembered(memory.tracks);
+    KnownTracks known;
     for (const TrackSlot& slot : index.value().tracks) {
         std::optional<KnownFile> file = knownFile(library, index.value(), slot, folder);
         if (!file) continue;
         remembered.complete(*file);
-        known.push_back(std::move(*file));
+        known.tracks.push_back(std::move(*file));
     }
+    known.deleted = remembered.takeRest();
     return known;
 }
 

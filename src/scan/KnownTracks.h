@@ -8,6 +8,12 @@
 
 namespace songsweep {
 
+/// The tracks of a folder's library, and those that it had at the last scan and has no more.
+struct KnownTracks {
+    std::vector<KnownFile> tracks;
+    std::vector<KnownFile> deleted;
+};
+
 /// What is known of a folder's tracks before a scan.
 ///
 /// That is the memory where it belongs to the library file as it is. Otherwise somebody changed the library
@@ -17,7 +23,6 @@ namespace songsweep {
 ///
 /// `folder` is the folder of music's path without links. Costs one pass through the library in the second
 /// case.
-Result<std::vector<KnownFile>> knownTracks(const LibraryFile& library, const std::string& folder,
-                                           FolderMemory memory);
+Result<KnownTracks> knownTracks(const LibraryFile& library, const std::string& folder, FolderMemory memory);
 
 } // namespace songsweep

@@ -22,13 +22,16 @@ std::int64_t secondsNow() {
 } // namespace
 
 LibraryUpdate::LibraryUpdate(const FolderLibrary& place, const ScanWatch& watch, const LibraryFile& old,
-                             ScanPlan& plan, Writing writing)
+                             ScanPlan& plan, const std::vector<KnownFile>& deleted, Writing writing)
     : m_place(place)
     , m_watch(watch)
     , m_old(old)
     , m_plan(plan)
     , m_now(secondsNow())
-    , m_isChanged(writing == Writing::inAnyCase || plan.vanished.count() > 0) {}
+    , m_isChanged(writing == Writing::inAnyCase || plan.vanished.count() > 0) {
+    for (const KnownFile& track : deleted)
+        m_deleted.emplace(track.path, &track);
+}
 
 Result<std::optional<FolderMemory>> LibraryUpdate::run(ScanReport& report) {
     OrderedReading{.count = m_plan.toRead.size(),
@@ -107,10 +110,18 @@ KnownFile LibraryUpdate::trackOf(const ScanStep& step, const SoundFacts& facts, 
         return std::move(*moved);
     }
     ++report.added;
+    return newTrack(step.file.path);
+}
+
+KnownFile LibraryUpdate::newTrack(const std::string& path) {
+    const auto found = m_deleted.find(path);
+    const KnownFile* const before = found == m_deleted.end() ? nullptr : found->second;
     KnownFile track;
-    track.persistentId = m_numbers->persistentId(step.file.path);
+    track.persistentId = before != nullptr && m_numbers->take(before->persistentId)
+                             ? before->persistentId
+                             : m_numbers->persistentId(path);
     track.trackId = m_numbers->trackId();
-    track.dateAdded = m_now;
+    track.dateAdded = before != nullptr ? before->dateAdded : m_now;
     return track;
 }
 
@@ -147,6 +158,7 @@ Result<std::optional<FolderMemory>> LibraryUpdate::finish(ScanReport& report) {
     if (!stamp) return stamp.error();
     m_memory.library = stamp.value();
     m_memory.playlists = std::move(m_plan.playlists);
+    m_memory.mounted = std::move(m_plan.mounted);
     return std::optional(std::move(m_memory));
 }
 

@@ -9,6 +9,9 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
 
 namespace songsweep {
 
@@ -21,8 +24,10 @@ class LibraryUpdate {
     /// Whether a new version is written even if no track changes.
     enum class Writing : std::uint8_t { whenTracksChange, inAnyCase };
 
+    /// `deleted` are tracks that the library had at the last scan: one whose file stayed comes back as it
+    /// was.
     LibraryUpdate(const FolderLibrary& place, const ScanWatch& watch, const LibraryFile& old, ScanPlan& plan,
-                  Writing writing);
+                  const std::vector<KnownFile>& deleted, Writing writing);
 
     /// The memory of the new version; nothing where none was needed. Adds to the report what it did.
     Result<std::optional<FolderMemory>> run(ScanReport& report);
@@ -35,6 +40,7 @@ class LibraryUpdate {
     void keep(KnownFile& track);
     void write(ScanStep& step, const SoundFacts& facts, ScanReport& report);
     KnownFile trackOf(const ScanStep& step, const SoundFacts& facts, ScanReport& report);
+    KnownFile newTrack(const std::string& path);
     void leave(ScanStep& step, const Error& error, ScanReport& report);
     void keepWhatWasNotLookedAt(ScanReport& report);
     Result<std::optional<FolderMemory>> finish(ScanReport& report);
@@ -45,6 +51,7 @@ class LibraryUpdate {
     ScanPlan& m_plan;
     std::optional<NewNumbers> m_numbers; ///< made when the writing begins
     std::int64_t m_now;
+    std::unordered_map<std::string_view, const KnownFile*> m_deleted; ///< by their paths
     bool m_isChanged;
     std::optional<LibraryWriter> m_writer;
     Result<void> m_state;

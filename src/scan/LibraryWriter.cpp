@@ -93,7 +93,8 @@ void LibraryWriter::keep(KnownFile& track, const LibraryFile& old) {
 }
 
 Result<FileStamp> LibraryWriter::finish(const std::vector<KnownFile>& tracks,
-                                        const std::vector<FolderPlaylist>& playlists) {
+                                        const std::vector<FolderPlaylist>& playlists,
+                                        NewFile::Safety safety) {
     FolderPlaylist all{"Library", hash64(m_folder + "/Library"), {}};
     for (const KnownFile& track : tracks) {
         all.trackIds.push_back(track.trackId);
@@ -107,7 +108,7 @@ Result<FileStamp> LibraryWriter::finish(const std::vector<KnownFile>& tracks,
     for (const FolderPlaylist& list : playlists)
         playlist(list, {});
     m_file.append("\n\t</array>\n</dict>\n</plist>\n");
-    if (const Result<void> written = m_file.takePlace(); !written) return written.error();
+    if (const Result<void> written = m_file.takePlace(safety); !written) return written.error();
     return m_file.stamp();
 }
 

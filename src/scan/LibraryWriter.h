@@ -38,7 +38,8 @@ class LibraryWriter {
     /// Writes the playlists, the library itself and its music first, and puts the file in its place. The
     /// stamp of what lies there then.
     Result<FileStamp> finish(const std::vector<KnownFile>& tracks,
-                             const std::vector<FolderPlaylist>& playlists);
+                             const std::vector<FolderPlaylist>& playlists,
+                             NewFile::Safety safety = NewFile::Safety::onDisk);
 
   private:
     void playlist(const FolderPlaylist& playlist, std::string_view flags);

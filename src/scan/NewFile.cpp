@@ -24,9 +24,15 @@ Result<NewFile> NewFile::createFor(const std::string& path) {
     return NewFile(path, std::move(file).value());
 }
 
+/// What is large already is not copied once more.
 void NewFile::append(std::string_view bytes) {
-    m_buffer += bytes;
-    if (m_buffer.size() >= largeBuffer) flush();
+    if (bytes.size() < largeBuffer) {
+        m_buffer += bytes;
+        if (m_buffer.size() >= largeBuffer) flush();
+        return;
+    }
+    flush();
+    write(bytes);
 }
 
 void NewFile::append(const LibraryFile& file, ByteRange range) {
@@ -43,7 +49,13 @@ void NewFile::append(const LibraryFile& file, ByteRange range) {
 }
 
 void NewFile::flush() {
-    std::string_view left = m_buffer;
+    write(m_buffer);
+    m_buffer.clear();
+}
+
+void NewFile::write(std::string_view bytes) {
+    m_written += bytes.size();
+    std::string_view left = bytes;
     while (m_state && !left.empty()) {
         const ssize_t count = ::write(m_file.descriptor(), left.data(), left.size());
         if (count < 0 && errno == EINTR) continue;
@@ -53,21 +65,20 @@ void NewFile::flush() {
             left.remove_prefix(static_cast<std::size_t>(count));
         }
     }
-    m_written += m_buffer.size();
-    m_buffer.clear();
 }
 
-Result<void> NewFile::takePlace() {
+Result<void> NewFile::takePlace(Safety safety) {
     flush();
     if (!m_state) return m_state;
-    if (::fsync(m_file.descriptor()) != 0) return systemError(errno, "write", m_path);
+    const bool mustBeSafe = safety == Safety::onDisk;
+    if (mustBeSafe && ::fsync(m_file.descriptor()) != 0) return systemError(errno, "write", m_path);
     const Result<FileStamp> stamp = m_file.stamp();
     if (!stamp) return stamp.error();
     if (std::rename(m_file.path().c_str(), m_path.c_str()) != 0)
         return systemError(errno, "put a new version in the place of", m_path);
     m_file.release();
     m_stamp = stamp.value();
-    flushFolder(folderOf(m_path));
+    if (mustBeSafe) flushFolder(folderOf(m_path));
     return {};
 }
 

@@ -15,6 +15,9 @@ namespace songsweep {
 /// Buffered; the first write that fails is told at the end. Moves, does not copy.
 class NewFile {
   public:
+    /// Whether the file must outlive a loss of power. Waiting for the disk may take longer than the scan.
+    enum class Safety : std::uint8_t { onDisk, asItComes };
+
     static Result<NewFile> createFor(const std::string& path);
 
     void append(std::string_view bytes);
@@ -24,9 +27,9 @@ class NewFile {
     /// The bytes appended so far.
     std::uint64_t size() const { return m_written + m_buffer.size(); }
 
-    /// Writes what is left, sees to it that it is on the disk, and gives the file its name. The stamp of the
-    /// file that took the place is that of `stamp`.
-    Result<void> takePlace();
+    /// Writes what is left, sees to it that it is on the disk if it must, and gives the file its name. The
+    /// stamp of the file that took the place is that of `stamp`.
+    Result<void> takePlace(Safety safety = Safety::onDisk);
     const FileStamp& stamp() const { return m_stamp; }
 
   private:
@@ -34,6 +37,7 @@ class NewFile {
         : m_path(std::move(path))
         , m_file(std::move(file)) {}
     void flush();
+    void write(std::string_view bytes);
 
     std::string m_path;
     TemporaryFile m_file;

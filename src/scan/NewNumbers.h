@@ -18,6 +18,9 @@ class NewNumbers {
     /// Above all that were given so far.
     std::int64_t trackId() { return ++m_lastTrackId; }
 
+    /// Whether nobody has that one; it is taken then.
+    bool take(std::uint64_t persistentId) { return m_used.insert(persistentId).second; }
+
     /// Made of the path alone, so that it is the same in every library, unless a track that moved away from
     /// there still has it.
     std::uint64_t persistentId(const std::string& path);

@@ -16,10 +16,25 @@ std::int32_t ratingOfPopularity(std::int32_t popularity) {
     return popularity < 224 ? 4 * star : 5 * star;
 }
 
-std::int32_t ratingOfText(std::string_view text) {
+namespace {
+
+/// 0 where it is none from 0 to 100.
+double valueOf(std::string_view text) {
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size() || !(value > 0) || value > 100) return 0;
+    const bool isWhole = error == std::errc() && end == text.data() + text.size();
+    return isWhole && value > 0 && value <= 100 ? value : 0;
+}
+
+} // namespace
+
+std::int32_t ratingOfPart(std::string_view text) {
+    const double value = valueOf(text);
+    return value <= 1 ? static_cast<std::int32_t>(std::lround(value * 100)) : 0;
+}
+
+std::int32_t ratingOfText(std::string_view text) {
+    const double value = valueOf(text);
     const bool isPart = value <= 1 && text.find('.') != std::string_view::npos;
     double scale = 1;
     if (isPart) {

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "scan/ScanPlan.h"
 
+#include "library/ValueFormats.h"
 #include "libraryfile/FileNames.h"
+#include "scan/UnseenPaths.h"
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace songsweep {
@@ -39,13 +43,18 @@ bool isUnchanged(const FoundFile& file, const KnownFile& known) {
     return file.size == known.size && file.modificationNanoseconds == known.modificationNanoseconds;
 }
 
-/// Whether a path lies in something that could not be looked at.
-bool isOutOfSight(const std::string& path, const FolderContents& contents) {
-    const auto leadsTo = [&](const UnreadPath& unread) {
-        return unread.path.empty() || path == unread.path || path.starts_with(unread.path + "/");
-    };
-    return std::any_of(contents.folders.begin(), contents.folders.end(), leadsTo) ||
-           std::any_of(contents.files.begin(), contents.files.end(), leadsTo);
+/// The folders, "" the outermost, in which paths lie.
+std::unordered_set<std::string> foldersAround(const std::vector<ScanStep>& steps) {
+    std::unordered_set<std::string> folders;
+    for (const ScanStep& step : steps) {
+        if (step.known == ScanStep::none) continue;
+        std::string path = step.file.path;
+        do {
+            const std::size_t slash = path.rfind('/');
+            path.resize(slash == std::string::npos ? 0 : slash);
+        } while (folders.insert(path).second && !path.empty());
+    }
+    return folders;
 }
 
 } // namespace
@@ -68,26 +77,55 @@ std::optional<KnownFile> VanishedTracks::takeMoved(const SoundFacts& facts, cons
     return track;
 }
 
-ScanPlan::ScanPlan(std::vector<KnownFile> knownTracks, FolderContents contents)
+ScanPlan::ScanPlan(const std::string& folder, std::vector<KnownFile> knownTracks, FolderContents contents,
+                   const std::vector<MountedFolder>& mountedBefore)
     : known(std::move(knownTracks))
     , playlists(std::move(contents.playlists)) {
-    std::vector<bool> isThere(known.size());
+    takeSteps(contents.tracks);
+    const std::unordered_set<std::string> found =
+        mountedBefore.empty() ? std::unordered_set<std::string>() : foldersAround(steps);
+    MountedFolders disks = MountedFolders::of(folder, mountedBefore, contents.mounted,
+                                              [&](const std::string& path) { return found.contains(path); });
+    mounted = std::move(disks.known);
+    takeMissing(contents, disks.away);
+}
+
+void ScanPlan::takeSteps(std::vector<FoundFile>& files) {
+    m_isThere.resize(known.size());
     Lookup lookup(known);
-    steps.reserve(contents.tracks.size());
-    for (FoundFile& file : contents.tracks) {
+    steps.reserve(files.size());
+    for (FoundFile& file : files) {
         const std::size_t number = lookup.find(file.path);
-        if (number != ScanStep::none) isThere[number] = true;
+        if (number != ScanStep::none) m_isThere[number] = true;
         if (number == ScanStep::none || !isUnchanged(file, known[number])) toRead.push_back(steps.size());
         steps.push_back({std::move(file), number});
     }
+}
+
+/// A file that is not found where nobody could look is not gone.
+void ScanPlan::takeMissing(const FolderContents& contents, const std::vector<std::string>& disksAway) {
+    UnseenPaths unseen;
+    for (const auto* const unread : {&contents.folders, &contents.files})
+        for (const UnreadPath& each : *unread)
+            unseen.add(each.path);
+    UnseenPaths elsewhere;
+    for (const auto* const paths : {&contents.deadLinks, &disksAway})
+        for (const std::string& path : *paths)
+            elsewhere.add(path);
+    std::map<std::string, std::size_t> missing; // tracks by the disk or the link that is to lead to them
     for (std::size_t number = 0; number < known.size(); ++number) {
-        if (isThere[number]) continue;
-        if (isOutOfSight(known[number].path, contents)) {
+        if (m_isThere[number]) continue;
+        const auto disk = elsewhere.around(known[number].path);
+        if (disk) ++missing[*disk];
+        if (disk || unseen.around(known[number].path)) {
             outOfSight.push_back(number);
         } else {
             vanished.add(known[number]);
         }
     }
+    for (const auto& [path, count] : missing)
+        away.push_back({path, "the disk that was here is not there now; " + counted(count, "track") +
+                                  " of it stay" + (count == 1 ? "s" : "") + " in the library"});
 }
 
 } // namespace songsweep

@@ -3,6 +3,7 @@
 
 #include "scan/FolderWalk.h"
 #include "scan/KnownFile.h"
+#include "scan/MountedFolders.h"
 #include "scan/SoundFacts.h"
 
 #include <cstddef>
@@ -51,16 +52,26 @@ class VanishedTracks {
 /// Files and known tracks come mostly in one order, so that most are matched without a search. Linear. Does
 /// not move, as its parts refer to each other.
 struct ScanPlan {
-    ScanPlan(std::vector<KnownFile> knownTracks, FolderContents contents);
+    /// `mountedBefore` is what the last scan knew of other disks in the folder, whose path is `folder`.
+    ScanPlan(const std::string& folder, std::vector<KnownFile> knownTracks, FolderContents contents,
+             const std::vector<MountedFolder>& mountedBefore);
     ScanPlan(const ScanPlan&) = delete;
     ScanPlan& operator=(const ScanPlan&) = delete;
 
     std::vector<KnownFile> known;
     std::vector<ScanStep> steps;         ///< in the folder's order
     std::vector<std::size_t> toRead;     ///< steps whose files are read
-    std::vector<std::size_t> outOfSight; ///< known tracks in folders that cannot be opened
+    std::vector<std::size_t> outOfSight; ///< known tracks in folders to which the walk did not come
+    std::vector<UnreadPath> away;        ///< disks and links with such tracks
+    std::vector<MountedFolder> mounted;  ///< to be remembered
     VanishedTracks vanished;
     std::vector<FoundFile> playlists;
+
+  private:
+    void takeSteps(std::vector<FoundFile>& files);
+    void takeMissing(const FolderContents& contents, const std::vector<std::string>& disksAway);
+
+    std::vector<bool> m_isThere; ///< of the known tracks
 };
 
 } // namespace songsweep

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scan/SoundFile.h"
 
+#include "libraryfile/FileNames.h"
 #include "platform/ExceptionReason.h"
 #include "scan/CleanText.h"
 #include "scan/FileTitle.h"
@@ -150,13 +151,17 @@ bool readFormat(SoundFacts& facts, SoundStream& stream, SoundFormat format) {
     return false;
 }
 
-/// "Artist - Title" is taken apart only where the tags know neither.
+/// To a reader of the library, a text of blanks is none.
+bool isBlank(const std::string& text) { return text.find_first_not_of(" \t\r\n") == std::string::npos; }
+
+/// "Artist - Title" is taken apart only where the tags know neither. Where the name, too, says nothing, it is
+/// the title with its ending.
 void nameAfterFile(SoundFacts& facts, const std::string& path) {
-    if (!facts.name.empty()) return;
+    if (!isBlank(facts.name)) return;
     const std::string title = cleanText(titleOfFile(path, facts.trackNumber));
     const FileTitle parts = facts.artist.empty() ? splitTitle(title) : FileTitle{facts.artist, title};
     facts.artist = parts.artist;
-    facts.name = parts.name;
+    facts.name = isBlank(parts.name) ? cleanText(nameOf(path)) : parts.name;
 }
 
 } // namespace

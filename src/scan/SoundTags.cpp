@@ -15,28 +15,61 @@
 #include <taglib/xiphcomment.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace songsweep {
 
 namespace {
 
-/// The values of a tag by their names, as texts.
+/// The values of a tag that a track has, in the order of their names below.
+enum class Value : std::uint8_t {
+    title,
+    artist,
+    albumArtist,
+    album,
+    genre,
+    composer,
+    comment,
+    date,
+    beats,
+    compilation,
+    track,
+    trackTotal,
+    totalTracks,
+    disc,
+    discTotal,
+    totalDiscs,
+    fmpsRating,
+    rating,
+    playCount
+};
+constexpr std::array<std::string_view, 19> valueNames = {
+    "TITLE",     "ARTIST",     "ALBUMARTIST", "ALBUM",       "GENRE",         "COMPOSER",    "COMMENT",
+    "DATE",      "BPM",        "COMPILATION", "TRACKNUMBER", "TRACKTOTAL",    "TOTALTRACKS", "DISCNUMBER",
+    "DISCTOTAL", "TOTALDISCS", "FMPS_RATING", "RATING",      "FMPS_PLAYCOUNT"};
+
+/// These values, as texts: picked in one pass, since TagLib makes new texts of each name that it is asked
+/// for.
 class Values {
   public:
-    explicit Values(const TagLib::PropertyMap& map)
-        : m_map(map) {}
-
-    /// Of several, all, parted by semicolons.
-    std::string text(const char* key) const {
-        const auto found = m_map.find(key);
-        if (found == m_map.end()) return {};
-        return cleanText(found->second.toString("; ").to8Bit(true));
+    explicit Values(const TagLib::PropertyMap& map) {
+        for (const auto& [key, list] : map) {
+            const std::string name = key.to8Bit();
+            const auto found = std::find(valueNames.begin(), valueNames.end(), name);
+            if (found == valueNames.end()) continue;
+            // Of several, all, parted by semicolons.
+            const TagLib::String whole = list.size() == 1 ? list.front() : list.toString("; ");
+            m_texts[static_cast<std::size_t>(found - valueNames.begin())] = cleanText(whole.to8Bit(true));
+        }
     }
 
-    std::int32_t number(const char* key) const { return numberOf(text(key)); }
+    const std::string& text(Value value) const { return m_texts[static_cast<std::size_t>(value)]; }
+    std::string take(Value value) { return std::move(m_texts[static_cast<std::size_t>(value)]); }
+    std::int32_t number(Value value) const { return numberOf(text(value)); }
 
     /// 0 of what is no number that a tag has in earnest.
     static std::int32_t numberOf(std::string_view text) {
@@ -46,22 +79,27 @@ class Values {
     }
 
     /// "3/12", or the count by itself under one of two other names.
-    void place(const char* key, const char* count, const char* otherCount, std::int32_t& place,
+    void place(Value both, Value count, Value otherCount, std::int32_t& place,
                std::int32_t& placeCount) const {
-        const std::string both = text(key);
-        place = numberOf(both);
-        if (const std::size_t slash = both.find('/'); slash != std::string::npos)
-            placeCount = numberOf(std::string_view(both).substr(slash + 1));
+        const std::string_view whole = text(both);
+        place = numberOf(whole);
+        if (const std::size_t slash = whole.find('/'); slash != std::string_view::npos)
+            placeCount = numberOf(whole.substr(slash + 1));
         if (placeCount == 0) placeCount = number(count);
         if (placeCount == 0) placeCount = number(otherCount);
     }
 
   private:
-    const TagLib::PropertyMap& m_map;
+    std::array<std::string, valueNames.size()> m_texts;
 };
 
 void addRating(SoundFacts& facts, std::string_view text) {
     if (facts.rating == 0) facts.rating = ratingOfText(text);
+}
+
+/// FMPS knows but one scale.
+void addPart(SoundFacts& facts, std::string_view text) {
+    if (facts.rating == 0) facts.rating = ratingOfPart(text);
 }
 
 std::int32_t sizeOf(unsigned int count) { return static_cast<std::int32_t>(count); }
@@ -84,22 +122,22 @@ void addProperties(SoundFacts& facts, const TagLib::AudioProperties& properties)
 }
 
 void addValues(SoundFacts& facts, const TagLib::PropertyMap& map) {
-    const Values values(map);
-    facts.name = values.text("TITLE");
-    facts.artist = values.text("ARTIST");
-    facts.albumArtist = values.text("ALBUMARTIST");
-    facts.album = values.text("ALBUM");
-    facts.genre = values.text("GENRE");
-    facts.composer = values.text("COMPOSER");
-    facts.comment = values.text("COMMENT");
-    facts.year = values.number("DATE");
-    facts.beatsPerMinute = values.number("BPM");
-    facts.compilation = values.number("COMPILATION") == 1;
-    values.place("TRACKNUMBER", "TRACKTOTAL", "TOTALTRACKS", facts.trackNumber, facts.trackCount);
-    values.place("DISCNUMBER", "DISCTOTAL", "TOTALDISCS", facts.discNumber, facts.discCount);
-    addRating(facts, values.text("FMPS_RATING"));
-    addRating(facts, values.text("RATING"));
-    facts.playCount = values.number("FMPS_PLAYCOUNT");
+    Values values(map);
+    facts.name = values.take(Value::title);
+    facts.artist = values.take(Value::artist);
+    facts.albumArtist = values.take(Value::albumArtist);
+    facts.album = values.take(Value::album);
+    facts.genre = values.take(Value::genre);
+    facts.composer = values.take(Value::composer);
+    facts.comment = values.take(Value::comment);
+    facts.year = values.number(Value::date);
+    facts.beatsPerMinute = values.number(Value::beats);
+    facts.compilation = values.number(Value::compilation) == 1;
+    values.place(Value::track, Value::trackTotal, Value::totalTracks, facts.trackNumber, facts.trackCount);
+    values.place(Value::disc, Value::discTotal, Value::totalDiscs, facts.discNumber, facts.discCount);
+    addPart(facts, values.text(Value::fmpsRating));
+    addRating(facts, values.text(Value::rating));
+    facts.playCount = values.number(Value::playCount);
 }
 
 void addOwn(SoundFacts& facts, const TagLib::ID3v2::Tag* tag) {
@@ -128,7 +166,7 @@ void addOwn(SoundFacts& facts, const TagLib::ASF::Tag* tag) {
         if (key == "WM/IsCompilation" && !attributes.isEmpty())
             facts.compilation |= Values::numberOf(attributes.front().toString().to8Bit(true)) == 1;
         if (key == "FMPS/Rating" && !attributes.isEmpty())
-            addRating(facts, attributes.front().toString().to8Bit(true));
+            addPart(facts, attributes.front().toString().to8Bit(true));
     }
 }
 
@@ -136,7 +174,7 @@ void addOwn(SoundFacts& facts, const TagLib::MP4::Tag* tag) {
     if (tag == nullptr) return;
     for (const auto& [key, item] : tag->itemMap()) {
         if (key == "covr") facts.artworkCount += sizeOf(item.toCoverArtList().size());
-        if (endsWith(key, ":fmps_rating")) addRating(facts, item.toStringList().toString().to8Bit(true));
+        if (endsWith(key, ":fmps_rating")) addPart(facts, item.toStringList().toString().to8Bit(true));
     }
 }
 

@@ -22,6 +22,7 @@ FolderMemory sampleMemory() {
                              .soundHash = 10,
                              .entry = {11, 12}});
     memory.playlists.push_back({.path = "x.m3u", .size = 1, .modificationNanoseconds = 2});
+    memory.mounted.push_back({.path = "disk", .device = 13, .isLink = true});
     return memory;
 }
 
@@ -37,6 +38,7 @@ TEST(FolderMemory, ComesBackAsItWas) {
     EXPECT_EQ(memory->tracks, sampleMemory().tracks);
     ASSERT_EQ(memory->playlists.size(), 1U);
     EXPECT_EQ(memory->playlists[0].path, "x.m3u");
+    EXPECT_EQ(memory->mounted, sampleMemory().mounted);
 }
 
 TEST(FolderMemory, IsForgottenWhereItIsDamaged) {

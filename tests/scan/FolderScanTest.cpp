@@ -141,6 +141,15 @@ TEST_F(FolderScanTest, NeedsNoMemory) {
     EXPECT_EQ(scan().changed, 0U);
 }
 
+TEST_F(FolderScanTest, MakesALibraryAnewOfWhichALossOfPowerLeftNothing) {
+    writeTitled("a.mp3", "A");
+    scan();
+    fs::resize_file(place().library, 0);
+    fs::resize_file(place().memory, 0);
+    EXPECT_EQ(scan().added, 1U);
+    EXPECT_EQ(value("Name"), "A");
+}
+
 TEST_F(FolderScanTest, LeavesALibraryAloneThatAnotherHolds) {
     writeTitled("a.mp3", "A");
     scan();

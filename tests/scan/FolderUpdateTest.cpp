@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <regex>
 
 namespace songsweep::test {
 
@@ -209,6 +210,113 @@ TEST_F(FolderUpdateTest, LosesNoTrackWhenAnUpdateIsCancelled) {
     Texts before = ids;
     std::sort(before.begin(), before.end());
     EXPECT_EQ(after, before);
+}
+
+/// A second disk, seen through a link in the folder.
+class FolderOfTwoDisksTest : public FolderScanFixture {
+  protected:
+    void SetUp() override {
+        writeTitled("here.mp3", "Here");
+        writeTitled("moved/a.mp3", "A");
+        writeTitled("moved/b.mp3", "B");
+        if (!fs::exists("/dev/shm")) GTEST_SKIP() << "no second disk";
+        m_disk = fs::path("/dev/shm") / fs::path(m_folder.path()).filename();
+        fs::copy(path("moved"), m_disk, fs::copy_options::recursive);
+        fs::remove_all(path("moved"));
+        fs::create_directory_symlink(m_disk, path("disk"));
+        ASSERT_EQ(scan().tracks, 3U);
+        m_ids = values("Persistent ID");
+    }
+    void TearDown() override { fs::remove_all(m_disk); }
+
+    /// The link leads to a folder of this disk, as it does to the place of a disk that is not mounted.
+    void unmount() const {
+        fs::remove(path("disk"));
+        fs::create_directories(m_folder.path() + "/empty");
+        fs::create_directory_symlink(m_folder.path() + "/empty", path("disk"));
+    }
+    void mount() const {
+        fs::remove(path("disk"));
+        fs::create_directory_symlink(m_disk, path("disk"));
+    }
+    void expectTracksKept() {
+        for (int i = 0; i < 2; ++i) {
+            const ScanReport report = scan();
+            EXPECT_EQ(report.tracks, 3U);
+            EXPECT_EQ(report.vanished, 0U);
+            ASSERT_EQ(report.unread.size(), 1U);
+            EXPECT_EQ(report.unread[0].path, "disk");
+            EXPECT_EQ(report.unread[0].reason,
+                      "the disk that was here is not there now; 2 tracks of it stay in the library");
+        }
+        EXPECT_EQ(values("Persistent ID"), m_ids);
+    }
+
+    fs::path m_disk;
+    Texts m_ids;
+};
+
+TEST_F(FolderOfTwoDisksTest, KeepsTracksBehindALinkThatLeadsNowhere) {
+    fs::rename(m_disk, m_disk.string() + " away");
+    expectTracksKept();
+    fs::rename(m_disk.string() + " away", m_disk);
+    EXPECT_EQ(scan().added, 0U);
+}
+
+TEST_F(FolderOfTwoDisksTest, KeepsTracksOfADiskThatIsNotMounted) {
+    unmount();
+    expectTracksKept();
+    mount();
+    const ScanReport report = scan();
+    EXPECT_EQ(report.added + report.changed + report.vanished + report.unread.size(), 0U);
+}
+
+TEST_F(FolderOfTwoDisksTest, TakesOutWhatIsGoneFromADiskThatIsThere) {
+    fs::remove(m_disk / "a.mp3");
+    EXPECT_EQ(scan().vanished, 1U);
+    fs::remove(m_disk / "b.mp3");
+    EXPECT_EQ(scan().vanished, 1U);
+}
+
+TEST_F(FolderOfTwoDisksTest, TakesOutTheTracksBehindALinkThatIsRemoved) {
+    fs::remove(path("disk"));
+    EXPECT_EQ(scan().vanished, 2U);
+}
+
+TEST_F(FolderOfTwoDisksTest, TakesAFolderInTheDisksPlaceForIt) {
+    fs::remove(path("disk"));
+    fs::create_directory(path("disk"));
+    fs::copy(m_disk / "a.mp3", path("disk/a.mp3"));
+    EXPECT_EQ(scan().vanished, 0U);
+    EXPECT_EQ(scan().vanished, 1U);
+    EXPECT_EQ(scan().tracks, 2U);
+}
+
+TEST_F(FolderUpdateTest, GivesADeletedTrackWhoseFileStayedItsIdAndDateAgain) {
+    writeTitled("a.mp3", "A");
+    writeTitled("sub/b.mp3", "B");
+    scan();
+    fs::rename(path("sub/b.mp3"), path("c.mp3")); // whose ID is not that of its path then
+    scan();
+    const Texts ids = values("Persistent ID");
+    const std::regex added("(<key>Date Added</key><date>)[^<]*");
+    m_folder.write(fs::relative(place().library, m_folder.path()).string(),
+                   std::regex_replace(libraryBytes(), added, "$012001-02-03T04:05:06Z"));
+    scan();
+    writeTitled("new.mp3", "New"); // so that the memory knows the dates
+    scan();
+    const auto document = open();
+    for (const std::string& id : ids)
+        ASSERT_TRUE(document->remove(document->tracksWithPersistentId(id).front()));
+    ASSERT_TRUE(document->flush());
+    EXPECT_EQ(scan().added, 2U);
+    const Texts after = values("Persistent ID");
+    const Texts dates = values("Date Added");
+    for (const std::string& id : ids) {
+        const auto place = std::find(after.begin(), after.end(), id);
+        ASSERT_NE(place, after.end());
+        EXPECT_EQ(dates[static_cast<std::size_t>(place - after.begin())], "2001-02-03T04:05:06Z");
+    }
 }
 
 } // namespace

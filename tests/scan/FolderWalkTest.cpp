@@ -50,8 +50,9 @@ TEST_F(FolderWalkTest, FindsSoundAndPlaylistsByTheirEndings) {
 }
 
 TEST_F(FolderWalkTest, LeavesOutHiddenFilesAndTrashFolders) {
-    for (const char* const name : {".a.mp3", "._b.mp3", ".Trash-1000/files/c.mp3", "$RECYCLE.BIN/d.mp3",
-                                   "#recycle/e.mp3", "lost+found/f.mp3", "g.mp3"})
+    for (const char* const name :
+         {".a.mp3", "._b.mp3", ".Trash-1000/files/c.mp3", "$RECYCLE.BIN/d.mp3", "$Recycle.Bin/S-1/d.mp3",
+          "#recycle/e.mp3", "lost+found/f.mp3", "Network Trash Folder/h.mp3", "g.mp3"})
         write(name);
     EXPECT_EQ(tracks(), Paths{"g.mp3"});
 }

@@ -25,6 +25,14 @@ TEST(Rating, OfTextKnowsTheCommonScales) {
     EXPECT_EQ(ratingOfText("100"), 100);
 }
 
+TEST(Rating, OfAPartIsNeverAStar) {
+    EXPECT_EQ(ratingOfPart("1"), 100);
+    EXPECT_EQ(ratingOfPart("1.0"), 100);
+    EXPECT_EQ(ratingOfPart("0.35"), 35);
+    EXPECT_EQ(ratingOfPart("0"), 0);
+    EXPECT_EQ(ratingOfPart("4"), 0);
+}
+
 TEST(Rating, OfAnythingElseIsNone) {
     for (const char* const text : {"", "-1", "0", "four", "101", "1e99", "nan", "inf", "3 stars"})
         EXPECT_EQ(ratingOfText(text), 0) << text;
