@@ -96,7 +96,7 @@ Result<void> EmbeddedCleanup::end(const DeleteReport& report, RecordEnd::How how
 Cleanup::Traces EmbeddedCleanup::traces() {
     if (!m_hasBegun) return {};
     return m_scripts.withCleanup([](LibraryCleanup& cleanup) {
-        return Traces{cleanup.backup(), cleanup.record()};
+        return Traces{cleanup.backup(), cleanup.record(), cleanup.notes()};
     });
 }
 

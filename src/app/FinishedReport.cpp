@@ -53,6 +53,7 @@ DeleteReport finishedReport(const RecordedCleanup& cleanup) {
     DeleteReport report;
     report.backup = cleanup.heading.backup;
     report.record = cleanup.path;
+    report.notes = cleanup.notes;
     report.outcomes.reserve(cleanup.tracks.size());
     for (const RecordedCleanup::Track& track : cleanup.tracks)
         report.outcomes.push_back(outcomeOf(track));

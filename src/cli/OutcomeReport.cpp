@@ -41,6 +41,8 @@ void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
         const std::string line = outcomeLine(outcome, dryRun ? Tense::conditional : Tense::past);
         output.write((output.isTerminal() ? terminalLine(line) : line) + "\n");
     }
+    for (const std::string& note : report.notes)
+        output.write("Note: " + (output.isTerminal() ? terminalLine(note) : note) + "\n");
     output.write(summary(report, dryRun) + "\n");
     for (const auto& [title, path] :
          {std::pair("Backup: ", report.backup), std::pair("Record: ", report.record)})
@@ -68,6 +70,7 @@ void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
     whole["dryrun"] = dryRun;
     if (!report.backup.empty()) whole["backup"] = report.backup;
     if (!report.record.empty()) whole["record"] = report.record;
+    if (!report.notes.empty()) whole["notes"] = report.notes;
     whole["outcomes"] = nlohmann::ordered_json::array();
     for (const DeleteOutcome& outcome : report.outcomes) {
         whole["outcomes"].push_back(jsonOutcome(outcome));

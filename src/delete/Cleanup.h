@@ -31,8 +31,9 @@ class Cleanup {
 
     /// What stays of a clean-up, "" for none.
     struct Traces {
-        std::string backup; ///< path
-        std::string record; ///< path
+        std::string backup;             ///< path
+        std::string record;             ///< path
+        std::vector<std::string> notes; ///< sentences; what could not be done beside the tracks
     };
 
     Cleanup() = default;

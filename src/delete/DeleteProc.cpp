@@ -105,6 +105,7 @@ void DeleteProc::finish() {
         outcome.addReason(written ? "the library still has it" : "the library was not written");
     }
     m_fileDeletion.settle(m_report->outcomes, m_services.cleanup);
+    m_report->notes = m_services.cleanup.traces().notes;
     noteNotAttempted();
 }
 
@@ -202,6 +203,8 @@ void DeleteProc::postEnd() {
         {isCancelled() || hasFailed() ? EventName::deleteCancel : EventName::deleteFinish, m_report, this});
     for (const DeleteOutcome& outcome : m_report->outcomes)
         m_services.log.line(outcomeLine(outcome));
+    for (const std::string& note : m_report->notes)
+        m_services.log.line(note);
     if (!m_report->backup.empty()) m_services.log.line("Backup : " + m_report->backup);
     if (!m_report->record.empty()) m_services.log.line("Record : " + m_report->record);
 }

@@ -38,7 +38,8 @@ struct DeleteReport {
     std::string backup; ///< path of the library as it was; "" where there is none
     std::string record; ///< path of the record of this deletion; "" where there is none
     std::vector<DeleteOutcome> outcomes;
-    std::string notBegun;   ///< why no track was touched; "" where the deletion began
+    std::string notBegun;           ///< why no track was touched; "" where the deletion began
+    std::vector<std::string> notes; ///< sentences; what could not be done beside the tracks
     std::string notWritten; ///< why the deletion ended early, its last part undone; "" where it did not
 
     bool allDealtWith() const;

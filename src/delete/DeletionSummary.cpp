@@ -54,6 +54,8 @@ DeletionSummary summaryOf(const DeleteReport& report, std::optional<std::uint64_
     addSentence(summary.rest, count(report, File::missing), "file", "missing already");
     addSentence(summary.rest, count(report, Track::failed), "track", "could not be deleted");
     addSentence(summary.rest, count(report, Track::notAttempted), "track", "not attempted");
+    for (const std::string& note : report.notes)
+        summary.rest += (summary.rest.empty() ? "" : " ") + note + ".";
     return summary;
 }
 

@@ -2,6 +2,7 @@
 #include "hosts/LibraryCleanup.h"
 
 #include "hosts/EmbeddedLibrary.h"
+#include "scan/PlaylistRewriting.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -93,6 +94,7 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     m_firstUnwritten = 0;
     m_track = 0;
     m_hasActed = false;
+    m_notes.clear();
     m_error.reset();
     return {};
 }
@@ -198,7 +200,16 @@ Result<void> LibraryCleanup::finish() {
         settle(file, reasonToKeep(file));
     m_library.beginScript(); // What is told from here on is what the disk says, whatever a write said.
     static_cast<void>(m_library.document());
+    if (m_hasActed) rewritePlaylists();
     return written;
+}
+
+/// Last, as a line goes only with its file: a track whose file stays is found again by the next scan.
+void LibraryCleanup::rewritePlaylists() {
+    std::vector<std::string> paths;
+    for (std::size_t track = 0; track < m_plan.size(); ++track)
+        if (!m_plan[track].path.empty() && !hasTrack(track)) paths.push_back(m_plan[track].path);
+    m_notes = songsweep::rewritePlaylists(m_library.path(), paths, *m_record);
 }
 
 bool LibraryCleanup::hasTrack(std::size_t number) const {

@@ -73,6 +73,8 @@ class LibraryCleanup {
     /// Of this clean-up, or of the last one; "" where nothing is left of it.
     const std::string& backup() const { return m_backup; }
     const std::string& record() const { return m_recordPath; }
+    /// Sentences about what could not be done beside the tracks. After `finish`.
+    const std::vector<std::string>& notes() const { return m_notes; }
 
   private:
     using PlannedTracks = std::unordered_map<FileStamp, std::vector<std::size_t>, FileStampHash>;
@@ -82,6 +84,7 @@ class LibraryCleanup {
     void noteBackup(const LibraryDocument& library);
     void leaveNothing();
     Result<void> moveFiles(LibraryDocument& library);
+    void rewritePlaylists();
     void noteUsers();
     void noteWritten(LibraryDocument& library);
     void settle(const HeldFile& file, const Result<TrashedFile>& fate);
@@ -97,6 +100,7 @@ class LibraryCleanup {
     FileStamp m_version; ///< of the library that the backup is a copy of
     std::string m_recordPath;
     bool m_hasActed = false; ///< the library was to be written, or a file to be moved
+    std::vector<std::string> m_notes;
     std::vector<RecordedTrack> m_plan;
     PlannedTracks m_users; ///< of files, by these
     HeldFiles m_files;

@@ -191,6 +191,27 @@ void CleanupRecord::trashed(std::size_t track, const TrashedFile& place) {
     handOver();
 }
 
+Result<void> CleanupRecord::rewriting(const RecordedPlaylist& playlist) {
+    add(JsonLine()
+            .text("step", "playlist")
+            .text("path", playlist.path)
+            .number("hash", static_cast<std::int64_t>(playlist.hash))
+            .finished());
+    for (const RecordedPlaylist::Cut& cut : playlist.cuts) {
+        JsonLine line;
+        line.text("step", "cut").number("entry", static_cast<std::int64_t>(cut.entry));
+        line.number("at", static_cast<std::int64_t>(cut.at)).text("file", cut.file);
+        add(line.text("bytes", cut.bytes).text("before", cut.before).text("after", cut.after).finished());
+    }
+    return flush();
+}
+
+void CleanupRecord::rewritten(RecordedPlaylist::State state) {
+    const bool done = state == RecordedPlaylist::State::rewritten;
+    add(JsonLine().text("step", "rewritten").truth("done", done).finished());
+    handOver();
+}
+
 void CleanupRecord::outcome(std::size_t track, const RecordedOutcome& outcome) {
     JsonLine line;
     line.text("step", "outcome").number("track", static_cast<std::int64_t>(track));

@@ -23,6 +23,9 @@ namespace songsweep {
 ///     {"step":"backup",…}    the backup was made again, of this version
 ///     {"step":"trashing",…}  the files of these tracks are moved now
 ///     {"step":"trashed",…}   one file, and where it lies in the Trash
+///     {"step":"playlist",…}  a playlist file is about to be rewritten
+///     {"step":"cut",…}       without these bytes
+///     {"step":"rewritten",…} it was, or not
 ///     {"step":"outcome",…}   what became of one track
 ///     {"step":"end",…}
 ///
@@ -62,6 +65,11 @@ class CleanupRecord {
     Result<void> trashing(std::span<const std::size_t> tracks);
     /// A file lies in the Trash there, or came back from there. Handed to the system at once.
     void trashed(std::size_t track, const TrashedFile& place);
+
+    /// The playlist file is rewritten now. On the disk.
+    Result<void> rewriting(const RecordedPlaylist& playlist);
+    /// What became of the last one. Handed to the system at once.
+    void rewritten(RecordedPlaylist::State state);
 
     void outcome(std::size_t track, const RecordedOutcome& outcome);
 

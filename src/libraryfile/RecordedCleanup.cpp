@@ -26,6 +26,15 @@ RecordedTrack plannedTrack(const RecordLine& line) {
             line.text("path"),         line.text("kept"),          stampIn(line)};
 }
 
+RecordedPlaylist::Cut cutIn(const RecordLine& line) {
+    return {static_cast<std::size_t>(line.number("entry")),
+            static_cast<std::uint64_t>(line.number("at")),
+            line.text("file"),
+            line.text("bytes"),
+            line.text("before"),
+            line.text("after")};
+}
+
 /// Builds a clean-up from its lines.
 class Reader {
   public:
@@ -44,6 +53,9 @@ class Reader {
         if (step == "trashing") return takeBegun(line);
         if (step == "trashed") return takePlace(line);
         if (step == "outcome") return takeOutcome(line);
+        if (step == "playlist") takePlaylist(line);
+        if (step == "cut") return takeCut(line);
+        if (step == "rewritten") return takeRewritten(line);
         if (step == "end") m_cleanup.end = recordEndIn(line);
         return true;
     }
@@ -88,6 +100,24 @@ class Reader {
         RecordedCleanup::Track* track = trackOf(line);
         if (track != nullptr) track->outcome = recordedOutcomeIn(line);
         return track != nullptr && track->outcome;
+    }
+
+    void takePlaylist(const RecordLine& line) {
+        m_cleanup.playlists.push_back(
+            {line.text("path"), static_cast<std::uint64_t>(line.number("hash")), {}, {}});
+    }
+
+    bool takeCut(const RecordLine& line) {
+        if (m_cleanup.playlists.empty()) return false;
+        m_cleanup.playlists.back().cuts.push_back(cutIn(line));
+        return true;
+    }
+
+    bool takeRewritten(const RecordLine& line) {
+        if (m_cleanup.playlists.empty()) return false;
+        using State = RecordedPlaylist::State;
+        m_cleanup.playlists.back().state = line.truth("done") ? State::rewritten : State::failed;
+        return true;
     }
 
     RecordedCleanup m_cleanup;

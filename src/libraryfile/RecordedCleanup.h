@@ -2,6 +2,7 @@
 #pragma once
 
 #include "libraryfile/LibraryFile.h"
+#include "libraryfile/RecordedPlaylist.h"
 #include "platform/Trash.h"
 
 #include <cstdint>
@@ -79,9 +80,12 @@ struct RecordedCleanup {
     std::string path; ///< of the record
     RecordHeading heading;
     std::vector<Track> tracks;
-    bool isPlanned = false;      ///< the plan is whole; before that nothing was done
-    std::size_t writesBegun = 0; ///< of the library
+    std::vector<RecordedPlaylist> playlists; ///< files that were rewritten, in that order
+    bool isPlanned = false;                  ///< the plan is whole; before that nothing was done
+    std::size_t writesBegun = 0;             ///< of the library
     std::size_t writesDone = 0;
+    std::vector<std::string>
+        notes;                    ///< of one that was finished now: what could not be done beside its tracks
     std::optional<RecordEnd> end; ///< nothing where the program was killed
 
     /// Reads a record. A last line that was cut off is left out; anything else that is no record is an error

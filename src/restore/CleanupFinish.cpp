@@ -7,6 +7,7 @@
 #include "libraryfile/LibraryDocument.h"
 #include "libraryfile/LibraryTransaction.h"
 #include "restore/RemainingFiles.h"
+#include "scan/PlaylistRewriting.h"
 
 #include <algorithm>
 #include <utility>
@@ -42,6 +43,15 @@ void noteFoundPlaces(const RecordedCleanup& before, const RemainingFiles& remain
     for (std::size_t track = 0; track < before.tracks.size(); ++track)
         if (remaining.tracks[track].trash && !before.tracks[track].trash)
             record.trashed(track, *remaining.tracks[track].trash);
+}
+
+/// Of the tracks that the library names no more.
+std::vector<std::string> pathsOfGone(const RemainingFiles& remaining) {
+    std::vector<std::string> paths;
+    for (const RecordedCleanup::Track& track : remaining.tracks)
+        if (track.outcome && track.outcome->track == RecordedOutcome::Track::deleted)
+            paths.push_back(track.plan.path);
+    return paths;
 }
 
 } // namespace
@@ -85,6 +95,7 @@ Result<RecordedCleanup> CleanupFinish::carryOut(const RestoreTask& task) const {
     noteFoundPlaces(cleanup.value(), remaining.value(), record.value());
     const Result<bool> all = moveFiles(remaining.value(), record.value(), task);
     if (!all) return all.error();
+    cleanup.value().notes = rewritePlaylists(m_library, pathsOfGone(remaining.value()), record.value());
     if (all.value())
         if (auto ended = writeEnd(cleanup.value(), remaining.value(), record.value()); !ended)
             return ended.error();

@@ -96,7 +96,9 @@ RestoreReport CleanupRestore::withLeftOut(RestoreReport report) const {
 Result<RestoreReport> CleanupRestore::foresee() const {
     const auto outcome = LibraryRestore::foresee(m_library, wantedOf(m_cleanup));
     if (!outcome) return outcome.error();
-    return withLeftOut(reportFor(m_cleanup, outcome.value(), lookForFiles(m_cleanup, m_trash)));
+    RestoreReport report = reportFor(m_cleanup, outcome.value(), lookForFiles(m_cleanup, m_trash));
+    report.setPlaylists(PlaylistRestoring(m_cleanup.playlists, report.filesThere()).foresee());
+    return withLeftOut(std::move(report));
 }
 
 Result<RestoreReport> CleanupRestore::carryOut(const RestoreTask& task) const {
@@ -108,7 +110,7 @@ Result<RestoreReport> CleanupRestore::carryOut(const RestoreTask& task) const {
         removeBackup(restore.value());
         return record.error();
     }
-    RestoreRun run(restore.value(), record.value(), m_trash,
+    RestoreRun run(restore.value(), record.value(), m_trash, m_cleanup.playlists,
                    reportFor(m_cleanup, restore.value().expected(), files));
     if (const Result<void> planned = run.plan(); !planned) {
         record.value().discard();

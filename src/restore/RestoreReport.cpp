@@ -28,7 +28,7 @@ void RestoredTrack::setFile(File newFile, const std::string& newReason) {
     if (!newReason.empty()) reason += (reason.empty() ? "" : "; ") + newReason;
 }
 
-bool RestoreReport::hasWork() const { return entries() > 0 || files() > 0; }
+bool RestoreReport::hasWork() const { return entries() > 0 || files() > 0 || playlists > 0; }
 
 std::size_t RestoreReport::entries() const {
     return static_cast<std::size_t>(
@@ -71,6 +71,19 @@ void RestoreReport::setFiles(const std::vector<FileReturn>& files, File coming) 
         if (fate == FileReturn::Fate::isGone) tracks[i].setFileGone();
         if (fate == FileReturn::Fate::isOccupied) tracks[i].setFileOccupied();
     }
+}
+
+/// A second track of one file has no fate of its own.
+std::unordered_set<std::string> RestoreReport::filesThere() const {
+    std::unordered_set<std::string> paths;
+    for (const RestoredTrack& track : tracks)
+        if (track.file == File::putBack || track.file == File::isThere) paths.insert(track.plan.path);
+    return paths;
+}
+
+void RestoreReport::setPlaylists(const PlaylistRestoring::Outcome& outcome) {
+    playlists = outcome.files;
+    notes.insert(notes.end(), outcome.notes.begin(), outcome.notes.end());
 }
 
 } // namespace songsweep

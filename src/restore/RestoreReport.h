@@ -3,9 +3,11 @@
 
 #include "libraryfile/LibraryRestore.h"
 #include "restore/FileReturn.h"
+#include "scan/PlaylistRestoring.h"
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace songsweep {
@@ -37,6 +39,7 @@ struct RestoreReport {
     End end = End::complete;
     std::string problem; ///< why it failed
     std::vector<RestoredTrack> tracks;
+    std::size_t playlists = 0;      ///< playlist files that get their lines back, or did
     std::vector<std::string> notes; ///< what does not go back as it was
     std::string backup;             ///< path of the library as it was before, "" where nothing was done
     std::string record;             ///< path of what was written down of it, ""
@@ -48,10 +51,15 @@ struct RestoreReport {
     std::size_t files() const;       ///< the same of files
     std::uint64_t fileBytes() const; ///< of those files
 
+    /// Paths that their files have again, or will have.
+    std::unordered_set<std::string> filesThere() const;
+
     /// What a restore of the library says of the entries.
     void setEntries(const LibraryRestore::Outcome& outcome);
     /// What a look says of the files; `coming` is said of those that can come back.
     void setFiles(const std::vector<FileReturn>& files, RestoredTrack::File coming);
+    /// What came of the playlist files, or would.
+    void setPlaylists(const PlaylistRestoring::Outcome& outcome);
 };
 
 } // namespace songsweep

@@ -46,10 +46,12 @@ void setBack(std::vector<RestoredTrack>& tracks) {
 
 } // namespace
 
-RestoreRun::RestoreRun(LibraryRestore& restore, CleanupRecord& record, Trash& trash, RestoreReport report)
+RestoreRun::RestoreRun(LibraryRestore& restore, CleanupRecord& record, Trash& trash,
+                       const std::vector<RecordedPlaylist>& playlists, RestoreReport report)
     : m_restore(restore)
     , m_record(record)
     , m_trash(trash)
+    , m_playlists(playlists)
     , m_report(std::move(report)) {
     m_report.backup = restore.backup();
     m_report.record = record.path();
@@ -66,6 +68,7 @@ RestoreReport RestoreRun::carryOut(const std::vector<FileReturn>& files, const R
     if (task.isCancelled()) return leaveNothing();
     if (writeEntries()) moveFiles(files, task);
     forgetMoved(files);
+    m_report.setPlaylists(PlaylistRestoring(m_playlists, m_report.filesThere()).carryOut());
     writeOutcomes();
     return std::move(m_report);
 }

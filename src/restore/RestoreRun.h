@@ -11,10 +11,12 @@
 
 namespace songsweep {
 
-/// The steps of one restore that has begun, each written down before it is done: entries, files, outcomes.
+/// The steps of one restore that has begun: entries and files, each written down before it is done, then
+/// playlist files, which the record of the deletion has, and outcomes.
 class RestoreRun {
   public:
-    RestoreRun(LibraryRestore& restore, CleanupRecord& record, Trash& trash, RestoreReport report);
+    RestoreRun(LibraryRestore& restore, CleanupRecord& record, Trash& trash,
+               const std::vector<RecordedPlaylist>& playlists, RestoreReport report);
 
     /// Writes down what is planned; nothing is done after an error.
     Result<void> plan();
@@ -33,6 +35,7 @@ class RestoreRun {
     LibraryRestore& m_restore;
     CleanupRecord& m_record;
     Trash& m_trash;
+    const std::vector<RecordedPlaylist>& m_playlists;
     RestoreReport m_report;
 };
 

@@ -5,7 +5,9 @@
 #include "platform/NameForms.h"
 #include "scan/CleanText.h"
 #include "scan/Hash64.h"
-#include "scan/PlaylistFile.h"
+#include "scan/PlaylistContents.h"
+#include "scan/PlaylistEntries.h"
+#include "scan/PlaylistMeanings.h"
 
 #include <algorithm>
 #include <optional>
@@ -14,8 +16,6 @@
 namespace songsweep {
 
 namespace {
-
-constexpr std::uint64_t largestPlaylist = std::uint64_t{64} << 20;
 
 /// Track IDs by path, whichever Unicode form the accents of a path have.
 class TracksByPath {
@@ -26,22 +26,19 @@ class TracksByPath {
             m_trackIds.emplace(composedForm(track.path), track.trackId);
     }
 
-    std::optional<std::int64_t> find(const std::string& path) const {
-        const auto found = m_trackIds.find(composedForm(path));
-        return found == m_trackIds.end() ? std::nullopt : std::optional(found->second);
+    /// The first that the entry may mean.
+    std::optional<std::int64_t> find(const PlaylistEntry& entry, const std::string& playlist,
+                                     const std::string& folder) const {
+        for (const std::string& name : entry.names)
+            for (const std::string& path : meaningsOf(name, playlist, folder))
+                if (const auto found = m_trackIds.find(composedForm(path)); found != m_trackIds.end())
+                    return found->second;
+        return {};
     }
 
   private:
     std::unordered_map<std::string, std::int64_t> m_trackIds;
 };
-
-Result<std::string> bytesOf(const std::string& path) {
-    const Result<LibraryFile> file = LibraryFile::open(path);
-    if (!file) return file.error();
-    const std::uint64_t size = file.value().stamp().size;
-    if (size > largestPlaylist) return Error{Error::Code::invalid, path + " is too large for a playlist"};
-    return file.value().read({0, size});
-}
 
 /// The playlist of a file is called as the file is, without its ending.
 FolderPlaylist namedAfter(const std::string& path) {
@@ -58,20 +55,17 @@ std::vector<FolderPlaylist> folderPlaylists(const std::string& folder, const std
     const TracksByPath byPath(tracks);
     std::vector<FolderPlaylist> playlists;
     for (const FoundFile& file : files) {
-        const Result<std::string> bytes = bytesOf(folder + "/" + file.path);
-        if (!bytes) {
-            if (bytes.error().code != Error::Code::notFound)
-                unread.push_back({file.path, bytes.error().message});
+        const Result<PlaylistContents> contents = PlaylistContents::read(folder + "/" + file.path);
+        if (!contents) {
+            if (contents.error().code != Error::Code::notFound)
+                unread.push_back({file.path, contents.error().message});
             continue;
         }
         FolderPlaylist playlist = namedAfter(file.path);
         const PlaylistFormat format = playlistFormatOf(file.path).value_or(PlaylistFormat::m3u);
-        for (const std::string& name : namesInPlaylist(bytes.value(), format))
-            for (const std::string& path : meaningsOf(name, file.path, folder))
-                if (const auto trackId = byPath.find(path)) {
-                    playlist.trackIds.push_back(*trackId);
-                    break;
-                }
+        for (const PlaylistEntry& entry : entriesOfPlaylist(contents.value().bytes(), format))
+            if (const auto trackId = byPath.find(entry, file.path, folder))
+                playlist.trackIds.push_back(*trackId);
         playlists.push_back(std::move(playlist));
     }
     return playlists;

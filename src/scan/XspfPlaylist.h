@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
+#include "scan/PlaylistEntries.h"
+
 #include <string_view>
 #include <vector>
 
 namespace songsweep {
 
-/// The locations of the tracks of an XSPF file, as they stand there, up to the place where it is no longer
-/// well-formed. Entities that a file declares itself are not replaced. Linear, thread-safe.
-std::vector<std::string> namesInXspf(std::string_view bytes);
+/// The tracks of an XSPF file that have a location, up to the place where it is no longer well-formed.
+/// Entities that a file declares itself are not replaced. Linear, thread-safe.
+std::vector<PlaylistEntry> entriesOfXspf(std::string_view bytes);
+
+/// Whether the file is well-formed to its end.
+bool isWholeXspf(std::string_view bytes);
 
 } // namespace songsweep

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Utf8.h"
 #include "sample-library/SoundSample.h"
-#include "scan/PlaylistFile.h"
+#include "scan/PlaylistEntries.h"
+#include "scan/PlaylistMeanings.h"
 #include "scan/SoundFile.h"
 #include "support/TemporaryFolder.h"
 
@@ -104,8 +105,8 @@ TEST(HostilePlaylist, GivesAListWhateverItsBytes) {
         for (std::size_t size = random() % 300; size > 0; --size)
             bytes += alphabet[random() % alphabet.size()];
         for (const PlaylistFormat format : {PlaylistFormat::m3u, PlaylistFormat::pls, PlaylistFormat::xspf})
-            for (const std::string& name : namesInPlaylist(bytes, format))
-                for (const std::string& path : meaningsOf(name, "lists/a.m3u", "/music"))
+            for (const PlaylistEntry& entry : entriesOfPlaylist(bytes, format))
+                for (const std::string& path : meaningsOf(entry.names.front(), "lists/a.m3u", "/music"))
                     EXPECT_FALSE(path.starts_with("../"));
     }
 }
