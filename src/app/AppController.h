@@ -107,6 +107,9 @@ class AppController {
     void restoreOkButtonClick();
     void restoreCancelButtonClick() { m_restoring.restoreCancelButtonClick(); }
     void noticeActionClick(NoticeAction action) { m_notices.noticeActionClick(action); }
+    void tellUnreadFiles(const std::string& title, std::vector<std::string> lines) {
+        m_notices.tellUnreadFiles(title, std::move(lines));
+    }
     void noticeCloseButtonClick() { m_notices.close(); }
 
     // What views and commands look at.

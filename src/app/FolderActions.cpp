@@ -13,9 +13,10 @@
 
 namespace songsweep {
 
-FolderActions::FolderActions(Windows& windows, Log& log)
+FolderActions::FolderActions(Windows& windows, Log& log, TellUnread tellUnread)
     : m_windows(windows)
     , m_log(log)
+    , m_tellUnread(std::move(tellUnread))
     , m_sheet(&windows.mainWindow())
     , m_queue(m_center, log) {
     m_center.setObserver([this](const FolderScanEvent& event) { handle(event); });
@@ -57,6 +58,17 @@ void FolderActions::handle(const FolderScanEvent& event) {
     if (m_sheet.isVisible()) m_sheet.endProgress();
     const Outcome outcome = outcomeOf(*event.result);
     std::exchange(m_then, {})(outcome);
+    // What follows has begun, which takes away what was told before.
+    if (outcome == Outcome::read) tellUnread(event.result->value().unread);
+}
+
+void FolderActions::tellUnread(const std::vector<UnreadPath>& unread) {
+    if (unread.empty()) return;
+    std::vector<std::string> lines;
+    lines.reserve(unread.size());
+    for (const UnreadPath& each : unread)
+        lines.push_back(each.path + ": " + each.reason);
+    m_tellUnread(unreadFilesText(unread.size()), std::move(lines));
 }
 
 void FolderActions::showProgress(const FolderScanEvent& event) {

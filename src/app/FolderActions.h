@@ -25,8 +25,10 @@ class FolderActions {
   public:
     /// What came of reading a folder.
     enum class Outcome { read, empty, cancelled, failed };
+    /// Tells of files that could not be read: how many, and a line for each.
+    using TellUnread = std::function<void(const std::string& title, std::vector<std::string> lines)>;
 
-    FolderActions(Windows& windows, Log& log);
+    FolderActions(Windows& windows, Log& log, TellUnread tellUnread);
 
     bool isReading() const { return static_cast<bool>(m_then); }
 
@@ -45,10 +47,12 @@ class FolderActions {
     void read(const FolderLibrary& place, std::function<void(Outcome)> then);
     void handle(const FolderScanEvent& event);
     void showProgress(const FolderScanEvent& event);
+    void tellUnread(const std::vector<UnreadPath>& unread);
     Outcome outcomeOf(const Result<ScanReport>& result);
 
     Windows& m_windows;
     Log& m_log;
+    TellUnread m_tellUnread;
     ProgressSheet m_sheet;
     std::optional<FolderLibrary> m_present; ///< the folder whose library is the present one
     std::function<void(Outcome)> m_then;    ///< not set while nothing is read

@@ -69,6 +69,15 @@ void Notices::tellInterruption(const InterruptedCleanup& found) {
     show({title, rest, title + ". " + rest, true, {}});
 }
 
+void Notices::tellUnreadFiles(const std::string& title, std::vector<std::string> lines) {
+    m_details = std::move(lines);
+    m_trashedFile.clear();
+    m_backup.clear();
+    m_record.clear();
+    m_unfinished.clear();
+    show({title, "", title, true, {}});
+}
+
 void Notices::tellFinishing() {
     m_view.showNotice({"Finishing the deletion", "", "Finishing the deletion", false, {}});
 }

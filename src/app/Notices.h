@@ -39,6 +39,8 @@ class Notices {
     void tellDeletion(const DeleteReport& report);
     void tellRestore(const RestoreAnswer& answer);
     void tellInterruption(const InterruptedCleanup& found);
+    /// Files of a folder that could not be read, a line each.
+    void tellUnreadFiles(const std::string& title, std::vector<std::string> lines);
     /// An interrupted deletion is being finished, and then: what came of it.
     void tellFinishing();
     void tellFinished(const std::shared_ptr<FinishAnswer>& answer);

@@ -3,7 +3,6 @@
 
 #include "app/AppController.h"
 #include "app/Windows.h"
-#include "platform/UsualLibraries.h"
 #include "scan/FolderLibrary.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
@@ -19,7 +18,9 @@ WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLi
     : m_windows(windows)
     , m_controller(controller)
     , m_openLibrary(std::move(openLibrary))
-    , m_folder(windows, log) {
+    , m_folder(windows, log, [&controller](const std::string& title, std::vector<std::string> lines) {
+        controller.tellUnreadFiles(title, std::move(lines));
+    }) {
     connectToolbarAndMenus();
     connectLinks();
     connectTable();
@@ -195,7 +196,7 @@ void WindowActions::chooseLibrary(const std::string& path) {
 /// A folder that has a library stands for that; of any other its music is the library.
 void WindowActions::openLibrary(const std::string& path) {
     if (!m_controller.mayOpenLibrary() || m_folder.isReading()) return; // what was asked for meanwhile
-    if (isFolder(path) && usualLibraries(path).empty()) {
+    if (isFolderOfMusic(path)) {
         openFolder(path);
     } else {
         openFile(path);

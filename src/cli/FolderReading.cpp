@@ -3,6 +3,7 @@
 
 #include "cli/Commands.h"
 #include "platform/DataFolder.h"
+#include "platform/UsualLibraries.h"
 #include "scan/ScanProgress.h"
 
 #include <unistd.h>
@@ -43,6 +44,14 @@ class ReadingLine {
     Clock::time_point m_drawn = m_begun;
 };
 
+/// On standard error as a count, and each for the reports.
+void noteUnread(const std::vector<UnreadPath>& unread, const std::string& folder, LibraryOptions& options) {
+    if (unread.empty()) return;
+    tell(options.library + ": " + unreadFilesText(unread.size()) + "; --verbose tells which, and why");
+    for (const UnreadPath& path : unread)
+        options.unread.push_back(folder + "/" + path.path + ": " + path.reason);
+}
+
 } // namespace
 
 Result<ScanReport> readFolder(const FolderLibrary& place, Log& log,
@@ -60,6 +69,7 @@ Result<ScanReport> readFolder(const FolderLibrary& place, Log& log,
 
 Result<std::string> libraryFileOf(const std::string& path) {
     if (!isFolder(path)) return path;
+    if (!isFolderOfMusic(path)) return usualLibraries(path).front();
     const Result<FolderLibrary> place = FolderLibrary::of(path, dataFolder());
     if (!place) return place.error();
     return place.value().library;
@@ -67,7 +77,10 @@ Result<std::string> libraryFileOf(const std::string& path) {
 
 std::optional<ExitCode> turnToFolderLibrary(LibraryOptions& options, Log& log,
                                             const std::function<bool()>& isCancelled) {
-    if (!isFolder(options.library)) return {};
+    if (!isFolderOfMusic(options.library)) {
+        if (isFolder(options.library)) options.library = usualLibraries(options.library).front();
+        return {};
+    }
     const Result<FolderLibrary> place = FolderLibrary::of(options.library, dataFolder());
     if (!place) return fail(place.error().message);
     const Result<ScanReport> report = readFolder(place.value(), log, isCancelled);
@@ -76,9 +89,7 @@ std::optional<ExitCode> turnToFolderLibrary(LibraryOptions& options, Log& log,
     if (report && report.value().tracks == 0)
         return fail(options.library + ": there is no music in this folder");
     if (!report) tell(report.error().message + "; its library is taken as it is");
-    if (report && !report.value().unread.empty())
-        tell(options.library + ": " + unreadFilesText(report.value().unread.size()) +
-             "; --verbose tells which, and why");
+    if (report) noteUnread(report.value().unread, place.value().folder, options);
     options.library = place.value().library;
     return {};
 }

@@ -15,12 +15,14 @@ namespace songsweep::cli {
 /// for each file that could not be read.
 Result<ScanReport> readFolder(const FolderLibrary& place, Log& log, const std::function<bool()>& isCancelled);
 
-/// The library file that a path names: that of the folder where it is one, which is not brought up to date.
+/// The library file that a path names: of a folder that holds an iTunes library, that one, and of a folder of
+/// music its own, which is not brought up to date.
 Result<std::string> libraryFileOf(const std::string& path);
 
-/// Where the options name a folder of music, brings its library up to date and lets them name that. The exit
-/// code of what went wrong, told on standard error; nothing on success. A library that another program holds
-/// is taken as it is, which is told, too.
+/// Where the options name a folder, lets them name its library: the iTunes library that it holds, or its own,
+/// brought up to date. The exit code of what went wrong, told on standard error; nothing on success. A
+/// library that another program holds is taken as it is, which is told, too, and so are files that could not
+/// be read.
 std::optional<ExitCode> turnToFolderLibrary(LibraryOptions& options, Log& log,
                                             const std::function<bool()>& isCancelled);
 

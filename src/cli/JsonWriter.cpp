@@ -84,6 +84,7 @@ void writeJson(Output& output, const SearchReport& report) {
     output.write("{\n  \"tracks\": " + std::to_string(report.tracks) + ",\n  \"listed\": " +
                  std::to_string(report.listed) + ",\n  \"songs\": " + std::to_string(report.rows.size()));
     if (!report.notes.empty()) output.write(",\n  \"notes\": " + dump(report.notes));
+    if (!report.unread.empty()) output.write(",\n  \"unread\": " + dump(report.unread));
     output.write(",\n  \"groups\": [");
     for (const RowGroup group : groupsOf(report.rows)) {
         output.write(group.first == 0 ? "\n" : ",\n");

@@ -12,6 +12,7 @@
 #include "library/Trim.h"
 #include "platform/Native.h"
 #include "restore/InterruptedCleanup.h"
+#include "scan/ScanProgress.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -184,11 +185,19 @@ void LibrarySession::endDeletionAtOnce() {
     if (!written) fail(withPath(written.error().message));
 }
 
+/// Those of the search, and that a folder has files that could not be read.
+std::vector<std::string> LibrarySession::notes() const {
+    std::vector<std::string> all = m_controller->searchVerdict().notes;
+    if (!m_options.unread.empty()) all.push_back(unreadFilesText(m_options.unread.size()));
+    return all;
+}
+
 SearchReport LibrarySession::report() {
     const std::vector<TrackRecord*>& rows = m_controller->tableDataSource().rows;
     return {.tracks = m_trackCount,
             .listed = m_controller->listedCount(),
-            .notes = m_controller->searchVerdict().notes,
+            .notes = notes(),
+            .unread = m_options.unread,
             .rows = rows,
             .differences = m_options.parameters.issimilar ? smallDifferencesOf(rows, m_options.parameters)
                                                           : std::vector<std::vector<std::string>>()};

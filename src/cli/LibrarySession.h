@@ -55,6 +55,7 @@ class LibrarySession {
     ExitCode searchedCode() const;
 
   private:
+    std::vector<std::string> notes() const;
     void warnOfInterruption();
     std::optional<std::string> openLog();
     std::optional<std::string> prepare();

@@ -58,7 +58,7 @@ void checkMarkOptions(const MarkOptions& options) {
 void checkDeleteOptions(const DeleteOptions& options) {
     if (!options.dryRun && !options.yes)
         throw CLI::ValidationError("delete needs --dry-run, to see what would happen, or --yes");
-    if (!options.files && isFolder(options.library))
+    if (!options.files && isFolderOfMusic(options.library))
         throw CLI::ValidationError("delete needs --files here: a track of a folder is its file, and goes to "
                                    "the Trash with it");
 }

@@ -19,7 +19,8 @@ enum class OutputFormat { text, json, csv };
 /// Which library, and how it is looked at: the options that every command and the window know.
 struct LibraryOptions {
     std::string library; ///< path of the library file or of a folder of music; empty where none was given
-    PathMap map;         ///< where the files of another machine are here
+    std::vector<std::string> unread;    ///< of a folder: a line for each file of it that could not be read
+    PathMap map;                        ///< where the files of another machine are here
     std::vector<MapRule> mapRules;      ///< the same as it was given, to tell a rule that is of no use
     std::string iTunesVersion = "12.0"; ///< what the embedded iTunes says it is
     std::string log;                    ///< path of a log file; empty for none

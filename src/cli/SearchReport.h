@@ -17,9 +17,10 @@ class Output;
 
 /// What a search found, for the writers. The rows outlive it.
 struct SearchReport {
-    int tracks = 0;                      ///< entries of the library file
-    int listed = 0;                      ///< records after processing
-    std::vector<std::string> notes = {}; ///< what was not searched, and why
+    int tracks = 0;                       ///< entries of the library file
+    int listed = 0;                       ///< records after processing
+    std::vector<std::string> notes = {};  ///< what was not searched, and why
+    std::vector<std::string> unread = {}; ///< a line for each file of a folder that could not be read
     const std::vector<TrackRecord*>& rows;
     /// Why the rule marks a row; not set where no rule was asked for.
     std::function<std::string(int row)> reason = {};

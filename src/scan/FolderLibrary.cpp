@@ -6,6 +6,7 @@
 #include "libraryfile/LibraryFile.h"
 #include "platform/LocalName.h"
 #include "platform/SystemError.h"
+#include "platform/UsualLibraries.h"
 #include "platform/Utf8.h"
 #include "scan/Hash64.h"
 
@@ -42,6 +43,8 @@ bool isFolder(const std::string& path) {
     std::error_code error;
     return std::filesystem::is_directory(path, error);
 }
+
+bool isFolderOfMusic(const std::string& path) { return isFolder(path) && usualLibraries(path).empty(); }
 
 Result<FolderLibrary> FolderLibrary::of(const std::string& folder, const std::string& dataFolder) {
     std::error_code error;

@@ -27,4 +27,8 @@ struct FolderLibrary {
 /// Whether the path is that of a folder, links followed.
 bool isFolder(const std::string& path);
 
+/// Whether it is that of a folder whose music is the library: one that holds an iTunes library stands for
+/// that.
+bool isFolderOfMusic(const std::string& path);
+
 } // namespace songsweep

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ProgramRun.h"
-#include "sample-library/SoundSample.h"
+#include "FolderFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,47 +12,13 @@ namespace {
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-using sample::SoundKind;
-using sample::SoundSample;
 using test::RunResult;
 
 using ::testing::HasSubstr;
 
 using ::testing::StartsWith;
 
-/// A folder with one song twice, in two formats and bit rates, and another song.
-class Folder : public test::ProgramTest {
-  protected:
-    Folder() {
-        write("a/Song.mp3", {.kilobits = 128, .tags = song("Song")});
-        write("b/Song.m4a", {.kind = SoundKind::aac, .kilobits = 256, .tags = song("Song")});
-        write("Other.flac", {.kind = SoundKind::flac, .tags = song("Other")});
-    }
-
-    static std::map<std::string, std::string> song(const std::string& title) {
-        return {{"TITLE", title}, {"ARTIST", "Artist"}};
-    }
-    void write(const std::string& name, const SoundSample& sample) {
-        fs::create_directories(fs::path(music(name)).parent_path());
-        ASSERT_TRUE(sample::writeSound(music(name), sample));
-    }
-    std::string music(const std::string& name = {}) const { return path("Music/" + name); }
-    std::string library() const {
-        for (const auto& entry : fs::directory_iterator(path("home/data/songsweep")))
-            if (entry.path().extension() == ".xml" &&
-                entry.path().string().find("before") == std::string::npos)
-                return entry.path();
-        return {};
-    }
-    RunResult find() {
-        return run({"find", "--library", music(), "--same", "name,artist", "--format", "json"});
-    }
-    RunResult deleteTracks(std::vector<std::string> options) {
-        options.insert(options.begin(), {"delete", "--library", music(), "--same", "name,artist", "--rule",
-                                         "highest-bitrate"});
-        return run(options);
-    }
-};
+class Folder : public test::FolderFixture {};
 
 TEST_F(Folder, BecomesALibrary) {
     const RunResult first = run({"scan", music()});
@@ -93,6 +58,26 @@ TEST_F(Folder, SaysWhatIsWrong) {
     EXPECT_EQ(m_folder.read(fs::relative(library(), m_folder.path()).string()), before);
 }
 
+TEST_F(Folder, TellsInJsonWhatCouldNotBeRead) {
+    m_folder.write("Music/broken.mp3", "no sound");
+    const json found = json::parse(find().output);
+    EXPECT_EQ(found.at("notes"), json({"1 file could not be read"}));
+    ASSERT_EQ(found.at("unread").size(), 1U);
+    EXPECT_THAT(std::string(found.at("unread")[0]), HasSubstr("/Music/broken.mp3: no sound was found in"));
+}
+
+TEST_F(Folder, StandsForTheITunesLibraryThatItHolds) {
+    ASSERT_EQ(run({"scan", music(), "--output", path("mine.xml")}).exitCode, 0);
+    fs::create_directories(music("iTunes"));
+    fs::rename(path("mine.xml"), music("iTunes/iTunes Library.xml"));
+    write("c/Other.ogg", {.kind = SoundKind::vorbis, .tags = song("Other")});
+    EXPECT_EQ(json::parse(find().output).at("groups").size(), 1U) << "the folder itself has two";
+    EXPECT_EQ(deleteTracks({"--yes"}).exitCode, 0) << "files may stay";
+    EXPECT_TRUE(fs::exists(music("a/Song.mp3")));
+    EXPECT_EQ(run({"restore", "--library", music(), "--yes"}).exitCode, 0);
+    EXPECT_EQ(json::parse(find().output).at("groups").size(), 1U);
+}
+
 TEST_F(Folder, IsSearchedAsItIsNow) {
     EXPECT_EQ(json::parse(find().output).at("groups").size(), 1U);
     write("c/Other.ogg", {.kind = SoundKind::vorbis, .tags = song("Other")});
@@ -123,6 +108,27 @@ TEST_F(Folder, IsRestoredAsItWas) {
     EXPECT_TRUE(fs::exists(music("a/Song.mp3")));
     EXPECT_EQ(m_folder.read(fs::relative(library(), m_folder.path()).string()), before);
     EXPECT_EQ(json::parse(find().output).at("groups").size(), 1U);
+}
+
+TEST_F(Folder, LosesAndRegainsFilesOfEveryFormat) {
+    std::map<std::string, std::string> bytes;
+    for (int kind = 0; kind < sample::soundKinds; ++kind) {
+        const auto sound = static_cast<SoundKind>(kind);
+        const std::string title = "Format " + std::to_string(kind);
+        const std::string name = "goes/" + title + "." + std::string(sample::endingOf(sound));
+        write(name, {.kind = sound, .tags = song(title), .pictures = 1});
+        write("stays/" + title + ".mp3", {.tags = song(title)});
+        bytes[name] = m_folder.read("Music/" + name);
+    }
+    const RunResult result = run({"delete", "--library", music(), "--same", "name,artist", "--rule", "folder",
+                                  "--folder", music("goes"), "--files", "--yes"});
+    EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
+    for (const auto& [name, contents] : bytes)
+        EXPECT_FALSE(fs::exists(music(name))) << name;
+    EXPECT_EQ(run({"restore", "--library", music(), "--yes"}).exitCode, 0);
+    for (const auto& [name, contents] : bytes)
+        EXPECT_EQ(m_folder.read("Music/" + name), contents) << name;
+    EXPECT_EQ(json::parse(find().output).at("groups").size(), 1U + bytes.size());
 }
 
 TEST_F(Folder, KeepsItsIdsOverADeletionAScanAndARestore) {
