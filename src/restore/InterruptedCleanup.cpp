@@ -46,7 +46,7 @@ std::optional<std::size_t> filesToTrash(const CleanupSummary& cleanup, const std
 std::string InterruptedCleanup::whatCanBePutBack() const {
     std::string text = tracks > 0 ? counted(tracks, "track") : std::string();
     if (files > 0) text += (text.empty() ? "" : " and ") + counted(files, "file");
-    return text;
+    return text.empty() ? counted(playlists, "playlist file") : text;
 }
 
 std::string InterruptedCleanup::whatFinishingDoes() const {
@@ -72,6 +72,7 @@ std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& libr
                               .backup = cleanup->heading.backup,
                               .tracks = report.value().entries(),
                               .files = report.value().files(),
+                              .playlists = report.value().playlists,
                               .filesToTrash = filesToTrash(*cleanup, library, files, trash)};
 }
 

@@ -21,10 +21,11 @@ struct InterruptedCleanup {
     std::string backup; ///< path of the library as it was before the deletion
     std::size_t tracks = 0;
     std::size_t files = 0;
+    std::size_t playlists = 0; ///< files that get lines back
     /// Files that go to the Trash if it is finished instead; nothing where that is the same as putting back.
     std::optional<std::size_t> filesToTrash;
 
-    /// "3 tracks and 2 files", "1 track".
+    /// "3 tracks and 2 files", "1 track"; playlist files where they alone are left.
     std::string whatCanBePutBack() const;
     /// "2 files go to the Trash", "no file is left to go to the Trash".
     std::string whatFinishingDoes() const;

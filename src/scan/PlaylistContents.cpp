@@ -28,7 +28,7 @@ Result<PlaylistContents> PlaylistContents::read(const std::string& path) {
 
 Result<void> PlaylistContents::replace(std::string_view bytes) const {
     const std::string path = canonicalPath(m_file.path());
-    if (const Result<void> removed = removeLeftovers(path); !removed) return removed;
+    if (Result<void> removed = removeLeftovers(path); !removed) return removed;
     LibraryReplacement replacement(path);
     Result<TemporaryFile> version = replacement.write(m_file, {FilePiece{nullptr, {}, std::string(bytes)}});
     if (!version) return version.error();

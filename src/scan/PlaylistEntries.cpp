@@ -65,7 +65,8 @@ struct PlsLine {
         const std::size_t equals = std::min(line.find('='), line.size());
         const std::string_view name = withoutBlanks(line.substr(0, equals));
         const std::size_t digits = std::min(name.find_first_of("0123456789"), name.size());
-        if (equals == line.size() || name.find_first_not_of("0123456789", digits) != name.npos) return {};
+        if (equals == line.size() || name.find_first_not_of("0123456789", digits) != std::string_view::npos)
+            return {};
         return PlsLine{asciiLower(std::string(name.substr(0, digits))), std::string(name.substr(digits)),
                        withoutBlanks(line.substr(equals + 1))};
     }

@@ -44,9 +44,8 @@ Result<void> rewriteOnce(const std::string& playlist, const GoneFiles& gone, Cle
     if (!cuts) return cuts.error();
     if (cuts.value().cuts.empty()) return {};
     cuts.value().path = path;
-    if (const Result<void> told = record.rewriting(cuts.value()); !told) return told;
-    const Result<void> replaced =
-        contents.value().replace(withoutCuts(contents.value().bytes(), cuts.value()));
+    if (Result<void> told = record.rewriting(cuts.value()); !told) return told;
+    Result<void> replaced = contents.value().replace(withoutCuts(contents.value().bytes(), cuts.value()));
     record.rewritten(replaced ? RecordedPlaylist::State::rewritten : RecordedPlaylist::State::failed);
     return replaced;
 }
