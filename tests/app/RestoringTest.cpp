@@ -109,14 +109,21 @@ class Restoring : public OwnTrash, public TemporaryFolder, public WindowsFixture
     }
 
     /// Whether nobody has locked the library; seen without a lock of its own, which others could meet.
-    bool isFree() const { return !fs::exists(folder.path() + "/" + TemporaryName::ofLock("library.xml")); }
+    bool isFree() const { return !fs::exists(lockFile()); }
+    /// Whether somebody holds the lock and has said who: the lock's file is there a moment before.
+    bool isHeld() const {
+        std::error_code none;
+        const auto size = fs::file_size(lockFile(), none);
+        return !none && size > 0;
+    }
+    std::string lockFile() const { return folder.path() + "/" + TemporaryName::ofLock("library.xml"); }
     /// Opens the confirmation and waits until the survey has locked the library.
     void askToDeleteOne() {
         search();
         controller->setObjectValue(true, Column::checkbox, 0);
         controller->setStatusLabel();
         press("deleteButton");
-        ASSERT_TRUE(runEventLoopUntil([this] { return !isFree(); }));
+        ASSERT_TRUE(runEventLoopUntil([this] { return isHeld(); }));
     }
 
     std::string m_whole = present();
