@@ -7,7 +7,7 @@
 
 namespace songsweep::cli {
 
-/// A progress bar on the console: the phase and the percentage in one line of standard error, where that is a
+/// A progress bar on the console: the phase, the percentage and the time left in one line of standard error, where that is a
 /// terminal. Main thread.
 class ConsoleProgress final : public ProgressView {
   public:
@@ -17,10 +17,15 @@ class ConsoleProgress final : public ProgressView {
     void beginProgress() override;
     void endProgress() override;
     void setProgressValue(double percent) override;
+    /// What is left of the time, where that is known.
+    void setProgressCounts(const ProgressCounts& counts) override;
     void setProgressText(const std::string& text) override;
 
   private:
+    void draw() const;
+
     std::string m_text;
+    std::string m_timeLeft;
     double m_percent = 0; ///< the highest so far: a bar that runs backwards tells nothing
     bool m_isVisible;
     bool m_shown = false;
