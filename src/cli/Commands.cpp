@@ -70,25 +70,26 @@ std::optional<ExitCode> markRecordings(LibrarySession& session, const MarkOption
 
 namespace {
 
-/// Why each row is marked, or kept for its recording. While the groups are split.
-std::vector<std::string> reasonsOf(LibrarySession& session, const RecordingGroups& recordings) {
+/// Why each row is marked, or kept for its recording.
+std::vector<std::string> reasonsOf(LibrarySession& session, RecordingGroups& recordings) {
     const auto& rows = session.controller().tableDataSource().rows;
     MarkVerdicts verdicts(rows, session.controller().lastMarkChoice().value_or(MarkChoice()));
     std::vector<std::string> reasons;
     reasons.reserve(rows.size());
     for (std::size_t row = 0; row < rows.size(); ++row)
-        reasons.push_back(rows[row]->checkbox ? verdicts.of(row).reason : recordings.keptReason(row));
+        reasons.push_back(rows[row]->checkbox ? verdicts.of(row).reason : std::string());
+    recordings.join();
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        if (!rows[row]->checkbox) reasons[row] = recordingReason(rows, row);
     return reasons;
 }
 
 /// `mark` where sounds were compared: the rule keeps a copy of each recording.
-ExitCode markSounds(LibrarySession& session, const MarkOptions& options, const ComparedSounds& sounds) {
-    RecordingGroups recordings(session.controller().tableDataSource().rows, sounds);
+ExitCode markSounds(LibrarySession& session, const MarkOptions& options) {
+    RecordingGroups recordings(session.controller().tableDataSource().rows);
     if (const auto problem = markRecordings(session, options, recordings)) return *problem;
     const std::vector<std::string> reasons = reasonsOf(session, recordings);
-    recordings.join();
     SearchReport report = session.report();
-    report.sounds = sounds;
     report.reason = [&](int row) { return reasons.at(static_cast<std::size_t>(row)); };
     return writeResult(options, report, session.interrupts()).value_or(session.searchedCode());
 }
@@ -98,19 +99,15 @@ ExitCode markSounds(LibrarySession& session, const MarkOptions& options, const C
 ExitCode runFind(const FindOptions& options, const std::string& version) {
     LibrarySession session(options, version);
     if (const auto problem = session.search()) return *problem;
-    std::optional<ComparedSounds> sounds;
-    if (const auto problem = compareSoundsIfAsked(session, options, sounds)) return *problem;
-    SearchReport report = session.report();
-    report.sounds = std::move(sounds);
-    return writeResult(options, report, session.interrupts()).value_or(session.searchedCode());
+    if (const auto problem = compareSoundsIfAsked(session, options)) return *problem;
+    return writeResult(options, session.report(), session.interrupts()).value_or(session.searchedCode());
 }
 
 ExitCode runMark(const MarkOptions& options, const std::string& version) {
     LibrarySession session(options, version);
     if (const auto problem = session.search()) return *problem;
-    std::optional<ComparedSounds> sounds;
-    if (const auto problem = compareSoundsIfAsked(session, options, sounds)) return *problem;
-    if (sounds) return markSounds(session, options, *sounds);
+    if (const auto problem = compareSoundsIfAsked(session, options)) return *problem;
+    if (options.sound) return markSounds(session, options);
     if (const auto problem = markByRule(session, options)) return *problem;
     SearchReport report = session.report();
     MarkVerdicts verdicts(report.rows, session.controller().lastMarkChoice().value_or(MarkChoice()));

@@ -79,13 +79,12 @@ std::string csvField(std::string_view text) {
 
 void writeCsv(Output& output, const SearchReport& report) {
     const bool isSimilar = !report.differences.empty();
-    output.write(std::string(header) + (isSimilar ? ",differences" : "") + (report.sounds ? ",sound" : "") +
-                 (report.reason ? ",reason" : "") + "\r\n");
+    output.write(std::string(header) + (isSimilar ? ",differences" : "") +
+                 (report.hasSounds ? ",sound" : "") + (report.reason ? ",reason" : "") + "\r\n");
     for (int index = 0; index < static_cast<int>(report.rows.size()); ++index) {
         output.write(row(*report.rows.at(index)));
         if (isSimilar) output.write("," + csvField(differencesOf(report, static_cast<std::size_t>(index))));
-        if (report.sounds)
-            output.write("," + std::to_string(report.sounds->places[static_cast<std::size_t>(index)].set));
+        if (report.hasSounds) output.write("," + std::to_string(report.rows.at(index)->sound.set));
         if (report.reason) output.write("," + csvField(report.reason(index)));
         output.write("\r\n");
     }

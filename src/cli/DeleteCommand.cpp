@@ -99,10 +99,9 @@ ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output&
 
 /// Where sounds were compared, each recording stays a group of its own, so that the deletion looks for a copy
 /// of it that stays.
-std::optional<ExitCode> mark(LibrarySession& session, const DeleteOptions& options,
-                             const std::optional<ComparedSounds>& sounds) {
-    if (!sounds) return markByRule(session, options);
-    RecordingGroups recordings(session.controller().tableDataSource().rows, *sounds);
+std::optional<ExitCode> mark(LibrarySession& session, const DeleteOptions& options) {
+    if (!options.sound) return markByRule(session, options);
+    RecordingGroups recordings(session.controller().tableDataSource().rows);
     return markRecordings(session, options, recordings);
 }
 
@@ -112,9 +111,8 @@ ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
     using Purpose = LibrarySession::Purpose;
     LibrarySession session(options, version, options.dryRun ? Purpose::look : Purpose::cleanUp);
     if (const auto problem = session.search()) return *problem;
-    std::optional<ComparedSounds> sounds;
-    if (const auto problem = compareSoundsIfAsked(session, options, sounds)) return *problem;
-    if (const auto problem = mark(session, options, sounds)) return *problem;
+    if (const auto problem = compareSoundsIfAsked(session, options)) return *problem;
+    if (const auto problem = mark(session, options)) return *problem;
     const int lost = groupsLosingEveryCopy(session.controller().tableDataSource().rows);
     if (lost > 0 && !options.allowAllCopies) return fail(refusal(lost));
     // Opened first, so that nothing is deleted whose outcome cannot be told. What a deletion came to is told

@@ -62,7 +62,7 @@ void writeTrack(Output& output, const SearchReport& report, std::size_t row) {
     Json track = trackObject(*report.rows.at(row));
     if (!report.differences.empty() && !report.differences[row].empty())
         track["differences"] = report.differences[row];
-    if (report.sounds) track["sound"] = report.sounds->places[row].set;
+    if (report.hasSounds) track["sound"] = report.rows.at(row)->sound.set;
     if (report.reason) track["reason"] = report.reason(static_cast<int>(row));
     output.write(dump(track));
 }

@@ -200,7 +200,8 @@ SearchReport LibrarySession::report() {
             .unread = m_options.unread,
             .rows = rows,
             .differences = m_options.parameters.issimilar ? smallDifferencesOf(rows, m_options.parameters)
-                                                          : std::vector<std::vector<std::string>>()};
+                                                          : std::vector<std::vector<std::string>>(),
+            .hasSounds = m_options.sound};
 }
 
 std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report,

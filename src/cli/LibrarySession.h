@@ -49,6 +49,7 @@ class LibrarySession {
 
     AppController& controller() { return *m_controller; }
     Program& program() { return *m_program; }
+    Log& log() { return *m_log; }
     SearchReport report();
 
     /// What a command answers that did all that it was to: a failure where the search was not complete.

@@ -3,11 +3,9 @@
 
 #include "cli/Options.h"
 #include "library/TrackRecord.h"
-#include "sound/SoundComparison.h"
 
 #include <cstddef>
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,8 +24,7 @@ struct SearchReport {
     std::function<std::string(int row)> reason = {};
     /// By row, how a copy differs from the plainest of its group; empty where small differences count.
     std::vector<std::vector<std::string>> differences = {};
-    /// By row; nothing where sounds were not compared.
-    std::optional<ComparedSounds> sounds = {};
+    bool hasSounds = false; ///< whether sounds were compared
 };
 
 /// Writes the report in a format.

@@ -1,26 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "cli/SoundOption.h"
 
+#include "app/Progress.h"
 #include "cli/Commands.h"
 #include "cli/ConsoleProgress.h"
 #include "cli/LibrarySession.h"
 #include "dupes/RecordingGroups.h"
+#include "sound/ListenerProgram.h"
+#include "sound/SoundComparison.h"
 
-#include <QCoreApplication>
-
-#include <algorithm>
-#include <filesystem>
-#include <system_error>
-#include <thread>
+#include <chrono>
 
 namespace songsweep::cli {
 
 namespace {
-
-/// Beside this program, as it is built and installed.
-std::string listenerProgram() {
-    return QCoreApplication::applicationDirPath().toStdString() + "/songsweep-listen";
-}
 
 /// The progress that a reading shows, for a listening.
 class ListeningProgress {
@@ -35,34 +28,39 @@ class ListeningProgress {
     ~ListeningProgress() { m_console.endProgress(); }
 
     void show(std::size_t done, std::size_t total) {
-        m_console.setProgressValue(100.0 * static_cast<double>(done) / static_cast<double>(total));
+        if (total == 0) return;
+        const double percent = 100.0 * static_cast<double>(done) / static_cast<double>(total);
+        const auto elapsed = std::chrono::steady_clock::now() - m_begun;
+        const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count();
+        m_console.setProgressValue(percent);
+        m_console.setProgressCounts({.done = static_cast<int>(done),
+                                     .total = static_cast<int>(total),
+                                     .secondsLeft = secondsLeft(percent, milliseconds)});
     }
 
   private:
     ConsoleProgress m_console;
+    std::chrono::steady_clock::time_point m_begun = std::chrono::steady_clock::now();
 };
 
 } // namespace
 
-std::optional<ExitCode> compareSoundsIfAsked(LibrarySession& session, const FindOptions& options,
-                                             std::optional<ComparedSounds>& sounds) {
+std::optional<ExitCode> compareSoundsIfAsked(LibrarySession& session, const FindOptions& options) {
     if (!options.sound) return std::nullopt;
     const std::string program = listenerProgram();
-    std::error_code error;
-    if (!std::filesystem::exists(program, error))
-        return fail("sounds cannot be compared: there is no " + program);
-    Listening listening({.program = program, .processes = std::max(1U, std::thread::hardware_concurrency())},
-                        session.program().files());
+    if (!isProgram(program)) return fail("sounds cannot be compared: there is no " + program);
+    Listening listening(listeningBy(program), session.program().files());
     ListeningProgress progress(options.verbose ? ConsoleProgress::Line::taken : ConsoleProgress::Line::free);
     const auto& rows = session.controller().tableDataSource().rows;
-    const Result<ComparedSounds> compared =
-        compareSounds(rows, listening,
+    const auto sounds =
+        compareSounds(comparedCopies(rows), listening,
                       {.cancelled = [&] { return session.interrupts().heard(); },
                        .progress = [&](std::size_t done, std::size_t total) { progress.show(done, total); }});
-    if (!compared) return ExitCode::interrupted;
-    const std::vector<std::size_t> order = recordingOrder(rows, compared.value());
-    session.controller().arrangeRows(order);
-    sounds = arranged(compared.value(), order);
+    if (!sounds) return ExitCode::interrupted;
+    for (const std::string& line : sounds.value().unread)
+        session.log().line(line);
+    keepFindings(rows, sounds.value().findings);
+    session.controller().arrangeRows(recordingOrder(rows));
     return std::nullopt;
 }
 

@@ -48,7 +48,7 @@ TextTable makeTable(const SearchReport& report) {
     for (const ShownColumn& shown : shownColumns)
         columns.push_back(titleOf(shown));
     if (!report.differences.empty()) columns.push_back({"Differs", Alignment::left, anyWidth});
-    if (report.sounds) columns.push_back({"Sound", Alignment::left, anyWidth});
+    if (report.hasSounds) columns.push_back({"Sound", Alignment::left, anyWidth});
     if (report.reason) {
         columns.insert(columns.begin(), {"Mark", Alignment::left, anyWidth});
         columns.push_back({"Reason", Alignment::left, anyWidth});
@@ -62,7 +62,7 @@ std::vector<std::string> cells(const SearchReport& report, int row) {
     for (const ShownColumn& shown : shownColumns)
         texts.push_back(cell(record, shown.column));
     if (!report.differences.empty()) texts.push_back(differencesOf(report, static_cast<std::size_t>(row)));
-    if (report.sounds) texts.emplace_back(soundWord(report.sounds->verdicts[static_cast<std::size_t>(row)]));
+    if (report.hasSounds) texts.emplace_back(soundWord(record.sound.verdict));
     if (report.reason) {
         texts.insert(texts.begin(), record.checkbox ? "x" : "");
         texts.push_back(report.reason(row));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/SoundFinding.h"
 #include "library/Text.h"
 
 #include <cstdint>
@@ -37,7 +38,8 @@ struct TrackRecord {
     bool hasdate = false;        ///< the library gave a date; without one "dateadded" is empty
     bool fromlibraryfile = true; ///< made by the XML reader, so that "isfile" and "trackid" exist
     std::int16_t tracknumber =
-        0; ///< on its album, from 1; only of the XML reader, for names that begin with it
+        0;                ///< on its album, from 1; only of the XML reader, for names that begin with it
+    SoundFinding sound{}; ///< of the present comparison of sounds
 };
 
 } // namespace songsweep

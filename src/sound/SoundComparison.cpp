@@ -1,70 +1,71 @@
 // SPDX-License-Identifier: MIT
 #include "sound/SoundComparison.h"
 
-#include "library/Groups.h"
+#include "sound/SoundSets.h"
 
+#include <cmath>
+#include <cstddef>
 #include <unordered_map>
 
 namespace songsweep {
 
 namespace {
 
-std::vector<HeardCopy> copiesOf(const std::vector<TrackRecord*>& rows, const RowGroup& group,
-                                const std::vector<Listening::Heard>& heard) {
-    std::vector<HeardCopy> copies;
-    copies.reserve(group.size());
-    for (std::size_t row = group.first; row < group.end; ++row) {
-        const Result<Fingerprint>& sound = *heard[row];
-        copies.push_back({sound ? &sound.value() : nullptr, rows[row]->timev});
-    }
-    return copies;
+SoundVerdict verdictOf(const SoundPlace& place, int copiesOfSet) {
+    if (place.set == 0) return SoundVerdict::notReadable;
+    if (copiesOfSet > 1) return SoundVerdict::same;
+    return place.isUnsure ? SoundVerdict::unsure : SoundVerdict::differs;
 }
 
-void appendVerdicts(std::vector<SoundVerdict>& verdicts, const std::vector<SoundPlace>& places) {
+/// Rounded down, so that nothing is called 100 % that is less.
+std::uint8_t percentOf(double agreement) {
+    constexpr double whole = 100;
+    return static_cast<std::uint8_t>(std::floor(agreement * whole));
+}
+
+void appendFindings(std::vector<SoundFinding>& findings, const std::vector<SoundPlace>& places) {
     std::unordered_map<std::int32_t, int> copiesOfSet;
     for (const SoundPlace& place : places)
         ++copiesOfSet[place.set];
-    for (const SoundPlace& place : places) {
-        if (place.set == 0)
-            verdicts.push_back(SoundVerdict::notReadable);
-        else if (copiesOfSet[place.set] > 1)
-            verdicts.push_back(SoundVerdict::same);
-        else
-            verdicts.push_back(place.isUnsure ? SoundVerdict::unsure : SoundVerdict::differs);
-    }
+    for (const SoundPlace& place : places)
+        findings.push_back({place.set, verdictOf(place, copiesOfSet[place.set]), percentOf(place.agreement)});
 }
 
 } // namespace
 
-Result<ComparedSounds> compareSounds(const std::vector<TrackRecord*>& rows, Listening& listening,
+std::vector<ComparedCopy> comparedCopies(const std::vector<TrackRecord*>& rows) {
+    std::vector<ComparedCopy> copies;
+    copies.reserve(rows.size());
+    for (const TrackRecord* const row : rows)
+        copies.push_back({row->location.string(), row->timev, row->gid});
+    return copies;
+}
+
+Result<ComparedSounds> compareSounds(const std::vector<ComparedCopy>& copies, Listening& listening,
                                      const ListeningWatch& watch) {
     std::vector<std::string> paths;
-    paths.reserve(rows.size());
-    for (const TrackRecord* const row : rows)
-        paths.push_back(row->location.string());
+    paths.reserve(copies.size());
+    for (const ComparedCopy& copy : copies)
+        paths.push_back(copy.location);
     const Result<std::vector<Listening::Heard>> heard = listening.hear(paths, watch);
     if (!heard) return heard.error();
     ComparedSounds compared;
-    for (const RowGroup group : groupsOf(rows)) {
-        const std::vector<SoundPlace> places = soundSets(copiesOf(rows, group, heard.value()));
-        compared.places.insert(compared.places.end(), places.begin(), places.end());
-        appendVerdicts(compared.verdicts, places);
+    compared.findings.reserve(copies.size());
+    std::vector<HeardCopy> group;
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        const Result<Fingerprint>& sound = *heard.value()[i];
+        group.push_back({sound ? &sound.value() : nullptr, copies[i].seconds});
+        if (!sound) compared.unread.push_back(copies[i].location + ": " + sound.error().message);
+        if (i + 1 < copies.size() && copies[i + 1].gid == copies[i].gid) continue;
+        appendFindings(compared.findings, soundSets(group));
+        group.clear();
     }
     return compared;
 }
 
-const char* soundWord(SoundVerdict verdict) {
-    switch (verdict) {
-    case SoundVerdict::same:
-        return "same";
-    case SoundVerdict::differs:
-        return "differs";
-    case SoundVerdict::unsure:
-        return "unsure";
-    case SoundVerdict::notReadable:
-        return "not readable";
-    }
-    return "";
+void keepFindings(const std::vector<TrackRecord*>& rows, const std::vector<SoundFinding>& findings) {
+    for (std::size_t i = 0; i < rows.size() && i < findings.size(); ++i)
+        rows[i]->sound = findings[i];
 }
 
 } // namespace songsweep

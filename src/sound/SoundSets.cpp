@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <numeric>
 #include <unordered_map>
+#include <utility>
 
 namespace songsweep {
 
@@ -16,30 +17,52 @@ namespace {
 constexpr std::size_t fewSets = 16;
 constexpr int mostSecondsApart = 10;
 
-/// Sets as they grow.
+/// A set as it grows.
+struct GrowingSet {
+    HeardCopy first;
+    std::size_t place = 0; ///< of the first copy
+    bool hasOthers = false;
+};
+
+/// Compares one copy after the other with the sets that there are.
 class SetBuilder {
   public:
-    SoundPlace place(const HeardCopy& copy) {
-        SoundMatch best;
-        std::size_t bestSet = m_first.size();
-        bool isUnsure = false;
-        for (const std::size_t set : candidates(*copy.fingerprint)) {
-            const SoundMatch match = compare(copy, m_first[set]);
-            isUnsure = isUnsure || match.sameness == Sameness::unsure;
-            if (match.sameness != Sameness::same || match.agreement <= best.agreement) continue;
-            best = match;
-            bestSet = set;
+    explicit SetBuilder(const std::vector<HeardCopy>& copies)
+        : m_copies(copies)
+        , m_places(copies.size()) {}
+
+    void add(std::size_t copy) {
+        const std::vector<Compared> compared = compareWithSets(m_copies[copy]);
+        const Compared* best = nullptr;
+        for (const Compared& each : compared) {
+            const bool isBetter = !best || each.match.agreement > best->match.agreement;
+            if (each.match.sameness == Sameness::same && isBetter) best = &each;
         }
-        if (bestSet < m_first.size()) return {static_cast<std::int32_t>(bestSet) + 1, false};
-        m_index.add(bestSet, *copy.fingerprint);
-        m_first.push_back(copy);
-        return {static_cast<std::int32_t>(bestSet) + 1, isUnsure};
+        if (best) {
+            join(copy, *best);
+        } else {
+            begin(copy, compared);
+        }
     }
 
+    std::vector<SoundPlace> takePlaces() { return std::move(m_places); }
+
   private:
+    struct Compared {
+        std::size_t set;
+        SoundMatch match;
+    };
+
+    std::vector<Compared> compareWithSets(const HeardCopy& copy) const {
+        std::vector<Compared> compared;
+        for (const std::size_t set : candidates(*copy.fingerprint))
+            compared.push_back({set, compare(copy, m_sets[set].first)});
+        return compared;
+    }
+
     std::vector<std::size_t> candidates(const Fingerprint& fingerprint) const {
-        if (m_first.size() > fewSets) return m_index.candidates(fingerprint);
-        std::vector<std::size_t> all(m_first.size());
+        if (m_sets.size() > fewSets) return m_index.candidates(fingerprint);
+        std::vector<std::size_t> all(m_sets.size());
         std::iota(all.begin(), all.end(), std::size_t{0});
         return all;
     }
@@ -53,7 +76,36 @@ class SetBuilder {
         return match;
     }
 
-    std::vector<HeardCopy> m_first; ///< of each set
+    void join(std::size_t copy, const Compared& best) {
+        GrowingSet& set = m_sets[best.set];
+        SoundPlace& first = m_places[set.place];
+        first.agreement = set.hasOthers ? std::max(first.agreement, best.match.agreement)
+                                        : best.match.agreement; // no more that with another set
+        set.hasOthers = true;
+        m_places[copy] = {first.set, false, best.match.agreement};
+    }
+
+    /// Doubt is mutual: the set that the copy may belong to is told, too.
+    void begin(std::size_t copy, const std::vector<Compared>& compared) {
+        SoundPlace& place = m_places[copy];
+        place.set = static_cast<std::int32_t>(m_sets.size()) + 1;
+        for (const Compared& each : compared) {
+            const bool isUnsure = each.match.sameness == Sameness::unsure;
+            const GrowingSet& set = m_sets[each.set];
+            place.isUnsure = place.isUnsure || isUnsure;
+            place.agreement = std::max(place.agreement, each.match.agreement);
+            if (set.hasOthers) continue;
+            SoundPlace& first = m_places[set.place];
+            first.isUnsure = first.isUnsure || isUnsure;
+            first.agreement = std::max(first.agreement, each.match.agreement);
+        }
+        m_index.add(m_sets.size(), *m_copies[copy].fingerprint);
+        m_sets.push_back({m_copies[copy], copy});
+    }
+
+    const std::vector<HeardCopy>& m_copies;
+    std::vector<SoundPlace> m_places;
+    std::vector<GrowingSet> m_sets;
     SoundIndex m_index;
 };
 
@@ -80,10 +132,10 @@ void numberByCopies(std::vector<SoundPlace>& places) {
 } // namespace
 
 std::vector<SoundPlace> soundSets(const std::vector<HeardCopy>& copies) {
-    std::vector<SoundPlace> places(copies.size());
-    SetBuilder sets;
+    SetBuilder sets(copies);
     for (const std::size_t copy : longestFirst(copies))
-        places[copy] = sets.place(copies[copy]);
+        sets.add(copy);
+    std::vector<SoundPlace> places = sets.takePlaces();
     numberByCopies(places);
     return places;
 }

@@ -19,6 +19,8 @@ struct SoundPlace {
     /// Of the copies that are one recording, from 1 in their order; 0 where it could not be compared.
     std::int32_t set = 0;
     bool isUnsure = false; ///< against another set: it may be of that recording, and is kept apart
+    /// Of the bits, 0 to 1: with its set where that has others, else with the set most like it.
+    double agreement = 0;
 
     bool operator==(const SoundPlace&) const = default;
 };

@@ -57,6 +57,26 @@ TEST_F(MarkReasonsTest, StayTrueWhenAMarkIsSetByHand) {
     EXPECT_EQ(reasons.of(m_high), "marked by hand");
 }
 
+TEST_F(MarkReasonsTest, AreOfRecordingsWhereSoundsWereCompared) {
+    TrackRecord& live = m_rows.add(1, {.bitrate = "64"});
+    m_low.sound = m_high.sound = {1, SoundVerdict::same};
+    live.sound = {2, SoundVerdict::differs};
+    m_low.checkbox = true;
+    MarkReasons reasons({m_rows.rows(), nullptr}, highest, MarkReasons::Recordings::compared);
+    EXPECT_EQ(reasons.of(m_low), "lower bit rate than the kept copy: 128 against 320");
+    EXPECT_EQ(reasons.of(m_high), "kept: 320 against 128");
+    EXPECT_EQ(reasons.of(live), "") << "its recording has no other copy";
+    EXPECT_EQ(live.gid, 1);
+}
+
+TEST_F(MarkReasonsTest, SayThatARecordingWouldHaveNoCopyLeft) {
+    m_low.location = m_high.location = "/x.mp3";
+    m_low.sound = m_high.sound = {1, SoundVerdict::same};
+    MarkReasons reasons({m_rows.rows(), nullptr}, {MarkType::kind, false, "MP3"},
+                        MarkReasons::Recordings::compared);
+    EXPECT_EQ(reasons.of(m_low), "kept: no copy of its recording would be left");
+}
+
 TEST_F(MarkReasonsTest, OfAnotherListAreNone) {
     const TrackRecord other;
     EXPECT_EQ(markBy(highest).of(other), "");

@@ -62,13 +62,34 @@ TEST(SoundSets, ACopyThatCouldNotBeHeardIsInNoSet) {
 TEST(SoundSets, ACopyInDoubtIsKeptApart) {
     const Fingerprint a = randomSound(1, 210);
     const Fingerprint doubtful = worn(randomSound(1, 210), 22, 1);
-    EXPECT_THAT(soundSets({{&a, 180}, {&doubtful, 180}}),
-                ElementsAre(SoundPlace{1, false}, SoundPlace{2, true}));
+    EXPECT_THAT(setsOf({{&a, 180}, {&doubtful, 180}}), ElementsAre(1, 2));
+}
+
+TEST(SoundSets, DoubtIsMutual) {
+    const Fingerprint a = randomSound(1, 210);
+    const Fingerprint doubtful = worn(randomSound(1, 210), 22, 1);
+    const Fingerprint other = randomSound(2);
+    const std::vector<SoundPlace> places = soundSets({{&a, 180}, {&doubtful, 180}, {&other, 180}});
+    EXPECT_TRUE(places[0].isUnsure);
+    EXPECT_TRUE(places[1].isUnsure);
+    EXPECT_FALSE(places[2].isUnsure);
+}
+
+TEST(SoundSets, TellHowMuchACopyAgrees) {
+    const Fingerprint a = randomSound(1, 210);
+    const Fingerprint wornA = worn(a, 5, 1);
+    const Fingerprint b = randomSound(2);
+    const std::vector<SoundPlace> places = soundSets({{&b, 180}, {&a, 180}, {&wornA, 180}});
+    EXPECT_NEAR(places[1].agreement, 0.95, 0.01) << "of the first of a set with the best of its others";
+    EXPECT_EQ(places[1].agreement, places[2].agreement);
+    EXPECT_NEAR(places[0].agreement, 0.53, 0.04) << "with the set most like it";
+    EXPECT_EQ(soundSets({{&a, 180}})[0].agreement, 0);
 }
 
 TEST(SoundSets, EqualBeginningsOfUnequalLengthsAreInDoubt) {
     const Fingerprint a = randomSound(1);
-    EXPECT_THAT(soundSets({{&a, 180}, {&a, 240}}), ElementsAre(SoundPlace{1, false}, SoundPlace{2, true}));
+    EXPECT_THAT(setsOf({{&a, 180}, {&a, 240}}), ElementsAre(1, 2));
+    EXPECT_TRUE(soundSets({{&a, 180}, {&a, 240}})[1].isUnsure);
     EXPECT_THAT(setsOf({{&a, 180}, {&a, 0}}), ElementsAre(1, 1));
     EXPECT_THAT(setsOf({{&a, 180}, {&a, 190}}), ElementsAre(1, 1));
 }

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "sound/ListenerProgram.h"
+
+#include <QCoreApplication>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <thread>
+
+namespace songsweep {
+
+std::string listenerProgram() {
+    return QCoreApplication::applicationDirPath().toStdString() + "/songsweep-listen";
+}
+
+bool isProgram(const std::string& path) { return ::access(path.c_str(), X_OK) == 0; }
+
+ListeningSettings listeningBy(const std::string& program) {
+    return {.program = program, .processes = std::max(1U, std::thread::hardware_concurrency())};
+}
+
+} // namespace songsweep
