@@ -82,7 +82,8 @@ class Table {
     AppController controller{m_program.controllerServices(), windows.views()};
 
   private:
-    WindowActions m_actions{windows, controller, [](const std::string&) { return OpenedLibrary(); }, m_log};
+    WindowActions m_actions{
+        windows, controller, [](const std::string&) { return OpenedLibrary(); }, m_log, {}};
 };
 
 void measure(const char* what, double limit, const std::function<void()>& prepare,

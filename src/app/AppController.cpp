@@ -2,9 +2,11 @@
 #include "app/AppController.h"
 
 #include "dupes/LibraryFolder.h"
+#include "dupes/SmallDifference.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 #include "restore/InterruptedCleanup.h"
+#include "sound/SoundComparison.h"
 
 #include <array>
 #include <chrono>
@@ -182,8 +184,32 @@ void AppController::redoMarks() {
 }
 
 std::string AppController::markReason(const TrackRecord& record) const {
-    MarkReasons* const reasons = m_results.markReasons();
-    return reasons && !isDeletingRows() ? reasons->of(record) : std::string();
+    return isDeletingRows() ? std::string() : m_results.markReason(record);
+}
+
+std::vector<std::string> AppController::differences(const std::vector<TrackRecord*>& copies) const {
+    std::vector<std::string> texts(copies.size());
+    if (!m_search.parameters().issimilar || isDeletingRows()) return texts;
+    const auto differences = smallDifferencesOf(copies, m_search.parameters());
+    for (std::size_t copy = 0; copy < copies.size(); ++copy)
+        for (const std::string& difference : differences[copy])
+            texts[copy] += (texts[copy].empty() ? "" : ", ") + difference;
+    return texts;
+}
+
+// Comparing sounds.
+
+DisplayedList AppController::rowsToCompare(SoundScope scope) const {
+    if (!isIdle()) return {};
+    DisplayedList list = tableDataSource();
+    if (scope == SoundScope::selected) list.rows = m_results.rowsOfSelectedGroups();
+    return list;
+}
+
+void AppController::keepSounds(const DisplayedList& list, const ComparedSounds& sounds) {
+    for (const std::string& line : sounds.unread)
+        m_services.log.line(line);
+    if (isIdle() && m_results.keepSounds(list, sounds.findings)) m_notices.tellSounds(sounds);
 }
 
 // Deleting.

@@ -20,6 +20,8 @@
 
 namespace songsweep {
 
+struct ComparedSounds;
+
 /// The logic of the main window, without any widget: every action of a control by its name, and the dispatch
 /// of the workers' events.
 ///
@@ -86,6 +88,21 @@ class AppController {
     /// worker's.
     std::string markReason(const TrackRecord& record) const;
     int marksByHand() const { return m_results.markHistory().marksByHand(); }
+    /// What a choice of the mark dialog would do now.
+    MarkEffect markEffect(const MarkChoice& choice) const { return m_marks.effect(choice); }
+
+    /// How each of a group's copies differs from the plainest, "name differs: feat. Rihanna, 1 s longer";
+    /// empty texts where small differences count, and while the rows are a worker's.
+    std::vector<std::string> differences(const std::vector<TrackRecord*>& copies) const;
+
+    // Comparing sounds.
+    /// Whether rules go by recordings.
+    bool soundsCompared() const { return m_results.soundsCompared(); }
+    /// The rows whose sounds are to be compared, in whole groups; none while they are a worker's.
+    enum class SoundScope { listed, selected };
+    DisplayedList rowsToCompare(SoundScope scope) const;
+    /// What was found of the sounds of a list's rows; forgotten where there is another list by now.
+    void keepSounds(const DisplayedList& list, const ComparedSounds& sounds);
 
     // Deleting.
     void deleteButtonClick();
@@ -115,6 +132,7 @@ class AppController {
     // What views and commands look at.
     /// Puts the rows into another order, the numbers of the rows as they stand; groups stay together.
     void arrangeRows(const std::vector<std::size_t>& order) { m_results.arrangeRows(order); }
+    const Files& files() const { return m_services.files; }
     const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
     int getCheckedCount() const { return m_results.getCheckedCount(); }

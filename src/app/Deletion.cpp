@@ -12,6 +12,7 @@
 #include "delete/DeleteProc.h"
 #include "delete/FileSurvey.h"
 #include "delete/TrackFacts.h"
+#include "dupes/RecordingGroups.h"
 
 #include <utility>
 
@@ -57,6 +58,8 @@ Deletion::~Deletion() = default;
 void Deletion::deleteButtonClick() {
     m_phase = Phase::confirming;
     DeleteConfirmationFacts facts = trackFacts(m_results.tableDataSource().rows);
+    if (m_results.soundsCompared())
+        facts.lastOfRecordings = recordingsLosingEveryCopy(m_results.tableDataSource().rows);
     facts.embeddedLibrary = m_services.embeddedLibrary();
     facts.filesPending = facts.tracks > 0;
     if (facts.filesPending) startSurvey(facts);

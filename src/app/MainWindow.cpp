@@ -61,6 +61,7 @@ MainWindow::MainWindow(Log& log, QWidget* parent)
     connectWindowAndHelpMenu();
     applyMetrics();
     setUndoNames({}, {});
+    setSoundsCompared(false);
     setMarkEnabled(false);
     setDeleteEnabled(false);
     m_ui->emptyPage->setFocus(Qt::OtherFocusReason);
@@ -128,6 +129,13 @@ void MainWindow::setSortIndicator(Column column, bool ascending) {
 }
 
 void MainWindow::clearSortIndicator() { m_ui->tableview->header().clearSortIndicator(); }
+
+void MainWindow::setSoundsCompared(bool compared) {
+    m_ui->tableview->showColumn(Column::sound, compared);
+    m_sortBySound->setVisible(compared);
+}
+
+void MainWindow::setSoundAvailable(bool available) { m_ui->compareSoundMenuitem->setVisible(available); }
 
 std::vector<int> MainWindow::selectedRows() const {
     std::vector<int> rows = m_ui->tableview->selectedRows();

@@ -10,6 +10,7 @@
 #include "library/LibraryOverview.h"
 
 #include <QMainWindow>
+#include <QStringList>
 
 #include <cstdint>
 #include <functional>
@@ -59,6 +60,11 @@ class MainWindow : public QMainWindow,
     void setCopyReason(std::function<QString(const TrackRecord&)> reason) {
         m_copyReason = std::move(reason);
     }
+    /// Whether sounds can be compared here at all.
+    void setSoundAvailable(bool available);
+    /// Says how each copy of a song differs from the plainest one, "1 s longer"; "" for nothing.
+    using CopyDifferences = std::function<QStringList(const std::vector<TrackRecord*>& copies)>;
+    void setCopyDifferences(CopyDifferences differences) { m_copyDifferences = std::move(differences); }
     /// Shows only the songs of which no copy would be left.
     void showSongsLosingEveryCopy();
     /// Whether the item of a menu may be used now.
@@ -75,6 +81,7 @@ class MainWindow : public QMainWindow,
     void setHorizontalScroller(bool shown) override;
     void setSortIndicator(Column column, bool ascending) override;
     void clearSortIndicator() override;
+    void setSoundsCompared(bool compared) override;
     std::vector<int> selectedRows() const override;
     int selectedRow() const override;
     void setStatusText(const std::string& text) override;
@@ -108,6 +115,7 @@ class MainWindow : public QMainWindow,
     void deleteButtonClick();
     void deleteMarkedMenuClick();
     void restoreMenuClick();
+    void compareSoundMenuClick();
     void cancelformButtonClick();
     void openLibrary(const std::string& path);
     void markMenuClick(std::int32_t tag);
@@ -176,9 +184,11 @@ class MainWindow : public QMainWindow,
     TrackTableModel* m_model;
     TableFilter* m_filter;
     QActionGroup* m_filterKinds = nullptr;
+    QAction* m_sortBySound = nullptr;
     CopiesPanelView* m_details = nullptr;
     int m_firstOfDetails = 0; ///< the shown row of the first copy in the panel
     std::function<QString(const TrackRecord&)> m_copyReason = [](const TrackRecord&) { return QString(); };
+    CopyDifferences m_copyDifferences = [](const auto&) { return QStringList(); };
     std::function<bool()> m_mayOpenLibrary = [] { return true; };
     LibraryOverview m_library;
     QString m_searchedText;

@@ -39,7 +39,7 @@ void MainWindow::updateDetails() {
     if (m_details->isHidden()) return;
     const std::vector<TrackRecord*>& rows = m_model->rows();
     const int current = m_ui->tableview->currentIndex().row();
-    std::vector<const TrackRecord*> copies;
+    std::vector<TrackRecord*> copies;
     QStringList reasons;
     if (current >= 0 && static_cast<std::size_t>(current) < rows.size()) {
         auto first = static_cast<std::size_t>(current);
@@ -55,7 +55,7 @@ void MainWindow::updateDetails() {
             reasons << m_copyReason(*rows[row]);
         }
     }
-    m_details->showCopies(copies, reasons);
+    m_details->showCopies({copies.begin(), copies.end()}, reasons, m_copyDifferences(copies));
 }
 
 } // namespace songsweep

@@ -109,6 +109,7 @@ void MainWindow::connectMarkAndTrackMenu() {
     for (std::size_t tag = 0; tag < byTag.size(); ++tag)
         connect(byTag[tag], &QAction::triggered, this,
                 [this, tag] { Q_EMIT markMenuClick(static_cast<std::int32_t>(tag)); });
+    connect(m_ui->compareSoundMenuitem, &QAction::triggered, this, &MainWindow::compareSoundMenuClick);
     connect(m_ui->undoMenuitem, &QAction::triggered, this, &MainWindow::undoMarksClick);
     connect(m_ui->redoMenuitem, &QAction::triggered, this, &MainWindow::redoMarksClick);
     connect(m_ui->copyRowsMenuitem, &QAction::triggered, this, &MainWindow::copyRows);
@@ -122,6 +123,7 @@ void MainWindow::fillSortMenu() {
         if (column == Column::dtrack) continue;
         QAction* item = m_ui->sortMenu->addAction(columnLook(column).spokenTitle);
         connect(item, &QAction::triggered, this, [this, column] { Q_EMIT didClickTableColumn(column); });
+        if (column == Column::sound) m_sortBySound = item;
     }
 }
 
@@ -134,8 +136,10 @@ std::vector<std::string> MainWindow::keyboardLines() const {
     for (const QMenu* menu : m_ui->mainMenu->findChildren<QMenu*>())
         for (const QAction* item : menu->actions())
             if (!item->shortcut().isEmpty())
-                add(item->shortcut().toString(QKeySequence::NativeText),
-                    item->text().remove(QLatin1Char('&')).remove(QStringLiteral("...")));
+                add(item->shortcut().toString(QKeySequence::NativeText), item->text()
+                                                                             .remove(QLatin1Char('&'))
+                                                                             .remove(QStringLiteral("..."))
+                                                                             .remove(QChar(0x2026)));
     struct Key {
         const char* keys;
         const char* what;

@@ -5,6 +5,7 @@
 #include "app/views/MarkView.h"
 #include "dupes/FileKind.h"
 #include "dupes/MarkingRules.h"
+#include "dupes/RecordingMarks.h"
 #include "platform/Log.h"
 
 #include <algorithm>
@@ -26,10 +27,24 @@ void Marks::markOkButtonClick(const MarkChoice& choice) {
     std::vector<TrackRecord*>& rows = m_results.tableDataSource().rows;
     if (rows.empty()) return;
     m_log.line("markTyp = " + std::to_string(static_cast<std::int32_t>(choice.markType)));
-    m_results.markHistory().record(MarkHistory::By::rule, "Mark by rule", rows,
-                                   [&] { applyMarkChoice(rows, choice); });
+    m_results.markHistory().record(MarkHistory::By::rule, "Mark by rule", rows, [&] { mark(choice); });
     m_results.setMarkedBy(choice);
     showMarks();
+}
+
+/// A rule keeps the best of each group, or of each recording where they are known.
+void Marks::mark(const MarkChoice& choice) {
+    std::vector<TrackRecord*>& rows = m_results.tableDataSource().rows;
+    if (m_results.soundsCompared()) {
+        markRecordings(rows, choice);
+    } else {
+        applyMarkChoice(rows, choice);
+    }
+}
+
+MarkEffect Marks::effect(const MarkChoice& choice) const {
+    const std::vector<TrackRecord*>& rows = m_results.tableDataSource().rows;
+    return m_results.soundsCompared() ? recordingsEffect(rows, choice) : markEffect(rows, choice);
 }
 
 void Marks::markCancelButtonClick() { m_view.closeMarkWindow(); }

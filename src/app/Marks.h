@@ -13,6 +13,7 @@ class Log;
 class MarkView;
 class Results;
 struct MarkChoice;
+struct MarkEffect;
 struct TrackRecord;
 
 /// The verbs that set the check boxes of the results: by hand, by menu, by a rule of the mark dialog. Main
@@ -23,6 +24,8 @@ class Marks {
 
     void markButtonClick();
     void markOkButtonClick(const MarkChoice& choice);
+    /// What the choice would do.
+    MarkEffect effect(const MarkChoice& choice) const;
     void markCancelButtonClick();
     void markFolderButtonClick();
     void markNone();
@@ -36,6 +39,7 @@ class Marks {
     void redo();
 
   private:
+    void mark(const MarkChoice& choice);
     void setMarks(const std::string& name, const std::vector<TrackRecord*>& rows, bool value);
     void setByHand(const std::string& name, const std::vector<TrackRecord*>& rows, bool value);
     void showMarks();

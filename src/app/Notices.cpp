@@ -11,6 +11,9 @@
 #include "restore/InterruptedCleanup.h"
 #include "restore/RestoreProc.h"
 #include "restore/RestoreTexts.h"
+#include "sound/SoundComparison.h"
+
+#include <algorithm>
 
 namespace songsweep {
 
@@ -20,6 +23,24 @@ std::string aTrashedFile(const DeleteReport& report) {
     for (const DeleteOutcome& outcome : report.outcomes)
         if (outcome.trash) return outcome.trash->path();
     return {};
+}
+
+/// "98 same, 3 different, 1 unsure, 2 not readable."
+std::string countsOf(const std::vector<SoundFinding>& findings) {
+    using enum SoundVerdict;
+    struct Word {
+        SoundVerdict verdict;
+        const char* word;
+    };
+    std::string text;
+    for (const Word& word :
+         {Word{same, "same"}, {differs, "different"}, {unsure, "unsure"}, {notReadable, "not readable"}}) {
+        const auto copies = std::count_if(findings.begin(), findings.end(), [&](const SoundFinding& each) {
+            return each.verdict == word.verdict;
+        });
+        if (copies > 0) text += (text.empty() ? "" : ", ") + std::to_string(copies) + " " + word.word;
+    }
+    return text + ".";
 }
 
 std::optional<std::uint64_t> trashedBytes(const std::string& record) {
@@ -51,6 +72,17 @@ void Notices::tellRestore(const RestoreAnswer& answer) {
     const std::string title = restoreTexts::title(answer.report);
     const std::string rest = restoreTexts::rest(answer.report);
     show({title, rest, rest.empty() ? title : title + ", " + rest, !answer.report.allDealtWith(), {}});
+}
+
+void Notices::tellSounds(const ComparedSounds& sounds) {
+    m_details = sounds.unread;
+    m_trashedFile.clear();
+    m_backup.clear();
+    m_record.clear();
+    m_unfinished.clear();
+    const std::string title = "The sound of " + counted(sounds.findings.size(), "file") + " was compared";
+    const std::string rest = countsOf(sounds.findings);
+    show({title, rest, title + ": " + rest, false, {}});
 }
 
 void Notices::tellInterruption(const InterruptedCleanup& found) {

@@ -12,6 +12,7 @@ namespace songsweep {
 
 class Desktop;
 class Log;
+struct ComparedSounds;
 struct DeleteReport;
 struct FinishAnswer;
 struct InterruptedCleanup;
@@ -44,6 +45,7 @@ class Notices {
     /// An interrupted deletion is being finished, and then: what came of it.
     void tellFinishing();
     void tellFinished(const std::shared_ptr<FinishAnswer>& answer);
+    void tellSounds(const ComparedSounds& sounds);
     void close();
 
     void noticeActionClick(NoticeAction action);

@@ -2,7 +2,10 @@
 #include "app/Results.h"
 
 #include "app/views/ResultsView.h"
+#include "dupes/RecordingGroups.h"
+#include "sound/SoundComparison.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace songsweep {
@@ -26,9 +29,25 @@ std::vector<TrackRecord*> Results::selectedRecords() const {
     return records;
 }
 
+std::vector<TrackRecord*> Results::rowsOfSelectedGroups() const {
+    const std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
+    std::vector<TrackRecord*> chosen;
+    std::size_t end = 0; // of the group that was taken last
+    for (const int selected : m_view.selectedRows()) {
+        const auto row = static_cast<std::size_t>(selected);
+        if (row < end || row >= rows.size()) continue;
+        const RowGroup group = groupAt(rows, row);
+        end = group.end;
+        chosen.insert(chosen.end(), rows.begin() + static_cast<std::ptrdiff_t>(group.first),
+                      rows.begin() + static_cast<std::ptrdiff_t>(end));
+    }
+    return chosen;
+}
+
 void Results::begin(std::shared_ptr<TrackStorage> storage) {
     m_tableDataSource = {{}, std::move(storage)};
     forgetMarks();
+    setSoundsCompared(false);
     reloadTable();
     m_view.setHorizontalScroller(false);
     m_horizontalScrollbarShowCount = 0;
@@ -43,7 +62,34 @@ void Results::forgetMarks() {
 
 void Results::setMarkedBy(std::optional<MarkChoice> rule) {
     m_lastMark = std::move(rule);
-    if (m_lastMark) m_reasons = std::make_unique<MarkReasons>(m_tableDataSource, *m_lastMark);
+    if (m_lastMark)
+        m_reasons = std::make_unique<MarkReasons>(m_tableDataSource, *m_lastMark,
+                                                  m_soundsCompared ? MarkReasons::Recordings::compared
+                                                                   : MarkReasons::Recordings::unknown);
+}
+
+/// A recording's only copy has its reason in its neighbours, as they stand now.
+std::string Results::markReason(const TrackRecord& record) const {
+    if (!m_reasons) return {};
+    std::string reason = m_reasons->of(record);
+    if (!reason.empty() || record.checkbox || !m_soundsCompared) return reason;
+    const std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
+    const auto found = std::find(rows.begin(), rows.end(), &record);
+    return found == rows.end() ? reason
+                               : recordingReason(rows, static_cast<std::size_t>(found - rows.begin()));
+}
+
+bool Results::keepSounds(const DisplayedList& list, const std::vector<SoundFinding>& findings) {
+    if (list.storage != m_tableDataSource.storage) return false;
+    keepFindings(list.rows, findings);
+    setSoundsCompared(true);
+    arrangeRows(recordingOrder(m_tableDataSource.rows));
+    return true;
+}
+
+void Results::setSoundsCompared(bool compared) {
+    m_soundsCompared = compared;
+    m_view.setSoundsCompared(compared);
 }
 
 void Results::showHistory() { m_view.setUndoNames(m_history.undoName(), m_history.redoName()); }
@@ -80,6 +126,7 @@ void Results::showEmptyState() {
 void Results::forget() {
     m_tableDataSource = {};
     forgetMarks();
+    setSoundsCompared(false);
     m_view.setSearchedText("");
     showEmptyState();
 }

@@ -36,6 +36,8 @@ class Results {
     TrackRecord* recordAt(int row) const;
     TrackRecord* selectedRecord() const;
     std::vector<TrackRecord*> selectedRecords() const;
+    /// All rows of the groups in which rows are selected.
+    std::vector<TrackRecord*> rowsOfSelectedGroups() const;
 
     /// Begins a list whose records live in the storage.
     void begin(std::shared_ptr<TrackStorage> storage);
@@ -58,10 +60,15 @@ class Results {
     void validity();
     /// Shows what a deletion left.
     void showRowsLeft();
+    /// Puts what was found of their sounds into the rows of a list, and copies of one recording beside each
+    /// other. Nothing, and false, where the list is not the present one's any more.
+    bool keepSounds(const DisplayedList& list, const std::vector<SoundFinding>& findings);
+    /// Whether rules go by recordings, of the groups whose sounds were compared.
+    bool soundsCompared() const { return m_soundsCompared; }
+    /// Why the record is marked, or stays; empty where no rule has marked anything.
+    std::string markReason(const TrackRecord& record) const;
     /// Marks were set by a rule, or by hand. The status follows where the caller wants it to.
     void setMarkedBy(std::optional<MarkChoice> rule);
-    /// Of the rule that marked last; null where none did. They stay when marks or order change.
-    MarkReasons* markReasons() const { return m_reasons.get(); }
     /// What can be undone of the marks; forgotten with the rows.
     MarkHistory& markHistory() { return m_history; }
     const MarkHistory& markHistory() const { return m_history; }
@@ -72,16 +79,18 @@ class Results {
 
   private:
     void forgetMarks();
+    void setSoundsCompared(bool compared);
 
     ResultsView& m_view;
     DisplayedList m_tableDataSource;
     std::optional<MarkChoice> m_lastMark;
-    std::unique_ptr<MarkReasons> m_reasons;
+    std::unique_ptr<MarkReasons> m_reasons; ///< of the last rule; they stay when marks or order change
     MarkHistory m_history;
     std::optional<Column> m_sortColumn;
     bool m_sortAscending = false;
     bool m_sortIndicatorShown = false;
     bool m_deleteEnabled = false;
+    bool m_soundsCompared = false;
     int m_horizontalScrollbarShowCount = 0;
 };
 

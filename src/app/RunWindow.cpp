@@ -9,6 +9,7 @@
 #include "platform/RecentFiles.h"
 #include "platform/SignalWatch.h"
 #include "scan/FolderLibrary.h"
+#include "sound/ListenerProgram.h"
 #include "theme/SongsweepStyle.h"
 
 #include <QApplication>
@@ -60,7 +61,7 @@ int runController(Program& program, Windows& windows, const Beginning& beginning
     AppController controller(program.controllerServices(), windows.views());
     WindowActions actions(
         windows, controller, [&program](const std::string& path) { return program.openLibrary(path); },
-        beginning.log);
+        beginning.log, listenerProgram());
     controller.awakeFromNib(beginning.redirectLog);
     windows.mainWindow().openAtFirstSize();
     windows.showMainWindow();

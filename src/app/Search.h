@@ -40,6 +40,7 @@ class Search {
     SearchVerdict verdict() const;
     /// That the library's files are looked for in the wrong place; for when the search has ended.
     const std::vector<std::string>& warnings() const { return *m_warnings; }
+    const SearchParameters& parameters() const { return m_params; }
     /// Whether the sender was cancelled before the present search began: its end is no news of this search.
     bool isStale(const WorkerEvent& event) const;
     ReaderChoice& readers() { return m_readers; }

@@ -14,13 +14,16 @@
 
 namespace songsweep {
 
-WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log)
+WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log,
+                             const std::string& listener)
     : m_windows(windows)
     , m_controller(controller)
     , m_openLibrary(std::move(openLibrary))
-    , m_folder(windows, log, [&controller](const std::string& title, std::vector<std::string> lines) {
-        controller.tellUnreadFiles(title, std::move(lines));
-    }) {
+    , m_folder(windows, log,
+               [&controller](const std::string& title, std::vector<std::string> lines) {
+                   controller.tellUnreadFiles(title, std::move(lines));
+               })
+    , m_sound(windows, controller, log, listener) {
     connectToolbarAndMenus();
     connectLinks();
     connectTable();
@@ -80,6 +83,12 @@ void WindowActions::connectTable() {
             [=](bool value, Column column, int row) { controller->setObjectValue(value, column, row); });
     window->setCopyReason(
         [=](const TrackRecord& record) { return QString::fromStdString(controller->markReason(record)); });
+    window->setCopyDifferences([=](const std::vector<TrackRecord*>& copies) {
+        QStringList differences;
+        for (const std::string& each : controller->differences(copies))
+            differences << QString::fromStdString(each);
+        return differences;
+    });
     window->tableModel().setMarkReason([this](int row) { return markReason(row); });
 }
 
@@ -119,12 +128,13 @@ void WindowActions::updateMarkPreview() {
     if (m_controller.isDeletingRows()) return; // the table's reload at its end brings it up to date
     const std::vector<TrackRecord*>& rows = m_controller.tableDataSource().rows;
     const MarkChoice choice = dialog.choice();
-    const MarkEffect effect = markEffect(rows, choice);
+    const MarkEffect effect = m_controller.markEffect(choice);
     dialog.setPreview({.marked = effect.marked,
                        .total = static_cast<int>(rows.size()),
                        .inForce = effect.inForce,
                        .byHand = m_controller.marksByHand(),
-                       .matches = matchesRow(rows, choice)});
+                       .matches = matchesRow(rows, choice),
+                       .byRecordings = m_controller.soundsCompared()});
 }
 
 void WindowActions::connectDeletion() {

@@ -3,6 +3,7 @@
 
 #include "app/FolderActions.h"
 #include "app/OpenedLibrary.h"
+#include "app/SoundActions.h"
 
 #include <QObject>
 
@@ -24,7 +25,9 @@ class WindowActions : public QObject {
     /// Turns the embedded library to another file.
     using OpenLibrary = std::function<OpenedLibrary(const std::string& path)>;
 
-    WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log);
+    /// `listener` is the program that decodes sounds.
+    WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log,
+                  const std::string& listener);
 
     /// Opens a library file or a folder, as if the user had dropped it on the window.
     void open(const std::string& path) { chooseLibrary(path); }
@@ -51,6 +54,7 @@ class WindowActions : public QObject {
     AppController& m_controller;
     OpenLibrary m_openLibrary;
     FolderActions m_folder;
+    SoundActions m_sound;
 };
 
 } // namespace songsweep

@@ -4,6 +4,7 @@
 #include "library/ValueFormats.h"
 
 #include <QLocale>
+#include <QStringList>
 
 namespace songsweep::confirmationTexts {
 
@@ -101,16 +102,19 @@ QString refusedLine(const DeleteConfirmationFacts& facts) {
 }
 
 QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files) {
-    const int lost = songsLost(facts, files);
-    if (lost == 0 && !facts.libraryObstacle.empty()) return QStringLiteral("The library cannot be written.");
-    if (lost == 0)
-        return facts.keptTracks == 0
-                   ? QString()
-                   : worded(facts.keptTracks,
-                            QStringLiteral("1 track shares its ID with another one, and stays."),
-                            QStringLiteral("%1 tracks share their IDs with others, and stay."));
-    return worded(lost, QStringLiteral("No copy of 1 song will be left."),
-                  QStringLiteral("No copy of %1 songs will be left."));
+    QStringList sentences;
+    if (const int lost = songsLost(facts, files); lost > 0)
+        sentences << worded(lost, QStringLiteral("No copy of 1 song will be left."),
+                            QStringLiteral("No copy of %1 songs will be left."));
+    if (facts.lastOfRecordings > 0)
+        sentences << worded(facts.lastOfRecordings,
+                            QStringLiteral("1 marked copy is the last of its recording."),
+                            QStringLiteral("%1 marked copies are the last of their recordings."));
+    if (!sentences.empty()) return sentences.join(QLatin1Char('\n'));
+    if (!facts.libraryObstacle.empty()) return QStringLiteral("The library cannot be written.");
+    if (facts.keptTracks == 0) return {};
+    return worded(facts.keptTracks, QStringLiteral("1 track shares its ID with another one, and stays."),
+                  QStringLiteral("%1 tracks share their IDs with others, and stay."));
 }
 
 QString megabytes(std::int64_t bytes) {

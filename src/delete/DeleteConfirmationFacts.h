@@ -22,6 +22,7 @@ struct DeleteConfirmationFacts {
     int groupsLosingEveryCopy = 0;    ///< by what the search saw
     int groupsLosingEveryFile = 0;    ///< groups of which no copy is left if files go, too
     int groupsLosingSharedFiles = 0;  ///< the same if files shared with tracks that stay go, too
+    int lastOfRecordings = 0;         ///< marked copies of whose recordings none stays, by their sounds
     bool embeddedLibrary = false;     ///< the library is a file that this program itself writes
     bool libraryUnknown = false;      ///< the other tracks could not be looked at, so that no file goes
     bool filesPending = false;        ///< the files are still looked at: the file counts say nothing yet

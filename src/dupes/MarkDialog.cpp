@@ -12,6 +12,7 @@
 #include <QShowEvent>
 
 #include <array>
+#include <utility>
 
 namespace songsweep {
 
@@ -67,6 +68,11 @@ QString previewText(const MarkPreview& preview) {
     return none + QStringLiteral("Would mark") + counts + lost;
 }
 
+QString recordingsText(bool exceptOne) {
+    return exceptOne ? QStringLiteral("One copy of each recording stays, a working one if there is one.")
+                     : QStringLiteral("Copies that tie all stay. No recording loses every copy.");
+}
+
 QString helperText(MarkType markType, bool exceptOne) {
     if (exceptOne) return QStringLiteral("One copy of each song stays, a working one if there is one.");
     if (markType >= MarkType::kind)
@@ -93,6 +99,7 @@ MarkDialog::MarkDialog(QWidget* parent)
     });
     connect(m_ui->markExceptOneCK, &QCheckBox::toggled, this, &MarkDialog::choiceChanged);
     connect(this, &MarkDialog::choiceChanged, this, &MarkDialog::updateHelper);
+    connect(m_ui->markSoundButton, &QPushButton::clicked, this, &MarkDialog::compareSoundRequested);
 }
 
 MarkDialog::~MarkDialog() = default;
@@ -137,7 +144,10 @@ void MarkDialog::setFolder(const QString& folder) {
 
 void MarkDialog::setPreview(const MarkPreview& preview) {
     showLive(*m_ui->markLiveLabel, previewText(preview));
+    if (std::exchange(m_byRecordings, preview.byRecordings) != preview.byRecordings) updateHelper();
 }
+
+void MarkDialog::setSoundAvailable(bool available) { m_ui->markSoundRow->setVisible(available); }
 
 void MarkDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
@@ -197,7 +207,11 @@ void MarkDialog::openFolderChooser() {
 
 void MarkDialog::updateHelper() {
     const MarkChoice now = choice();
-    showLive(*m_ui->markExceptOneLabel, helperText(now.markType, now.exceptOne));
+    showLive(*m_ui->markExceptOneLabel,
+             m_byRecordings ? recordingsText(now.exceptOne) : helperText(now.markType, now.exceptOne));
+    m_ui->markSoundLabel->setText(m_byRecordings
+                                      ? QStringLiteral("Recordings were told apart by their sound.")
+                                      : QStringLiteral("Equal tags can be different recordings."));
 }
 
 } // namespace songsweep

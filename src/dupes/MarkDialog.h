@@ -20,11 +20,12 @@ class MarkDialog;
 
 /// What the present choice would do, for the dialog's live line.
 struct MarkPreview {
-    int marked = 0;       ///< tracks that the choice marks
-    int total = 0;        ///< tracks in the results
-    bool inForce = false; ///< the present marks are already these
-    int byHand = 0;       ///< marks made by hand, which the choice replaces
-    bool matches = true;  ///< some track is of the kind, or in the folder, that the choice names
+    int marked = 0;            ///< tracks that the choice marks
+    int total = 0;             ///< tracks in the results
+    bool inForce = false;      ///< the present marks are already these
+    int byHand = 0;            ///< marks made by hand, which the choice replaces
+    bool matches = true;       ///< some track is of the kind, or in the folder, that the choice names
+    bool byRecordings = false; ///< sounds were compared, so that rules keep a copy of each recording
 
     bool operator==(const MarkPreview&) const = default;
 };
@@ -51,6 +52,8 @@ class MarkDialog : public QDialog {
     /// Makes `folder` the folder to mark, as text and tool tip, and its rule the chosen one.
     void setFolder(const QString& folder);
     void setPreview(const MarkPreview& preview);
+    /// Whether sounds can be compared here at all.
+    void setSoundAvailable(bool available);
     /// Opens the chooser of a folder.
     void openFolderChooser();
 
@@ -63,6 +66,7 @@ class MarkDialog : public QDialog {
     void markRequested();
     /// "Choose..." was pressed.
     void folderRequested();
+    void compareSoundRequested();
     /// A folder was chosen; whoever knows how the library spells it answers with setFolder().
     void folderChosen(const QString& folder);
 
@@ -76,6 +80,7 @@ class MarkDialog : public QDialog {
     void setUpButtons();
     void updateHelper();
 
+    bool m_byRecordings = false;
     std::unique_ptr<Ui::MarkDialog> m_ui;
 };
 

@@ -44,6 +44,14 @@ void addInteger(SortKey& key, const TrackRecord& record) {
     key.number(integerValue(record.*field));
 }
 
+std::string_view soundOf(const TrackRecord& record, std::string& /*made*/) {
+    return soundWord(record.sound.verdict);
+}
+
+void addSound(SortKey& key, const TrackRecord& record) {
+    key.number(static_cast<std::int64_t>(record.sound.verdict)).number(record.sound.set);
+}
+
 void addFileName(SortKey& key, const TrackRecord& record) { key.text(fileName(record)); }
 
 void addNothing(SortKey& /*key*/, const TrackRecord& /*record*/) {}
@@ -92,6 +100,8 @@ constexpr std::array<ColumnInfo, allColumns.size()> columns = {{
      addKeys<addNumber<&TrackRecord::dateaddedv>>},
     {Column::hasartwork, "hasartwork", "Artwork", "Artwork", "", text, 72, centre, end, yesOrNo,
      addKeys<addNumber<&TrackRecord::hasartwork>>},
+    {Column::sound, "sound", "Sound", "Sound", "Whether copies are the same recording", text, 88, left, end,
+     soundOf, addKeys<addSound>},
     {Column::file, "file", "File", "File", "", text, 180, left, middle, fileOf, addKeys<addFileName>},
     {Column::location, "location", "Location", "Location", "", text, 300, left, middle,
      textOf<&TrackRecord::location>, addKeys<addText<&TrackRecord::location>>},

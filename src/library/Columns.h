@@ -25,14 +25,15 @@ enum class Column {
     playcount,
     dateadded,
     hasartwork,
+    sound,
     file,
     location,
 };
 
 inline constexpr std::array allColumns = {
-    Column::checkbox,  Column::dtrack,     Column::name,       Column::artist,   Column::album,
-    Column::time,      Column::bitrate,    Column::sizestring, Column::rating,   Column::playcount,
-    Column::dateadded, Column::hasartwork, Column::file,       Column::location,
+    Column::checkbox,  Column::dtrack,     Column::name,       Column::artist, Column::album,
+    Column::time,      Column::bitrate,    Column::sizestring, Column::rating, Column::playcount,
+    Column::dateadded, Column::hasartwork, Column::sound,      Column::file,   Column::location,
 };
 
 /// What draws the cells of a column.
@@ -48,8 +49,8 @@ enum class Elision { end, middle };
 /// and the command line read. A new column is a new row.
 struct ColumnInfo {
     Column column;
-    std::string_view identifier;  ///< the record's key that it shows; "dtrack" and "file" are no keys
-    std::string_view title;       ///< in the header; empty for the two narrow columns
+    std::string_view identifier; ///< the record's key that it shows; "dtrack", "sound" and "file" are no keys
+    std::string_view title;      ///< in the header; empty for the two narrow columns
     std::string_view spokenTitle; ///< what a screen reader calls it
     std::string_view toolTip;     ///< of the header; empty for none
     CellKind kind;

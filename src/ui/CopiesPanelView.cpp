@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <array>
 
 namespace songsweep {
@@ -20,7 +21,9 @@ constexpr int panelHeight = 168;
 constexpr int copyWidth = 240;
 constexpr int valueHeight = 22;
 constexpr int markRow = 0;
-constexpr int firstValueRow = 1;
+constexpr int differenceRow = 1; ///< both rows of findings only where there are some
+constexpr int soundRow = 2;
+constexpr int firstValueRow = 3;
 
 constexpr std::array shownColumns = {
     Column::file,      Column::name,      Column::artist,     Column::album,
@@ -31,6 +34,19 @@ constexpr std::array shownColumns = {
 QString valueOf(const TrackRecord& record, Column column) {
     if (column == Column::rating) return record.rating > 0 ? QString::number(record.rating) : QString();
     return drawnText(record, column);
+}
+
+/// "same, 97 %": how much of it agrees with its recording's other copies, or with the sound most like it.
+QString soundText(const TrackRecord& record) {
+    const QString word = displayText(record, Column::sound);
+    return record.sound.percent == 0 ? word : QStringLiteral("%1, %2 %").arg(word).arg(record.sound.percent);
+}
+
+QTableWidgetItem* makeItem(const QString& text) {
+    auto* item = new QTableWidgetItem(text);
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    item->setToolTip(text);
+    return item;
 }
 
 /// Of each row whether the copies have not all the same there.
@@ -69,7 +85,7 @@ CopiesPanelView::CopiesPanelView(QWidget* parent)
 }
 
 void CopiesPanelView::setUpRows() {
-    QStringList titles = {QStringLiteral("Marked")};
+    QStringList titles = {QStringLiteral("Marked"), QStringLiteral("Difference"), QStringLiteral("Sound")};
     for (const Column column : shownColumns)
         titles << columnLook(column).spokenTitle;
     titles.last() = QStringLiteral("Folder");
@@ -86,11 +102,13 @@ void CopiesPanelView::applyMetrics() {
     horizontalHeader()->setDefaultSectionSize(scaledLength(copyWidth, this));
 }
 
-void CopiesPanelView::showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons) {
+void CopiesPanelView::showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons,
+                                 const QStringList& differences) {
     m_copies.clear();
     for (const TrackRecord* const record : copies) {
         if (m_copies.size() == mostCopies) break;
-        Copy copy{record->checkbox, reasons.value(static_cast<int>(m_copies.size())), {}};
+        const auto place = static_cast<int>(m_copies.size());
+        Copy copy{record->checkbox, reasons.value(place), differences.value(place), soundText(*record), {}};
         for (const Column column : shownColumns)
             copy.values << valueOf(*record, column);
         m_copies.push_back(std::move(copy));
@@ -103,6 +121,12 @@ void CopiesPanelView::fill() {
     setColumnCount(static_cast<int>(m_copies.size()));
     if (m_copies.empty()) return;
     const std::vector<bool> differing = differingRows(m_copies);
+    const auto has = [this](QString Copy::*text) {
+        return std::any_of(m_copies.begin(), m_copies.end(),
+                           [text](const Copy& copy) { return !(copy.*text).isEmpty(); });
+    };
+    setRowHidden(differenceRow, !has(&Copy::difference));
+    setRowHidden(soundRow, !has(&Copy::sound));
     for (int column = 0; column < columnCount(); ++column)
         fillCopy(column, differing);
 }
@@ -114,11 +138,11 @@ void CopiesPanelView::fillCopy(int column, const std::vector<bool>& differing) {
     mark->setCheckState(copy.marked ? Qt::Checked : Qt::Unchecked);
     mark->setToolTip(copy.reason);
     setItem(markRow, column, mark);
+    setItem(differenceRow, column, makeItem(copy.difference));
+    setItem(soundRow, column, makeItem(copy.sound));
     for (int row = 0; row < static_cast<int>(differing.size()); ++row) {
         const bool differs = differing[static_cast<std::size_t>(row)];
-        auto* item = new QTableWidgetItem(copy.values[row]);
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-        item->setToolTip(copy.values[row]);
+        QTableWidgetItem* const item = makeItem(copy.values[row]);
         QFont emphasis = font();
         if (differs) emphasis.setWeight(QFont::DemiBold);
         item->setFont(emphasis);

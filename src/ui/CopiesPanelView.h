@@ -23,8 +23,10 @@ class CopiesPanelView : public QTableWidget {
 
     explicit CopiesPanelView(QWidget* parent = nullptr);
 
-    /// `reasons` has one for each copy, "" for none.
-    void showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons);
+    /// `reasons` has one for each copy, "" for none, and so has `differences`, which say how a copy differs
+    /// from the plainest one.
+    void showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons,
+                    const QStringList& differences = {});
 
     QSize sizeHint() const override;
 
@@ -39,6 +41,8 @@ class CopiesPanelView : public QTableWidget {
     struct Copy {
         bool marked;
         QString reason;
+        QString difference;
+        QString sound;
         QStringList values; ///< of the rows below the mark's
     };
 

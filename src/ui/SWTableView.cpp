@@ -74,6 +74,11 @@ void SWTableView::setUp(TrackTableModel& model, Log& log) {
     installCells(log);
     applyMetrics();
     setColumnWidths();
+    showColumn(Column::sound, false);
+}
+
+void SWTableView::showColumn(Column column, bool shown) {
+    m_header->setSectionHidden(sectionOf(column), !shown);
 }
 
 void SWTableView::installCells(Log& log) {

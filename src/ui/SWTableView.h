@@ -31,6 +31,8 @@ class SWTableView : public QTableView {
     /// Shows the model, which stays the caller's, with the cells of every column. Cells that cannot be made
     /// are reported to the log and left out.
     void setUp(TrackTableModel& model, Log& log);
+    /// All columns are shown at first but that of sounds, which has nothing to say before they were compared.
+    void showColumn(Column column, bool shown);
 
     /// Reloads the model from the list. Selection, current row and scroll place follow the tracks; where the
     /// current track is gone, the nearest row that is left becomes current.

@@ -31,6 +31,18 @@ TEST_F(AppControllerActionsTest, TheMarkDialogListsTheKindsOfItsFirstOpeningAlon
     EXPECT_THAT(view.calls, ElementsAre("showMarkWindow"));
 }
 
+TEST_F(AppControllerActionsTest, SmallDifferencesAreToldOfASearchThatAllowsThem) {
+    addFiles({"/music/a.mp3", "/music/b.mp3"});
+    const std::vector<TrackRecord*> copies = controller->tableDataSource().rows;
+    copies[0]->name = copies[1]->name = "Song";
+    copies[0]->gid = copies[1]->gid = 1;
+    copies[0]->timev = 180;
+    copies[1]->timev = 181;
+    EXPECT_THAT(controller->differences(copies), ElementsAre("", ""));
+    controller->paramOkButtonClick({.issamename = true, .issametime = true, .issimilar = true});
+    EXPECT_THAT(controller->differences(copies), ElementsAre("", "1 s longer"));
+}
+
 TEST_F(AppControllerActionsTest, MarkingWithoutResultsLogsAndChangesNothing) {
     const std::size_t lines = log.lines().size();
     controller->markOkButtonClick({MarkType::latestAdded, true, ""});

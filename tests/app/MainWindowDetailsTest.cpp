@@ -81,5 +81,21 @@ TEST_F(MainWindowDetailsTest, OfAGroupWithoutAnEndTheCopiesAroundAreShown) {
     EXPECT_EQ(panel().columnCount(), CopiesPanelView::mostCopies);
 }
 
+TEST_F(MainWindowDetailsTest, SmallDifferencesAreNamedWhereThereAreSome) {
+    item("detailsMenuitem").trigger();
+    goTo(0);
+    EXPECT_TRUE(panel().isRowHidden(1));
+    EXPECT_TRUE(panel().isRowHidden(2));
+    window.setCopyDifferences([](const std::vector<TrackRecord*>& copies) {
+        QStringList differences(static_cast<int>(copies.size()));
+        differences.last() = QStringLiteral("1 s longer");
+        return differences;
+    });
+    goTo(1);
+    EXPECT_FALSE(panel().isRowHidden(1));
+    EXPECT_EQ(value("Difference", 1).text(), QStringLiteral("1 s longer"));
+    EXPECT_TRUE(panel().isRowHidden(2)) << "no sound was compared";
+}
+
 } // namespace
 } // namespace songsweep::test

@@ -40,8 +40,8 @@ WindowsFixture::WindowsFixture(const std::string& libraryText)
     , program(std::make_unique<Program>(ProgramOptions{.library = library, .map = {}, .version = "1.0"}, log))
     , controller(std::make_unique<AppController>(program->controllerServices(), windows.views()))
     , actions(std::make_unique<WindowActions>(
-          windows, *controller, [this](const std::string& path) { return program->openLibrary(path); },
-          log)) {
+          windows, *controller, [this](const std::string& path) { return program->openLibrary(path); }, log,
+          SONGSWEEP_LISTEN)) {
     controller->awakeFromNib();
     windows.showMainWindow();
     QApplication::setActiveWindow(&window());

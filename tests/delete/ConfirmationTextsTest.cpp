@@ -123,6 +123,17 @@ TEST(ConfirmationTexts, WarnOfTheLibraryUnlessThereIsWorse) {
               QStringLiteral("No copy of 1 song will be left."));
 }
 
+TEST(ConfirmationTexts, WarnOfTheLastCopiesOfRecordings) {
+    DeleteConfirmationFacts facts = {.libraryObstacle = "cannot write in /music", .lastOfRecordings = 1};
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+              QStringLiteral("1 marked copy is the last of its recording."));
+    facts.lastOfRecordings = 2;
+    facts.groupsLosingEveryCopy = 1;
+    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+              QStringLiteral("No copy of 1 song will be left.\n"
+                             "2 marked copies are the last of their recordings."));
+}
+
 TEST(ConfirmationTexts, WriteMegabytesAsTheSizeColumnDoes) {
     EXPECT_EQ(texts::megabytes(0), QStringLiteral("0.1 MB"));
     EXPECT_EQ(texts::megabytes(5'242'880), QStringLiteral("5.1 MB"));

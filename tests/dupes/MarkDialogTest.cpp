@@ -196,6 +196,27 @@ TEST_F(MarkDialogTest, SaysWhatTheSwitchMeansForTheRule) {
     EXPECT_EQ(helper.text(), QStringLiteral("A song can lose every copy. Missing files are marked too."));
 }
 
+TEST_F(MarkDialogTest, SaysThatRulesGoByRecordings) {
+    MarkDialog dialog;
+    const auto& helper = child<QLabel>(dialog, "markExceptOneLabel");
+    dialog.setPreview({.marked = 1, .total = 3, .inForce = false, .byRecordings = true});
+    EXPECT_EQ(helper.text(),
+              QStringLiteral("One copy of each recording stays, a working one if there is one."));
+    child<QCheckBox>(dialog, "markExceptOneCK").click();
+    EXPECT_EQ(helper.text(), QStringLiteral("Copies that tie all stay. No recording loses every copy."));
+    dialog.setPreview({});
+    EXPECT_EQ(helper.text(), QStringLiteral("Copies that tie all stay. Missing files are marked too."));
+}
+
+TEST_F(MarkDialogTest, OffersToCompareSoundWhereThatCanBeDone) {
+    MarkDialog dialog;
+    QSignalSpy asked(&dialog, &MarkDialog::compareSoundRequested);
+    child<QPushButton>(dialog, "markSoundButton").click();
+    EXPECT_EQ(asked.size(), 1);
+    dialog.setSoundAvailable(false);
+    EXPECT_TRUE(child<QWidget>(dialog, "markSoundRow").isHidden());
+}
+
 TEST_F(MarkDialogTest, ShowsWhatTheChoiceWouldDo) {
     MarkDialog dialog;
     auto& line = child<QLabel>(dialog, "markLiveLabel");
@@ -264,7 +285,8 @@ TEST_F(MarkDialogTest, HasTheRulesInOneTabStopBeforeTheirComboBox) {
         QStringLiteral("markDateAddedCMB"), QStringLiteral("markArtworkCMB"),
         QStringLiteral("markKindCMB"),      QStringLiteral("markFolderTF"),
         QStringLiteral("markFolderButton"), QStringLiteral("markExceptOneCK"),
-        QStringLiteral("markCancelButton"), QStringLiteral("markMarkButton"),
+        QStringLiteral("markSoundButton"),  QStringLiteral("markCancelButton"),
+        QStringLiteral("markMarkButton"),
     };
     EXPECT_EQ(test::tabOrder(dialog), expected);
 }
@@ -273,7 +295,7 @@ TEST_F(MarkDialogTest, HasOneFilledButtonAndNoMnemonicTwice) {
     MarkDialog dialog;
     test::open(dialog);
     EXPECT_EQ(test::filledButtons(dialog), QStringList(QStringLiteral("&Mark")));
-    EXPECT_EQ(test::mnemonics(dialog), QStringLiteral("ABCEFHKMPRSTW"));
+    EXPECT_EQ(test::mnemonics(dialog), QStringLiteral("ABCDEFHKMPRSTW"));
     EXPECT_EQ(child<QPushButton>(dialog, "markMarkButton").toolTip(),
               QStringLiteral("Replaces all present marks"));
     EXPECT_FALSE(dialog.isModal());

@@ -15,7 +15,10 @@ namespace songsweep::test {
 
 namespace {
 
-using PaperCellTest = TableFixture;
+class PaperCellTest : public TableFixture {
+  protected:
+    PaperCellTest() { view.showColumn(Column::sound, true); }
+};
 
 /// A cell whose making fails, as one does that gets no memory.
 template <typename Cell>

@@ -28,7 +28,7 @@ TEST_F(SWTableViewAccessibilityTest, TheTableSaysWhatItIs) {
     EXPECT_EQ(whole->text(QAccessible::Name), QStringLiteral("Duplicate tracks"));
     ASSERT_NE(table(), nullptr);
     EXPECT_EQ(table()->rowCount(), 12);
-    EXPECT_EQ(table()->columnCount(), 14);
+    EXPECT_EQ(table()->columnCount(), 15);
 }
 
 TEST_F(SWTableViewAccessibilityTest, CellsAreCells) {

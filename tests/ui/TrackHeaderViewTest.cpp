@@ -10,7 +10,10 @@ namespace {
 
 class TrackHeaderViewTest : public TableFixture {
   protected:
-    TrackHeaderViewTest() { view.setPalette(themePalette(ThemeKind::light)); }
+    TrackHeaderViewTest() {
+        view.setPalette(themePalette(ThemeKind::light));
+        view.showColumn(Column::sound, true);
+    }
 
     /// A column's title with whatever stands beside it.
     QImage title(Column column) {

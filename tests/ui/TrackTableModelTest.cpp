@@ -39,7 +39,7 @@ class TrackTableModelTest : public ::testing::Test {
 TEST_F(TrackTableModelTest, AnEmptyListHasNoRows) {
     model.reload({});
     EXPECT_EQ(model.rowCount(), 0);
-    EXPECT_EQ(model.columnCount(), 14);
+    EXPECT_EQ(model.columnCount(), 15);
     EXPECT_FALSE(model.index(0, 0).isValid());
 }
 

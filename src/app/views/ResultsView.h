@@ -25,6 +25,8 @@ class ResultsView {
     virtual void setHorizontalScroller(bool /*shown*/) {}
     virtual void setSortIndicator(Column /*column*/, bool /*ascending*/) {}
     virtual void clearSortIndicator() {}
+    /// Whether sounds were compared, so that there is something to show of them.
+    virtual void setSoundsCompared(bool /*compared*/) {}
     /// Selected rows, ascending.
     virtual std::vector<int> selectedRows() const { return {}; }
     /// The one selected row that actions work on, -1 for none.
