@@ -6,7 +6,16 @@
 namespace songsweep::test {
 namespace {
 
-class SoundMissingTest : public WindowsFixture {};
+/// The program as it is built without the codecs: nothing that listens lies beside it.
+class SoundMissingTest : public WindowsFixture {
+  protected:
+    SoundMissingTest() {
+        actions.reset();
+        actions = std::make_unique<WindowActions>(
+            windows, *controller, [](const std::string&) { return OpenedLibrary{}; }, log,
+            folder.path() + "/none");
+    }
+};
 
 TEST_F(SoundMissingTest, WithoutTheListenerTheWindowOffersNoComparison) {
     EXPECT_FALSE(window().findChild<QAction*>(QStringLiteral("compareSoundMenuitem"))->isVisible());
