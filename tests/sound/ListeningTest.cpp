@@ -15,7 +15,9 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <random>
+#include <regex>
 
 namespace songsweep {
 namespace {
@@ -153,6 +155,42 @@ TEST_F(ListeningTest, AnEndlessFileIsGivenUp) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(hear(path("endless.mp3")));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 11s);
+}
+
+TEST_F(ListeningTest, OfAMixOfTenHoursTheFirstMinuteIsHeard) {
+    ffmpeg({QStringLiteral("-i"), QString::fromStdString(wave("a.wav", 60)), QStringLiteral("-b:a"),
+            QStringLiteral("8k"), QString::fromStdString(path("minute.mp3"))});
+    std::ifstream minute(path("minute.mp3"), std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(minute), {}};
+    std::ofstream mix(path("mix.mp3"), std::ios::binary);
+    for (int i = 0; i < 600; ++i)
+        mix << bytes;
+    mix.close();
+    const auto start = std::chrono::steady_clock::now();
+    const Result<Fingerprint> heard = hear(path("mix.mp3"));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 10s);
+    ASSERT_TRUE(heard) << heard.error().message;
+    EXPECT_NEAR(static_cast<double>(heard.value().size()), 60 * fingerprintItemsPerSecond, 40);
+}
+
+/// As the system knows it: no file to write, no core, and, but under a sanitizer, a gigabyte.
+TEST_F(ListeningTest, TheProcessIsLimited) {
+    QProcess process;
+    process.start(QStringLiteral(SONGSWEEP_LISTEN), QStringList());
+    ASSERT_TRUE(process.waitForStarted());
+    process.write(path("none").c_str(), static_cast<qint64>(path("none").size()) + 1);
+    ASSERT_TRUE(process.waitForReadyRead()); // it has begun, and so has limited itself
+    std::ifstream file("/proc/" + std::to_string(process.processId()) + "/limits");
+    const std::string limits{std::istreambuf_iterator<char>(file), {}};
+    process.kill();
+    process.waitForFinished();
+    EXPECT_TRUE(std::regex_search(limits, std::regex("Max file size +0 +0"))) << limits;
+    EXPECT_TRUE(std::regex_search(limits, std::regex("Max core file size +0 +0"))) << limits;
+#ifndef __SANITIZE_ADDRESS__
+#ifndef __SANITIZE_THREAD__
+    EXPECT_TRUE(std::regex_search(limits, std::regex("Max address space +1073741824"))) << limits;
+#endif
+#endif
 }
 
 TEST_F(ListeningTest, AFileIsHeardOnceUntilItChanges) {
