@@ -7,8 +7,8 @@
 
 namespace songsweep::cli {
 
-/// A progress bar on the console: the phase, the percentage and the time left in one line of standard error, where that is a
-/// terminal. Main thread.
+/// A progress bar on the console: the phase, the percentage and the time left in one line of standard error,
+/// where that is a terminal. Main thread.
 class ConsoleProgress final : public ProgressView {
   public:
     enum class Line { free, taken }; ///< taken by the log, whose lines are to stay whole
