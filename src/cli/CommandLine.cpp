@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/OptionChecks.h"
 #include "cli/Output.h"
+#include "cli/VersionText.h"
 #include "dupes/MarkRule.h"
 #include "platform/TerminalText.h"
 
@@ -257,7 +258,7 @@ struct Parser {
 };
 
 Parser::Parser(const std::string& version) {
-    app.set_version_flag("--version", "Songsweep " + version);
+    app.set_version_flag("--version", [version] { return versionText(version); });
     app.require_subcommand(0, 1);
     app.footer("Without a command the window opens. Options of the library count before a command, too.");
     addLibraryOptions(app, raw);

@@ -2,15 +2,20 @@
 #include "ProgramRun.h"
 #include "SampleLibrary.h"
 
+#include <QtGlobal>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <libxml/xmlversion.h>
 
 namespace songsweep {
 namespace {
 
 using test::RunResult;
 using ::testing::AllOf;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
+using ::testing::StartsWith;
 
 class Usage : public test::ProgramTest {
   protected:
@@ -27,7 +32,15 @@ class Usage : public test::ProgramTest {
 TEST_F(Usage, TellsTheVersion) {
     const RunResult result = run({"--version"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output, "Songsweep " SONGSWEEP_VERSION SONGSWEEP_VERSION_NOTE "\n");
+    EXPECT_THAT(result.output, StartsWith("Songsweep " SONGSWEEP_VERSION SONGSWEEP_VERSION_NOTE "\n"));
+}
+
+TEST_F(Usage, TellsTheLibrariesThatItRunsWith) {
+    const std::string output = run({"--version"}).output;
+    EXPECT_THAT(output, HasSubstr(std::string("\nQt ") + qVersion() + ", libxml2 " LIBXML_DOTTED_VERSION));
+    for (const char* library : {", expat ", ", ICU ", ", GLib ", ", TagLib "})
+        EXPECT_THAT(output, HasSubstr(library));
+    EXPECT_THAT(output, EndsWith("\n"));
 }
 
 TEST_F(Usage, TellsEveryCommandAndOption) {
