@@ -7,10 +7,11 @@ find_package(Threads REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(nlohmann_json REQUIRED)
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
-pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(TAGLIB REQUIRED IMPORTED_TARGET taglib)
-
+if(NOT APPLE)
+    pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
+    pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+endif()
 
 # What compares the sound of copies; without it the program builds, and says so.
 if(SONGSWEEP_SOUND)

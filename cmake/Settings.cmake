@@ -26,3 +26,7 @@ endif()
 if(SONGSWEEP_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+
+# Where the program finds songsweep-listen once it is installed: nothing that people call.
+include(GNUInstallDirs)
+set(SONGSWEEP_LISTENER_FOLDER ${CMAKE_INSTALL_LIBEXECDIR}/songsweep)

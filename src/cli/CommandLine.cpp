@@ -3,9 +3,9 @@
 
 #include "cli/Commands.h"
 #include "cli/OptionChecks.h"
+#include "cli/OptionValues.h"
 #include "cli/Output.h"
 #include "cli/VersionText.h"
-#include "dupes/MarkRule.h"
 #include "platform/TerminalText.h"
 
 #include <CLI/CLI.hpp>
@@ -62,20 +62,9 @@ void addVerbose(CLI::App& command, Raw& raw) {
     command.add_flag("--verbose", raw.library.verbose, "Show the log on standard error");
 }
 
-std::string checkField(const std::string& text) {
-    static const std::vector<std::string> known = {"name", "artist", "album", "time", "none"};
-    if (std::find(known.begin(), known.end(), text) != known.end()) return {};
-    return "'" + text + "' is none of name, artist, album, time, none";
-}
-
 OutputFormat formatNamed(const std::string& name) {
     if (name == "json") return OutputFormat::json;
     return name == "csv" ? OutputFormat::csv : OutputFormat::text;
-}
-
-std::string checkFormat(const std::string& text) {
-    if (text == "text" || text == "json" || text == "csv") return {};
-    return "'" + text + "' is none of text, json, csv";
 }
 
 void addFormat(CLI::App& command, OutputFormat& format) {
@@ -83,7 +72,7 @@ void addFormat(CLI::App& command, OutputFormat& format) {
         .add_option_function<std::string>(
             "--format", [&format](const std::string& name) { format = formatNamed(name); },
             "text, json or csv")
-        ->check(checkFormat)
+        ->check([](const std::string& word) { return checkValueWord("FORMAT", word); })
         ->type_name("FORMAT")
         ->default_str("text");
 }
@@ -94,7 +83,7 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
     command.add_option("--same", raw.same, "What duplicates have in common: name,artist,album,time, or none")
         ->delimiter(',')
         ->allow_extra_args(false)
-        ->check(checkField)
+        ->check([](const std::string& word) { return checkValueWord("FIELDS", word); })
         ->type_name("FIELDS")
         ->default_str("name,artist,time");
     command.add_flag("--sound", options.sound, "Listen to the copies, and tell recordings apart");
@@ -119,18 +108,11 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
     command.add_option("--output", options.output, "Write the result to a file")->type_name("FILE");
 }
 
-std::vector<std::string> ruleNames() {
-    std::vector<std::string> names;
-    for (const MarkRule& rule : markRules())
-        names.emplace_back(rule.name);
-    return names;
-}
-
 void addMarkOptions(CLI::App& command, MarkOptions& options, Raw& raw) {
     addFindOptions(command, options, raw);
     command.add_option("--rule", options.rule, "The copy that is kept in each group, or kind, or folder")
         ->required()
-        ->check(CLI::IsMember(ruleNames()))
+        ->check(CLI::IsMember(valueWords("RULE")))
         ->type_name("RULE");
     command.add_flag("--except-one", options.exceptOne, "Mark every copy but one");
     command.add_option("--kind", options.kind, "The kind that the rule 'kind' marks, as in MP3")
@@ -354,6 +336,11 @@ std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* 
         std::cerr << terminalText(errors.str());
         return code == 0 ? print(output.str()) : ExitCode::usage;
     }
+}
+
+CommandDescription describeCommandLine() {
+    const Parser parser({});
+    return described(parser.app);
 }
 
 } // namespace songsweep::cli

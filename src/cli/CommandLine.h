@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/CommandDescription.h"
 #include "cli/Options.h"
 
 #include <string>
@@ -15,5 +16,8 @@ using Command = std::variant<LibraryOptions, FindOptions, MarkOptions, DeleteOpt
 /// The command, or the exit code where help, the version or a usage error was printed instead.
 std::variant<Command, ExitCode> parseCommandLine(int argumentCount, const char* const* arguments,
                                                  const std::string& version);
+
+/// Every command and option that the parser knows.
+CommandDescription describeCommandLine();
 
 } // namespace songsweep::cli

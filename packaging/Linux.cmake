@@ -1,0 +1,32 @@
+# The desktop's files, manual page and completion, where a Linux desktop looks for them.
+set(linux ${CMAKE_CURRENT_SOURCE_DIR}/linux)
+set(metainfo example.songsweep.Songsweep.metainfo.xml)
+
+foreach(shell bash zsh fish)
+    package_text(songsweep.${shell} ${shell})
+endforeach()
+package_text(songsweep.1 man PATTERN ${linux}/songsweep.1.in)
+package_text(${metainfo} metainfo PATTERN ${linux}/${metainfo}.in)
+package_text(changelog changelog)
+compressed(songsweep.1)
+compressed(changelog)
+
+set(here ${CMAKE_CURRENT_BINARY_DIR})
+set(share ${CMAKE_INSTALL_DATADIR})
+install(TARGETS songsweep RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+if(SONGSWEEP_SOUND)
+    install(TARGETS songsweep-listen RUNTIME DESTINATION ${SONGSWEEP_LISTENER_FOLDER})
+endif()
+install(FILES ${linux}/songsweep.desktop ${linux}/songsweep-folder.desktop DESTINATION ${share}/applications)
+install(FILES ${here}/${metainfo} DESTINATION ${share}/metainfo)
+install(FILES ${linux}/songsweep.xml DESTINATION ${share}/mime/packages)
+install(FILES ${here}/songsweep.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${here}/songsweep.bash DESTINATION ${share}/bash-completion/completions RENAME songsweep)
+install(FILES ${here}/songsweep.zsh DESTINATION ${share}/zsh/vendor-completions RENAME _songsweep)
+install(FILES ${here}/songsweep.fish DESTINATION ${share}/fish/vendor_completions.d)
+install(DIRECTORY ${here}/icons/ DESTINATION ${share}/icons/hicolor FILES_MATCHING PATTERN *.png)
+install(FILES ${icons}/application.svg DESTINATION ${share}/icons/hicolor/scalable/apps RENAME songsweep.svg)
+install(FILES ${CMAKE_CURRENT_SOURCE_DIR}/debian/copyright ${here}/changelog.gz
+        DESTINATION ${share}/doc/songsweep)
+
+include(DebianPackage.cmake)
