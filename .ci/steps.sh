@@ -41,9 +41,25 @@ as_root() {
     fi
 }
 
+# On a Mac all groups are Homebrew's group "mac", some of which are looked for where only Homebrew knows.
+install_formulae() {
+    local formula
+    command -v brew >/dev/null || fail "Homebrew installs these formulae, and is missing: $(packages_of mac)"
+    # shellcheck disable=SC2046 # one word for each formula
+    quietly build/log/brew-install brew install --quiet $(packages_of mac)
+    for formula in expat icu4c libxml2; do
+        CMAKE_PREFIX_PATH=$(brew --prefix "$formula"):${CMAKE_PREFIX_PATH:-}
+    done
+    export CMAKE_PREFIX_PATH
+}
+
 # install_packages GROUP...: installs what is missing; asks for nothing, does nothing when all is there.
 install_packages() {
     local package missing=""
+    if [[ $(uname) == Darwin ]]; then
+        install_formulae
+        return
+    fi
     for package in $(packages_of "$@"); do
         is_installed "$package" || missing+=" $package"
     done

@@ -32,6 +32,8 @@ struct ControllerServices {
     Desktop& desktop;
     Cleanup& cleanup;
     std::string version; ///< "1.0"
+    /// What the player is called that scripts go to, for the alert where it does not answer.
+    std::function<std::string()> playerName = [] { return std::string("iTunes"); };
     /// Why the embedded library cannot be read, for the alert; empty where nothing is known.
     std::function<std::string()> unreachableReason = [] { return std::string(); };
     /// Every track of the whole library with its file, for finding files that two tracks share; called on a

@@ -112,6 +112,7 @@ ControllerServices Program::controllerServices() {
         .desktop = *m_desktop,
         .cleanup = m_cleanup,
         .version = m_options.version,
+        .playerName = [this] { return m_scripts.usesEmbedded() ? "iTunes" : nativePlayerName(); },
         .unreachableReason = [this] { return unreachableReason(); },
         .libraryLocations = [this](const LocationVisitor& visit) { return visitLocations(visit); },
         .areTracksOfITunes =

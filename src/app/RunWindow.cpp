@@ -2,6 +2,7 @@
 #include "app/RunWindow.h"
 
 #include "app/AppController.h"
+#include "app/FileOpening.h"
 #include "app/WindowActions.h"
 #include "app/Windows.h"
 #include "platform/BufferedLog.h"
@@ -67,6 +68,7 @@ int runController(Program& program, Windows& windows, const Beginning& beginning
     windows.showMainWindow();
     controller.beginLibrary(CurrentLibrary::Telling::page);
     controller.lookForInterruption();
+    const FileOpening opening([&actions](const std::string& path) { actions.open(path); });
     if (!beginning.folder.empty()) actions.open(beginning.folder);
     const int exitCode = QApplication::exec();
     controller.applicationShouldTerminate();

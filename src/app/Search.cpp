@@ -18,9 +18,11 @@ namespace songsweep {
 
 namespace {
 
-constexpr const char* cantAccessMessage = "Can't access iTunes. If there is a dialog window (eg. update "
-                                          "notification, song info, preferences) showing "
-                                          "on iTunes, please close it first.";
+std::string cantAccessMessage(const std::string& player) {
+    return "Can't access " + player +
+           ". If there is a dialog window (eg. update notification, song info, preferences) showing on " +
+           player + ", please close it first.";
+}
 
 /// What a text that is not there reads as where a text is built from it.
 const std::string missingText = "(null)";
@@ -95,7 +97,8 @@ void Search::paramOkButtonClick(SearchParameters choices) {
     const std::int32_t trackCount = m_queries.getTracksCount();
     m_progress.progress().total = trackCount;
     if (trackCount < 0) {
-        m_applicationView.alertCantAccess(cantAccessMessage, m_services.unreachableReason());
+        m_applicationView.alertCantAccess(cantAccessMessage(m_services.playerName()),
+                                          m_services.unreachableReason());
         return;
     }
     m_libraryCount = trackCount;

@@ -7,7 +7,7 @@
 
 namespace songsweep {
 
-/// What runs texts against the real iTunes and Finder; null on a system that has none.
+/// What runs texts against the real iTunes, or Music, and Finder; null on a system that has none.
 std::unique_ptr<AppleScript> nativeAppleScript();
 
 } // namespace songsweep

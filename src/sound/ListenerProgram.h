@@ -7,8 +7,8 @@
 
 namespace songsweep {
 
-/// The path at which the program that decodes lies, beside this one, as both are built and installed. Needs a
-/// QCoreApplication.
+/// The path of the program that decodes: where it is installed, or else beside this one, as both are built.
+/// Needs a QCoreApplication.
 std::string listenerProgram();
 
 /// Whether it is there; not so where the program was built without the codecs' libraries.

@@ -133,6 +133,27 @@ TEST_F(AppControllerSearchTest, AnUnreachableITunesGivesTheAlertAndChangesNothin
     EXPECT_THAT(log.lines(), Contains("Location: Library"));
 }
 
+TEST_F(AppControllerSearchTest, TheAlertSpeaksOfThePlayerThatIsThere) {
+    ControllerServices services = this->services(files);
+    services.playerName = [] { return std::string("Music"); };
+    controller = std::make_unique<AppController>(services, view.views());
+    failTexts("count of tracks of playlist 1");
+    view.calls.clear();
+    controller->paramOkButtonClick(sameNameAndArtist());
+    EXPECT_THAT(view.calls,
+                ElementsAre("closeParamWindow",
+                            "alertCantAccess Can't access Music. If there is a dialog window (eg. update "
+                            "notification, song info, preferences) showing on Music, please close it first.|"
+                            "line 3: no end"));
+}
+
+TEST_F(AppControllerSearchTest, MusicIsAskedByAppleScriptWhateverFileThereIs) {
+    iTunes.version = "1.5.2"; // as Music counts
+    controller->paramOkButtonClick(sameNameAndArtist());
+    EXPECT_EQ(controller->progress().progressSpan, 90);
+    runUntilIdle();
+}
+
 TEST_F(AppControllerSearchTest, HelpOfTheAlertOpensTheQuestionsPage) {
     controller->alertCantAccessDidEnd(1000);
     EXPECT_TRUE(desktop.calls.empty());

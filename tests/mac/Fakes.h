@@ -22,7 +22,8 @@ struct FakeMac {
     std::vector<std::string> recentDatabases;
     bool hasDomain = true;
     FakeDescriptor scriptResult = {"null", "", {}};
-    std::string scriptError; ///< empty: none told
+    std::vector<std::string> applications = {"com.apple.iTunes"}; ///< that are installed
+    std::string scriptError;                                      ///< empty: none told
 };
 
 FakeMac& fakeMac();

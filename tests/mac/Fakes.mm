@@ -129,6 +129,12 @@ static OSType codeOf(const std::string& letters) {
     static id workspace = class_createInstance(self, 0);
     return workspace;
 }
+- (NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)identifier {
+    const auto& installed = fakeMac().applications;
+    const bool isThere =
+        std::find(installed.begin(), installed.end(), [identifier UTF8String]) != installed.end();
+    return isThere ? [NSURL fileURLWithPath:@"/Applications/Player.app"] : nil;
+}
 - (BOOL)openURL:(NSURL*)url {
     note("open", [url absoluteString]);
     return fakeMac().succeeds;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Fakes.h"
+#include "scripting/NativeAppleScript.h"
 #include "scripting/mac/NSAppleScriptRunner.h"
 
 #include <gmock/gmock.h>
@@ -28,13 +29,32 @@ class MacScript : public ::testing::Test {
         return answer ? answer.value() : Descriptor::text("failed");
     }
 
-    NSAppleScriptRunner m_scripts;
+    NSAppleScriptRunner m_scripts{"iTunes"};
 };
 
 TEST_F(MacScript, IsHandedOverAsItIs) {
     const std::string text = "tell application \"iTunes\" \nplay \"Macintosh HD:caf\u00e9\" \nend tell";
     EXPECT_TRUE(m_scripts.executeAndReturnError(text));
     EXPECT_THAT(fakeMac().calls, ElementsAre("script " + text));
+}
+
+TEST_F(MacScript, IsAddressedToThePlayerThatIsThere) {
+    NSAppleScriptRunner music("Music");
+    EXPECT_TRUE(music.executeAndReturnError("tell application \"iTunes\" to play playlist \"iTunes\""));
+    EXPECT_THAT(fakeMac().calls,
+                ElementsAre("script tell application \"Music\" to play playlist \"iTunes\""));
+}
+
+TEST_F(MacScript, GoesToMusicWhereITunesIsNotInstalled) {
+    fakeMac().applications = {"com.apple.Music"};
+    EXPECT_TRUE(nativeAppleScript()->executeAndReturnError("tell application \"iTunes\" to stop"));
+    fakeMac().applications = {"com.apple.iTunes", "com.apple.Music"};
+    EXPECT_TRUE(nativeAppleScript()->executeAndReturnError("tell application \"iTunes\" to stop"));
+    fakeMac().applications = {};
+    EXPECT_TRUE(nativeAppleScript()->executeAndReturnError("tell application \"iTunes\" to stop"));
+    EXPECT_THAT(fakeMac().calls, ElementsAre("script tell application \"Music\" to stop",
+                                             "script tell application \"iTunes\" to stop",
+                                             "script tell application \"iTunes\" to stop"));
 }
 
 TEST_F(MacScript, GivesTextsAndNumbers) {

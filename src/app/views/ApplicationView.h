@@ -24,7 +24,8 @@ class ApplicationView {
 
     /// That a library the user opened cannot be read, and why.
     virtual void alertCantOpen(const std::string& /*reason*/) {}
-    /// "Can't access iTunes. ..." with "OK" and "Help"; `reason` is its informative text, or empty.
+    /// "Can't access iTunes. ...", or Music, with "OK" and "Help"; `reason` is its informative text, or
+    /// empty.
     virtual void alertCantAccess(const std::string& /*message*/, const std::string& /*reason*/) {}
     /// "No duplicates found."; the notes tell, a paragraph each, what was not searched.
     virtual void alertNoDuplicates(const std::vector<std::string>& /*notes*/) {}

@@ -12,6 +12,8 @@ std::unique_ptr<Preferences> nativePreferences() {
     return std::make_unique<LinuxPreferences>(LinuxPreferences::userFolders());
 }
 
+std::string nativePlayerName() { return "iTunes"; }
+
 std::vector<std::string> nativeLibraryPlaces() {
     return LinuxPreferences(LinuxPreferences::userFolders()).libraryPlaces();
 }

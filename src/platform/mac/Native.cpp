@@ -3,6 +3,7 @@
 
 #include "platform/RecentFiles.h"
 #include "platform/mac/MacDesktop.h"
+#include "platform/mac/MacPlayer.h"
 #include "platform/mac/MacPreferences.h"
 
 namespace songsweep {
@@ -10,6 +11,8 @@ namespace songsweep {
 std::unique_ptr<Desktop> nativeDesktop() { return std::make_unique<MacDesktop>(); }
 
 std::unique_ptr<Preferences> nativePreferences() { return std::make_unique<MacPreferences>(); }
+
+std::string nativePlayerName() { return macPlayerName(); }
 
 std::vector<std::string> nativeLibraryPlaces() {
     return {MacPreferences().homeFolder() + iAppsPropertyListPlace};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "scripting/mac/NSAppleScriptRunner.h"
 
+#include "scripting/PlayerName.h"
+
 #import <Foundation/Foundation.h>
 
 #include <cstring>
@@ -129,8 +131,9 @@ Result<Descriptor> executed(NSString* text) {
 Result<Descriptor> NSAppleScriptRunner::executeAndReturnError(std::string_view source) {
     const std::lock_guard lock(m_lock);
     NSAutoreleasePool* const pool = [[NSAutoreleasePool alloc] init];
-    NSString* const text = [[[NSString alloc] initWithBytes:source.data()
-                                                     length:source.size()
+    const std::string addressed = addressedTo(m_player, source);
+    NSString* const text = [[[NSString alloc] initWithBytes:addressed.data()
+                                                     length:addressed.size()
                                                    encoding:NSUTF8StringEncoding] autorelease];
     Result<Descriptor> result =
         text ? executed(text) : Error{Error::Code::invalid, "the script is not UTF-8"};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#import <AppKit/AppKit.h>
 #import <Foundation/Foundation.h>
 
 // What macOS declares and GNUstep does not, as far as the program calls it.
@@ -11,6 +12,10 @@ using Boolean = unsigned char;
 
 @interface NSFileManager (MissingFromGNUstep)
 - (BOOL)trashItemAtURL:(NSURL*)url resultingItemURL:(NSURL**)result error:(NSError**)error;
+@end
+
+@interface NSWorkspace (MissingFromGNUstep)
+- (NSURL*)URLForApplicationWithBundleIdentifier:(NSString*)identifier;
 @end
 
 @interface NSAppleScript (MissingFromGNUstep)
