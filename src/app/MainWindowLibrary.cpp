@@ -2,6 +2,8 @@
 #include "app/MainWindow.h"
 #include "library/LocationUrl.h"
 #include "library/ValueFormats.h"
+#include "platform/DataFolder.h"
+#include "scan/FolderLibrary.h"
 #include "ui/EmptyPageView.h"
 #include "ui_MainWindow.h"
 
@@ -29,7 +31,20 @@ QString shortened(const QString& path) {
     return isBelow ? QLatin1Char('~') + path.mid(home.size()) : path;
 }
 
+/// "~/Music" for the library of that folder, which lies elsewhere under a name that says nothing; nothing for
+/// any other library.
+QString folderRead(const std::string& path) {
+    const std::optional<FolderLibrary> place = FolderLibrary::ofLibrary(path, dataFolder());
+    return place ? shortened(fileOf(place->folder).filePath()) : QString();
+}
+
+QString nameOfLibrary(const std::string& path) {
+    const QString folder = folderRead(path);
+    return folder.isEmpty() ? fileOf(path).fileName() : folder;
+}
+
 QString nameAndFolder(const std::string& path) {
+    if (const QString folder = folderRead(path); !folder.isEmpty()) return folder;
     const QFileInfo file = fileOf(path);
     return QStringLiteral("%1 in %2").arg(file.fileName(), shortened(file.path()));
 }
@@ -62,7 +77,7 @@ struct PageTexts {
 };
 
 PageTexts pageTexts(const LibraryOverview& library) {
-    const QString name = fileOf(library.path).fileName();
+    const QString name = nameOfLibrary(library.path);
     const QString title = QStringLiteral("Find the songs you have twice");
     switch (library.state) {
     case State::unknown:
@@ -94,7 +109,7 @@ void MainWindow::setUpEmptyPage() {
 
 void MainWindow::showLibrary(const LibraryOverview& library) {
     m_library = library;
-    const QString name = fileOf(library.path).fileName();
+    const QString name = nameOfLibrary(library.path);
     setWindowTitle(name.isEmpty() ? QStringLiteral("Songsweep") : QStringLiteral("Songsweep – ") + name);
     const PageTexts texts = pageTexts(library);
     m_ui->emptyPage->setFacts(texts.title, texts.facts);

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "WindowsFixture.h"
+#include "app/DetailsDialog.h"
 #include "sample-library/SoundSample.h"
 #include "support/EventLoop.h"
+#include "ui/NoticeBarView.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QMessageBox>
+#include <QToolButton>
 
 #include <algorithm>
 #include <filesystem>
@@ -83,9 +86,26 @@ TEST_F(FolderActionsTest, FilesOfALibraryAreTheUsersChoiceAgain) {
     EXPECT_FALSE(confirmation().deletesFiles());
 }
 
-TEST_F(FolderActionsTest, AFileThatCannotBeReadIsInTheLog) {
+TEST_F(FolderActionsTest, TheFolderStandsInTitleAndPage) {
+    openMusic();
+    EXPECT_TRUE(window().windowTitle().startsWith(QStringLiteral("Songsweep – ")));
+    EXPECT_TRUE(window().windowTitle().endsWith(QStringLiteral("/Tunes")));
+    const QString facts = window().findChild<QLabel*>(QStringLiteral("emptyText"))->text();
+    EXPECT_TRUE(facts.contains(QStringLiteral("/Tunes – 3 tracks, "))) << facts.toStdString();
+}
+
+TEST_F(FolderActionsTest, FilesThatCannotBeReadAreToldOverTheTableAndInTheLog) {
     folder.write("Tunes/broken.mp3", "no sound");
     openMusic();
+    auto& bar = *window().findChild<NoticeBarView*>(QStringLiteral("noticeBar"));
+    ASSERT_TRUE(runEventLoopUntil([&] { return bar.isVisible(); }));
+    EXPECT_EQ(bar.message(), QStringLiteral("1 file could not be read"));
+    search();
+    ASSERT_TRUE(bar.isVisible()) << "a search looks at the folder again";
+    bar.findChild<QToolButton*>(QStringLiteral("noticeButton0"))->click();
+    auto* const details = windows.mainWindow().findChild<DetailsDialog*>();
+    ASSERT_NE(details, nullptr);
+    EXPECT_TRUE(details->text().startsWith(QStringLiteral("broken.mp3: no sound was found in")));
     const auto lines = log.lines();
     EXPECT_TRUE(std::any_of(lines.begin(), lines.end(), [](const std::string& line) {
         return line.starts_with("broken.mp3: no sound was found in");
