@@ -192,6 +192,23 @@ TEST_F(TrashReturnTest, AVolumesFileComesBackByItsRelativeRecord) {
     }
 }
 
+TEST_F(TrashReturnTest, ManyFilesOfOneNameOfAVolumeHaveRelativeRecords) {
+    const std::string image = m_folder.write("image", std::string(8 << 20, '\0'));
+    const std::string top = m_folder.path() + "/mount";
+    if (!test::makeFileSystem(image)) GTEST_SKIP() << "there is no mkfs.ext4";
+    const Mount mount(top, {QStringLiteral("-o"), QStringLiteral("loop"), QString::fromStdString(image)});
+    if (!mount) GTEST_SKIP() << "mounting is not permitted";
+    fs::create_symlink("mount", m_folder.path() + "/link");
+    constexpr int count = 40;
+    for (int number = 1; number <= count; ++number) {
+        m_folder.write("mount/Abba/SOS.mp3", "music");
+        const TrashedFile file = trash(m_folder.path() + "/link/Abba/SOS.mp3");
+        const std::string record =
+            fs::path(file.trashFolder).parent_path() / "info" / (file.name + ".trashinfo");
+        EXPECT_NE(contentsOf(record).find("\nPath=Abba/SOS.mp3\n"), std::string::npos) << contentsOf(record);
+    }
+}
+
 /// Fills the file system up to some bytes.
 void fill(const std::string& folder, std::size_t bytesLeft) {
     std::ofstream(folder + "/left") << std::string(bytesLeft, 'x');

@@ -61,6 +61,42 @@ TEST_F(TrashTest, KeepsTwoFilesOfOneName) {
     EXPECT_EQ(contents, (std::set<std::string>{"1", "2"}));
 }
 
+TEST_F(TrashTest, KeepsManyFilesOfOneName) {
+    constexpr int count = 60; // of which the program itself moves those behind the first few
+    const std::string name = "100% caf\u00e9 \xff.b.mp3";
+    std::string lastRecord;
+    for (int number = 1; number <= count; ++number) {
+        const std::string path = m_folder.write("Abba/" + name, std::to_string(number));
+        const Result<TrashedFile> trashed = m_trash.moveToTrash(path);
+        ASSERT_TRUE(trashed) << trashed.error().message;
+        EXPECT_EQ(trashed.value().name,
+                  "100% caf\u00e9 \xff" + (number == 1 ? "" : "." + std::to_string(number)) + ".b.mp3");
+        EXPECT_EQ(contentsOf(trashed.value().path()), std::to_string(number));
+        std::string record = contentsOf(m_place / "info" / (trashed.value().name + ".trashinfo"));
+        record.resize(record.find("DeletionDate="));
+        EXPECT_TRUE(number == 1 || record == lastRecord) << record;
+        lastRecord = record;
+    }
+    for (const Trashed& trashed : list())
+        EXPECT_EQ(trashed.original, m_folder.path() + "/Abba/" + name);
+    EXPECT_EQ(list().size(), std::size_t{count});
+}
+
+TEST_F(TrashTest, GoesAroundNamesThatOthersTookMeanwhile) {
+    constexpr int few = 20;
+    for (int number = 1; number <= few; ++number)
+        ASSERT_TRUE(m_trash.moveToTrash(m_folder.write("a.mp3", "music")));
+    std::ofstream(m_place / "info/a.21.mp3.trashinfo") << "another program's";
+    std::ofstream(m_place / "files/a.22.mp3") << "without a record";
+    const Result<TrashedFile> trashed = m_trash.moveToTrash(m_folder.write("a.mp3", "the next"));
+    ASSERT_TRUE(trashed);
+    EXPECT_EQ(trashed.value().name, "a.23.mp3");
+    EXPECT_EQ(contentsOf(trashed.value().path()), "the next");
+    EXPECT_EQ(contentsOf(m_place / "info/a.21.mp3.trashinfo"), "another program's");
+    EXPECT_EQ(contentsOf(m_place / "files/a.22.mp3"), "without a record");
+    EXPECT_FALSE(fs::exists(m_place / "info/a.22.mp3.trashinfo"));
+}
+
 TEST_F(TrashTest, TakesALinkAndLeavesItsTarget) {
     const std::string target = m_folder.write("a.mp3", "music");
     const std::string link = m_folder.path() + "/link";

@@ -5,6 +5,7 @@
 #include "platform/linux/Gio.h"
 #include "platform/linux/LinuxTrashCheck.h"
 #include "platform/linux/MoveToFreeName.h"
+#include "platform/linux/NumberedMove.h"
 #include "platform/linux/PathParts.h"
 #include "platform/linux/TrashFolders.h"
 #include "platform/linux/TrashRecord.h"
@@ -27,6 +28,8 @@ struct LinuxTrash::Identity {
 };
 
 namespace {
+
+constexpr int crowded = 16; // files of one name that GIO may try through
 
 Result<void> moveByGio(const std::string& path) {
     const gio::Owned<GFile> file(g_file_new_for_path(path.c_str()));
@@ -55,9 +58,28 @@ Result<TrashedFile> LinuxTrash::moveToTrash(const std::string& path) {
     if (!path.starts_with('/')) return Error{Error::Code::invalid, "Not an absolute path"};
     const std::optional<Identity> file = Identity::of(path);
     const auto before = std::chrono::system_clock::now();
+    if (file)
+        if (const auto moved = moveToCrowdedName(path, *file)) return *moved;
     if (const Result<void> moved = moveByGio(path); !moved) return moved.error();
     if (file) return confirm(path, *file, before);
     return Error{Error::Code::failed, path + " went to the Trash just when it appeared"};
+}
+
+/// Nothing where few files of that name went there, or it failed: GIO tells why.
+std::optional<Result<TrashedFile>> LinuxTrash::moveToCrowdedName(const std::string& path,
+                                                                 const Identity& file) {
+    for (const TrashFolder& folder : trashFoldersFor(folderOf(path), file.device)) {
+        const std::string place = folder.folder + '/' + std::string(nameOf(path));
+        const int last = lastNumber(place);
+        if (last < crowded) continue;
+        const std::optional<int> number = moveToNumber(path, folder, last + 1);
+        if (!number) return std::nullopt;
+        setLastNumber(place, *number);
+        const TrashedFile trashed{folder.filesFolder(), numberedName(nameOf(path), *number)};
+        if (folder.isRecorded(trashed.name, path)) return trashed;
+        return putBack(trashed, path, folder.recordOf(trashed.name));
+    }
+    return std::nullopt;
 }
 
 Result<TrashedFile> LinuxTrash::confirm(const std::string& path, const Identity& file, Time before) {

@@ -15,7 +15,7 @@ struct TrashFolder;
 /// GIO moves the files, because it writes the records that file managers restore from with every byte of the
 /// path escaped. It neither tells the name that it gave nor whether the record was written, so that both are
 /// looked up afterwards: one name where no other file of that name lies there, else the one after the last
-/// found.
+/// found. Of a name that many files have, the rest go by `moveToNumber`.
 class LinuxTrash final : public Trash {
   public:
     Result<TrashedFile> moveToTrash(const std::string& path) override;
@@ -28,6 +28,7 @@ class LinuxTrash final : public Trash {
     using Time = std::chrono::system_clock::time_point;
     struct Identity;
 
+    std::optional<Result<TrashedFile>> moveToCrowdedName(const std::string& path, const Identity& file);
     Result<TrashedFile> confirm(const std::string& path, const Identity& file, Time before);
     std::optional<TrashedFile> whereIs(const Identity& file, const TrashFolder& folder,
                                        const std::string& name);
