@@ -48,7 +48,7 @@ struct ControllerServices {
     /// thread.
     TracksOfId tracksOfId = {};
     /// Whether the library could be written if a deletion began now; called on a worker thread.
-    std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
+    LibraryForesight libraryForesight = [](const CleanupSize&) { return CleanupRoom(); };
     /// The library file that the embedded iTunes works on, for restoring; "" where it is the system's.
     std::function<std::string()> libraryFile = [] { return std::string(); };
     /// What the library file holds; indexes it where that was not done. Called on a worker thread.

@@ -119,7 +119,7 @@ ControllerServices Program::controllerServices() {
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
         .openNodes = [this](const std::string& path) { return m_scripting.openNodes(path); },
         .tracksOfId = [this](std::string_view pid) { return tracksOfId(pid); },
-        .libraryForesight = [this] { return foreseeWriting(); },
+        .libraryForesight = [this](const CleanupSize& size) { return foreseeWriting(size); },
         .libraryFile = [this] { return m_scripts.usesEmbedded() ? m_libraryPath : std::string(); },
         .libraryContents = [this] { return libraryContents(); },
         .libraryPlaces = [] { return nativeLibraryPlaces(); },
@@ -176,11 +176,11 @@ std::vector<std::string> Program::tracksOfId(std::string_view pid) {
     return m_scripts.usesEmbedded() ? m_scripting.tracksOfId(pid) : std::vector<std::string>();
 }
 
-Result<void> Program::foreseeWriting() {
-    if (!m_scripts.usesEmbedded()) return {};
-    const Result<void> foreseen = foreseeCleanup(m_scripting.libraryPath());
+Result<CleanupRoom> Program::foreseeWriting(const CleanupSize& size) {
+    if (!m_scripts.usesEmbedded()) return CleanupRoom();
+    Result<CleanupRoom> foreseen = foreseeCleanup(m_scripting.libraryPath(), size);
     if (!foreseen) return Error{foreseen.error().code, withLibraryPath(foreseen.error().message)};
-    return {};
+    return foreseen;
 }
 
 /// On a worker thread.

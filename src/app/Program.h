@@ -94,7 +94,7 @@ class Program {
     std::string withLibraryPath(const std::string& reason) const;
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
     std::vector<std::string> tracksOfId(std::string_view pid);
-    Result<void> foreseeWriting();
+    Result<CleanupRoom> foreseeWriting(const CleanupSize& size);
     Result<LibraryContents> libraryContents();
     Error unreadable(const Error& reason) const;
     std::vector<std::string> otherLibraries() const;

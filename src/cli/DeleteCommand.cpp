@@ -58,14 +58,16 @@ ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& 
     const auto plan = planOf(session, options, facts);
     if (!plan) return ExitCode::interrupted;
     if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
-    const Result<void> writable = session.program().controllerServices().libraryForesight();
-    const bool begins = writable || session.controller().getCheckedCount() == 0;
+    const SurveyedRows rows(session.controller().tableDataSource().rows);
+    const auto room = session.program().controllerServices().libraryForesight(
+        options.files ? rows.sizeWithFiles() : rows.sizeWithoutFiles());
+    const bool begins = room || session.controller().getCheckedCount() == 0;
     const DeleteReport report =
         begins ? predictedReport(session.controller().tableDataSource().rows, options.files, *plan,
                                  session.program().controllerServices().tracksOfId)
                : nothingAttempted(session.controller());
     if (const auto problem = writeReportTo(output, options, report)) return *problem;
-    if (!begins) return fail(writable.error().message);
+    if (!begins) return fail(room.error().message);
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;
 }
 

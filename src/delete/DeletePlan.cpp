@@ -68,6 +68,7 @@ class Survey {
     void askTheTrash() {
         if (m_sources.trash == nullptr) return;
         RefusedFiles refused(m_sources.files, *m_sources.trash);
+        refused.leaveRoom(m_room);
         for (const bool isShared : {false, true})
             for (const SurveyedRows::Track& track : m_rows.marked) {
                 if (m_isStopped()) return;
@@ -77,10 +78,11 @@ class Survey {
             }
     }
 
-    void askTheLibrary(DeleteConfirmationFacts& facts) const {
+    void askTheLibrary(DeleteConfirmationFacts& facts) {
         if (m_isStopped()) return;
-        const Result<void> writable = m_sources.libraryForesight();
-        facts.libraryObstacle = writable ? std::string() : writable.error().message;
+        const Result<CleanupRoom> room = m_sources.libraryForesight(m_rows.sizeWithFiles());
+        facts.libraryObstacle = room ? std::string() : room.error().message;
+        if (room) m_room = room.value();
     }
 
     void lookAtCopiesThatStay(DeleteConfirmationFacts& facts) {
@@ -178,6 +180,7 @@ class Survey {
     MarkedEntries m_entries;
     MarkedFiles m_markedFiles;
     DeletePlan m_plan;
+    CleanupRoom m_room;
     int m_kept = 0;    // marked tracks that stay for their IDs
     int m_missing = 0; // files of the others
 };
@@ -198,7 +201,12 @@ SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_pt
 }
 
 void SurveyedRows::add(const TrackRecord& record) {
-    if (record.checkbox) marked.push_back({&record, record.pid, record.location});
+    if (record.checkbox) {
+        marked.push_back({&record, record.pid, record.location});
+        for (const std::string_view text : {record.pid, record.name, record.artist})
+            textBytes += text.size();
+        pathBytes += std::string_view(record.location).size();
+    }
     if (!record.checkbox || trackObstacle(record.pid)) others.push_back({record.pid, record.location});
 }
 

@@ -4,6 +4,7 @@
 #include "delete/SharedIds.h"
 #include "library/DisplayedList.h"
 #include "library/TrackRecord.h"
+#include "libraryfile/CleanupForesight.h"
 #include "libraryfile/LibraryFile.h"
 #include "platform/Result.h"
 
@@ -30,13 +31,16 @@ using LocationVisitor = std::function<bool(std::string_view pid, const std::stri
 /// Visits them all; false where it could not. Called on any thread.
 using LibraryLocations = std::function<bool(const LocationVisitor&)>;
 
+/// Whether the library could be written if a deletion of that size began now, and what room that takes; any
+/// thread.
+using LibraryForesight = std::function<Result<CleanupRoom>(const CleanupSize& size)>;
+
 /// What a survey asks. Files and Trash outlive it.
 struct SurveySources {
     const Files& files;
     LibraryLocations locations = {}; ///< not set: the library is not known
     Trash* trash = nullptr;          ///< null: nobody foresees what it refuses
-    /// Whether the library could be written if the deletion began now; any thread.
-    std::function<Result<void>()> libraryForesight = [] { return Result<void>(); };
+    LibraryForesight libraryForesight = [](const CleanupSize&) { return CleanupRoom(); };
     TracksOfId tracksOfId = {}; ///< not set: the rows are all that is known
 };
 
@@ -91,10 +95,14 @@ struct SurveyedRows {
     explicit SurveyedRows(const std::vector<TrackRecord*>& rows,
                           std::shared_ptr<const TrackStorage> kept = nullptr);
     void add(const TrackRecord& record);
+    CleanupSize sizeWithoutFiles() const { return {marked.size(), textBytes}; }
+    CleanupSize sizeWithFiles() const { return {marked.size(), textBytes + pathBytes}; }
 
     std::vector<Track> marked;
-    std::vector<Other> others; ///< with the marked ones that cannot be deleted
-    std::vector<Song> songs;   ///< every group, in the order of the rows
+    std::vector<Other> others;   ///< with the marked ones that cannot be deleted
+    std::vector<Song> songs;     ///< every group, in the order of the rows
+    std::uint64_t textBytes = 0; ///< of the marked tracks' IDs, names and artists
+    std::uint64_t pathBytes = 0; ///< of their locations
     std::shared_ptr<const TrackStorage> storage;
 };
 

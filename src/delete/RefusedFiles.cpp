@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "delete/RefusedFiles.h"
 
+#include "libraryfile/CleanupForesight.h"
 #include "platform/Files.h"
 #include "platform/Trash.h"
 
@@ -11,6 +12,10 @@ RefusedFiles::RefusedFiles(const Files& files, Trash& trash)
     , m_check(trash.newCheck()) {}
 
 RefusedFiles::~RefusedFiles() = default;
+
+void RefusedFiles::leaveRoom(const CleanupRoom& room) {
+    if (room.bytes > 0) m_check->leaveRoom(room.folder, room.bytes);
+}
 
 const std::string& RefusedFiles::reasonFor(std::string_view location) {
     std::string name = m_files.localPath(std::string(location));

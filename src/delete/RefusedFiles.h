@@ -11,6 +11,7 @@ namespace songsweep {
 class Files;
 class Trash;
 class TrashCheck;
+struct CleanupRoom;
 
 /// Foresees what the Trash will refuse, of the files at tracks' locations.
 ///
@@ -20,6 +21,9 @@ class RefusedFiles {
   public:
     RefusedFiles(const Files& files, Trash& trash);
     ~RefusedFiles();
+
+    /// Room that the clean-up takes, which the Trash will not have.
+    void leaveRoom(const CleanupRoom& room);
 
     /// Why the file there will stay though it is to go, after those that were asked about before; "" where
     /// nothing is in the way. A phrase for an outcome.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/CleanupForesight.h"
 
+#include "libraryfile/CleanupRecord.h"
 #include "libraryfile/FileNames.h"
 #include "platform/SystemError.h"
 
@@ -20,7 +21,8 @@ namespace songsweep {
 
 namespace {
 
-constexpr std::uint64_t versions = 2; // the backup and the new one
+constexpr std::uint64_t versions = 2;   // the backup and the new one
+constexpr std::uint64_t smallFiles = 2; // the lock, and what the folder grows by
 
 bool isInGroup(gid_t group) {
     if (::getegid() == group) return true;
@@ -49,17 +51,25 @@ Result<void> checkAttributes([[maybe_unused]] const std::string& path) {
     return {};
 }
 
-Result<void> checkRoom(const struct stat& status, const std::string& folder) {
-    struct statvfs room {};
-    if (::statvfs(folder.c_str(), &room) != 0) return {}; // The clean-up will see.
-    const std::uint64_t needed = versions * static_cast<std::uint64_t>(status.st_size);
-    if (std::uint64_t{room.f_bavail} * room.f_frsize >= needed) return {};
-    return systemError(ENOSPC, "make a backup in", folder);
+std::uint64_t inBlocks(std::uint64_t bytes, std::uint64_t blockSize) {
+    return (bytes + blockSize - 1) / blockSize * blockSize;
+}
+
+Result<CleanupRoom> roomFor(const struct stat& status, const std::string& folder, const CleanupSize& size) {
+    struct statvfs system {};
+    if (::statvfs(folder.c_str(), &system) != 0) return CleanupRoom{}; // The clean-up will see.
+    const std::uint64_t block = std::max<std::uint64_t>(1, system.f_frsize);
+    const std::uint64_t needed = versions * inBlocks(static_cast<std::uint64_t>(status.st_size), block) +
+                                 inBlocks(CleanupRecord::roomFor(size.tracks, size.textBytes), block) +
+                                 smallFiles * block;
+    if (std::uint64_t{system.f_bavail} * block < needed)
+        return systemError(ENOSPC, "make a backup in", folder);
+    return CleanupRoom{folder, needed};
 }
 
 } // namespace
 
-Result<void> foreseeCleanup(const std::string& library) {
+Result<CleanupRoom> foreseeCleanup(const std::string& library, const CleanupSize& size) {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(library.c_str(), nullptr), &std::free);
     if (!real) return systemError(errno, "find", library);
     const std::string path = real.get();
@@ -67,9 +77,9 @@ Result<void> foreseeCleanup(const std::string& library) {
     if (::stat(path.c_str(), &status) != 0) return systemError(errno, "read", path);
     if (::access(folderOf(path).c_str(), W_OK | X_OK) != 0)
         return systemError(errno, "write in", folderOf(path));
-    if (auto checked = checkOwner(status, path); !checked) return checked;
-    if (auto checked = checkAttributes(path); !checked) return checked;
-    return checkRoom(status, folderOf(path));
+    if (auto checked = checkOwner(status, path); !checked) return checked.error();
+    if (auto checked = checkAttributes(path); !checked) return checked.error();
+    return roomFor(status, folderOf(path), size);
 }
 
 } // namespace songsweep

@@ -21,7 +21,9 @@ namespace songsweep {
 namespace {
 
 constexpr std::size_t handOverSize = 64 << 10;
-constexpr std::size_t bytesATrackToCome = 512; // its place in the Trash and its outcome
+constexpr std::size_t bytesATrackToCome = 512;  // its place in the Trash and its outcome
+constexpr std::size_t bytesAPlannedTrack = 192; // keys and numbers of its line
+constexpr std::size_t bytesOfHeading = 2048;
 
 std::string universalTime() {
     const std::time_t now = std::time(nullptr);
@@ -115,6 +117,11 @@ Result<CleanupRecord> CleanupRecord::resume(const RecordedCleanup& cleanup, cons
     record.reserve(cleanup.tracks.size());
     if (auto resumed = record.flush(); !resumed) return resumed.error();
     return record;
+}
+
+std::uint64_t CleanupRecord::roomFor(std::size_t tracks, std::uint64_t textBytes) {
+    return bytesOfHeading + textBytes + bytesAPlannedTrack * std::uint64_t{tracks} +
+           bytesATrackToCome * (std::uint64_t{tracks} + 1);
 }
 
 CleanupRecord::CleanupRecord(CleanupRecord&& other) noexcept

@@ -48,6 +48,10 @@ class CleanupRecord {
     CleanupRecord& operator=(const CleanupRecord&) = delete;
     ~CleanupRecord();
 
+    /// The bytes that the record of so many tracks takes while it is written; those of the tracks' IDs,
+    /// names, artists and paths are given.
+    static std::uint64_t roomFor(std::size_t tracks, std::uint64_t textBytes);
+
     const std::string& path() const { return m_path; }
 
     /// Plans a track; they are counted from 0.

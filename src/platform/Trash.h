@@ -4,6 +4,7 @@
 #include "platform/Result.h"
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -35,6 +36,9 @@ class TrashCheck {
     TrashCheck(const TrashCheck&) = delete;
     TrashCheck& operator=(const TrashCheck&) = delete;
     virtual ~TrashCheck() = default;
+
+    /// Room that somebody else will have taken on the file system of that folder.
+    virtual void leaveRoom(const std::string& /*folder*/, std::uint64_t /*bytes*/) {}
 
     /// What will keep the file from going there after the ones that were added before: `notFound`,
     /// `notSupported` (no Trash for its file system), `noPermission`, `invalid` (a name too long) or

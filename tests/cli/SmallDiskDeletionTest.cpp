@@ -54,9 +54,26 @@ class SmallDiskDeletion : public test::ProgramTest {
     }
 
     std::string fileOf(int id) const { return m_disk.path() + "/music/" + std::to_string(id) + ".mp3"; }
-    RunResult deleteCopies() {
-        return run({"delete", "--library", m_library, "--rule", "highest-bitrate", "--except-one", "--files",
-                    "--yes", "--format", "json"});
+    RunResult deleteCopies(const std::vector<std::string>& options = {"--files", "--yes"}) {
+        std::vector<std::string> command = {"delete",          "--library",    m_library,  "--rule",
+                                            "highest-bitrate", "--except-one", "--format", "json"};
+        command.insert(command.end(), options.begin(), options.end());
+        return run(command);
+    }
+
+    /// Leaves as little room as a dry run promises that all can be done with.
+    void leaveWhatADryRunAsksFor(std::vector<std::string> options) {
+        options.emplace_back("--dry-run");
+        constexpr std::size_t step = 16; // kilobytes
+        std::size_t tooLittle = 0;
+        std::size_t enough = 20 << 10;
+        while (enough - tooLittle > step) {
+            const std::size_t middle = (enough + tooLittle) / 2;
+            m_disk.leaveFree(middle << 10);
+            (deleteCopies(options).exitCode == 0 ? enough : tooLittle) = middle;
+        }
+        EXPECT_GT(tooLittle, 0U);
+        m_disk.leaveFree(enough << 10);
     }
 
     /// Takes file after file from the disk, until it has no more than so many.
@@ -105,6 +122,19 @@ TEST_F(SmallDiskDeletion, DoesNotBeginWhereItsWritesHaveNoRoom) {
         EXPECT_EQ(expectTruth(json::parse(result.output)), 0);
         EXPECT_EQ(contentOf(m_library), m_text);
     }
+}
+
+TEST_F(SmallDiskDeletion, HasTheRoomThatADryRunAskedFor) {
+    leaveWhatADryRunAsksFor({});
+    const RunResult result = deleteCopies({"--yes"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+}
+
+TEST_F(SmallDiskDeletion, HasTheRoomForItsFilesThatADryRunAskedFor) {
+    leaveWhatADryRunAsksFor({"--files"});
+    const RunResult result = deleteCopies();
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+    EXPECT_EQ(expectTruth(json::parse(result.output)), songs - 1); // the last copy is alone
 }
 
 TEST_F(SmallDiskDeletion, LosesNothingWhereTheTrashHasNoRoomForSomeOfThousandsOfFiles) {

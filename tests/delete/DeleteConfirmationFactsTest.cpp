@@ -66,7 +66,9 @@ TEST_F(DeleteConfirmationFactsTest, AFolderIsNotCountedAsGoingOrMissing) {
 
 TEST_F(DeleteConfirmationFactsTest, TheFactsTellWhyTheLibraryWillNotBeWritten) {
     SurveySources sources = {m_files};
-    sources.libraryForesight = [] { return Error{Error::Code::noPermission, "it is closed"}; };
+    sources.libraryForesight = [](const CleanupSize&) {
+        return Error{Error::Code::noPermission, "it is closed"};
+    };
     DeleteConfirmationFacts facts;
     EXPECT_TRUE(surveyFiles(SurveyedRows(m_list.rows), sources, facts, [] { return false; }));
     EXPECT_EQ(facts.libraryObstacle, "it is closed");

@@ -75,7 +75,7 @@ class FileRights : public testing::Test {
     static std::string deleteFirst(const std::string& path) {
         auto library = LibraryDocument::open(path);
         if (!library) return library.error().message;
-        const auto foreseen = foreseeCleanup(path);
+        const auto foreseen = foreseeCleanup(path, {1, 100});
         const auto begun = library.value()->beginCleanup({"a test"});
         if (begun.hasValue() != foreseen.hasValue()) return "foreseen otherwise";
         if (!begun) return begun.error().message;

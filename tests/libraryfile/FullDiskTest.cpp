@@ -80,11 +80,23 @@ TEST_F(FullDisk, ACleanUpBeginsOnlyWhereItCanEnd) {
 }
 
 TEST_F(FullDisk, IsForeseen) {
-    EXPECT_TRUE(foreseeCleanup(m_path));
+    const auto room = foreseeCleanup(m_path, {});
+    ASSERT_TRUE(room);
+    EXPECT_EQ(room.value().folder, m_disk.path());
+    EXPECT_GT(room.value().bytes, 2 * m_text.size());
     m_disk.leaveFree(m_text.size());
-    const auto foreseen = foreseeCleanup(m_path);
+    const auto foreseen = foreseeCleanup(m_path, {});
     ASSERT_FALSE(foreseen);
     EXPECT_EQ(foreseen.error().code, Error::Code::noSpace);
+}
+
+TEST_F(FullDisk, IsForeseenForTheRecordToo) {
+    const auto empty = foreseeCleanup(m_path, {});
+    ASSERT_TRUE(empty);
+    m_disk.leaveFree(empty.value().bytes + (256 << 10)); // ext4 keeps some back
+    EXPECT_TRUE(foreseeCleanup(m_path, {1, 100}));
+    EXPECT_FALSE(foreseeCleanup(m_path, {1000, 0}));
+    EXPECT_FALSE(foreseeCleanup(m_path, {1, 1 << 20}));
 }
 
 TEST_F(FullDisk, EveryWriteOfACleanUpHasItsRoom) {

@@ -36,6 +36,10 @@ std::optional<struct statx> statxOf(const std::string& path) {
 
 } // namespace
 
+void LinuxTrashCheck::leaveRoom(const std::string& folder, std::uint64_t bytes) {
+    roomOf(folder).leave(bytes);
+}
+
 Result<void> LinuxTrashCheck::add(const std::string& path) {
     const std::optional<struct statx> file = statxOf(path);
     if (!file) return systemError(errno, path);

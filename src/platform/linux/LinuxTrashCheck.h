@@ -16,6 +16,7 @@ namespace songsweep {
 /// not on the home folder's device.
 class LinuxTrashCheck final : public TrashCheck {
   public:
+    void leaveRoom(const std::string& folder, std::uint64_t bytes) override;
     Result<void> add(const std::string& path) override;
 
   private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,6 +19,9 @@ class RecordRoom {
 
     /// The longest name, in bytes, that a file can have there.
     std::uint64_t longestName() const { return m_longestName; }
+
+    /// Leaves so much to others.
+    void leave(std::uint64_t bytes) { m_bytes -= std::min(m_bytes, bytes); }
 
     /// Takes the room for the record of one more path; false, and nothing is taken, where it does not
     /// suffice.
