@@ -21,6 +21,12 @@ bool isThere(const std::string& path) {
     return fs::exists(fs::symlink_status(path, error));
 }
 
+/// Whether it can be told if there is a file: not behind a folder that is closed to this user.
+bool canBeLookedAt(const std::string& path) {
+    std::error_code error;
+    return fs::symlink_status(path, error).type() != fs::file_type::none;
+}
+
 /// Devices may have other numbers after a restart. A link in the Trash leads elsewhere, and counts as itself.
 bool isThatFile(const std::string& path, const FileStamp& planned) {
     std::error_code error;
@@ -49,6 +55,7 @@ class Look {
         if (!m_seen.insert(path).second) return {};
         if (isThere(path) && isThatFile(path, track.plan.file))
             return {Fate::isThere, track.trash.value_or(TrashedFile())};
+        if (track.trash && !canBeLookedAt(track.trash->path())) return {Fate::isUnknown, *track.trash};
         const std::optional<TrashedFile> place = placeOf(track);
         if (!place) return {isThere(path) && !track.trash ? Fate::none : Fate::isGone, {}};
         if (isThere(path)) return {Fate::isOccupied, *place};

@@ -12,11 +12,12 @@ namespace songsweep {
 /// Whether the file of one track of a clean-up can come back, looked up and not done.
 struct FileReturn {
     enum class Fate : std::uint8_t {
-        none,      ///< it never went, or comes back with an earlier track of the same file
-        comesBack, ///< it lies in the Trash, and its path is free
-        isThere,   ///< it is at its path already
-        isGone,    ///< it is neither at its path nor in the Trash
-        isOccupied ///< another file has its path
+        none,       ///< it never went, or comes back with an earlier track of the same file
+        comesBack,  ///< it lies in the Trash, and its path is free
+        isThere,    ///< it is at its path already
+        isGone,     ///< it is neither at its path nor in the Trash
+        isOccupied, ///< another file has its path
+        isUnknown   ///< its place in the Trash cannot be looked at
     };
 
     Fate fate = Fate::none;

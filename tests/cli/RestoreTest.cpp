@@ -123,6 +123,22 @@ TEST_F(Restore, WritesOverNothing) {
     EXPECT_EQ(library(), m_whole);
 }
 
+TEST_F(Restore, TakesNoFileForLostWhoseTrashCannotBeRead) {
+    const std::string name = deleteTracks();
+    const std::string files = path("home/data/Trash/files");
+    fs::rename(files, files + " aside");
+    fs::create_symlink("files", files); // leads nowhere, whoever asks
+    const RunResult result = restore({"--yes"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.output, AllOf(HasSubstr("the Trash cannot be read: " + files),
+                                     Not(HasSubstr("not in the Trash any more"))));
+    EXPECT_EQ(library(), m_whole);
+    fs::remove(files);
+    fs::rename(files + " aside", files);
+    EXPECT_EQ(restore({"--yes", "--cleanup", name}).exitCode, 0);
+    expectAllBack();
+}
+
 TEST_F(Restore, KeepsWhatOthersWroteSince) {
     deleteTracks();
     const std::string key = "<key>Major Version</key><integer>";
