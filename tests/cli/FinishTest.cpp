@@ -3,6 +3,7 @@
 #include "RecordedDeletion.h"
 #include "libraryfile/CleanupLock.h"
 #include "libraryfile/RecordedCleanup.h"
+#include "libraryfile/TemporaryName.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -20,20 +21,6 @@ using ::testing::Not;
 
 class Finish : public test::RecordedDeletionTest {
   protected:
-    /// A deletion that was killed when the library was written and before any file was moved; or when the
-    /// first was moved, and not told.
-    std::string deleteAndLeaveFiles(bool firstIsMoved = false) {
-        m_isKilled = true;
-        std::string name = deleteTracks();
-        moveBack(3);
-        if (firstIsMoved) return name;
-        moveBack(1);
-        return name;
-    }
-    void moveBack(int id) {
-        fs::rename(path(inTrash(id)), path(fileName(id)));
-        fs::remove(path("home/data/Trash/info/" + std::to_string(id) + ".mp3.trashinfo"));
-    }
     RunResult finish(std::vector<std::string> options) {
         options.insert(options.begin(), {"finish", "--library", m_library});
         return run(options);
@@ -46,7 +33,7 @@ class Finish : public test::RecordedDeletionTest {
 };
 
 TEST_F(Finish, MovesTheFilesThatWereLeftAndEndsTheRecord) {
-    const std::string name = deleteAndLeaveFiles();
+    const std::string name = deleteTracksAndNoFile();
     const std::string deleted = library();
     const RunResult result = finish({"--yes"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
@@ -64,7 +51,7 @@ TEST_F(Finish, MovesTheFilesThatWereLeftAndEndsTheRecord) {
 }
 
 TEST_F(Finish, KnowsTheFilesThatWereMovedAndNotTold) {
-    const std::string name = deleteAndLeaveFiles(true);
+    const std::string name = deleteTracksUpToFile(1);
     EXPECT_EQ(finish({"--yes"}).exitCode, 0);
     EXPECT_EQ(record(name).tracks.at(0).trash, (TrashedFile{path("home/data/Trash/files"), "1.mp3"}));
     EXPECT_EQ(record(name).end->files, 2U);
@@ -73,7 +60,8 @@ TEST_F(Finish, KnowsTheFilesThatWereMovedAndNotTold) {
 }
 
 TEST_F(Finish, IsForeseenWithoutATrace) {
-    const std::string name = deleteAndLeaveFiles();
+    const std::string name = deleteTracksAndNoFile();
+    fs::remove(path(TemporaryName::ofLock("Library.xml"))); // nobody's any more, and the next lock takes it
     const auto before = tree();
     const RunResult result = finish({"--dry-run", "--format", "json"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
@@ -87,7 +75,7 @@ TEST_F(Finish, IsForeseenWithoutATrace) {
 }
 
 TEST_F(Finish, LeavesTracksThatAreStillInTheLibraryWithTheirFiles) {
-    const std::string name = deleteAndLeaveFiles();
+    const std::string name = deleteTracksAndNoFile();
     std::string text = library();
     m_folder.write("Library.xml", m_whole); // another program has put them back
     const RunResult result = finish({"--yes"});
@@ -99,7 +87,7 @@ TEST_F(Finish, LeavesTracksThatAreStillInTheLibraryWithTheirFiles) {
 }
 
 TEST_F(Finish, LeavesAFileThatATrackOfTheLibraryUsesByNow) {
-    deleteAndLeaveFiles();
+    deleteTracksAndNoFile();
     std::string text = library();
     const std::string stays = path(fileName(2));
     text.replace(text.find(stays), stays.size(), path(fileName(1)));
@@ -112,7 +100,7 @@ TEST_F(Finish, LeavesAFileThatATrackOfTheLibraryUsesByNow) {
 }
 
 TEST_F(Finish, LeavesAFileThatIsAnotherOneByNow) {
-    deleteAndLeaveFiles();
+    deleteTracksAndNoFile();
     m_folder.write(fileName(1), "another song");
     const RunResult result = finish({"--yes"});
     EXPECT_EQ(result.exitCode, 1);
@@ -121,7 +109,7 @@ TEST_F(Finish, LeavesAFileThatIsAnotherOneByNow) {
 }
 
 TEST_F(Finish, IsRefusedWhileAnotherHoldsTheLibraryAndWhereNothingWasInterrupted) {
-    deleteAndLeaveFiles();
+    deleteTracksAndNoFile();
     {
         const auto lock = CleanupLock::acquire(m_library, {"a window"});
         for (const char* const mode : {"--yes", "--dry-run"})
@@ -144,7 +132,7 @@ TEST_F(Finish, RefusesADeletionThatCameToItsEnd) {
 }
 
 TEST_F(Finish, GoesOnBehindALineThatWasCutOff) {
-    const std::string name = deleteAndLeaveFiles();
+    const std::string name = deleteTracksAndNoFile();
     m_folder.write(name + ".jsonl", m_folder.read(name + ".jsonl") + "{\"step\":\"tra");
     EXPECT_EQ(finish({"--yes"}).exitCode, 0);
     EXPECT_TRUE(record(name).end);

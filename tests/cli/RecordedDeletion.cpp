@@ -6,7 +6,6 @@
 #include "libraryfile/RecordedCleanup.h"
 
 #include <filesystem>
-#include <fstream>
 
 namespace songsweep::test {
 
@@ -15,17 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int copies = 3;
-
-/// As far as a program came that was killed when it had moved the files.
-void cutBehindTrashing(const std::string& record) {
-    std::ifstream file(record);
-    std::string kept;
-    for (std::string line; std::getline(file, line);) {
-        kept += line + "\n";
-        if (line.find("\"trashing\"") != std::string::npos) break;
-    }
-    fs::resize_file(record, kept.size());
-}
 
 } // namespace
 
@@ -59,14 +47,39 @@ void RecordedDeletionTest::makeAnew() {
 }
 
 std::string RecordedDeletionTest::deleteTracks() {
-    EXPECT_EQ(
-        run({"delete", "--library", m_library, "--rule", "highest-bitrate", "--files", "--yes"}).exitCode, 0);
+    EXPECT_EQ(runDeletion().exitCode, 0);
     for (const int id : m_gone)
         EXPECT_TRUE(fs::exists(path(inTrash(id)))) << id;
-    const std::string record = recordPathFor(newestBackup());
-    if (m_isKilled) cutBehindTrashing(record);
-    return cleanupName(record);
+    return newestCleanup();
 }
+
+std::string RecordedDeletionTest::deleteTracksAndNoFile() {
+    return deleteAndBeKilled("KILL_BEHIND_WRITE", R"({"step":"trashing")");
+}
+
+std::string RecordedDeletionTest::deleteTracksUpToFile(int id) {
+    return deleteAndBeKilled("KILL_BEHIND_MOVE", path(fileName(id)));
+}
+
+std::string RecordedDeletionTest::deleteAndBeKilled(const char* setting, const std::string& value) {
+    const QProcessEnvironment environment = m_environment;
+    m_environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(KILLING_CALLS));
+    m_environment.insert(QLatin1String(setting), QString::fromStdString(value));
+    // A sanitizer wants to be the first library.
+    m_environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
+    const RunResult result = runDeletion();
+    m_environment = environment;
+    EXPECT_NE(result.exitCode, 0);
+    EXPECT_EQ(result.output, "") << "it was killed before it could tell";
+    EXPECT_NE(library(), m_whole);
+    return newestCleanup();
+}
+
+RunResult RecordedDeletionTest::runDeletion() {
+    return run({"delete", "--library", m_library, "--rule", "highest-bitrate", "--files", "--yes"});
+}
+
+std::string RecordedDeletionTest::newestCleanup() const { return cleanupName(recordPathFor(newestBackup())); }
 
 std::string RecordedDeletionTest::newestBackup() const {
     std::string newest;

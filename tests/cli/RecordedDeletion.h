@@ -25,6 +25,10 @@ class RecordedDeletionTest : public ProgramTest {
     void makeAnew();
     /// Deletes, and gives the name of the clean-up.
     std::string deleteTracks();
+    /// The same, killed when the library is written and before any file is moved.
+    std::string deleteTracksAndNoFile();
+    /// The same, killed when the file of that track is moved, and before that is recorded.
+    std::string deleteTracksUpToFile(int id);
     std::string newestBackup() const;
 
     RunResult restore(std::vector<std::string> options);
@@ -36,9 +40,12 @@ class RecordedDeletionTest : public ProgramTest {
     std::string m_whole;     ///< the library before
     std::string m_library;   ///< its path
     std::vector<int> m_gone; ///< the tracks that go
-    bool m_isKilled = false; ///< the clean-up while it moved the files
 
   private:
+    RunResult runDeletion();
+    std::string deleteAndBeKilled(const char* setting, const std::string& value);
+    std::string newestCleanup() const;
+
     int m_trackCount;
 };
 

@@ -149,8 +149,7 @@ TEST_F(Restore, KeepsWhatOthersWroteSince) {
 }
 
 TEST_F(Restore, TakesBackACleanUpThatWasKilled) {
-    m_isKilled = true;
-    deleteTracks();
+    deleteTracksUpToFile(3);
     EXPECT_THAT(restore({"--list"}).output, HasSubstr("not ended"));
     const RunResult result = restore({"--yes"});
     EXPECT_EQ(result.exitCode, 0) << result.output << result.errors;
@@ -158,8 +157,7 @@ TEST_F(Restore, TakesBackACleanUpThatWasKilled) {
 }
 
 TEST_F(Restore, IsOfferedWhereTheNewestDeletionWasKilled) {
-    m_isKilled = true;
-    const std::string name = deleteTracks();
+    const std::string name = deleteTracksUpToFile(3);
     const std::vector<std::string> find = {"find", "--library", m_library};
     const std::vector<std::string> remove = {"delete", "--library",       m_library,
                                              "--rule", "highest-bitrate", "--dry-run"};
