@@ -14,11 +14,12 @@ function(songsweep_library name)
     endif()
 endfunction()
 
-# songsweep_test(NAME [WIDGETS] [MOC] [TIMEOUT SECONDS] SOURCES ... [LINK ...])
+# songsweep_test(NAME [WIDGETS] [MOC] [SERIAL] [TIMEOUT SECONDS] SOURCES ... [LINK ...])
 # One GoogleTest program of a folder of tests/. Its tests run on the offscreen platform;
 # WIDGETS gives it a QApplication, all others a QCoreApplication. TIMEOUT is each test's, otherwise 120.
+# SERIAL lets each of its tests run alone, for those that wait for a screen.
 function(songsweep_test name)
-    cmake_parse_arguments(ARG "WIDGETS;MOC" "TIMEOUT" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "WIDGETS;MOC;SERIAL" "TIMEOUT" "SOURCES;LINK" ${ARGN})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
@@ -33,7 +34,7 @@ function(songsweep_test name)
         set_target_properties(${name} PROPERTIES AUTOMOC ON)
     endif()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES
-        PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+        PROPERTIES TIMEOUT ${ARG_TIMEOUT} RUN_SERIAL ${ARG_SERIAL} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
 endfunction()
 
 # songsweep_benchmark(NAME SOURCES ... [LINK ...])

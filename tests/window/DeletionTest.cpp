@@ -129,7 +129,7 @@ class LongDeletionInAWindow : public DeletionFixture {
         return count;
     }
 
-    static constexpr int pairs = 25000;
+    static constexpr int pairs = 15000;
 };
 
 TEST_F(LongDeletionInAWindow, EndsWithTheProgramAndWhatIsDeletedByThenIsWritten) {
