@@ -8,7 +8,9 @@
 #include "operations/NotificationCenter.h"
 #include "platform/ExceptionReason.h"
 
+#include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace songsweep {
 
@@ -27,6 +29,22 @@ void addRecord(SortKey& key, const TrackRecord& record, const SearchParameters& 
     if (parameters.issameartist) key.text(record.artist);
     if (parameters.issamealbum) key.text(record.album);
     if (parameters.issametime) key.number(record.timev);
+}
+
+/// Puts the records into the order of these places, in place: a second list would stand in memory when there
+/// is most in it.
+void reorder(std::vector<TrackRecord*>& records, std::vector<std::uint32_t> order) {
+    for (std::uint32_t first = 0; first < order.size(); ++first) {
+        TrackRecord* const moved = records[first];
+        std::uint32_t place = first;
+        while (order[place] != first) {
+            const std::uint32_t from = std::exchange(order[place], place);
+            records[place] = records[from];
+            place = from;
+        }
+        records[place] = moved;
+        order[place] = place;
+    }
 }
 
 } // namespace
@@ -67,18 +85,9 @@ void BuildResultProc::sortList() {
         return;
     }
     if (!comparesAnything(m_searchparams)) return;
-    KeySort sort(records.size());
-    SortKey key;
-    for (const TrackRecord* record : records) {
-        addRecord(key.clear(), *record, m_searchparams);
-        sort.add(key.bytes());
-    }
-
-    std::vector<TrackRecord*> sorted;
-    sorted.reserve(records.size());
-    for (const std::uint32_t index : sort.order())
-        sorted.push_back(records[index]);
-    records.swap(sorted);
+    reorder(records, orderOfKeys(records.size(), [&](SortKey& key, std::uint32_t record) {
+                addRecord(key, *records[record], m_searchparams);
+            }));
 }
 
 void BuildResultProc::group() {

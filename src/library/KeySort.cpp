@@ -90,4 +90,50 @@ SortKey& SortKey::reverse(std::size_t start) {
     return *this;
 }
 
+namespace {
+
+/// An item by the beginning of its key.
+struct Beginning {
+    std::uint64_t word;
+    std::uint32_t item;
+};
+
+std::vector<Beginning> sortedBeginnings(std::size_t count,
+                                        const std::function<void(SortKey&, std::uint32_t)>& addKey) {
+    std::vector<Beginning> beginnings;
+    beginnings.reserve(count);
+    SortKey key;
+    for (std::uint32_t item = 0; item < count; ++item) {
+        addKey(key.clear(), item);
+        beginnings.push_back({wordOf(key.bytes().data(), std::min(key.size(), sizeof(std::uint64_t))), item});
+    }
+    std::sort(beginnings.begin(), beginnings.end(), [](const Beginning& a, const Beginning& b) {
+        return a.word != b.word ? a.word < b.word : a.item < b.item;
+    });
+    return beginnings;
+}
+
+} // namespace
+
+std::vector<std::uint32_t> orderOfKeys(std::size_t count,
+                                       const std::function<void(SortKey&, std::uint32_t)>& addKey) {
+    const std::vector<Beginning> beginnings = sortedBeginnings(count, addKey);
+    std::vector<std::uint32_t> order;
+    order.reserve(count);
+    SortKey key;
+    for (auto begin = beginnings.begin(); begin != beginnings.end();) {
+        const auto end = std::find_if(begin, beginnings.end(),
+                                      [&](const Beginning& other) { return other.word != begin->word; });
+        KeySort run(static_cast<std::size_t>(end - begin));
+        for (auto at = begin; at != end && end - begin > 1; ++at) {
+            addKey(key.clear(), at->item);
+            run.add(key.bytes());
+        }
+        for (const std::uint32_t place : end - begin > 1 ? run.order() : std::vector<std::uint32_t>{0})
+            order.push_back(begin[place].item);
+        begin = end;
+    }
+    return order;
+}
+
 } // namespace songsweep

@@ -100,5 +100,27 @@ TEST(KeySort, AgreesWithAStableSort) {
     }
 }
 
+TEST(KeySort, OrdersAlikeWithoutKeepingKeys) {
+    std::mt19937 random(7);
+    for (int turn = 0; turn < 200; ++turn) {
+        std::vector<std::string> texts(random() % 60);
+        for (std::string& text : texts) {
+            text =
+                std::string(random() % 3 == 0 ? "the same 8 and more " : "the ") + char('a' + random() % 4);
+            text.append(random() % 12, 'x');
+        }
+        EXPECT_EQ(orderOfKeys(texts.size(),
+                              [&](SortKey& key, std::uint32_t item) { key.text(texts[item]).number(3); }),
+                  orderOfTexts(texts));
+    }
+}
+
+TEST(KeySort, WithoutKeptKeysKnowsKeysOfLessThanEightBytes) {
+    const std::vector<std::string> texts{"b", "", "a", "b", ""};
+    EXPECT_THAT(orderOfKeys(texts.size(), [&](SortKey& key, std::uint32_t item) { key.text(texts[item]); }),
+                ElementsAre(1, 4, 2, 0, 3));
+    EXPECT_THAT(orderOfKeys(0, [](SortKey&, std::uint32_t) {}), IsEmpty());
+}
+
 } // namespace
 } // namespace songsweep
