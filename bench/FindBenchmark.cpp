@@ -1,47 +1,53 @@
 // SPDX-License-Identifier: MIT
 //
-// What a whole search costs, reading, processing and grouping with its real events, beside a bare loop over
-// the same reader calls on the same file: the loop asks for names on elements and for values on texts, and
-// keeps nothing. Nine files of ten exist. Then the whole program, "songsweep find" with its index and its
-// scripts, over a library whose files all exist. Every measurement is a process of its own, so that none
-// warms the heap of another; of several the least is taken. CPU time is of all threads.
+// What the program's commands cost from their start to their end, beside a bare loop over libxml2's text
+// reader on the same file (BareLoop.cpp): processor time of all threads, and memory at its peak above the
+// loop's. Every measurement is a process of its own; the least of several counts.
 //
-//   find-benchmark [FOLDER]       libraries are made in FOLDER (about 1.5 GB), or in a temporary one
-#include "FindMeasurement.h"
-#include "platform/Memory.h"
+//   find-benchmark [FOLDER]       libraries are made in FOLDER (about 2 GB), or in a temporary one
 #include "sample-library/BulkLibrary.h"
 
-#include <QCoreApplication>
-#include <QDir>
-#include <QProcess>
-#include <QTemporaryDir>
-
+#include <fcntl.h>
+#include <spawn.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
+#include <filesystem>
 #include <string>
+#include <vector>
+
+extern char** environ; // NOLINT(readability-redundant-declaration): POSIX has it nowhere else
 
 namespace songsweep::bench {
 namespace {
 
-constexpr double aimedRatio = 1.35;
-constexpr double failingRatio = 1.6;
-constexpr double aimedGrowth = 11.5;
-constexpr double aimedPeak = 400;
-constexpr double failingPeak = 500;
-constexpr double aimedProgramRatio = 1.8;
+using sample::BulkFiles;
+
+struct Bar {
+    double aim = 0; ///< 0 for none
+    double failure = 0;
+};
+
+constexpr Bar smallFind{0.45, 0.6};
+constexpr Bar largeFind{0.5, 0.6};
+constexpr Bar dryDelete{0.9, 0.9};
+constexpr Bar memory{300, 400};
+constexpr double mostForMarking = 0.05;
+constexpr double mostForMissing = 0.5; // of the floor, for all files missing
+constexpr double mostGrowth = 10.5;
+
+struct Cost {
+    double cpuSeconds = 0;
+    double peakBytes = 0;
+};
 
 struct Library {
     std::string file;
     int tracks = 0;
-};
-
-struct Comparison {
-    Measurement bare;
-    Measurement search;
-    double ratio() const { return search.cpuSeconds / bare.cpuSeconds; }
+    int turns = 0;
 };
 
 [[noreturn]] void fail(const std::string& message) {
@@ -49,149 +55,122 @@ struct Comparison {
     std::exit(1);
 }
 
-Library makeLibrary(const QDir& folder, int tracks, sample::BulkFiles files) {
-    const QString file = folder.absoluteFilePath(QStringLiteral("library-%1.xml").arg(tracks));
+double seconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+Cost costOf(const std::vector<std::string>& command) {
+    std::vector<char*> arguments;
+    for (const std::string& argument : command)
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t silent;
+    posix_spawn_file_actions_init(&silent);
+    posix_spawn_file_actions_addopen(&silent, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&silent, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t process = 0;
+    const int error = posix_spawn(&process, arguments[0], &silent, nullptr, arguments.data(), environ);
+    posix_spawn_file_actions_destroy(&silent);
+    int status = 0;
+    rusage usage{};
+    if (error != 0 || wait4(process, &status, 0, &usage) != process || status != 0)
+        fail(command[0] + " " + command[1] + " does not run");
+    return {seconds(usage.ru_utime) + seconds(usage.ru_stime), static_cast<double>(usage.ru_maxrss) * 1024};
+}
+
+void takeLess(Cost& least, const Cost& cost) {
+    if (least.cpuSeconds == 0 || cost.cpuSeconds < least.cpuSeconds) least.cpuSeconds = cost.cpuSeconds;
+    if (least.peakBytes == 0 || cost.peakBytes < least.peakBytes) least.peakBytes = cost.peakBytes;
+}
+
+std::string verdict(double value, Bar bar) {
+    if (bar.aim == 0) return "";
+    return value <= bar.aim ? "reached" : value <= bar.failure ? "missed" : "FAILED";
+}
+
+/// A command of the program, and what it may cost.
+struct Run {
+    const char* name;
+    std::vector<std::string> arguments;
+    Bar bar;
+};
+
+/// Prints a line for each run; their ratios to the floor, which is measured between them.
+std::vector<double> measure(const Library& library, const std::vector<Run>& runs, double& findSeconds) {
+    Cost floor;
+    std::vector<Cost> costs(runs.size());
+    for (int turn = 0; turn < library.turns; ++turn) {
+        takeLess(floor, costOf({SONGSWEEP_BARE_LOOP, library.file}));
+        for (std::size_t i = 0; i < runs.size(); ++i) {
+            std::vector<std::string> command{SONGSWEEP_PROGRAM, runs[i].arguments[0], "--library",
+                                             library.file};
+            command.insert(command.end(), runs[i].arguments.begin() + 1, runs[i].arguments.end());
+            takeLess(costs[i], costOf(command));
+        }
+    }
+    std::vector<double> ratios;
+    for (std::size_t i = 0; i < runs.size(); ++i) {
+        const double ratio = ratios.emplace_back(costs[i].cpuSeconds / floor.cpuSeconds);
+        const double bytes = (costs[i].peakBytes - floor.peakBytes) / library.tracks;
+        std::printf("%-28s %9d  %8.3f s  %8.3f s  %6.3f %-8s %6.0f %s\n", runs[i].name, library.tracks,
+                    floor.cpuSeconds, costs[i].cpuSeconds, ratio, verdict(ratio, runs[i].bar).c_str(), bytes,
+                    verdict(bytes, memory).c_str());
+    }
+    findSeconds = costs[0].cpuSeconds;
+    return ratios;
+}
+
+Library makeLibrary(const std::filesystem::path& folder, int tracks, BulkFiles files, int turns) {
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
     sample::BulkOptions options;
     options.tracks = tracks;
-    options.file = file.toStdString();
-    options.musicFolder = folder.absoluteFilePath(QStringLiteral("Music")).toStdString();
+    options.file = (folder / "library.xml").string();
+    options.musicFolder = (folder / "Music").string();
     options.files = files;
-    const Result<void> made = sample::makeBulkLibrary(options);
-    if (!made) fail(made.error().message);
-    return {options.file, tracks};
+    if (const Result<void> made = sample::makeBulkLibrary(options); !made) fail(made.error().message);
+    return {options.file, tracks, turns};
 }
 
-/// Runs this program once more for one measurement.
-Measurement measureInProcess(const char* what, const Library& library) {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(
-        QCoreApplication::applicationFilePath(),
-        {QString::fromUtf8(what), QString::fromStdString(library.file), QString::number(library.tracks)});
-    if (!process.waitForFinished(-1) || process.exitCode() != 0)
-        fail(std::string("no measurement of ") + what);
-    const QByteArray line = process.readAllStandardOutput();
-    Measurement measurement;
-    if (std::sscanf(line.constData(), "%lf %lf %lf %d", &measurement.cpuSeconds, &measurement.peakBytes,
-                    &measurement.leftBytes, &measurement.rows) != 4)
-        fail(std::string("no measurement of ") + what);
-    return measurement;
+void printDifference(const char* what, double value, double most) {
+    std::printf("%s %.3f (%.3f) %s\n", what, value, most, value <= most ? "reached" : "missed");
 }
 
-void takeLess(Measurement& least, const Measurement& measurement) {
-    if (least.cpuSeconds == 0 || measurement.cpuSeconds < least.cpuSeconds) least = measurement;
-}
-
-Comparison compare(const Library& library, int turns) {
-    Comparison comparison;
-    for (int turn = 0; turn < turns; ++turn) {
-        takeLess(comparison.bare, measureInProcess("bare", library));
-        takeLess(comparison.search, measureInProcess("search", library));
-    }
-    return comparison;
-}
-
-const char* verdict(double value, double aim, double failure) {
-    if (value <= aim) return "reached";
-    return value <= failure ? "missed" : "FAILED";
-}
-
-void print(const Library& library, const Comparison& comparison) {
-    const double peak = comparison.search.peakBytes / library.tracks;
-    std::printf("%9d  %8.3f s  %8.3f s  %6.3f %-7s  %7.1f %-7s  %7.1f  %9d\n", library.tracks,
-                comparison.bare.cpuSeconds, comparison.search.cpuSeconds, comparison.ratio(),
-                verdict(comparison.ratio(), aimedRatio, failingRatio), peak,
-                verdict(peak, aimedPeak, failingPeak), comparison.search.leftBytes / library.tracks,
-                comparison.search.rows);
-}
-
-void compareProgram(const Library& library, int turns) {
-    Measurement bare;
-    Measurement program;
-    for (int turn = 0; turn < turns; ++turn) {
-        takeLess(bare, measureInProcess("bare", library));
-        takeLess(program, measureInProcess("program", library));
-    }
-    const double ratio = program.cpuSeconds / bare.cpuSeconds;
-    std::printf("%9d  %8.3f s  %8.3f s  %6.3f %-7s  (%.1f) the whole program, all files exist\n",
-                library.tracks, bare.cpuSeconds, program.cpuSeconds, ratio,
-                ratio <= aimedProgramRatio ? "reached" : "missed", aimedProgramRatio);
-}
-
-int run(const QDir& folder) {
+int run(const std::filesystem::path& folder) {
     std::setvbuf(stdout, nullptr, _IOLBF, 0); // lines come while the rest is measured
-    std::printf("%9s  %10s  %10s  %-14s  %-15s  %7s  %9s\n", "tracks", "bare loop", "search", "ratio (1.35)",
-                "bytes/trk (400)", "left", "rows");
-    const Library small = makeLibrary(folder, 100'000, sample::BulkFiles::nineOfTen);
-    const Comparison ofSmall = compare(small, 5);
-    print(small, ofSmall);
-    const Library large = makeLibrary(folder, 1'000'000, sample::BulkFiles::nineOfTen);
-    const Comparison ofLarge = compare(large, 3);
-    print(large, ofLarge);
-    const double growth = ofLarge.search.cpuSeconds / ofSmall.search.cpuSeconds;
-    std::printf("growth of the search %.2f (%.1f) %s\n", growth, aimedGrowth,
-                growth <= aimedGrowth ? "reached" : "missed");
-    QDir whole(folder.absoluteFilePath(QStringLiteral("whole")));
-    whole.mkpath(QStringLiteral("."));
-    compareProgram(makeLibrary(whole, 100'000, sample::BulkFiles::all), 7);
+    std::printf("%-28s %9s  %10s  %10s  %-15s %s\n", "", "tracks", "bare loop", "program", "ratio",
+                "bytes a track");
+    const std::vector<std::string> markArguments{"--rule", "smallest", "--except-one"};
+    std::vector<std::string> mark{"mark"};
+    mark.insert(mark.end(), markArguments.begin(), markArguments.end());
+    std::vector<std::string> remove{"delete", "--dry-run"};
+    remove.insert(remove.end(), markArguments.begin(), markArguments.end());
+    double small = 0;
+    double large = 0;
+    double other = 0;
+    const auto usual = measure(makeLibrary(folder, 100'000, BulkFiles::nineOfTen, 7),
+                               {{"find, nine files of ten", {"find"}, smallFind},
+                                {"mark", mark, {}},
+                                {"delete, dry", remove, dryDelete}},
+                               small);
+    printDifference("mark above find", usual[1] - usual[0], mostForMarking);
+    const auto whole = measure(makeLibrary(folder, 100'000, BulkFiles::all, 5),
+                               {{"find, all files there", {"find"}, smallFind}}, other);
+    const auto missing = measure(makeLibrary(folder, 100'000, BulkFiles::none, 5),
+                                 {{"find, all files missing", {"find"}, {}}}, other);
+    printDifference("missing files", missing[0] - whole[0], mostForMissing);
+    measure(makeLibrary(folder, 1'000'000, BulkFiles::nineOfTen, 3),
+            {{"find, nine files of ten", {"find"}, largeFind}}, large);
+    printDifference("growth", large / small, mostGrowth);
+    std::filesystem::remove_all(folder);
     return 0;
-}
-
-/// CPU seconds of the child processes that have ended.
-double cpuSecondsOfChildren() {
-    rusage usage{};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    const auto seconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
-
-/// "songsweep find" over the library, from its start to its end.
-Measurement measureProgram(const std::string& file) {
-    Measurement measurement;
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.start(QStringLiteral(SONGSWEEP_PROGRAM),
-                  {QStringLiteral("find"), QStringLiteral("--library"), QString::fromStdString(file)});
-    if (!process.waitForFinished(-1) || process.exitCode() != 0)
-        fail("the program did not search: " + process.errorString().toStdString());
-    measurement.cpuSeconds = cpuSecondsOfChildren();
-    return measurement;
-}
-
-Measurement measureHere(const QString& what, const std::string& file, int tracks) {
-    if (what == QStringLiteral("bare")) return measureBareLoop(file);
-    if (what == QStringLiteral("program")) return measureProgram(file);
-    return measureSearch(file, tracks);
-}
-
-/// What measureInProcess() runs: one measurement, as a line of numbers.
-int measure(const QString& what, const std::string& file, int tracks) {
-    try {
-        const Measurement measurement = measureHere(what, file, tracks);
-        std::printf("%.6f %.0f %.0f %d\n", measurement.cpuSeconds, measurement.peakBytes,
-                    measurement.leftBytes, measurement.rows);
-        return 0;
-    } catch (const std::exception& exception) {
-        fail(exception.what());
-    }
 }
 
 } // namespace
 } // namespace songsweep::bench
 
 int main(int argumentCount, char** arguments) {
-    using namespace songsweep::bench;
-    songsweep::returnLargeBlocksAtOnce();
-    const QCoreApplication application(argumentCount, arguments);
-    const QStringList given = QCoreApplication::arguments();
-    if (given.size() == 4) return measure(given[1], given[2].toStdString(), given[3].toInt());
-    if (given.size() == 2) {
-        QDir().mkpath(given[1]);
-        return run(QDir(given[1]));
-    }
-    const QTemporaryDir folder;
-    return run(QDir(folder.path()));
+    const std::filesystem::path folder =
+        argumentCount > 1 ? std::filesystem::path(arguments[1]) : std::filesystem::temp_directory_path();
+    return songsweep::bench::run(folder / "songsweep-find-benchmark");
 }
