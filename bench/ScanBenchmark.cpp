@@ -110,7 +110,9 @@ void scan(const FolderLibrary& place) {
     if (!report || !report.value().unread.empty()) ::_exit(1);
 }
 
+/// One that an earlier run made is good for this one.
 void makeFolder(const std::string& folder, int files) {
+    if (fs::exists(folder) && filesIn(folder).size() == static_cast<std::size_t>(files)) return;
     if (const Result<void> made = sample::makeSoundFolder(folder, files); !made) {
         std::fprintf(stderr, "%s\n", made.error().message.c_str());
         std::exit(EXIT_FAILURE);
