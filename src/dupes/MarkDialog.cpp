@@ -209,6 +209,8 @@ void MarkDialog::updateHelper() {
     const MarkChoice now = choice();
     showLive(*m_ui->markExceptOneLabel,
              m_byRecordings ? recordingsText(now.exceptOne) : helperText(now.markType, now.exceptOne));
+    m_ui->markKeepLabel->setText(m_byRecordings ? QStringLiteral("Keep of each recording")
+                                                : QStringLiteral("Keep in each group"));
     m_ui->markSoundLabel->setText(m_byRecordings
                                       ? QStringLiteral("Recordings were told apart by their sound.")
                                       : QStringLiteral("Equal tags can be different recordings."));

@@ -100,7 +100,7 @@ constexpr std::array<ColumnInfo, allColumns.size()> columns = {{
      addKeys<addNumber<&TrackRecord::dateaddedv>>},
     {Column::hasartwork, "hasartwork", "Artwork", "Artwork", "", text, 72, centre, end, yesOrNo,
      addKeys<addNumber<&TrackRecord::hasartwork>>},
-    {Column::sound, "sound", "Sound", "Sound", "Whether copies are the same recording", text, 88, left, end,
+    {Column::sound, "sound", "Sound", "Sound", "Whether copies are the same recording", text, 100, left, end,
      soundOf, addKeys<addSound>},
     {Column::file, "file", "File", "File", "", text, 180, left, middle, fileOf, addKeys<addFileName>},
     {Column::location, "location", "Location", "Location", "", text, 300, left, middle,

@@ -202,6 +202,7 @@ TEST_F(MarkDialogTest, SaysThatRulesGoByRecordings) {
     dialog.setPreview({.marked = 1, .total = 3, .inForce = false, .byRecordings = true});
     EXPECT_EQ(helper.text(),
               QStringLiteral("One copy of each recording stays, a working one if there is one."));
+    EXPECT_EQ(child<QLabel>(dialog, "markKeepLabel").text(), QStringLiteral("Keep of each recording"));
     child<QCheckBox>(dialog, "markExceptOneCK").click();
     EXPECT_EQ(helper.text(), QStringLiteral("Copies that tie all stay. No recording loses every copy."));
     dialog.setPreview({});
