@@ -15,8 +15,10 @@
 #include "app/views/ApplicationView.h"
 #include "app/views/ControllerViews.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
+#include <unordered_set>
 
 namespace songsweep {
 
@@ -108,6 +110,10 @@ class AppController {
     void deleteButtonClick();
     /// The menu command: refreshes the status, then presses Delete, or beeps.
     void deleteMarkedMenuClick();
+    /// The songs that the confirmation warns of, by the numbers of their groups.
+    std::unordered_set<std::int32_t> songsLost(FilesToTrash files) const {
+        return m_deletion.songsLost(files);
+    }
     void delConfCancelButtonClick() { m_deletion.delConfCancelButtonClick(); }
     /// `leaveSharedFiles`: files that a track that stays uses too are not touched. Nothing happens with
     /// `deleteFiles` before the survey of the files has answered.

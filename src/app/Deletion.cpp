@@ -83,6 +83,12 @@ void Deletion::onSurveyDone(const WorkerEvent& event) {
     m_view.updateDeleteConfirmation(answer.facts);
 }
 
+std::unordered_set<std::int32_t> Deletion::songsLost(FilesToTrash files) const {
+    if (files == FilesToTrash::none || m_pendingSurvey)
+        return songsLosingEveryCopy(m_results.tableDataSource().rows);
+    return files == FilesToTrash::all ? m_plan.songsLostWithShared : m_plan.lostSongs;
+}
+
 void Deletion::forgetSurvey() {
     m_pendingSurvey.reset();
     m_surveys.cancelAllOperations();

@@ -3,6 +3,7 @@
 
 #include "app/ITunesQueries.h"
 #include "app/Workers.h"
+#include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
 
@@ -12,6 +13,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <unordered_set>
 
 namespace songsweep {
 
@@ -46,6 +48,9 @@ class Deletion {
     bool hasRows() const { return m_phase == Phase::running; }
     /// What became of the tracks of the last deletion; null before the first has ended.
     const DeleteReport* lastReport() const { return m_report.get(); }
+
+    /// The groups that the confirmation warns of, by their numbers.
+    std::unordered_set<std::int32_t> songsLost(FilesToTrash files) const;
 
     // What users do.
     void deleteButtonClick();

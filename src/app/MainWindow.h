@@ -17,6 +17,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 class QAction;
@@ -65,8 +66,9 @@ class MainWindow : public QMainWindow,
     /// Says how each copy of a song differs from the plainest one, "1 s longer"; "" for nothing.
     using CopyDifferences = std::function<QStringList(const std::vector<TrackRecord*>& copies)>;
     void setCopyDifferences(CopyDifferences differences) { m_copyDifferences = std::move(differences); }
-    /// Shows only the songs of which no copy would be left.
-    void showSongsLosingEveryCopy();
+    /// Shows only the songs of which no copy would be left: these, or where there are none, those that the
+    /// marks say.
+    void showSongsLosingEveryCopy(std::unordered_set<std::int32_t> songs = {});
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
 
@@ -153,6 +155,7 @@ class MainWindow : public QMainWindow,
     void setUpToolbar();
     void setUpToolTips();
     void setUpEmptyPage();
+    void showPageWords();
     void fillRecentMenu();
     void setUpPageKeys();
     void setUpTable(Log& log);
@@ -185,6 +188,8 @@ class MainWindow : public QMainWindow,
     TableFilter* m_filter;
     QActionGroup* m_filterKinds = nullptr;
     QAction* m_sortBySound = nullptr;
+    std::unordered_set<std::int32_t>
+        m_lostSongs; ///< that the filter shows where it shows such; see RowFilter
     CopiesPanelView* m_details = nullptr;
     int m_firstOfDetails = 0; ///< the shown row of the first copy in the panel
     std::function<QString(const TrackRecord&)> m_copyReason = [](const TrackRecord&) { return QString(); };

@@ -45,7 +45,10 @@ void MainWindow::setUpFilter() {
     }
     connect(magnifier, &QAction::triggered, kinds,
             [field, kinds] { kinds->popup(field->mapToGlobal(QPoint(0, field->height()))); });
-    connect(m_filterKinds, &QActionGroup::triggered, this, &MainWindow::filterRows);
+    connect(m_filterKinds, &QActionGroup::triggered, this, [this] {
+        m_lostSongs.clear(); // Chosen here, the kind goes by the marks as they are.
+        filterRows();
+    });
     connect(field, &QLineEdit::textChanged, this, &MainWindow::filterRows);
     connect(field, &QLineEdit::returnPressed, m_ui->tableview, [this] { m_ui->tableview->setFocus(); });
     auto* leave = new QShortcut(Qt::Key_Escape, field);
@@ -60,8 +63,9 @@ void MainWindow::setUpFilter() {
 }
 
 void MainWindow::filterRows() {
-    m_filter->setFilter({static_cast<Kind>(m_filterKinds->checkedAction()->data().toInt()),
-                         m_ui->filterField->text().toStdString()});
+    const auto kind = static_cast<Kind>(m_filterKinds->checkedAction()->data().toInt());
+    if (kind != Kind::losingEveryCopy) m_lostSongs.clear();
+    m_filter->setFilter({kind, m_ui->filterField->text().toStdString(), m_lostSongs});
 }
 
 /// The field's signals are left on, since its sign for clearing goes by them, too.
@@ -77,8 +81,9 @@ void MainWindow::endFilter() {
     m_ui->tableview->setFocus(Qt::OtherFocusReason);
 }
 
-void MainWindow::showSongsLosingEveryCopy() {
+void MainWindow::showSongsLosingEveryCopy(std::unordered_set<std::int32_t> songs) {
     clearFilterControls();
+    m_lostSongs = std::move(songs);
     for (QAction* item : m_filterKinds->actions())
         if (item->data().toInt() == static_cast<int>(Kind::losingEveryCopy)) item->setChecked(true);
     filterRows();

@@ -20,6 +20,7 @@ constexpr std::size_t rowsOfStep = 4096;
 FilterPass::FilterPass(const std::vector<TrackRecord*>& rows, const RowFilter& filter)
     : m_rows(rows)
     , m_kind(filter.kind)
+    , m_songs(filter.songs)
     , m_wanted(foldedKey(filter.text)) {}
 
 bool FilterPass::step() {
@@ -53,7 +54,7 @@ bool FilterPass::isOfKind(std::size_t first, std::size_t end) const {
     case RowFilter::Kind::missing:
         return std::any_of(begin, stop, [](const TrackRecord* row) { return row->isdead; });
     case RowFilter::Kind::losingEveryCopy:
-        return losesEveryCopy(m_rows, {first, end});
+        return m_songs.empty() ? losesEveryCopy(m_rows, {first, end}) : m_songs.contains(m_rows[first]->gid);
     }
     return false;
 }

@@ -4,7 +4,9 @@
 #include "library/TrackRecord.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace songsweep {
@@ -16,6 +18,9 @@ struct RowFilter {
 
     Kind kind = Kind::all;
     std::string text; ///< UTF-8; empty for any
+    /// Groups of the kind `losingEveryCopy`, by their numbers, where somebody has looked at their files;
+    /// empty where marks alone say which they are.
+    std::unordered_set<std::int32_t> songs = {};
 
     bool isOn() const { return kind != Kind::all || !text.empty(); }
     bool operator==(const RowFilter&) const = default;
@@ -43,6 +48,7 @@ class FilterPass {
 
     const std::vector<TrackRecord*>& m_rows;
     RowFilter::Kind m_kind;
+    std::unordered_set<std::int32_t> m_songs;
     std::string m_wanted; ///< folded
     std::size_t m_next = 0;
     std::vector<bool> m_groups;

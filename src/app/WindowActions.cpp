@@ -143,6 +143,12 @@ void WindowActions::connectDeletion() {
             [this](bool deleteFiles, bool leaveSharedFiles) {
                 m_controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
             });
+    connect(confirmation, &DeleteConfirmation::lostSongsRequested, this,
+            [this, confirmation](FilesToTrash files) {
+                std::unordered_set<std::int32_t> songs = m_controller.songsLost(files);
+                confirmation->reject();
+                m_windows.mainWindow().showSongsLosingEveryCopy(std::move(songs));
+            });
     connect(confirmation, &QDialog::rejected, this, [this] { m_controller.delConfCancelButtonClick(); });
     ProgressSheet* progress = &m_windows.progressWindow();
     connect(progress, &QDialog::rejected, this, [this] { m_controller.cancelButtonClick(); });

@@ -10,11 +10,6 @@ namespace songsweep::confirmationTexts {
 
 namespace {
 
-int songsLost(const DeleteConfirmationFacts& facts, FilesToTrash files) {
-    if (files == FilesToTrash::none || facts.filesPending) return facts.groupsLosingEveryCopy;
-    return files == FilesToTrash::all ? facts.groupsLosingSharedFiles : facts.groupsLosingEveryFile;
-}
-
 /// One of two wordings by the count; "%1" in the second is the count.
 QString worded(int count, const QString& one, const QString& many) {
     return count == 1 ? one : QString(many).replace(QStringLiteral("%1"), QLocale().toString(count));
@@ -103,7 +98,7 @@ QString refusedLine(const DeleteConfirmationFacts& facts) {
 
 QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files) {
     QStringList sentences;
-    if (const int lost = songsLost(facts, files); lost > 0)
+    if (const int lost = facts.songsLost(files); lost > 0)
         sentences << worded(lost, QStringLiteral("No copy of 1 song will be left."),
                             QStringLiteral("No copy of %1 songs will be left."));
     if (facts.lastOfRecordings > 0)

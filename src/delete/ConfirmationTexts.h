@@ -30,9 +30,6 @@ QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString missingLine(const DeleteConfirmationFacts& facts);
 QString refusedLine(const DeleteConfirmationFacts& facts);
-/// Which files the user chose to trash.
-enum class FilesToTrash { none, unshared, all };
-
 /// What will be lost for good, or else what is in the way of all.
 QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files);
 

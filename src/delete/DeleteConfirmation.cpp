@@ -29,6 +29,8 @@ DeleteConfirmation::DeleteConfirmation(QWidget* parent)
     setUpButtons();
     connect(m_ui->delConfFileCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
     connect(m_ui->delConfTrashSharedCK, &QCheckBox::toggled, this, &DeleteConfirmation::updateLines);
+    connect(m_ui->delConfLostSongsButton, &QToolButton::clicked, this,
+            [this] { Q_EMIT lostSongsRequested(filesToTrash()); });
     connect(m_ui->delConfOptionsButton, &QToolButton::toggled, this, &DeleteConfirmation::showOptions);
     setFacts({});
 }
@@ -59,6 +61,11 @@ bool DeleteConfirmation::deletesFiles() const { return m_filesAlwaysGo || m_ui->
 
 bool DeleteConfirmation::leavesSharedFiles() const {
     return !hasSharedOption() || !m_ui->delConfTrashSharedCK->isChecked();
+}
+
+FilesToTrash DeleteConfirmation::filesToTrash() const {
+    if (!deletesFiles()) return FilesToTrash::none;
+    return leavesSharedFiles() ? FilesToTrash::unshared : FilesToTrash::all;
 }
 
 bool DeleteConfirmation::hasSharedOption() const {
@@ -102,9 +109,7 @@ void DeleteConfirmation::updateHeading() {
 
 void DeleteConfirmation::updateLines() {
     m_deleteButton->setEnabled(!deletesFiles() || !m_facts.filesPending);
-    using confirmationTexts::FilesToTrash;
-    const FilesToTrash withFiles = leavesSharedFiles() ? FilesToTrash::unshared : FilesToTrash::all;
-    showWarning(confirmationTexts::warning(m_facts, deletesFiles() ? withFiles : FilesToTrash::none));
+    showWarning();
     showLines(lines());
     showOptions();
 }
@@ -140,10 +145,12 @@ void DeleteConfirmation::showLines(const Lines& lines) {
     m_ui->delConfRefusedLabel->setToolTip(QString::fromStdString(m_facts.refusal));
 }
 
-void DeleteConfirmation::showWarning(const QString& text) {
+void DeleteConfirmation::showWarning() {
+    const QString text = confirmationTexts::warning(m_facts, filesToTrash());
     showLive(*m_ui->delConfWarningLabel, text);
     m_ui->delConfWarningLabel->setToolTip(QString::fromStdString(m_facts.libraryObstacle));
     m_ui->delConfWarning->setVisible(!text.isEmpty());
+    m_ui->delConfLostSongsButton->setVisible(m_facts.songsLost(filesToTrash()) > 0);
 }
 
 } // namespace songsweep

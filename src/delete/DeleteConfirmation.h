@@ -46,6 +46,8 @@ class DeleteConfirmation : public QDialog {
   Q_SIGNALS:
     /// The user confirmed. Cancelling is `rejected`.
     void deleteRequested(bool deleteFiles, bool leaveSharedFiles);
+    /// The user wants to see the songs of the warning.
+    void lostSongsRequested(songsweep::FilesToTrash files);
 
   protected:
     void showEvent(QShowEvent* event) override;
@@ -56,7 +58,8 @@ class DeleteConfirmation : public QDialog {
     void updateLines();
     void showOptions();
     bool hasSharedOption() const;
-    void showWarning(const QString& text);
+    FilesToTrash filesToTrash() const;
+    void showWarning();
     struct Lines {
         QString trash = {};
         QString shared = {};

@@ -6,6 +6,9 @@
 
 namespace songsweep {
 
+/// Which files the user chose to trash.
+enum class FilesToTrash { none, unshared, all };
+
 /// What the delete confirmation tells before anything happens. Counts are of the marked tracks; the file
 /// counts assume that files are to be trashed and that files shared with a track that stays are left.
 struct DeleteConfirmationFacts {
@@ -26,6 +29,12 @@ struct DeleteConfirmationFacts {
     bool embeddedLibrary = false;     ///< the library is a file that this program itself writes
     bool libraryUnknown = false;      ///< the other tracks could not be looked at, so that no file goes
     bool filesPending = false;        ///< the files are still looked at: the file counts say nothing yet
+
+    /// Groups of which no copy is left; by what the search saw until the files were looked at.
+    int songsLost(FilesToTrash files) const {
+        if (files == FilesToTrash::none || filesPending) return groupsLosingEveryCopy;
+        return files == FilesToTrash::all ? groupsLosingSharedFiles : groupsLosingEveryFile;
+    }
 
     bool operator==(const DeleteConfirmationFacts&) const = default;
 };

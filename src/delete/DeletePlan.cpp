@@ -86,7 +86,6 @@ class Survey {
     }
 
     void lookAtCopiesThatStay(DeleteConfirmationFacts& facts) {
-        facts.groupsLosingEveryFile = facts.groupsLosingSharedFiles = 0;
         std::size_t marked = 0;
         std::size_t other = 0;
         for (const SurveyedRows::Song& song : m_rows.songs) {
@@ -95,11 +94,14 @@ class Survey {
                 losesFile ? !anyCopyStays(other, song.othersEnd) && !anyKeptCopy(marked, song.markedEnd)
                           : song.losesEveryCopy;
             if (losesFile && !isLost) m_plan.keptSongs.insert(song.gid);
-            facts.groupsLosingEveryFile += isLost ? 1 : 0;
-            facts.groupsLosingSharedFiles += isLost || losesSharedFiles(song, losesFile, other) ? 1 : 0;
+            if (isLost) m_plan.lostSongs.insert(song.gid);
+            if (isLost || losesSharedFiles(song, losesFile, other))
+                m_plan.songsLostWithShared.insert(song.gid);
             marked = song.markedEnd;
             other = song.othersEnd;
         }
+        facts.groupsLosingEveryFile = static_cast<int>(m_plan.lostSongs.size());
+        facts.groupsLosingSharedFiles = static_cast<int>(m_plan.songsLostWithShared.size());
     }
 
     void count(DeleteConfirmationFacts& facts) const {

@@ -64,6 +64,9 @@ struct DeletePlan {
     std::unordered_map<const TrackRecord*, PlannedFile> files;
     /// Groups that lose a file, and of which a copy that works was seen that stays.
     std::unordered_set<std::int32_t> keptSongs;
+    /// Groups of which no copy is left if files go, too, and those of which none is if shared ones do.
+    std::unordered_set<std::int32_t> lostSongs;
+    std::unordered_set<std::int32_t> songsLostWithShared;
 
     /// Lets shared files go, too, as somebody asked who knows their number; not where that is unknown.
     void giveUpSharedFiles();

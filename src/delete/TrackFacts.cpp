@@ -23,6 +23,13 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
     return facts;
 }
 
+std::unordered_set<std::int32_t> songsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
+    std::unordered_set<std::int32_t> songs;
+    for (const RowGroup group : groupsOf(rows))
+        if (losesEveryCopy(rows, group)) songs.insert(rows[group.first]->gid);
+    return songs;
+}
+
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
     int count = 0;
     for (const RowGroup group : groupsOf(rows))

@@ -5,6 +5,8 @@
 #include "library/Groups.h"
 #include "library/TrackRecord.h"
 
+#include <cstdint>
+#include <unordered_set>
 #include <vector>
 
 namespace songsweep {
@@ -19,6 +21,9 @@ DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows);
 /// entry counts, or nothing could be deleted then. So no group is lost to what the marking rules leave with
 /// except-one, which is a working copy if there is one.
 bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group);
+
+/// The groups of which no copy is left so, by their numbers.
+std::unordered_set<std::int32_t> songsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
 
 /// The number of groups of which no copy is left so.
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);

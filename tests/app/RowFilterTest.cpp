@@ -57,6 +57,10 @@ TEST_F(RowFilterTest, TellsKindsApart) {
     EXPECT_EQ(left(list.rows, {Kind::marked, "no such text"}), std::vector<int>());
 }
 
+TEST_F(RowFilterTest, ShowsTheSongsThatSomebodyFoundToLoseEveryCopy) {
+    EXPECT_EQ(left(list.rows, {Kind::losingEveryCopy, "", {groupOf(6)}}), std::vector<int>{groupOf(6)});
+}
+
 TEST_F(RowFilterTest, GoesThroughManyRowsInSteps) {
     const DisplayedList many = test::manyRows(6000, 2);
     FilterPass pass(many.rows, {Kind::all, "Song 5999"});

@@ -213,6 +213,45 @@ TEST_F(WindowActionsTest, TheConfirmationCanBeCancelled) {
     EXPECT_EQ(checkedRows(), 1);
 }
 
+TEST_F(WindowActionsTest, TheWarningOfTheConfirmationLeadsToTheSongsThatLoseEveryCopy) {
+    search();
+    const std::int32_t song = rows().back()->gid;
+    std::size_t copies = 0;
+    for (std::size_t row = 0; row < rows().size(); ++row) {
+        if (rows()[row]->gid != song) continue;
+        controller->setObjectValue(true, Column::checkbox, static_cast<int>(row));
+        ++copies;
+    }
+    press("deleteButton");
+    press("delConfLostSongsButton");
+    EXPECT_FALSE(windows.deleteConfirmation().isVisible());
+    EXPECT_FALSE(controller->isDeleting());
+    EXPECT_EQ(checkedRows(), static_cast<int>(copies)) << "the marks stay";
+    ASSERT_TRUE(runEventLoopUntil([&] { return window().tableModel().rows().size() == copies; }));
+    EXPECT_EQ(window().tableModel().rows().front()->gid, song);
+    EXPECT_EQ(window().focusWidget(), &window().tableview());
+}
+
+/// Its file is gone since the search, so that the copy that stays is none.
+TEST_F(WindowActionsTest, TheWarningOfTheConfirmationKnowsWhatWasFoundOfTheFiles) {
+    const TrackRecord* marked = nullptr;
+    search();
+    press("autoMarkButton");
+    press("markMarkButton");
+    for (const TrackRecord* const row : rows())
+        if (row->checkbox && !row->isdead) marked = row;
+    ASSERT_NE(marked, nullptr);
+    for (const TrackRecord* const row : rows())
+        if (row->gid == marked->gid && !row->checkbox) std::filesystem::remove(row->location.string());
+    press("deleteButton");
+    press("delConfFileCK");
+    ASSERT_TRUE(runEventLoopUntil([this] { return button("delConfOkButton").isEnabled(); }));
+    press("delConfLostSongsButton");
+    const std::int32_t song = marked->gid;
+    ASSERT_TRUE(runEventLoopUntil([&] { return window().tableModel().rows().front()->gid == song; }));
+    EXPECT_EQ(window().tableModel().rows().back()->gid, song);
+}
+
 TEST_F(WindowActionsTest, AfterADeletionTheFocusIsInTheTable) {
     search();
     click(0, Column::checkbox);

@@ -258,6 +258,27 @@ TEST_F(DeleteConfirmationTest, WarnsOnlyWhereASongLosesEveryCopy) {
               QStringLiteral("No copy of 2 songs will be left."));
 }
 
+TEST_F(DeleteConfirmationTest, LeadsToTheSongsOfTheWarning) {
+    DeleteConfirmationFacts facts = threeTracks();
+    DeleteConfirmation sheet;
+    sheet.setFacts(facts);
+    const auto& show = child<QToolButton>(sheet, "delConfLostSongsButton");
+    EXPECT_TRUE(show.isHidden());
+    facts.libraryObstacle = "cannot write";
+    sheet.setFacts(facts);
+    EXPECT_TRUE(show.isHidden()) << "a library that cannot be written is no song";
+    facts.groupsLosingEveryCopy = facts.groupsLosingEveryFile = 1;
+    sheet.setFacts(facts);
+    EXPECT_FALSE(show.isHidden());
+    QSignalSpy asked(&sheet, &DeleteConfirmation::lostSongsRequested);
+    child<QAbstractButton>(sheet, "delConfLostSongsButton").click();
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    child<QAbstractButton>(sheet, "delConfLostSongsButton").click();
+    ASSERT_EQ(asked.size(), 2);
+    EXPECT_EQ(asked[0][0].value<FilesToTrash>(), FilesToTrash::none);
+    EXPECT_EQ(asked[1][0].value<FilesToTrash>(), FilesToTrash::unshared);
+}
+
 TEST_F(DeleteConfirmationTest, WarnsOfCopiesThatAreFoundBroken) {
     DeleteConfirmation sheet;
     sheet.setFacts(pendingTracks());
