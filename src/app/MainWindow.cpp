@@ -8,9 +8,8 @@
 #include "library/ListGain.h"
 #include "library/ValueFormats.h"
 #include "theme/Announcement.h"
-#include "ui/EmptyPageView.h"
+#include "ui/MessagePageView.h"
 #include "ui/NoticeBarView.h"
-#include "ui/NoticePageView.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackHeaderView.h"
 #include "ui/TrackTableModel.h"
@@ -102,7 +101,7 @@ void MainWindow::showPage() {
     QWidget* focus = nullptr;
     if (isNoticePage()) {
         page = m_ui->noticePage;
-        focus = &m_ui->noticePage->searchButton();
+        focus = &m_ui->noticePage->leadingButton();
     } else if (m_tableVisible) {
         page = m_ui->tableviewContainer;
         focus = m_ui->tableview;
@@ -200,7 +199,7 @@ void MainWindow::updateGainLabel() {
 
 void MainWindow::setSearchEnabled(bool enabled) {
     m_ui->searchButton->setEnabled(enabled);
-    m_ui->emptyPage->searchButton().setEnabled(enabled);
+    m_ui->emptyPage->leadingButton().setEnabled(enabled);
     validateMenuItems();
 }
 

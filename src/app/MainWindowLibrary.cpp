@@ -4,7 +4,7 @@
 #include "library/ValueFormats.h"
 #include "platform/DataFolder.h"
 #include "scan/FolderLibrary.h"
-#include "ui/EmptyPageView.h"
+#include "ui/MessagePageView.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QStandardPaths>
@@ -70,29 +71,26 @@ QString placesText(const std::vector<std::string>& places) {
     return QStringLiteral("Looked in ") + names.join(QStringLiteral(", "));
 }
 
-struct PageTexts {
-    QString title;
-    QString facts;
-    QString hint = {};
-};
-
-PageTexts pageTexts(const LibraryOverview& library) {
+MessagePageView::Words pageWords(const LibraryOverview& library) {
     const QString name = nameOfLibrary(library.path);
     const QString title = QStringLiteral("Find the songs you have twice");
+    const QString promise = QStringLiteral("Nothing is deleted until you say so.");
     switch (library.state) {
     case State::unknown:
         break;
     case State::none:
         return {QStringLiteral("No iTunes library was found"),
-                QStringLiteral("Open its XML file, or drop it here."), placesText(library.places)};
+                QStringLiteral("Open its XML file, or drop it here."), promise, placesText(library.places)};
     case State::reading:
-        return {title, name + QStringLiteral(" – Reading the library...")};
+        return {title, name + QStringLiteral(" – Reading the library..."), promise};
     case State::read:
-        return {title, name + QStringLiteral(" – ") + contentsText(library.contents)};
+        return {title, name + QStringLiteral(" – ") + contentsText(library.contents), promise};
     case State::unreadable:
-        return {QStringLiteral("The library can't be read"), QString::fromStdString(library.problem)};
+        return {QStringLiteral("The library can't be read"), QString::fromStdString(library.problem),
+                promise};
     }
-    return {title, QStringLiteral("Songsweep reads your iTunes library and shows its duplicates in groups.")};
+    return {title, QStringLiteral("Songsweep reads your iTunes library and shows its duplicates in groups."),
+            promise};
 }
 
 bool hasNoUse(State state) { return state == State::none || state == State::unreadable; }
@@ -100,22 +98,23 @@ bool hasNoUse(State state) { return state == State::none || state == State::unre
 } // namespace
 
 void MainWindow::setUpEmptyPage() {
-    EmptyPageView* page = m_ui->emptyPage;
-    connect(&page->searchButton(), &QPushButton::clicked, this, &MainWindow::startButtonClick);
-    connect(&page->openButton(), &QPushButton::clicked, this, &MainWindow::chooseLibrary);
-    connect(page, &EmptyPageView::choiceClicked, this,
+    MessagePageView* page = m_ui->emptyPage;
+    page->nameParts(QStringLiteral("empty"));
+    page->findChild<QLabel*>(QStringLiteral("emptyTitle"))->setObjectName(QStringLiteral("performLabel"));
+    connect(page, &MessagePageView::buttonClicked, this, [this](int index) {
+        if (!hasNoUse(m_library.state)) return Q_EMIT startButtonClick();
+        index == 0 ? chooseLibrary() : chooseFolder();
+    });
+    connect(page, &MessagePageView::choiceClicked, this,
             [this](int index) { Q_EMIT openLibrary(m_library.others.at(static_cast<std::size_t>(index))); });
+    showPageWords();
 }
 
 void MainWindow::showLibrary(const LibraryOverview& library) {
     m_library = library;
     const QString name = nameOfLibrary(library.path);
     setWindowTitle(name.isEmpty() ? QStringLiteral("Songsweep") : QStringLiteral("Songsweep – ") + name);
-    const PageTexts texts = pageTexts(library);
-    m_ui->emptyPage->setFacts(texts.title, texts.facts);
-    m_ui->emptyPage->setHint(texts.hint);
-    m_ui->emptyPage->setWay(hasNoUse(library.state) ? EmptyPageView::Way::openLibrary
-                                                    : EmptyPageView::Way::search);
+    showPageWords();
     QStringList choices;
     QStringList paths;
     for (const std::string& other : library.others) {
@@ -124,6 +123,17 @@ void MainWindow::showLibrary(const LibraryOverview& library) {
     }
     m_ui->emptyPage->setChoices(choices, paths);
     fillRecentMenu();
+}
+
+void MainWindow::showPageWords() {
+    MessagePageView* page = m_ui->emptyPage;
+    page->setWords(pageWords(m_library));
+    if (hasNoUse(m_library.state)) {
+        page->setButtons({{QStringLiteral("&Open library...")}, {QStringLiteral("Choose m&usic folder...")}},
+                         0);
+    } else {
+        page->setButtons({{QStringLiteral("&Search..."), QStringLiteral("Find duplicates")}}, 0);
+    }
 }
 
 void MainWindow::fillRecentMenu() {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 #include "app/TableFilter.h"
+#include "ui/MessagePageView.h"
 #include "ui/NoticeBarView.h"
-#include "ui/NoticePageView.h"
 #include "ui/TrackTableModel.h"
 #include "ui_MainWindow.h"
 
@@ -32,13 +32,15 @@ QString labelOf(NoticeAction action) {
 
 void MainWindow::setUpNotice() {
     m_ui->noticeBar->hide();
+    m_ui->noticePage->nameParts(QStringLiteral("noticePage"));
     const auto click = [this](int index) {
-        Q_EMIT noticeActionClick(m_notice->actions.at(static_cast<std::size_t>(index)));
+        const auto number = static_cast<std::size_t>(index);
+        if (number == m_notice->actions.size()) return Q_EMIT startButtonClick(); // the page's last
+        Q_EMIT noticeActionClick(m_notice->actions.at(number));
     };
     connect(m_ui->noticeBar, &NoticeBarView::actionClicked, this, click);
-    connect(m_ui->noticePage, &NoticePageView::actionClicked, this, click);
+    connect(m_ui->noticePage, &MessagePageView::buttonClicked, this, click);
     connect(m_ui->noticeBar, &NoticeBarView::closed, this, &MainWindow::noticeClosed);
-    connect(&m_ui->noticePage->searchButton(), &QPushButton::clicked, this, &MainWindow::startButtonClick);
 }
 
 void MainWindow::showNotice(const Notice& notice) {
@@ -48,8 +50,12 @@ void MainWindow::showNotice(const Notice& notice) {
         labels << labelOf(action);
     m_ui->noticeBar->setMessage(QString::fromStdString(notice.line), notice.isWarning);
     m_ui->noticeBar->setActions(labels);
-    m_ui->noticePage->setMessage(QString::fromStdString(notice.title), QString::fromStdString(notice.rest));
-    m_ui->noticePage->setActions(labels);
+    m_ui->noticePage->setWords({QString::fromStdString(notice.title), QString::fromStdString(notice.rest)});
+    std::vector<MessagePageView::Button> buttons;
+    for (const QString& label : labels)
+        buttons.push_back({label});
+    buttons.push_back({QStringLiteral("&Search..."), QStringLiteral("Find duplicates")});
+    m_ui->noticePage->setButtons(buttons, static_cast<int>(labels.size()));
     showPage();
 }
 

@@ -4,12 +4,13 @@
 #include "theme/Icons.h"
 #include "theme/Metrics.h"
 #include "ui/ColumnLook.h"
-#include "ui/EmptyPageView.h"
+#include "ui/MessagePageView.h"
 #include "ui/SWTableView.h"
 #include "ui/TrackTableModel.h"
 #include "ui_MainWindow.h"
 
 #include <QMenu>
+#include <QPushButton>
 #include <QShortcut>
 
 namespace songsweep {
@@ -58,7 +59,7 @@ void MainWindow::setUpPageKeys() {
     connect(cancel, &QShortcut::activated, m_ui->formprogressCancelButton, &QToolButton::click);
     auto* search = new QShortcut(Qt::Key_Return, m_ui->emptyPage);
     search->setContext(Qt::WidgetShortcut);
-    connect(search, &QShortcut::activated, m_ui->emptyPage, &EmptyPageView::goOn);
+    connect(search, &QShortcut::activated, this, [this] { m_ui->emptyPage->leadingButton().click(); });
 }
 
 void MainWindow::setUpTable(Log& log) {

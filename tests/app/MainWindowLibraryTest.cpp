@@ -22,7 +22,6 @@ class MainWindowLibraryTest : public MainWindowFixture {
         const auto& label = control<QLabel>(name);
         return label.isVisible() ? label.text() : QString();
     }
-    bool isShown(const char* button) { return control<QPushButton>(button).isVisible(); }
 };
 
 TEST_F(MainWindowLibraryTest, TheOpenLibraryStandsInTitleAndPage) {
@@ -33,8 +32,8 @@ TEST_F(MainWindowLibraryTest, TheOpenLibraryStandsInTitleAndPage) {
     EXPECT_TRUE(
         text("emptyText").startsWith(QStringLiteral("iTunes Library.xml – 104 tracks, 1 playlist, saved ")));
     EXPECT_EQ(text("emptyPromise"), QStringLiteral("Nothing is deleted until you say so."));
-    EXPECT_TRUE(isShown("emptySearchButton"));
-    EXPECT_FALSE(isShown("emptyOpenButton"));
+    EXPECT_EQ(control<QPushButton>("emptyButton0").text(), QStringLiteral("&Search..."));
+    EXPECT_EQ(window.findChild<QPushButton*>(QStringLiteral("emptyButton1")), nullptr);
 }
 
 TEST_F(MainWindowLibraryTest, WithoutALibraryThePageTellsWhereOneWasLookedForAndOpensTheChooser) {
@@ -44,8 +43,8 @@ TEST_F(MainWindowLibraryTest, WithoutALibraryThePageTellsWhereOneWasLookedForAnd
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Songsweep"));
     EXPECT_EQ(text("performLabel"), QStringLiteral("No iTunes library was found"));
     EXPECT_EQ(text("emptyHint"), QStringLiteral("Looked in /media/music, ~/Music"));
-    EXPECT_FALSE(isShown("emptySearchButton"));
-    ASSERT_TRUE(isShown("emptyOpenButton"));
+    EXPECT_EQ(control<QPushButton>("emptyButton0").text(), QStringLiteral("&Open library..."));
+    EXPECT_TRUE(control<QPushButton>("emptyButton0").isDefault());
     EXPECT_EQ(focus(), QStringLiteral("emptyPage"));
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     auto* chooser = window.findChild<QFileDialog*>();
@@ -64,13 +63,23 @@ TEST_F(MainWindowLibraryTest, AChosenFileIsOpened) {
 TEST_F(MainWindowLibraryTest, AnUnreadableLibraryIsToldWithAWayOut) {
     window.showLibrary({.state = State::unreadable, .path = "/m/Library.xml", .problem = "line 3: no end"});
     EXPECT_EQ(text("emptyText"), QStringLiteral("line 3: no end"));
-    EXPECT_TRUE(isShown("emptyOpenButton"));
+    EXPECT_EQ(control<QPushButton>("emptyButton0").text(), QStringLiteral("&Open library..."));
+}
+
+TEST_F(MainWindowLibraryTest, WithoutALibraryAFolderOfMusicCanBeChosen) {
+    window.showLibrary({.state = State::none, .path = ""});
+    EXPECT_EQ(control<QPushButton>("emptyButton1").text(), QStringLiteral("Choose m&usic folder..."));
+    EXPECT_FALSE(control<QPushButton>("emptyButton1").isDefault());
+    control<QPushButton>("emptyButton1").click();
+    auto* chooser = window.findChild<QFileDialog*>();
+    ASSERT_NE(chooser, nullptr);
+    EXPECT_EQ(chooser->fileMode(), QFileDialog::Directory);
 }
 
 TEST_F(MainWindowLibraryTest, OtherLibrariesAreAChoice) {
     QSignalSpy opened(&window, &MainWindow::openLibrary);
     window.showLibrary({.state = State::reading, .path = "/m/A.xml", .others = {"/m/B.xml", "/m/old/A.xml"}});
-    auto& second = control<QToolButton>("emptyChoiceButton1");
+    auto& second = control<QToolButton>("emptyChoice1");
     EXPECT_EQ(second.text(), QStringLiteral("A.xml in /m/old"));
     second.click();
     ASSERT_EQ(opened.size(), 1);
@@ -80,17 +89,17 @@ TEST_F(MainWindowLibraryTest, OtherLibrariesAreAChoice) {
     EXPECT_EQ(opened[1][0].value<std::string>(), "/m/B.xml");
     window.showLibrary({.state = State::reading, .path = "/m/A.xml"});
     EXPECT_FALSE(control<QMenu>("openRecentMenu").isEnabled());
-    EXPECT_EQ(window.findChild<QToolButton*>(QStringLiteral("emptyChoiceButton0")), nullptr);
+    EXPECT_EQ(window.findChild<QToolButton*>(QStringLiteral("emptyChoice0")), nullptr);
 }
 
 TEST_F(MainWindowLibraryTest, NothingBelowTheButtonTakesNoRoom) {
-    const int before = control<QPushButton>("emptySearchButton").y();
+    const int before = control<QPushButton>("emptyButton0").y();
     window.showLibrary({.state = State::read, .path = "/m/A.xml", .others = {"/m/B.xml"}});
     handleWaitingEvents();
-    EXPECT_NE(control<QPushButton>("emptySearchButton").y(), before);
+    EXPECT_NE(control<QPushButton>("emptyButton0").y(), before);
     window.showLibrary({.state = State::read, .path = "/m/A.xml"});
     handleWaitingEvents();
-    EXPECT_EQ(control<QPushButton>("emptySearchButton").y(), before);
+    EXPECT_EQ(control<QPushButton>("emptyButton0").y(), before);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ TEST_F(MainWindowMenuTest, MenuItemsFollowTheirButtons) {
     window.beginProgress(); // no second search begins
     EXPECT_FALSE(window.validateMenuItem(item("searchMenuitem")));
     EXPECT_FALSE(item("searchMenuitem").isEnabled());
-    EXPECT_FALSE(control<QPushButton>("emptySearchButton").isEnabled());
+    EXPECT_FALSE(control<QPushButton>("emptyButton0").isEnabled());
     window.endProgress();
     EXPECT_TRUE(item("searchMenuitem").isEnabled());
     EXPECT_FALSE(item("autoMarkMenuitem").isEnabled());

@@ -53,14 +53,14 @@ TEST_F(MainWindowNotice, HasThePageWhereNoRowIsLeft) {
     window.showNotice(m_notice);
     EXPECT_EQ(page(), QStringLiteral("noticePage"));
     EXPECT_FALSE(bar().isVisible());
-    EXPECT_EQ(control<QLabel>("noticeTitle").text(), QStringLiteral("56 tracks deleted"));
-    EXPECT_EQ(control<QLabel>("noticeText").text(), QStringLiteral("36 files in the Trash (0.6 MB)."));
-    EXPECT_EQ(focus(), QStringLiteral("noticeSearchButton"));
+    EXPECT_EQ(control<QLabel>("noticePageTitle").text(), QStringLiteral("56 tracks deleted"));
+    EXPECT_EQ(control<QLabel>("noticePageText").text(), QStringLiteral("36 files in the Trash (0.6 MB)."));
+    EXPECT_EQ(focus(), QStringLiteral("noticePageButton4"));
     QSignalSpy clicks(&window, &MainWindow::noticeActionClick);
     control<QPushButton>("noticePageButton3").click();
     EXPECT_EQ(clicks.at(0).at(0).value<NoticeAction>(), NoticeAction::restore);
     const QSignalSpy searches(&window, &MainWindow::startButtonClick);
-    control<QPushButton>("noticeSearchButton").click();
+    control<QPushButton>("noticePageButton4").click();
     EXPECT_EQ(searches.size(), 1);
     window.hideNotice();
     EXPECT_EQ(page(), QStringLiteral("tableviewContainer"));
