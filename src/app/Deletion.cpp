@@ -68,9 +68,8 @@ void Deletion::deleteButtonClick() {
 
 void Deletion::startSurvey(const DeleteConfirmationFacts& facts) {
     const DisplayedList& list = m_results.tableDataSource();
-    auto survey =
-        std::make_unique<FileSurvey>(SurveyedRows(list.rows, list.storage), facts, m_services.surveySources(),
-                                     m_services.cleanup, m_workers.center);
+    auto survey = std::make_unique<FileSurvey>(list, m_rowsLock, facts, m_services.surveySources(),
+                                               m_services.cleanup, m_workers.center);
     m_pendingSurvey = survey->serial();
     m_surveys.add(std::move(survey));
 }
@@ -92,6 +91,7 @@ std::unordered_set<std::int32_t> Deletion::songsLost(FilesToTrash files) const {
 void Deletion::forgetSurvey() {
     m_pendingSurvey.reset();
     m_surveys.cancelAllOperations();
+    const std::lock_guard read(*m_rowsLock); // Whoever may now change the rows waits for whoever reads them.
     m_plan = {};
 }
 

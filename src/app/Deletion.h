@@ -6,12 +6,14 @@
 #include "delete/DeleteConfirmationFacts.h"
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
+#include "delete/FileSurvey.h"
 
 #include <QTimer>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <unordered_set>
 
@@ -94,6 +96,7 @@ class Deletion {
     std::optional<std::uint64_t> m_pendingSurvey; ///< its serial, while the confirmation waits for its answer
     std::shared_ptr<const DeleteReport> m_report;
     QTimer m_myTimer; ///< the delay between confirmation and deletion
+    FileSurvey::RowsLock m_rowsLock = std::make_shared<std::mutex>();
     OperationQueue m_surveys;
 };
 

@@ -193,9 +193,11 @@ void DeletePlan::giveUpSharedFiles() {
     if (!libraryUnknown) shared.clear();
 }
 
-SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept)
+SurveyedRows::SurveyedRows(const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept,
+                           const std::function<bool()>& isStopped)
     : storage(std::move(kept)) {
     for (const RowGroup group : groupsOf(rows)) {
+        if (isStopped()) return;
         for (std::size_t row = group.first; row < group.end; ++row)
             add(*rows[row]);
         songs.push_back({marked.size(), others.size(), rows[group.first]->gid, losesEveryCopy(rows, group)});

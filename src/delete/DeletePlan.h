@@ -95,8 +95,10 @@ struct SurveyedRows {
         bool losesEveryCopy = false; ///< by what the search saw
     };
 
-    explicit SurveyedRows(const std::vector<TrackRecord*>& rows,
-                          std::shared_ptr<const TrackStorage> kept = nullptr);
+    /// Ends early, with what it has, where `isStopped` says so.
+    explicit SurveyedRows(
+        const std::vector<TrackRecord*>& rows, std::shared_ptr<const TrackStorage> kept = nullptr,
+        const std::function<bool()>& isStopped = [] { return false; });
     void add(const TrackRecord& record);
     CleanupSize sizeWithoutFiles() const { return {marked.size(), textBytes}; }
     CleanupSize sizeWithFiles() const { return {marked.size(), textBytes + pathBytes}; }

@@ -2,8 +2,11 @@
 #include "delete/TrackFacts.h"
 
 #include "library/DisplayedList.h"
+#include "library/RowParts.h"
 
 #include <algorithm>
+#include <atomic>
+#include <cstddef>
 
 namespace songsweep {
 
@@ -31,9 +34,14 @@ std::unordered_set<std::int32_t> songsLosingEveryCopy(const std::vector<TrackRec
 }
 
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
-    int count = 0;
-    for (const RowGroup group : groupsOf(rows))
-        count += losesEveryCopy(rows, group) ? 1 : 0;
+    std::atomic<int> count = 0;
+    inParts(rows, [&](RowGroup part) {
+        for (std::size_t row = part.first; row < part.end;) {
+            const RowGroup group = {row, groupEnd(rows, row)};
+            if (losesEveryCopy(rows, group)) ++count;
+            row = group.end;
+        }
+    });
     return count;
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "dupes/MarkHistory.h"
 
+#include "library/RowParts.h"
+
+#include <mutex>
 #include <utility>
 
 namespace songsweep {
@@ -10,77 +13,98 @@ namespace {
 /// Beyond it the oldest step is forgotten.
 constexpr std::size_t mostSteps = 100;
 
-std::vector<bool> marksOf(const std::vector<TrackRecord*>& rows) {
-    std::vector<bool> marks;
-    marks.reserve(rows.size());
-    for (const TrackRecord* const row : rows)
-        marks.push_back(row->checkbox);
+/// Bytes and no bits, so that several threads may set them.
+std::vector<char> marksOf(const std::vector<TrackRecord*>& rows) {
+    std::vector<char> marks(rows.size());
+    inParts(rows, [&](RowGroup part) {
+        for (std::size_t row = part.first; row < part.end; ++row)
+            marks[row] = rows[row]->checkbox ? 1 : 0;
+    });
     return marks;
 }
 
 } // namespace
 
-void MarkHistory::record(By by, const std::string& name, const std::vector<TrackRecord*>& rows,
-                         const std::function<void()>& act) {
-    const std::vector<bool> before = marksOf(rows);
+void MarkHistory::record(By by, const std::string& name, const Rows& rows, const std::function<void()>& act) {
+    const std::vector<char> before = marksOf(rows);
     act();
-    Step step{by, name, {}, {}};
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (rows[row]->checkbox == before[row]) continue;
-        step.changes.push_back({rows[row], by == By::hand && m_byHand.contains(rows[row])});
-        if (by == By::hand) noteByHand(*rows[row]);
-    }
-    if (by == By::rule) step.byHandBefore = std::exchange(m_byHand, {});
+    Step step{by, name, changesOf(rows, before)};
     if (step.changes.empty()) return;
     m_steps.resize(m_done);
-    if (m_steps.size() == mostSteps) m_steps.erase(m_steps.begin());
+    if (m_steps.size() == mostSteps) forgetFirst();
     m_steps.push_back(std::move(step));
     m_done = m_steps.size();
+    m_byHand.reset();
 }
 
-void MarkHistory::noteByHand(const TrackRecord& record) {
-    if (record.checkbox) {
-        m_byHand.insert(&record);
-    } else {
-        m_byHand.erase(&record);
+std::vector<MarkHistory::Change> MarkHistory::changesOf(const Rows& rows, const std::vector<char>& before) {
+    std::mutex lock;
+    std::vector<Change> changes;
+    inParts(rows, [&](RowGroup part) {
+        std::vector<Change> ofPart;
+        for (std::size_t row = part.first; row < part.end; ++row)
+            if (rows[row]->checkbox != (before[row] != 0)) ofPart.push_back({rows[row], rows[row]->checkbox});
+        const std::lock_guard guard(lock);
+        changes.insert(changes.end(), ofPart.begin(), ofPart.end());
+    });
+    return changes;
+}
+
+void MarkHistory::forgetFirst() {
+    follow(m_steps.front(), m_byHandBefore);
+    m_steps.erase(m_steps.begin());
+}
+
+/// What the step makes of the marks made by hand.
+void MarkHistory::follow(const Step& step, Records& byHand) {
+    if (step.by == By::rule) return byHand.clear();
+    for (const Change& change : step.changes) {
+        if (change.isMarked) {
+            byHand.insert(change.record);
+        } else {
+            byHand.erase(change.record);
+        }
     }
+}
+
+int MarkHistory::marksByHand() const {
+    if (m_byHand) return *m_byHand;
+    Records byHand = m_byHandBefore;
+    for (std::size_t step = 0; step < m_done; ++step)
+        follow(m_steps[step], byHand);
+    m_byHand = static_cast<int>(byHand.size());
+    return *m_byHand;
 }
 
 void MarkHistory::undo() {
     if (m_done == 0) return;
-    Step& step = m_steps[--m_done];
-    for (const Change& change : step.changes) {
-        change.record->checkbox = !change.record->checkbox;
-        if (step.by == By::rule) continue;
-        m_byHand.erase(change.record);
-        if (change.wasByHand) m_byHand.insert(change.record);
-    }
-    if (step.by == By::rule) m_byHand = step.byHandBefore;
+    for (const Change& change : m_steps[--m_done].changes)
+        change.record->checkbox = !change.isMarked;
+    m_byHand.reset();
 }
 
 void MarkHistory::redo() {
     if (m_done == m_steps.size()) return;
-    const Step& step = m_steps[m_done++];
-    for (const Change& change : step.changes) {
-        change.record->checkbox = !change.record->checkbox;
-        if (step.by == By::hand) noteByHand(*change.record);
-    }
-    if (step.by == By::rule) m_byHand.clear();
+    for (const Change& change : m_steps[m_done++].changes)
+        change.record->checkbox = change.isMarked;
+    m_byHand.reset();
 }
 
 void MarkHistory::clear() {
     m_steps.clear();
     m_done = 0;
-    m_byHand.clear();
+    m_byHandBefore.clear();
+    m_byHand.reset();
 }
 
-void MarkHistory::keepOnly(const std::vector<TrackRecord*>& rows) {
-    const Records before = std::exchange(m_byHand, {});
-    m_steps.clear();
-    m_done = 0;
+void MarkHistory::keepOnly(const Rows& rows) {
+    Records before = std::exchange(m_byHandBefore, {});
+    for (std::size_t step = 0; step < m_done; ++step)
+        follow(m_steps[step], before);
+    clear();
     if (before.empty()) return;
     for (const TrackRecord* const row : rows)
-        if (before.contains(row)) m_byHand.insert(row);
+        if (before.contains(row)) m_byHandBefore.insert(row);
 }
 
 } // namespace songsweep

@@ -2,13 +2,16 @@
 #include "dupes/MarkingRules.h"
 
 #include "dupes/FileKind.h"
+#include "library/RowParts.h"
 
 #include <algorithm>
+#include <mutex>
 
 namespace songsweep {
 
 void applyMarkChoice(const TrackRows& rows, const MarkChoice& choice) {
-    markRule(choice.markType).walks.apply(rows, choice);
+    const MarkWalks& walks = markRule(choice.markType).walks;
+    inParts(rows, [&](RowGroup part) { walks.apply(rowsOf(rows, part), choice); });
 }
 
 void markItems(const TrackRows& rows, MarkType markType, bool exceptOne) {
@@ -25,7 +28,16 @@ void markItemsByFolder(const TrackRows& rows, std::string_view folder, bool exce
 }
 
 MarkEffect markEffect(const TrackRows& rows, const MarkChoice& choice) {
-    return markRule(choice.markType).walks.effect(rows, choice);
+    const MarkWalks& walks = markRule(choice.markType).walks;
+    std::mutex lock;
+    MarkEffect effect;
+    inParts(rows, [&](RowGroup part) {
+        const MarkEffect ofPart = walks.effect(rowsOf(rows, part), choice);
+        const std::lock_guard guard(lock);
+        effect.marked += ofPart.marked;
+        effect.inForce = effect.inForce && ofPart.inForce;
+    });
+    return effect;
 }
 
 bool matchesRow(const TrackRows& rows, const MarkChoice& choice) {

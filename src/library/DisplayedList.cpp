@@ -3,8 +3,11 @@
 
 #include "library/Groups.h"
 #include "library/KeySort.h"
+#include "library/RowParts.h"
 
 #include <algorithm>
+#include <atomic>
+#include <cstddef>
 
 namespace songsweep {
 
@@ -18,14 +21,16 @@ void realignShowID(std::vector<TrackRecord*>& rows) {
 }
 
 void sortInsideGroups(std::vector<TrackRecord*>& rows, Column column, bool ascending) {
-    // One sort for all groups: the group's place decides first.
-    KeySort sort(rows.size());
-    columnInfo(column).addKeys(sort, rows, ascending);
-
-    std::vector<TrackRecord*> sorted;
-    sorted.reserve(rows.size());
-    for (const std::uint32_t index : sort.order())
-        sorted.push_back(rows[index]);
+    std::vector<TrackRecord*> sorted(rows.size());
+    inParts(rows, [&](RowGroup part) {
+        // One sort for all groups of the part: the group's place decides first.
+        const std::vector<TrackRecord*> unsorted = rowsOf(rows, part);
+        KeySort sort(unsorted.size());
+        columnInfo(column).addKeys(sort, unsorted, ascending);
+        std::size_t place = part.first;
+        for (const std::uint32_t index : sort.order())
+            sorted[place++] = unsorted[index];
+    });
     rows.swap(sorted);
 }
 
@@ -40,8 +45,14 @@ void removeBrokenGroups(std::vector<TrackRecord*>& rows) {
 }
 
 int checkedCount(const std::vector<TrackRecord*>& rows) {
-    return static_cast<int>(
-        std::count_if(rows.begin(), rows.end(), [](const TrackRecord* row) { return row->checkbox; }));
+    std::atomic<int> count = 0;
+    inParts(rows, [&](RowGroup part) {
+        const auto first = rows.begin() + static_cast<std::ptrdiff_t>(part.first);
+        const auto end = rows.begin() + static_cast<std::ptrdiff_t>(part.end);
+        count +=
+            static_cast<int>(std::count_if(first, end, [](const TrackRecord* row) { return row->checkbox; }));
+    });
+    return count;
 }
 
 std::string statusText(int checked, int rows) {
