@@ -4,8 +4,8 @@
 #include "app/BringToFront.h"
 #include "app/Progress.h"
 #include "app/ProgressTexts.h"
+#include "app/SlicedGain.h"
 #include "app/TableFilter.h"
-#include "library/ListGain.h"
 #include "library/ValueFormats.h"
 #include "theme/Announcement.h"
 #include "ui/MessagePageView.h"
@@ -18,6 +18,9 @@
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
+
+#include <algorithm>
+#include <utility>
 
 namespace songsweep {
 
@@ -42,8 +45,10 @@ MainWindow::MainWindow(Log& log, QWidget* parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::MainWindow>())
     , m_model(new TrackTableModel(this))
-    , m_filter(new TableFilter(this)) {
+    , m_filter(new TableFilter(this))
+    , m_gain(new SlicedGain(this)) {
     m_ui->setupUi(this);
+    connect(m_gain, &SlicedGain::counted, this, &MainWindow::showGain);
     m_lengths.emplace(*this);
     m_ui->contentStack->setBackgroundRole(QPalette::Base);
     setUpToolbar();
@@ -189,8 +194,9 @@ void MainWindow::updateSearchedLabel() {
 }
 
 /// At every reload, which also follows the space bar, so that its user sees what is marked by now.
-void MainWindow::updateGainLabel() {
-    const ListGain gain = gainOf(m_filter->all().rows);
+void MainWindow::updateGainLabel() { m_gain->count(m_filter->all().rows); }
+
+void MainWindow::showGain(const ListGain& gain) {
     const auto shown = static_cast<int>(m_filter->shown().rows.size());
     const QString filtered =
         shown == gain.copies ? QString() : QStringLiteral("· %L1 of %L2 shown ").arg(shown).arg(gain.copies);
@@ -232,10 +238,24 @@ void MainWindow::validateMenuItems() {
 
 void MainWindow::openAtFirstSize() {
     constexpr QSize wanted(1280, 760);
-    // The frame is the window manager's, and known only once the window is on the screen.
-    constexpr QSize frame(8, 40);
+    resize(wanted.boundedTo(screen()->availableSize()));
+    m_fitsIntoScreen = false;
+}
+
+/// The frame is the window manager's, and known only once the window is on the screen.
+void MainWindow::keepOnScreen() {
+    if (std::exchange(m_fitsIntoScreen, true)) return;
     const QRect free = screen()->availableGeometry();
-    resize(wanted.boundedTo(free.size() - frame));
+    const QRect frame = frameGeometry();
+    if (free.contains(frame)) return;
+    const QSize extents = frame.size() - size();
+    const QSize fitted = size().boundedTo(free.size() - extents);
+    resize(fitted);
+    const auto inside = [](int begin, int length, int freeBegin, int freeLength) {
+        return std::max(freeBegin, std::min(begin, freeBegin + freeLength - length));
+    };
+    move(inside(frame.left(), fitted.width() + extents.width(), free.left(), free.width()),
+         inside(frame.top(), fitted.height() + extents.height(), free.top(), free.height()));
 }
 
 void MainWindow::present() {

@@ -8,6 +8,7 @@
 #include "app/views/ResultsView.h"
 #include "library/DisplayedList.h"
 #include "library/LibraryOverview.h"
+#include "library/ListGain.h"
 
 #include <QMainWindow>
 #include <QStringList>
@@ -31,6 +32,7 @@ class MainWindow;
 
 class CopiesPanelView;
 class Log;
+class SlicedGain;
 class SWTableView;
 class TableFilter;
 class TrackTableModel;
@@ -72,6 +74,9 @@ class MainWindow : public QMainWindow,
     /// Whether the item of a menu may be used now.
     bool validateMenuItem(const QAction& item) const;
 
+    /// Asks where files of another machine are now.
+    void chooseFilesFolder();
+
     // LibraryView: in the title, and in the empty state
     void showLibrary(const LibraryOverview& library) override;
     void chooseLibrary() override;
@@ -106,7 +111,7 @@ class MainWindow : public QMainWindow,
     void hideNotice() override;
     void showNoticeDetails(const std::vector<std::string>& lines) override;
 
-    /// Opens at 1280 by 760, or at the screen's free size without the frame where that is less.
+    /// Opens at 1280 by 760, or so large that it lies on the screen with its frame where that is less.
     void openAtFirstSize();
     /// Brings the window to the front.
     void present();
@@ -139,19 +144,25 @@ class MainWindow : public QMainWindow,
     /// Marks or rows may be others now.
     void tableReloaded();
     void noticeActionClick(songsweep::NoticeAction action);
+    /// Where files of another machine are now.
+    void filesFolderChosen(const std::string& folder);
     void noticeClosed();
     void noticeDetails(const std::vector<std::string>& lines);
     void closed();
     void quit();
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
 
   private:
+    void keepOnScreen();
     void chooseFolder();
+    template <typename Chosen>
+    void openFolderChooser(const QString& title, const QString& start, Chosen chosen);
     void setUpToolbar();
     void setUpToolTips();
     void setUpEmptyPage();
@@ -177,6 +188,7 @@ class MainWindow : public QMainWindow,
     void showPage();
     void updateSearchedLabel();
     void updateGainLabel();
+    void showGain(const ListGain& gain);
     void fillSortMenu();
     void copyRows() const;
     std::vector<std::string> keyboardLines() const;
@@ -186,6 +198,7 @@ class MainWindow : public QMainWindow,
     std::optional<LayoutLengths> m_lengths;
     TrackTableModel* m_model;
     TableFilter* m_filter;
+    SlicedGain* m_gain;
     QActionGroup* m_filterKinds = nullptr;
     QAction* m_sortBySound = nullptr;
     std::unordered_set<std::int32_t>
@@ -198,6 +211,7 @@ class MainWindow : public QMainWindow,
     LibraryOverview m_library;
     QString m_searchedText;
     std::optional<Notice> m_notice;
+    bool m_fitsIntoScreen = true; ///< once the frame was known
     bool m_tableVisible = false;
     bool m_performLabelVisible = true;
     bool m_progressVisible = false;

@@ -44,6 +44,11 @@ std::string libraryPath(const QMimeData& data) {
 
 } // namespace
 
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) keepOnScreen();
+    return QMainWindow::event(event);
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     Q_EMIT closed();

@@ -3,6 +3,7 @@
 
 #include "library/TrackRecord.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -18,7 +19,25 @@ struct ListGain {
     bool operator==(const ListGain&) const = default;
 };
 
-/// One pass over the rows.
-ListGain gainOf(const std::vector<TrackRecord*>& rows);
+/// Counts a list's gain, some thousand rows a step, so that whoever counts a million of them answers in
+/// between.
+///
+/// One pass over the rows, which outlive it and do not change meanwhile.
+class GainPass {
+  public:
+    explicit GainPass(const std::vector<TrackRecord*>& rows)
+        : m_rows(rows) {}
+
+    /// Goes on; true once all rows were counted.
+    bool step();
+    const ListGain& gain() const { return m_gain; }
+
+  private:
+    void count(const TrackRecord& record);
+
+    const std::vector<TrackRecord*>& m_rows;
+    std::size_t m_next = 0;
+    ListGain m_gain;
+};
 
 } // namespace songsweep
