@@ -95,6 +95,9 @@ void DeleteConfirmation::updateHeading() {
     m_ui->delConfHeadingLabel->setText(confirmationTexts::heading(m_facts));
     QString explanation = confirmationTexts::explanation(m_facts);
     if (m_filesAlwaysGo && some) explanation += QChar::Space + confirmationTexts::filesGo(m_facts);
+    // A line for each sentence of more than one line, so that no word or two are left for the last.
+    const bool isLong = m_facts.embeddedLibrary || m_filesAlwaysGo;
+    if (isLong) explanation.replace(QStringLiteral(". "), QStringLiteral(".\n"));
     m_ui->delConfTextLabel->setText(explanation);
     m_ui->delConfFileCK->setText(confirmationTexts::fileOption(m_facts));
     m_ui->delConfFileCK->setVisible(some && !m_filesAlwaysGo);
@@ -104,7 +107,7 @@ void DeleteConfirmation::updateHeading() {
     m_deleteButton->setShortcut(Qt::CTRL | Qt::Key_D); // there are no mnemonics; a new text takes it away
 #endif
     setAccessibleDescription(m_ui->delConfHeadingLabel->text() + QChar::Space +
-                             m_ui->delConfTextLabel->text());
+                             m_ui->delConfTextLabel->text().replace(QLatin1Char('\n'), QChar::Space));
 }
 
 void DeleteConfirmation::updateLines() {
