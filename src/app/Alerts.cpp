@@ -2,7 +2,9 @@
 #include "app/Alerts.h"
 
 #include "app/AlertBox.h"
+#include "app/MapGuess.h"
 
+#include <QFile>
 #include <QPushButton>
 
 namespace songsweep::alerts {
@@ -54,6 +56,29 @@ QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason) {
 
 QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason) {
     return openWarning(parent, QStringLiteral("Can't write the library."), reason);
+}
+
+QMessageBox* openSearchWithMap(QWidget* parent, const MapGuess& guess, std::function<void()> accepted) {
+    auto* box = new AlertBox(QMessageBox::NoIcon, QStringLiteral("Look for the files there?"), parent);
+    const QString found =
+        guess.tried == 1
+            ? QStringLiteral("The file that was tried is there.")
+            : QStringLiteral("%L1 of %L2 files that were tried are there.").arg(guess.found).arg(guess.tried);
+    box->setInformativeText(QStringLiteral("In the library: %1\nHere: %2\n\n%3")
+                                .arg(QFile::decodeName(guess.rule.from.c_str()),
+                                     QFile::decodeName(guess.rule.to.c_str()), found));
+    QPushButton* cancel = box->addButton(QStringLiteral("&Cancel"), QMessageBox::RejectRole);
+    QPushButton* search = box->addButton(QStringLiteral("&Search again"), QMessageBox::AcceptRole);
+    box->setDefaultButton(search);
+    box->setEscapeButton(cancel);
+    QObject::connect(search, &QPushButton::clicked, box, [accepted = std::move(accepted)] { accepted(); });
+    box->open();
+    return box;
+}
+
+QMessageBox* openNoFilesIn(QWidget* parent, const QString& folder) {
+    return openWarning(parent, QStringLiteral("None of the files were found there."),
+                       folder + QStringLiteral("\nChoose the folder that holds the artists' folders."));
 }
 
 QMessageBox* openMarksAreLost(QWidget* parent, int marks, std::function<void()> accepted) {

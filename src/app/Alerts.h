@@ -9,6 +9,10 @@ class QMessageBox;
 class QWidget;
 
 /// The alerts, opened as sheets over `parent` and gone when answered; nothing waits for them. Main thread.
+namespace songsweep {
+struct MapGuess;
+}
+
 namespace songsweep::alerts {
 
 /// What the buttons of an alert are called in its end handler: the first, the second.
@@ -27,6 +31,11 @@ QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason);
 
 /// "Can't open the library.", with the reason as a second paragraph.
 QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason);
+
+/// Shows the rule by which missing files are found, and asks whether to search with it.
+QMessageBox* openSearchWithMap(QWidget* parent, const MapGuess& guess, std::function<void()> accepted);
+/// That not one of the files that were tried lies in the folder.
+QMessageBox* openNoFilesIn(QWidget* parent, const QString& folder);
 
 /// Whether another library may be opened though marks are lost; `accepted` comes where it may.
 QMessageBox* openMarksAreLost(QWidget* parent, int marks, std::function<void()> accepted);

@@ -118,6 +118,22 @@ void AppController::paramOkButtonClick(SearchParameters choices) {
     m_search.paramOkButtonClick(std::move(choices));
 }
 
+std::optional<MapGuess> AppController::guessMap(const std::string& folder) const {
+    return songsweep::guessMap(m_search.findings().missing.sample, {folder});
+}
+
+void AppController::searchWithMap(const MapRule& rule) {
+    if (!mayOpenLibrary()) return m_view.beep();
+    m_services.addMapRule(rule);
+    paramOkButtonClick(m_search.parameters());
+}
+
+void AppController::tellSearch() {
+    const MissingFiles& missing = m_search.findings().missing;
+    if (missing.areMost()) return m_notices.tellMissingFiles(missing);
+    if (tableDataSource().rows.empty()) m_notices.tellNoDuplicates(listedCount(), m_search.parameters());
+}
+
 void AppController::cancelformButtonClick() {
     m_userCancelled = true;
     m_search.cancelformButtonClick();
@@ -297,7 +313,11 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
         {N::xmlErrorProcessing, line, [](A& a, const E&) { a.m_search.onXmlError(); }},
         {N::xmlerrornotfound, line, [](A& a, const E&) { a.m_search.onXmlErrorNotFound(); }},
         {N::xmlModifiedDate, line, [](A& a, const E& e) { take(e, a.m_search, &Search::onXmlModifiedDate); }},
-        {N::buildFinish, line, [](A& a, const E&) { a.m_search.onBuildFinish(); }},
+        {N::buildFinish, line,
+         [](A& a, const E&) {
+             a.m_search.onBuildFinish();
+             a.tellSearch();
+         }},
         {N::addCancel, line, [](A& a, const E&) { a.m_search.onAddCancel(); }},
         {N::step1, silent, [](A& a, const E& e) { take(e, a.m_search, &Search::onStep1); }},
         {N::progressx, silent,

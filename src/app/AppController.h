@@ -5,6 +5,7 @@
 #include "app/CurrentLibrary.h"
 #include "app/Deletion.h"
 #include "app/Links.h"
+#include "app/MapGuess.h"
 #include "app/Marks.h"
 #include "app/Notices.h"
 #include "app/ProgressDisplay.h"
@@ -17,6 +18,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <unordered_set>
 
@@ -67,6 +69,11 @@ class AppController {
     void cancelformButtonClick();
     /// Forgets results and playlists, for another library. Nothing happens while a worker runs.
     bool resetForLibrary();
+
+    /// The rule by which the files that the last search missed are found in a folder; nothing where none is.
+    std::optional<MapGuess> guessMap(const std::string& folder) const;
+    /// Looks for files by that rule, too, and searches again.
+    void searchWithMap(const MapRule& rule);
 
     // The results table and its marks, which stand still while a worker runs.
     void setObjectValue(bool value, Column column, int row);
@@ -147,7 +154,7 @@ class AppController {
     const Progress& progress() const { return m_progress.progress(); }
     bool missedPlaylist() const { return m_search.missedPlaylist(); }
     SearchVerdict searchVerdict() const { return m_search.verdict(); }
-    const std::vector<std::string>& libraryWarnings() const { return m_search.warnings(); }
+    const std::vector<std::string>& libraryWarnings() const { return m_search.findings().warnings; }
     bool isSearching() const { return m_search.isRunning(); }
     bool isDeleting() const { return m_deletion.isOn(); }
     /// Whether the rows are a worker's now, so that nobody else may look at them.
@@ -170,6 +177,7 @@ class AppController {
     void beginRestore(const std::string& record);
     void finishCleanup(const std::string& record);
     void tellDeletion();
+    void tellSearch();
     void onLibraryRead(const WorkerEvent& event);
     void tellInterruption(const std::shared_ptr<InterruptedCleanup>& found);
     void threadHandlerSingleFinished2(const WorkerEvent& event);

@@ -63,7 +63,9 @@ struct ControllerServices {
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.
     std::function<bool()> embeddedLibrary = [] { return true; };
     /// The rules by which files are looked for elsewhere than the library says.
-    std::vector<MapRule> mapRules = {};
+    std::function<std::vector<MapRule>()> mapRules = [] { return std::vector<MapRule>(); };
+    /// Adds one; no worker runs.
+    std::function<void(const MapRule&)> addMapRule = [](const MapRule&) {};
 
     /// What is asked before a deletion.
     SurveySources surveySources() const;

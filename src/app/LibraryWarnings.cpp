@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/LibraryWarnings.h"
 
+#include "app/MapGuess.h"
+#include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Files.h"
 #include "restore/InterruptedCleanup.h"
@@ -39,18 +41,30 @@ std::vector<std::string> uselessMaps(const std::vector<MapRule>& rules, const Li
     return warnings;
 }
 
-std::optional<std::string> allFilesMissing(const Files& files, const LibraryLocations& locations) {
-    std::string first;
+MissingFiles allFilesMissing(const Files& files, const LibraryLocations& locations) {
+    MissingFiles missing;
+    PathSample sample;
     bool isOneHere = false;
     const bool looked = locations([&](std::string_view, const std::string& path) {
-        if (first.empty()) first = path;
+        ++missing.files;
+        sample.add(path);
         isOneHere = files.exists(path);
         return !isOneHere;
     });
-    if (!looked || isOneHere || first.empty()) return std::nullopt;
-    return "none of the library's files is here; if they came from another machine, --map FROM=TO tells "
-           "where they are now (the first is " +
-           first + ")";
+    if (!looked || isOneHere) return {};
+    missing.missing = missing.files;
+    missing.sample = sample.paths();
+    return missing;
+}
+
+std::string allMissingWarning(const MissingFiles& missing, const std::vector<std::string>& folders) {
+    const std::string begin = "none of the library's files is here; ";
+    const std::string first = " (the first is " + missing.sample.front() + ")";
+    if (const auto guess = guessMap(missing.sample, folders))
+        return begin + "--map \"" + guess->rule.from + "=" + guess->rule.to + "\" finds " +
+               std::to_string(guess->found) + " of the " +
+               counted(static_cast<std::size_t>(guess->tried), "file") + " that were tried" + first;
+    return begin + "if they came from another machine, --map FROM=TO tells where they are now" + first;
 }
 
 std::string interruption(const InterruptedCleanup& found) {

@@ -4,7 +4,6 @@
 #include "app/MapRule.h"
 #include "delete/DeletePlan.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,8 +20,21 @@ struct InterruptedCleanup;
 /// One warning for each rule that covers no path of the library; without rules there is no pass.
 std::vector<std::string> uselessMaps(const std::vector<MapRule>& rules, const LibraryLocations& locations);
 
-/// A warning where the library has files and not one of them is here.
-std::optional<std::string> allFilesMissing(const Files& files, const LibraryLocations& locations);
+/// How many of a library's files are not here.
+struct MissingFiles {
+    int files = 0;
+    int missing = 0;
+    std::vector<std::string> sample = {}; ///< paths of a few that are missing, as the library has them
+
+    bool areAll() const { return files > 0 && missing == files; }
+    bool areMost() const { return 2 * missing > files; }
+};
+
+/// Counts them where not one file of the library is here; nothing is missing otherwise.
+MissingFiles allFilesMissing(const Files& files, const LibraryLocations& locations);
+
+/// The warning for that; tells the rule by which they are found in one of the folders, where there is one.
+std::string allMissingWarning(const MissingFiles& missing, const std::vector<std::string>& folders);
 
 /// What is left to put back of a deletion or restore that was killed, and the command that does it.
 std::string interruption(const InterruptedCleanup& found);

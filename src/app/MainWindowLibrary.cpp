@@ -164,21 +164,34 @@ void MainWindow::chooseLibrary() {
     dialog->open();
 }
 
+template <typename Chosen>
+void MainWindow::openFolderChooser(const QString& title, const QString& start, Chosen chosen) {
+    auto* dialog = new QFileDialog(this, title);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    dialog->setDirectory(start);
+    connect(dialog, &QFileDialog::urlSelected, this, [chosen](const QUrl& url) {
+        const auto path = pathOfUrl(url.toEncoded(QUrl::FullyEncoded).toStdString());
+        if (path && !path->empty()) chosen(*path);
+    });
+    dialog->open();
+}
+
 void MainWindow::chooseFolder() {
     if (!m_mayOpenLibrary()) {
         QApplication::beep();
         return;
     }
-    auto* dialog = new QFileDialog(this, QStringLiteral("Choose music folder"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
-    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::MusicLocation));
-    connect(dialog, &QFileDialog::urlSelected, this, [this](const QUrl& url) {
-        const auto path = pathOfUrl(url.toEncoded(QUrl::FullyEncoded).toStdString());
-        if (path && !path->empty()) Q_EMIT openLibrary(*path);
-    });
-    dialog->open();
+    openFolderChooser(QStringLiteral("Choose music folder"),
+                      QStandardPaths::writableLocation(QStandardPaths::MusicLocation),
+                      [this](const std::string& path) { Q_EMIT openLibrary(path); });
+}
+
+/// The music often lies where its library does.
+void MainWindow::chooseFilesFolder() {
+    openFolderChooser(QStringLiteral("Choose the music folder"), fileOf(m_library.path).path(),
+                      [this](const std::string& path) { Q_EMIT filesFolderChosen(path); });
 }
 
 } // namespace songsweep

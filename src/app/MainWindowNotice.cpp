@@ -24,6 +24,10 @@ QString labelOf(NoticeAction action) {
         return QStringLiteral("Finish");
     case NoticeAction::restore:
         return QStringLiteral("Restore...");
+    case NoticeAction::chooseFilesFolder:
+        return QStringLiteral("Choose the music folder...");
+    case NoticeAction::searchWithFewer:
+        return QStringLiteral("Search with fewer fields...");
     }
     return {};
 }

@@ -2,6 +2,8 @@
 #include "app/Notices.h"
 
 #include "app/FinishedReport.h"
+#include "app/LibraryWarnings.h"
+#include "app/SearchSummary.h"
 #include "delete/DeletionSummary.h"
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
@@ -13,7 +15,10 @@
 #include "restore/RestoreTexts.h"
 #include "sound/SoundComparison.h"
 
+#include <QLocale>
+
 #include <algorithm>
+#include <utility>
 
 namespace songsweep {
 
@@ -41,6 +46,25 @@ std::string countsOf(const std::vector<SoundFinding>& findings) {
         if (copies > 0) text += (text.empty() ? "" : ", ") + std::to_string(copies) + " " + word.word;
     }
     return text + ".";
+}
+
+std::string grouped(int number) { return QLocale().toString(number).toStdString(); }
+
+std::string countedTracks(int tracks) {
+    return tracks == 1 ? "1 track was" : grouped(tracks) + " tracks were";
+}
+
+int fieldCount(const SearchParameters& parameters) {
+    return (parameters.issamename ? 1 : 0) + (parameters.issameartist ? 1 : 0) +
+           (parameters.issamealbum ? 1 : 0) + (parameters.issametime ? 1 : 0);
+}
+
+std::string missingTitle(const MissingFiles& missing) {
+    if (missing.files == 1) return "The file was not found";
+    const std::string all = "of the " + grouped(missing.files) + " files ";
+    if (missing.areAll()) return "None " + all + "were found";
+    const int found = missing.files - missing.missing;
+    return "Only " + grouped(found) + " " + all + (found == 1 ? "was" : "were") + " found";
 }
 
 std::optional<std::uint64_t> trashedBytes(const std::string& record) {
@@ -121,6 +145,31 @@ void Notices::tellFinished(const std::shared_ptr<FinishAnswer>& answer) {
     show({title, answer->problem + ".", title + ": " + answer->problem, true, {}});
 }
 
+void Notices::forget() {
+    m_details.clear();
+    m_trashedFile.clear();
+    m_backup.clear();
+    m_record.clear();
+    m_unfinished.clear();
+}
+
+void Notices::tellNoDuplicates(int tracks, const SearchParameters& parameters) {
+    forget();
+    const std::string title = "No duplicates found";
+    const std::string rest =
+        countedTracks(tracks) + " searched. " + searchSummary(parameters, ChosenPlaylist::searched) + ".";
+    Notice notice{title, rest, title + ". " + rest, false, {}};
+    if (fieldCount(parameters) > 1) notice.actions.push_back(NoticeAction::searchWithFewer);
+    show(std::move(notice));
+}
+
+void Notices::tellMissingFiles(const MissingFiles& missing) {
+    forget();
+    const std::string title = missingTitle(missing);
+    const std::string rest = "If they came from another machine, tell where they are now.";
+    show({title, rest, title + ".", true, {NoticeAction::chooseFilesFolder}});
+}
+
 void Notices::show(Notice notice) {
     if (!m_details.empty()) notice.actions.push_back(NoticeAction::details);
     if (!m_trashedFile.empty()) notice.actions.push_back(NoticeAction::showTrash);
@@ -144,6 +193,9 @@ void Notices::noticeActionClick(NoticeAction action) {
         return m_services.finish(m_unfinished);
     case NoticeAction::restore:
         return m_services.restore(m_record);
+    case NoticeAction::chooseFilesFolder:
+    case NoticeAction::searchWithFewer:
+        return;
     }
 }
 

@@ -16,9 +16,12 @@ struct ComparedSounds;
 struct DeleteReport;
 struct FinishAnswer;
 struct InterruptedCleanup;
+struct MissingFiles;
 struct RestoreAnswer;
+struct SearchParameters;
 
-/// Tells what a deletion or a restore came to, over the table, and does what the message's buttons offer.
+/// Tells what a search, a deletion or a restore came to, over the table, and does what the message's buttons
+/// offer, but for those that begin with a choice of the user: those are the windows' matter.
 ///
 /// There is one message at a time; what its buttons need is taken from the report when it is told, so that
 /// later deletions and searches do not change what they mean. Main thread.
@@ -46,6 +49,10 @@ class Notices {
     void tellFinishing();
     void tellFinished(const std::shared_ptr<FinishAnswer>& answer);
     void tellSounds(const ComparedSounds& sounds);
+    /// A search found no duplicates among so many tracks.
+    void tellNoDuplicates(int tracks, const SearchParameters& parameters);
+    /// Most of the files are not where the library says.
+    void tellMissingFiles(const MissingFiles& missing);
     void close();
 
     void noticeActionClick(NoticeAction action);
@@ -53,6 +60,7 @@ class Notices {
   private:
     /// Adds the buttons for which there is something to show.
     void show(Notice notice);
+    void forget();
     void showInFileManager(const std::string& path);
 
     Services m_services;

@@ -43,6 +43,16 @@ SearchParameters ParametersDialog::parameters() const {
     return parameters;
 }
 
+void ParametersDialog::dropField() {
+    for (QCheckBox* field :
+         {m_ui->paramSameAlbumCK, m_ui->paramSameTimeCK, m_ui->paramSameArtistCK, m_ui->paramSameNameCK}) {
+        if (!field->isChecked()) continue;
+        field->setChecked(false);
+        m_dropped = field;
+        return;
+    }
+}
+
 void ParametersDialog::showParamWindow() { bringToFront(*this); }
 void ParametersDialog::closeParamWindow() { hide(); }
 void ParametersDialog::setPlaylistsPending(bool pending) {
@@ -64,7 +74,8 @@ void ParametersDialog::addPlaylist(const std::string& name) {
 void ParametersDialog::selectPlaylist(int index) { m_ui->paramLocationCB->setCurrentIndex(index); }
 
 void ParametersDialog::showEvent(QShowEvent* event) {
-    m_ui->paramSameNameCK->setFocus();
+    (m_dropped != nullptr ? m_dropped : m_ui->paramSameNameCK)->setFocus();
+    m_dropped = nullptr;
     if (!event->spontaneous()) m_atOpening = parameters();
     QDialog::showEvent(event);
 }

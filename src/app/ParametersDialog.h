@@ -9,6 +9,8 @@
 #include <memory>
 #include <string>
 
+class QCheckBox;
+
 namespace songsweep {
 
 namespace Ui {
@@ -28,6 +30,8 @@ class ParametersDialog : public QDialog, public SearchView {
     ~ParametersDialog() override;
 
     SearchParameters parameters() const;
+    /// Takes the choice of one field back, of those that are chosen the one that tells least of a song.
+    void dropField();
 
     // SearchView
     void showParamWindow() override;
@@ -52,7 +56,8 @@ class ParametersDialog : public QDialog, public SearchView {
     void putBack();
 
     std::unique_ptr<Ui::ParametersDialog> m_ui;
-    SearchParameters m_atOpening; ///< what Cancel goes back to
+    QCheckBox* m_dropped = nullptr; ///< has the focus at the next opening
+    SearchParameters m_atOpening;   ///< what Cancel goes back to
 };
 
 } // namespace songsweep

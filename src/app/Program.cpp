@@ -126,8 +126,15 @@ ControllerServices Program::controllerServices() {
         .otherLibraries = [this] { return otherLibraries(); },
         .writeLibrary = [this] { return writeLibrary(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
-        .mapRules = m_options.mapRules,
+        .mapRules = [this] { return m_options.mapRules; },
+        .addMapRule = [this](const MapRule& rule) { addMapRule(rule); },
     };
+}
+
+void Program::addMapRule(const MapRule& rule) {
+    m_options.mapRules.push_back(rule);
+    m_options.map.add(rule.from, rule.to);
+    m_files.setMap(m_options.map);
 }
 
 OpenedLibrary Program::openLibrary(const std::string& path) {

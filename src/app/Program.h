@@ -91,6 +91,7 @@ class Program {
 
   private:
     EmbeddedScripting::Options scriptingOptions();
+    void addMapRule(const MapRule& rule);
     std::string withLibraryPath(const std::string& reason) const;
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
     std::vector<std::string> tracksOfId(std::string_view pid);

@@ -11,6 +11,8 @@
 #include "dupes/BuildResultProc.h"
 #include "platform/Log.h"
 
+#include <QThreadPool>
+
 #include <exception>
 #include <utility>
 
@@ -26,6 +28,15 @@ std::string cantAccessMessage(const std::string& player) {
 
 /// What a text that is not there reads as where a text is built from it.
 const std::string missingText = "(null)";
+
+/// A million records take a tenth of a second to go, for which nobody shall wait.
+std::shared_ptr<TrackList> makeList() {
+    auto list = std::make_shared<TrackList>();
+    list->storage = std::shared_ptr<TrackStorage>(new TrackStorage, [](TrackStorage* storage) {
+        QThreadPool::globalInstance()->start([storage] { delete storage; });
+    });
+    return list;
+}
 
 std::string wholeLibraryNote(const SearchParameters& parameters) {
     return "the whole library was searched, not “" + parameters.playlist.value_or("") + "”";
@@ -128,8 +139,8 @@ SearchVerdict Search::verdict() const {
 
 void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
     m_readers.choose(m_queries.majorVersion(), playlistIndex, trackCount);
-    m_list1 = std::make_shared<TrackList>();
-    m_warnings = std::make_shared<LibraryLook::Warnings>();
+    m_list1 = makeList();
+    m_findings = std::make_shared<LibraryFindings>();
     m_listedCount = 0;
     m_results.begin(m_list1->storage);
     m_progress.setValue(0);
@@ -161,7 +172,7 @@ void Search::xmlStartClick() { m_workers.queue.add(m_readers.bareReader()); }
 
 void Search::forgetLibrary() {
     closeParamWindow(); // its list of playlists is filled when it opens
-    m_list1 = std::make_shared<TrackList>();
+    m_list1 = makeList();
     m_playlistCount = 0;
     m_readers.setDeletedSinceRead(false);
     m_view.clearPlaylists();
@@ -183,8 +194,9 @@ void Search::onAddFinish() {
 
 void Search::startLibraryLook() {
     if (!m_services.libraryLocations) return;
-    const FilePlaces places = {m_services.files, m_services.libraryLocations, m_services.mapRules};
-    m_workers.queue.add(std::make_unique<LibraryLook>(m_list1, places, m_warnings));
+    const FilePlaces places = {m_services.files, m_services.libraryLocations, m_services.mapRules(),
+                               m_services.libraryFile()};
+    m_workers.queue.add(std::make_unique<LibraryLook>(m_list1, places, m_findings));
 }
 
 void Search::onXmlDoneParsing() {
@@ -218,7 +230,7 @@ void Search::onBuildFinish() {
     m_searching = false;
     m_progress.closeProgressWindow(ProgressBar::formprogress);
     std::vector<std::string> notes = verdict().notes;
-    notes.insert(notes.end(), m_warnings->begin(), m_warnings->end());
+    notes.insert(notes.end(), m_findings->warnings.begin(), m_findings->warnings.end());
     const auto playlist = askedForWholeLibrary() ? ChosenPlaylist::missed : ChosenPlaylist::searched;
     m_results.showFound(searchSummary(m_params, playlist, notes));
     if (!m_results.tableDataSource().rows.empty()) return;

@@ -38,8 +38,8 @@ class Search {
     bool missedPlaylist() const;
     /// What the search that has ended covered.
     SearchVerdict verdict() const;
-    /// That the library's files are looked for in the wrong place; for when the search has ended.
-    const std::vector<std::string>& warnings() const { return *m_warnings; }
+    /// Whether the library's files are looked for in the wrong place; for when the search has ended.
+    const LibraryFindings& findings() const { return *m_findings; }
     const SearchParameters& parameters() const { return m_params; }
     /// Whether the sender was cancelled before the present search began: its end is no news of this search.
     bool isStale(const WorkerEvent& event) const;
@@ -90,7 +90,7 @@ class Search {
 
     SearchParameters m_params;
     std::shared_ptr<TrackList> m_list1 = std::make_shared<TrackList>();
-    std::shared_ptr<LibraryLook::Warnings> m_warnings = std::make_shared<LibraryLook::Warnings>();
+    std::shared_ptr<LibraryFindings> m_findings = std::make_shared<LibraryFindings>();
     std::uint64_t m_serial = 0; ///< of the present search's first worker
     bool m_searching = false;
     bool m_asksITunes = false;

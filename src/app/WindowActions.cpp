@@ -172,11 +172,29 @@ void WindowActions::connectRestoring() {
 void WindowActions::connectNotices() {
     MainWindow* window = &m_windows.mainWindow();
     connect(window, &MainWindow::noticeActionClick, this,
-            [this](NoticeAction action) { m_controller.noticeActionClick(action); });
+            [this](NoticeAction action) { takeNoticeAction(action); });
+    connect(window, &MainWindow::filesFolderChosen, this, &WindowActions::offerMap);
     connect(window, &MainWindow::noticeClosed, this, [this] { m_controller.noticeCloseButtonClick(); });
     connect(window, &MainWindow::noticeDetails, this, [this](const std::vector<std::string>& lines) {
         m_windows.showDetails(QStringLiteral("Details"), lines);
     });
+}
+
+void WindowActions::takeNoticeAction(NoticeAction action) {
+    if (action == NoticeAction::searchWithFewer) {
+        m_windows.paramWindow().dropField();
+        m_controller.startButtonClick();
+    } else if (action == NoticeAction::chooseFilesFolder) {
+        m_windows.mainWindow().chooseFilesFolder();
+    } else {
+        m_controller.noticeActionClick(action);
+    }
+}
+
+void WindowActions::offerMap(const std::string& folder) {
+    const std::optional<MapGuess> guess = m_controller.guessMap(folder);
+    if (!guess) return m_windows.alertNoFilesIn(folder);
+    m_windows.askToSearchWithMap(*guess, [this, rule = guess->rule] { m_controller.searchWithMap(rule); });
 }
 
 void WindowActions::connectApplication() {

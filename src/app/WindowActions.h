@@ -4,6 +4,7 @@
 #include "app/FolderActions.h"
 #include "app/OpenedLibrary.h"
 #include "app/SoundActions.h"
+#include "app/views/NoticeView.h"
 
 #include <QObject>
 
@@ -42,6 +43,8 @@ class WindowActions : public QObject {
     void connectRestoring();
     void connectNotices();
     void connectApplication();
+    void takeNoticeAction(NoticeAction action);
+    void offerMap(const std::string& folder);
     void chooseLibrary(const std::string& path);
     void openLibrary(const std::string& path);
     void openFolder(const std::string& path);

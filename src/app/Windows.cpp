@@ -6,6 +6,7 @@
 #include "app/DetailsDialog.h"
 
 #include <QApplication>
+#include <QFile>
 
 namespace songsweep {
 
@@ -63,6 +64,14 @@ void Windows::alertCantOpen(const std::string& reason) {
 
 void Windows::askBeforeMarksAreLost(int marks, std::function<void()> proceed) {
     alerts::openMarksAreLost(&m_mainWindow, marks, std::move(proceed));
+}
+
+void Windows::askToSearchWithMap(const MapGuess& guess, std::function<void()> proceed) {
+    alerts::openSearchWithMap(&m_mainWindow, guess, std::move(proceed));
+}
+
+void Windows::alertNoFilesIn(const std::string& folder) {
+    alerts::openNoFilesIn(&m_mainWindow, QFile::decodeName(folder.c_str()));
 }
 
 void Windows::alertCantBeginDelete(const std::string& reason) {

@@ -19,6 +19,8 @@ class QMessageBox;
 
 namespace songsweep {
 
+struct MapGuess;
+
 /// Owns all windows, each a view of its own, and opens the alerts over them.
 ///
 /// Alerts, sheets and dialogs are opened and never executed. What users do in the windows is no matter of
@@ -44,6 +46,9 @@ class Windows final : public ApplicationView {
     /// Asks whether another library may be opened though that many marks are lost; `proceed` is the answer
     /// yes.
     void askBeforeMarksAreLost(int marks, std::function<void()> proceed);
+    /// Shows where files would be found, and asks whether to look there; `proceed` is the answer yes.
+    void askToSearchWithMap(const MapGuess& guess, std::function<void()> proceed);
+    void alertNoFilesIn(const std::string& folder);
     /// A list of lines over the front window.
     void showDetails(const QString& title, const std::vector<std::string>& lines);
     /// That the library file was not written. Gives the alert, which goes away when answered.

@@ -38,6 +38,9 @@ class Files {
     Files& operator=(const Files&) = delete;
     virtual ~Files() = default;
 
+    /// From now on; while no other thread asks.
+    void setMap(PathMap map) { m_map = std::move(map); }
+
     /// Whether anything exists at the path, after following links. Costs one stat where the name is as
     /// written.
     virtual bool exists(const char* path) const;

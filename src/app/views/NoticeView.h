@@ -6,7 +6,15 @@
 
 namespace songsweep {
 
-enum class NoticeAction { details, showTrash, showBackup, finish, restore };
+enum class NoticeAction {
+    details,
+    showTrash,
+    showBackup,
+    finish,
+    restore,
+    chooseFilesFolder,
+    searchWithFewer,
+};
 
 /// A message that stands over the table until the user closes it or something new begins.
 struct Notice {
