@@ -58,13 +58,13 @@ void setTag(const Ui::MarkDialog& ui, QRadioButton* radio, MarkField field) {
 
 QString previewText(const MarkPreview& preview) {
     if (preview.total == 0) return QStringLiteral("No tracks to mark");
-    const QString counts = QStringLiteral(" %1 of %2").arg(preview.marked).arg(preview.total);
+    const QString counts = QStringLiteral(" %L1 of %L2").arg(preview.marked).arg(preview.total);
     const QString none = preview.matches ? QString() : QStringLiteral("No track matches. ");
     if (preview.inForce) return none + QStringLiteral("Marked") + counts;
     const QString lost = preview.byHand == 0 ? QString()
                          : preview.byHand == 1
                              ? QStringLiteral(",\nreplaces 1 mark made by hand")
-                             : QStringLiteral(",\nreplaces %1 marks made by hand").arg(preview.byHand);
+                             : QStringLiteral(",\nreplaces %L1 marks made by hand").arg(preview.byHand);
     return none + QStringLiteral("Would mark") + counts + lost;
 }
 

@@ -102,6 +102,19 @@ QRect fieldContents(const QStyleOptionComboBox& combo, const QWidget* widget) {
     return combo.rect.adjusted(padding, 1, -scaledLength(arrowWidth, widget), -1);
 }
 
+/// Under the text of the field, whose left edge is that of the popup.
+QRect popupItemText(QRect text, const QStyleOption& item, const QWidget& view) {
+    const int ownMargin = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &item, &view) + 1;
+    const int frame = view.mapTo(view.window(), QPoint()).x();
+    const int left = scaledLength(fieldPadding, &view) - ownMargin - frame;
+    if (item.direction == Qt::LeftToRight) {
+        text.setLeft(item.rect.left() + left);
+    } else {
+        text.setRight(item.rect.right() - left);
+    }
+    return text;
+}
+
 QRect comboBoxPart(const QStyleOptionComboBox& combo, QStyle::SubControl part, const QWidget* widget) {
     QRect rect = combo.rect;
     if (part == QStyle::SC_ComboBoxArrow) rect.setLeft(rect.right() + 1 - scaledLength(arrowWidth, widget));
@@ -203,6 +216,8 @@ QRect SongsweepStyle::subElementRect(SubElement element, const QStyleOption* opt
         const int padding = scaledLength(fieldPadding, widget) - lineEditOwnMargin;
         return option->rect.adjusted(padding, 1, -padding, -1);
     }
+    if (element == SE_ItemViewItemText && widget != nullptr && widget->inherits("QComboBoxListView"))
+        return popupItemText(QProxyStyle::subElementRect(element, option, widget), *option, *widget);
     if (element == SE_ProgressBarGroove || element == SE_ProgressBarContents) return option->rect;
     return QProxyStyle::subElementRect(element, option, widget);
 }
