@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/RunWindow.h"
+#include "cli/ExportResults.h"
 #include "cli/RunCommand.h"
 #include "platform/Memory.h"
 #include "platform/StandardDescriptors.h"
@@ -29,6 +30,6 @@ int main(int argumentCount, char** arguments) {
     if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);
     const auto& command = std::get<cli::Command>(parsed);
     if (const auto* window = std::get_if<cli::LibraryOptions>(&command))
-        return runWindow(programOptions(*window), window->log, argumentCount, arguments);
+        return runWindow(programOptions(*window), window->log, cli::exportResults, argumentCount, arguments);
     return cli::runCommand(command, argumentCount, arguments, SONGSWEEP_VERSION);
 }

@@ -58,6 +58,10 @@ QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason) {
     return openWarning(parent, QStringLiteral("Can't write the library."), reason);
 }
 
+QMessageBox* openCantExport(QWidget* parent, const QString& reason) {
+    return openWarning(parent, QStringLiteral("Can't export the results."), reason);
+}
+
 QMessageBox* openSearchWithMap(QWidget* parent, const MapGuess& guess, std::function<void()> accepted) {
     auto* box = new AlertBox(QMessageBox::NoIcon, QStringLiteral("Look for the files there?"), parent);
     const QString found =

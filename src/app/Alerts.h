@@ -32,6 +32,9 @@ QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason);
 /// "Can't open the library.", with the reason as a second paragraph.
 QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason);
 
+/// That the results could not be written, with the reason as a second paragraph.
+QMessageBox* openCantExport(QWidget* parent, const QString& reason);
+
 /// Shows the rule by which missing files are found, and asks whether to search with it.
 QMessageBox* openSearchWithMap(QWidget* parent, const MapGuess& guess, std::function<void()> accepted);
 /// That not one of the files that were tried lies in the folder.

@@ -4,6 +4,7 @@
 #include "dupes/LibraryFolder.h"
 #include "dupes/SmallDifference.h"
 #include "platform/Desktop.h"
+#include "platform/FileUrl.h"
 #include "platform/Log.h"
 #include "restore/InterruptedCleanup.h"
 #include "sound/SoundComparison.h"
@@ -100,6 +101,11 @@ void AppController::launchURL(const std::string& address) {
     if (!opened) m_services.log.line("Cannot open " + address + ": " + opened.error().message);
 }
 
+void AppController::guideMenuClick() {
+    const std::optional<std::string> guide = m_services.guide();
+    launchURL(guide ? fileUrl(*guide) : links::help);
+}
+
 void AppController::alertCantAccessDidEnd(int returnCode) {
     if (returnCode == alertSecondButtonReturn) launchURL(links::cantAccessITunes);
 }
@@ -130,8 +136,9 @@ void AppController::searchWithMap(const MapRule& rule) {
 
 void AppController::tellSearch() {
     const MissingFiles& missing = m_search.findings().missing;
-    if (missing.areMost()) return m_notices.tellMissingFiles(missing);
-    if (tableDataSource().rows.empty()) m_notices.tellNoDuplicates(listedCount(), m_search.parameters());
+    if (tableDataSource().rows.empty())
+        return m_notices.tellNoDuplicates(listedCount(), m_search.parameters(), missing);
+    if (missing.areMost()) m_notices.tellMissingFiles(missing);
 }
 
 void AppController::cancelformButtonClick() {
@@ -226,6 +233,25 @@ void AppController::keepSounds(const DisplayedList& list, const ComparedSounds& 
     for (const std::string& line : sounds.unread)
         m_services.log.line(line);
     if (isIdle() && m_results.keepSounds(list, sounds.findings)) m_notices.tellSounds(sounds);
+}
+
+Result<void> AppController::exportResults(const std::string& path, const Exporter& exporter) {
+    const std::vector<TrackRecord*>& rows = tableDataSource().rows;
+    if (!isIdle() || rows.empty()) {
+        m_view.beep();
+        return {};
+    }
+    ResultsExport results = {.path = path,
+                             .format = exportFormat(path),
+                             .rows = rows,
+                             .tracks = m_search.libraryCount(),
+                             .listed = listedCount(),
+                             .notes = searchVerdict().notes};
+    if (MarkReasons* const reasons = m_results.markReasons()) {
+        reasons->index();
+        results.reason = [&](int row) { return reasons->of(*rows.at(static_cast<std::size_t>(row))); };
+    }
+    return exporter(results);
 }
 
 // Deleting.

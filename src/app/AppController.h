@@ -11,6 +11,7 @@
 #include "app/ProgressDisplay.h"
 #include "app/Restoring.h"
 #include "app/Results.h"
+#include "app/ResultsExport.h"
 #include "app/Search.h"
 #include "app/TrackActions.h"
 #include "app/views/ApplicationView.h"
@@ -49,6 +50,8 @@ class AppController {
     void aboutButtonClick() { m_view.showAboutWindow(); }
     void launchURL(const std::string& address);
     void websiteButtonClick() { launchURL(links::website); }
+    /// Opens the guide that came with the program; its page in the net where none did.
+    void guideMenuClick();
     void helpButtonClick() { launchURL(links::help); }
     void contactButtonClick() { launchURL(links::contact); }
     void alertCantAccessDidEnd(int returnCode);
@@ -96,6 +99,8 @@ class AppController {
     /// Why the record is marked, or stays; empty where no rule has marked anything, and while the rows are a
     /// worker's.
     std::string markReason(const TrackRecord& record) const;
+    /// Writes the results; nothing, and a beep, where there are none or a worker has them.
+    Result<void> exportResults(const std::string& path, const Exporter& exporter);
     int marksByHand() const { return m_results.markHistory().marksByHand(); }
     /// What a choice of the mark dialog would do now.
     MarkEffect markEffect(const MarkChoice& choice) const { return m_marks.effect(choice); }

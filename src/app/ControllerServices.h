@@ -9,6 +9,7 @@
 #include "platform/Result.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -58,6 +59,8 @@ struct ControllerServices {
     /// Other libraries than the present one: those that lie there, and those that were opened last. Called on
     /// a worker thread.
     std::function<std::vector<std::string>()> otherLibraries = [] { return std::vector<std::string>(); };
+    /// The page of the user guide that came with the program; nothing where none did.
+    std::function<std::optional<std::string>()> guide = [] { return std::optional<std::string>(); };
     /// Writes what is pending of it. Called on a worker thread.
     std::function<Result<void>()> writeLibrary = [] { return Result<void>(); };
     /// Whether the library is the embedded iTunes', for the words of the delete confirmation.

@@ -133,6 +133,8 @@ class MainWindow : public QMainWindow,
     void mainWindowMenuClick();
     void aboutButtonClick();
     void websiteButtonClick();
+    void exportChosen(const std::string& path);
+    void guideMenuClick();
     void helpButtonClick();
     void contactButtonClick();
     /// The keys that the window knows, one to a line.
@@ -161,6 +163,7 @@ class MainWindow : public QMainWindow,
   private:
     void keepOnScreen();
     void chooseFolder();
+    void chooseExport();
     template <typename Chosen>
     void openFolderChooser(const QString& title, const QString& start, Chosen chosen);
     void setUpToolbar();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
+#include "app/TableFilter.h"
 #include "library/LocationUrl.h"
 #include "library/ValueFormats.h"
 #include "platform/DataFolder.h"
@@ -192,6 +193,32 @@ void MainWindow::chooseFolder() {
 void MainWindow::chooseFilesFolder() {
     openFolderChooser(QStringLiteral("Choose the music folder"), fileOf(m_library.path).path(),
                       [this](const std::string& path) { Q_EMIT filesFolderChosen(path); });
+}
+
+/// The format is that of the name's ending, which the chosen filter gives to a name without one.
+void MainWindow::chooseExport() {
+    if (m_filter->all().rows.empty()) {
+        QApplication::beep();
+        return;
+    }
+    auto* dialog = new QFileDialog(this, QStringLiteral("Export results"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({QStringLiteral("Table (*.csv)"), QStringLiteral("JSON (*.json)"),
+                            QStringLiteral("Web page (*.html)")});
+    dialog->setDefaultSuffix(QStringLiteral("csv"));
+    dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog->selectFile(QStringLiteral("Duplicates.csv"));
+    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
+        const QString ending = filter.section(QLatin1Char('.'), -1).chopped(1);
+        dialog->setDefaultSuffix(ending);
+        const QStringList files = dialog->selectedFiles();
+        if (files.size() == 1)
+            dialog->selectFile(QFileInfo(files.front()).completeBaseName() + QLatin1Char('.') + ending);
+    });
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString& path) { Q_EMIT exportChosen(QFile::encodeName(path).toStdString()); });
+    dialog->open();
 }
 
 } // namespace songsweep

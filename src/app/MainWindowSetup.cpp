@@ -91,13 +91,14 @@ void MainWindow::connectFileMenu() {
     connect(m_ui->openLibraryMenuitem, &QAction::triggered, this, &MainWindow::chooseLibrary);
     connect(m_ui->openFolderMenuitem, &QAction::triggered, this, &MainWindow::chooseFolder);
     connect(m_ui->searchMenuitem, &QAction::triggered, this, &MainWindow::startButtonClick);
+    connect(m_ui->exportMenuitem, &QAction::triggered, this, &MainWindow::chooseExport);
     connect(m_ui->deleteMarkedMenuitem, &QAction::triggered, this, &MainWindow::deleteMarkedMenuClick);
     connect(m_ui->restoreMenuitem, &QAction::triggered, this, &MainWindow::restoreMenuClick);
     connect(m_ui->closeMenuitem, &QAction::triggered, this, &MainWindow::close);
     connect(m_ui->quitMenuitem, &QAction::triggered, this, &MainWindow::quit);
 #ifdef Q_OS_MACOS
     m_ui->deleteMarkedMenuitem->setShortcut(Qt::CTRL | Qt::Key_Backspace);
-    m_ui->helpMenuitem->setShortcut(Qt::CTRL | Qt::Key_Question);
+    m_ui->guideMenuitem->setShortcut(Qt::CTRL | Qt::Key_Question);
     m_ui->showinFinderMenuitem->setText(QStringLiteral("Show in Finder"));
 #endif
 }
@@ -164,6 +165,7 @@ void MainWindow::connectWindowAndHelpMenu() {
     connect(m_ui->keyboardMenuitem, &QAction::triggered, this,
             [this] { Q_EMIT keyboardMenuClick(keyboardLines()); });
     connect(m_ui->mainWindowMenuitem, &QAction::triggered, this, &MainWindow::mainWindowMenuClick);
+    connect(m_ui->guideMenuitem, &QAction::triggered, this, &MainWindow::guideMenuClick);
     connect(m_ui->helpMenuitem, &QAction::triggered, this, &MainWindow::helpButtonClick);
     connect(m_ui->websiteMenuitem, &QAction::triggered, this, &MainWindow::websiteButtonClick);
     connect(m_ui->contactMenuitem, &QAction::triggered, this, &MainWindow::contactButtonClick);

@@ -153,12 +153,14 @@ void Notices::forget() {
     m_unfinished.clear();
 }
 
-void Notices::tellNoDuplicates(int tracks, const SearchParameters& parameters) {
+void Notices::tellNoDuplicates(int tracks, const SearchParameters& parameters, const MissingFiles& missing) {
     forget();
     const std::string title = "No duplicates found";
-    const std::string rest =
+    std::string rest =
         countedTracks(tracks) + " searched. " + searchSummary(parameters, ChosenPlaylist::searched) + ".";
+    if (missing.areMost()) rest += " " + missingTitle(missing) + ".";
     Notice notice{title, rest, title + ". " + rest, false, {}};
+    if (missing.areMost()) notice.actions.push_back(NoticeAction::chooseFilesFolder);
     if (fieldCount(parameters) > 1) notice.actions.push_back(NoticeAction::searchWithFewer);
     show(std::move(notice));
 }

@@ -50,7 +50,7 @@ class Notices {
     void tellFinished(const std::shared_ptr<FinishAnswer>& answer);
     void tellSounds(const ComparedSounds& sounds);
     /// A search found no duplicates among so many tracks.
-    void tellNoDuplicates(int tracks, const SearchParameters& parameters);
+    void tellNoDuplicates(int tracks, const SearchParameters& parameters, const MissingFiles& missing);
     /// Most of the files are not where the library says.
     void tellMissingFiles(const MissingFiles& missing);
     void close();

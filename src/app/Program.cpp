@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Program.h"
 
+#include "app/Guide.h"
 #include "library/RecentLibrary.h"
 #include "libraryfile/CleanupForesight.h"
 #include "libraryfile/ForeignFile.h"
@@ -10,6 +11,8 @@
 #include "platform/Native.h"
 #include "platform/ReasonWithPath.h"
 #include "platform/UsualLibraries.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <filesystem>
@@ -124,6 +127,7 @@ ControllerServices Program::controllerServices() {
         .libraryContents = [this] { return libraryContents(); },
         .libraryPlaces = [] { return nativeLibraryPlaces(); },
         .otherLibraries = [this] { return otherLibraries(); },
+        .guide = [] { return guideFile(QCoreApplication::applicationDirPath().toStdString()); },
         .writeLibrary = [this] { return writeLibrary(); },
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
         .mapRules = [this] { return m_options.mapRules; },

@@ -54,6 +54,7 @@ void keepNoSettingsFile() {
 struct Beginning {
     Log& log;
     std::function<bool()> redirectLog;
+    Exporter exporter;
     std::string folder; ///< of music, to be read at once; empty for none
 };
 
@@ -63,6 +64,7 @@ int runController(Program& program, Windows& windows, const Beginning& beginning
     WindowActions actions(
         windows, controller, [&program](const std::string& path) { return program.openLibrary(path); },
         beginning.log, listenerProgram());
+    actions.setExporter(beginning.exporter);
     controller.awakeFromNib(beginning.redirectLog);
     windows.mainWindow().openAtFirstSize();
     windows.showMainWindow();
@@ -87,8 +89,7 @@ void writeLibrary(Program& program, Windows& windows) {
     QApplication::exec();
 }
 
-int runUntilQuit(ProgramOptions options, InterruptibleLog& output, Log& log,
-                 const std::function<bool()>& redirectLog) {
+int runUntilQuit(ProgramOptions options, InterruptibleLog& output, Beginning beginning) {
     // Quitting lets a deletion turn the sound on again and the library be written.
     const SignalWatch signals([&output](int) {
         output.endSoon();
@@ -96,12 +97,12 @@ int runUntilQuit(ProgramOptions options, InterruptibleLog& output, Log& log,
     });
     options.recentFiles = nativeRecentFiles();
     // The window opens first, and reads a folder under a sheet.
-    const std::string folder = isFolder(options.library) ? std::exchange(options.library, {}) : std::string();
-    Program program(std::move(options), log);
-    Windows windows(log);
+    if (isFolder(options.library)) beginning.folder = std::exchange(options.library, {});
+    Program program(std::move(options), beginning.log);
+    Windows windows(beginning.log);
     program.setWriteFailedHandler(
         [&windows](const std::string& reason) { windows.alertCantWrite(reason + "\n" + libraryIsAsBefore); });
-    const int exitCode = runController(program, windows, {log, redirectLog, folder});
+    const int exitCode = runController(program, windows, beginning);
     writeLibrary(program, windows);
     return exitCode;
 }
@@ -115,7 +116,8 @@ bool redirectLog(BufferedLog& log) {
 
 } // namespace
 
-int runWindow(ProgramOptions options, const std::string& logFile, int argumentCount, char** arguments) {
+int runWindow(ProgramOptions options, const std::string& logFile, Exporter exporter, int argumentCount,
+              char** arguments) {
     const QtMessageHandler handler = qInstallMessageHandler(endWithoutDisplay);
     QApplication application(argumentCount, arguments);
     qInstallMessageHandler(handler);
@@ -125,14 +127,15 @@ int runWindow(ProgramOptions options, const std::string& logFile, int argumentCo
     InterruptibleLog console(STDERR_FILENO, InterruptibleLog::Descriptor::staysOpen);
     if (logFile.empty()) {
         BufferedLog log(console, mostLogBytes);
-        return runUntilQuit(std::move(options), console, log, [&] { return redirectLog(log); });
+        return runUntilQuit(std::move(options), console,
+                            {log, [&] { return redirectLog(log); }, std::move(exporter), {}});
     }
     const Result<std::unique_ptr<InterruptibleLog>> file = openLogFile(logFile);
     if (!file) {
         console.line("songsweep: " + file.error().message);
         return EXIT_FAILURE;
     }
-    return runUntilQuit(std::move(options), *file.value(), *file.value(), {});
+    return runUntilQuit(std::move(options), *file.value(), {*file.value(), {}, std::move(exporter), {}});
 }
 
 } // namespace songsweep

@@ -31,6 +31,8 @@ class Search {
            Results& results, ProgressDisplay& progress);
 
     bool isRunning() const { return m_searching; }
+    /// Tracks of the library, as iTunes counts them.
+    int libraryCount() const { return m_libraryCount; }
     /// Records left for the grouping when the last reading ended.
     int listedCount() const { return m_listedCount; }
     /// Whether the search was not one of the chosen playlist: iTunes, asked track by track, did not find it

@@ -51,6 +51,7 @@ void WindowActions::connectToolbarAndMenus() {
     connect(window, &MainWindow::playMenuClick, this, [=] { controller->playMenuClick(); });
     connect(window, &MainWindow::showinFinderMenuClick, this, [=] { controller->showinFinderMenuClick(); });
     connect(window, &MainWindow::mainWindowMenuClick, this, [=] { controller->mainWindowMenuClick(); });
+    connect(window, &MainWindow::exportChosen, this, &WindowActions::exportResults);
     connect(window, &MainWindow::openLibrary, this, &WindowActions::chooseLibrary);
     window->setOpenLibraryGuard([=] { return controller->mayOpenLibrary(); });
 }
@@ -61,6 +62,7 @@ void WindowActions::connectLinks() {
     AppController* controller = &m_controller;
     connect(window, &MainWindow::aboutButtonClick, this, [=] { controller->aboutButtonClick(); });
     connect(window, &MainWindow::websiteButtonClick, this, [=] { controller->websiteButtonClick(); });
+    connect(window, &MainWindow::guideMenuClick, this, [=] { controller->guideMenuClick(); });
     connect(window, &MainWindow::helpButtonClick, this, [=] { controller->helpButtonClick(); });
     connect(window, &MainWindow::contactButtonClick, this, [=] { controller->contactButtonClick(); });
     connect(window, &MainWindow::keyboardMenuClick, this, [this](const std::vector<std::string>& lines) {
@@ -189,6 +191,13 @@ void WindowActions::takeNoticeAction(NoticeAction action) {
     } else {
         m_controller.noticeActionClick(action);
     }
+}
+
+void WindowActions::exportResults(const std::string& path) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const Result<void> written = m_controller.exportResults(path, m_exporter);
+    QGuiApplication::restoreOverrideCursor();
+    if (!written) m_windows.alertCantExport(written.error().message);
 }
 
 void WindowActions::offerMap(const std::string& folder) {

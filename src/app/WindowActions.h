@@ -3,6 +3,7 @@
 
 #include "app/FolderActions.h"
 #include "app/OpenedLibrary.h"
+#include "app/ResultsExport.h"
 #include "app/SoundActions.h"
 #include "app/views/NoticeView.h"
 
@@ -30,6 +31,8 @@ class WindowActions : public QObject {
     WindowActions(Windows& windows, AppController& controller, OpenLibrary openLibrary, Log& log,
                   const std::string& listener);
 
+    /// How results are written to a file.
+    void setExporter(Exporter exporter) { m_exporter = std::move(exporter); }
     /// Opens a library file or a folder, as if the user had dropped it on the window.
     void open(const std::string& path) { chooseLibrary(path); }
 
@@ -44,6 +47,7 @@ class WindowActions : public QObject {
     void connectNotices();
     void connectApplication();
     void takeNoticeAction(NoticeAction action);
+    void exportResults(const std::string& path);
     void offerMap(const std::string& folder);
     void chooseLibrary(const std::string& path);
     void openLibrary(const std::string& path);
@@ -58,6 +62,7 @@ class WindowActions : public QObject {
     OpenLibrary m_openLibrary;
     FolderActions m_folder;
     SoundActions m_sound;
+    Exporter m_exporter = [](const ResultsExport&) { return Result<void>(); };
 };
 
 } // namespace songsweep

@@ -70,6 +70,10 @@ void Windows::askToSearchWithMap(const MapGuess& guess, std::function<void()> pr
     alerts::openSearchWithMap(&m_mainWindow, guess, std::move(proceed));
 }
 
+void Windows::alertCantExport(const std::string& reason) {
+    alerts::openCantExport(&m_mainWindow, asSentence(QString::fromStdString(reason)));
+}
+
 void Windows::alertNoFilesIn(const std::string& folder) {
     alerts::openNoFilesIn(&m_mainWindow, QFile::decodeName(folder.c_str()));
 }

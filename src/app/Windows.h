@@ -48,6 +48,7 @@ class Windows final : public ApplicationView {
     void askBeforeMarksAreLost(int marks, std::function<void()> proceed);
     /// Shows where files would be found, and asks whether to look there; `proceed` is the answer yes.
     void askToSearchWithMap(const MapGuess& guess, std::function<void()> proceed);
+    void alertCantExport(const std::string& reason);
     void alertNoFilesIn(const std::string& folder);
     /// A list of lines over the front window.
     void showDetails(const QString& title, const std::vector<std::string>& lines);

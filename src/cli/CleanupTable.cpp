@@ -97,6 +97,7 @@ void writeCsv(Output& output, const std::vector<CleanupSummary>& cleanups) {
 
 void writeCleanups(Output& output, const std::vector<CleanupSummary>& cleanups, OutputFormat format) {
     switch (format) {
+    case OutputFormat::html: // is not offered
     case OutputFormat::text:
         return writeText(output, cleanups);
     case OutputFormat::json:

@@ -64,16 +64,22 @@ void addVerbose(CLI::App& command, Raw& raw) {
 
 OutputFormat formatNamed(const std::string& name) {
     if (name == "json") return OutputFormat::json;
+    if (name == "html") return OutputFormat::html;
     return name == "csv" ? OutputFormat::csv : OutputFormat::text;
 }
 
-void addFormat(CLI::App& command, OutputFormat& format) {
+enum class Written { search, other };
+
+/// A search can be written as a page, too.
+void addFormat(CLI::App& command, OutputFormat& format, Written written = Written::other) {
+    const bool isSearch = written == Written::search;
+    const char* const value = isSearch ? "REPORT" : "FORMAT";
     command
         .add_option_function<std::string>(
             "--format", [&format](const std::string& name) { format = formatNamed(name); },
-            "text, json or csv")
-        ->check([](const std::string& word) { return checkValueWord("FORMAT", word); })
-        ->type_name("FORMAT")
+            isSearch ? "text, json, csv or html" : "text, json or csv")
+        ->check([value](const std::string& word) { return checkValueWord(value, word); })
+        ->type_name(value)
         ->default_str("text");
 }
 
@@ -104,7 +110,7 @@ void addFindOptions(CLI::App& command, FindOptions& options, Raw& raw) {
         ->type_name("NAME");
     command.add_flag("--ignore-missing", options.parameters.isignoredead,
                      "Leave out tracks whose files are missing");
-    addFormat(command, options.format);
+    addFormat(command, options.format, command.get_name() == "delete" ? Written::other : Written::search);
     command.add_option("--output", options.output, "Write the result to a file")->type_name("FILE");
 }
 

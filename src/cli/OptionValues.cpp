@@ -21,6 +21,7 @@ std::vector<std::string> ruleNames() {
 std::vector<std::string> valueWords(std::string_view value) {
     if (value == "FIELDS") return {"name", "artist", "album", "time", "none"};
     if (value == "FORMAT") return {"text", "json", "csv"};
+    if (value == "REPORT") return {"text", "json", "csv", "html"};
     if (value == "RULE") return ruleNames();
     return {};
 }

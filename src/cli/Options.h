@@ -14,7 +14,8 @@ namespace songsweep::cli {
 /// What the process answers to the shell.
 enum class ExitCode { done = 0, failed = 1, usage = 2, interrupted = 130 };
 
-enum class OutputFormat { text, json, csv };
+/// `html` is one of a search alone.
+enum class OutputFormat { text, json, csv, html };
 
 /// Which library, and how it is looked at: the options that every command and the window know.
 struct LibraryOptions {

@@ -94,6 +94,7 @@ void writeCsvOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
 
 void writeOutcomes(Output& output, const DeleteReport& report, bool dryRun, OutputFormat format) {
     switch (format) {
+    case OutputFormat::html: // is not offered
     case OutputFormat::text:
         return writeTextOutcomes(output, report, dryRun);
     case OutputFormat::json:

@@ -125,6 +125,7 @@ void writeCsv(Output& output, const RestoreReport& report) {
 
 void writeRestore(Output& output, const NamedRestore& restore, OutputFormat format) {
     switch (format) {
+    case OutputFormat::html: // is not offered
     case OutputFormat::text:
         return writeText(output, restore);
     case OutputFormat::json:

@@ -32,6 +32,8 @@ void writeReport(Output& output, const SearchReport& report, OutputFormat format
         return writeJson(output, report);
     case OutputFormat::csv:
         return writeCsv(output, report);
+    case OutputFormat::html:
+        return writeHtml(output, report);
     }
 }
 

@@ -42,6 +42,9 @@ void writeJson(Output& output, const SearchReport& report);
 /// One row a track under a header (RFC 4180).
 void writeCsv(Output& output, const SearchReport& report);
 
+/// A page with a table for people, its groups in bands.
+void writeHtml(Output& output, const SearchReport& report);
+
 /// "12 songs in 5 groups, 3 files missing"; marked rows are counted where a rule was asked for.
 std::string summaryLine(const SearchReport& report);
 

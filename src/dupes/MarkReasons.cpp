@@ -19,9 +19,8 @@ MarkReasons::MarkReasons(DisplayedList list, const MarkChoice& choice, Recording
 }
 
 std::string MarkReasons::of(const TrackRecord& record) {
-    const auto found = std::find(m_list.rows.begin(), m_list.rows.end(), &record);
-    if (found == m_list.rows.end()) return {};
-    const auto row = static_cast<std::size_t>(found - m_list.rows.begin());
+    const std::size_t row = rowOf(record);
+    if (row == m_list.rows.size()) return {};
     if (!m_recordings) return ofRow(row);
     const RowGroup group = groupAt(m_list.rows, row);
     m_recordings->split(group);
@@ -37,6 +36,23 @@ std::string MarkReasons::ofRow(std::size_t row) {
     if (m_recordings && groupAt(m_list.rows, row).size() == 1) return {};
     return m_verdicts.of(row).checked ? "kept: no copy of its recording would be left"
                                       : m_verdicts.reasonToKeep(row);
+}
+
+void MarkReasons::index() {
+    if (!m_rowOf.empty()) return;
+    m_rowOf.reserve(m_list.rows.size());
+    for (std::size_t row = 0; row < m_list.rows.size(); ++row)
+        m_rowOf.emplace(m_list.rows[row], row);
+}
+
+/// The number of rows for a record that is none of them.
+std::size_t MarkReasons::rowOf(const TrackRecord& record) const {
+    if (!m_rowOf.empty()) {
+        const auto found = m_rowOf.find(&record);
+        return found == m_rowOf.end() ? m_list.rows.size() : found->second;
+    }
+    const auto found = std::find(m_list.rows.begin(), m_list.rows.end(), &record);
+    return static_cast<std::size_t>(found - m_list.rows.begin());
 }
 
 } // namespace songsweep

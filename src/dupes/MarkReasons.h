@@ -6,8 +6,10 @@
 #include "dupes/RecordingGroups.h"
 #include "library/DisplayedList.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace songsweep {
@@ -31,12 +33,16 @@ class MarkReasons {
     /// it stays, "kept: 320 against 128". Empty where there is nothing to say, as of the only copy of a
     /// recording, which no rule looks at: see recordingReason().
     std::string of(const TrackRecord& record);
+    /// For whoever asks of every record: a pass over the rows, and then none for each question.
+    void index();
 
   private:
     std::string ofRow(std::size_t row);
+    std::size_t rowOf(const TrackRecord& record) const;
 
     std::optional<RecordingGroups> m_recordings; ///< nothing where sounds were not compared
     DisplayedList m_list;
+    std::unordered_map<const TrackRecord*, std::size_t> m_rowOf; ///< empty before `index`
     MarkVerdicts m_verdicts;
     std::vector<bool> m_marked; ///< by the rule
 };

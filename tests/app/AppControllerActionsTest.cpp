@@ -227,5 +227,16 @@ TEST_F(AppControllerActionsTest, TheLinksOpenTheirAddresses) {
     EXPECT_THAT(desktop.calls[2], ::testing::EndsWith("/contact.php?id=songsweep"));
 }
 
+TEST_F(AppControllerActionsTest, TheGuideIsTheOneThatCameWithTheProgramOrThatOfTheNet) {
+    controller->guideMenuClick();
+    ControllerServices withGuide = services(files);
+    withGuide.guide = [] { return std::string("/usr/share/doc/songsweep/user guide.html"); };
+    controller = std::make_unique<AppController>(std::move(withGuide), view.views());
+    controller->guideMenuClick();
+    ASSERT_EQ(desktop.calls.size(), 2U);
+    EXPECT_THAT(desktop.calls[0], ::testing::EndsWith("/help.php"));
+    EXPECT_EQ(desktop.calls[1], "openUrl file:///usr/share/doc/songsweep/user%20guide.html");
+}
+
 } // namespace
 } // namespace songsweep::test

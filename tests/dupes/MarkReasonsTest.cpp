@@ -49,6 +49,14 @@ TEST_F(MarkReasonsTest, ARuleOfWordsHasNoValuesToCompare) {
     EXPECT_EQ(reasons.of(m_low), "kept: the other copies go by the rule");
 }
 
+TEST_F(MarkReasonsTest, AreTheSameByTheirIndex) {
+    MarkReasons reasons = markBy(highest);
+    reasons.index();
+    EXPECT_EQ(reasons.of(m_low), "lower bit rate than the kept copy: 128 against 320");
+    const TrackRecord foreign;
+    EXPECT_EQ(reasons.of(foreign), "");
+}
+
 TEST_F(MarkReasonsTest, StayTrueWhenAMarkIsSetByHand) {
     MarkReasons reasons = markBy(highest);
     m_low.checkbox = false;
