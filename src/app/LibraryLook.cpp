@@ -4,6 +4,7 @@
 #include "app/MapGuess.h"
 #include "platform/Files.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -23,10 +24,12 @@ void LibraryLook::main() {
     };
     m_findings->warnings = uselessMaps(m_places.rules, locations);
     m_findings->missing = missingRecords();
-    if (m_findings->missing.missing < m_findings->missing.files) return;
+    const bool hasFile = std::any_of(m_list->records.begin(), m_list->records.end(),
+                                     [](const TrackRecord* record) { return !record->isdead; });
+    if (hasFile) return;
     const MissingFiles all = allFilesMissing(m_places.files, locations);
-    if (!all.areAll() || isCancelled()) return;
     m_findings->missing = all;
+    if (!all.areAll() || isCancelled()) return;
     m_findings->warnings.push_back(allMissingWarning(all, likelyFolders()));
 }
 
@@ -34,6 +37,7 @@ MissingFiles LibraryLook::missingRecords() const {
     MissingFiles missing;
     PathSample sample;
     for (const TrackRecord* const record : m_list->records) {
+        if (!record->location.view().starts_with('/')) continue; // a stream is no file
         ++missing.files;
         if (!record->isdead) continue;
         ++missing.missing;

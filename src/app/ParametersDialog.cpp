@@ -47,6 +47,7 @@ void ParametersDialog::dropField() {
     for (QCheckBox* field :
          {m_ui->paramSameAlbumCK, m_ui->paramSameTimeCK, m_ui->paramSameArtistCK, m_ui->paramSameNameCK}) {
         if (!field->isChecked()) continue;
+        m_atOpening = parameters();
         field->setChecked(false);
         m_dropped = field;
         return;
@@ -75,8 +76,8 @@ void ParametersDialog::selectPlaylist(int index) { m_ui->paramLocationCB->setCur
 
 void ParametersDialog::showEvent(QShowEvent* event) {
     (m_dropped != nullptr ? m_dropped : m_ui->paramSameNameCK)->setFocus();
+    if (!event->spontaneous() && m_dropped == nullptr) m_atOpening = parameters();
     m_dropped = nullptr;
-    if (!event->spontaneous()) m_atOpening = parameters();
     QDialog::showEvent(event);
 }
 

@@ -84,7 +84,11 @@ TEST_F(LibraryLookTest, CountsTheFilesThatAreMissing) {
     addRecord(true);
     addRecord(true);
     addRecord(false);
+    for (const std::size_t file : {0, 2})
+        m_list->records[file]->location = "/Users/ann/a.mp3";
     m_list->records[1]->location = "/Users/ann/b.mp3";
+    addRecord(true);
+    m_list->records[3]->location = "http://host/stream";
     makeLook()->main();
     EXPECT_EQ(m_findings->missing.files, 3);
     EXPECT_EQ(m_findings->missing.missing, 2);

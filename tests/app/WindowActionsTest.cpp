@@ -325,6 +325,8 @@ TEST_F(WindowActionsTest, AfterASearchWithoutAResultThePageOffersToSearchWithFew
     EXPECT_TRUE(fewer.issamename && fewer.issameartist);
     EXPECT_FALSE(fewer.issametime);
     EXPECT_EQ(windows.paramWindow().focusWidget()->objectName(), QStringLiteral("paramSameTimeCK"));
+    windows.paramWindow().reject();
+    EXPECT_TRUE(windows.paramWindow().parameters().issametime) << "Cancel puts the field back";
 }
 
 TEST_F(WindowActionsTest, FilesOfAnotherMachineAreFoundAgain) {

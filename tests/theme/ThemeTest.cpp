@@ -5,7 +5,9 @@
 #include "theme/SongsweepStyle.h"
 #include "theme/ThemeColors.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QFocusFrame>
 #include <QImage>
 #include <QLabel>
@@ -171,6 +173,28 @@ TEST_F(StyledWindow, MakesButtonsThirtyHighAndGrowsThemWithTheFont) {
     twice.setPixelSize(26);
     m_window.setFont(twice);
     EXPECT_EQ(button.sizeHint(), QSize(176, 60));
+}
+
+TEST_F(StyledWindow, AlignsTheTextsOfAPopupWithThatOfItsField) {
+    QComboBox combo(&m_window);
+    combo.addItems({QStringLiteral("Highest"), QStringLiteral("Lowest")});
+    combo.setGeometry(20, 20, 200, 28);
+    m_window.show();
+    combo.showPopup();
+    QStyleOptionComboBox field;
+    field.initFrom(&combo);
+    const QStyle* style = combo.style();
+    const QRect text =
+        style->subControlRect(QStyle::CC_ComboBox, &field, QStyle::SC_ComboBoxEditField, &combo);
+    const QAbstractItemView* view = combo.view();
+    QStyleOptionViewItem item;
+    item.initFrom(view);
+    item.rect = view->visualRect(view->model()->index(0, 0));
+    item.text = QStringLiteral("Highest");
+    item.features = QStyleOptionViewItem::HasDisplay;
+    const QRect itemText = style->subElementRect(QStyle::SE_ItemViewItemText, &item, view);
+    const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, &item, view) + 1;
+    EXPECT_EQ(view->viewport()->mapTo(view->window(), itemText.topLeft()).x() + margin, text.left());
 }
 
 TEST_F(StyledWindow, FillsTheDefaultButtonAlone) {
