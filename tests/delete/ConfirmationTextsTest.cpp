@@ -31,8 +31,7 @@ TEST(ConfirmationTexts, AreWordedForOne) {
     EXPECT_EQ(texts::sharedLine(one, true),
               QStringLiteral("1 file is shared with a track that stays, and is kept."));
     EXPECT_EQ(texts::missingLine(one), QStringLiteral("1 file is missing already."));
-    EXPECT_EQ(texts::warning(one, FilesToTrash::none),
-              QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(one, FilesToTrash::none), QStringLiteral("No copy of 1 song will be left."));
 }
 
 TEST(ConfirmationTexts, LeaveOutTracksThatStayForASharedId) {
@@ -63,8 +62,7 @@ TEST(ConfirmationTexts, AreWordedForMany) {
     EXPECT_EQ(texts::sharedLine(two, true),
               QStringLiteral("2 files are shared with tracks that stay, and are kept."));
     EXPECT_EQ(texts::missingLine(two), QStringLiteral("2 files are missing already."));
-    EXPECT_EQ(texts::warning(two, FilesToTrash::none),
-              QStringLiteral("No copy of 2 songs will be left."));
+    EXPECT_EQ(texts::warning(two, FilesToTrash::none), QStringLiteral("No copy of 2 songs will be left."));
 }
 
 TEST(ConfirmationTexts, SayNothingWhereThereIsNothingToCount) {
@@ -97,8 +95,7 @@ TEST(ConfirmationTexts, AddSharedFilesToTheTrashWhenTheyAreNotLeft) {
 
 TEST(ConfirmationTexts, WarnOfTheSongsThatLoseEveryFileWhereFilesGo) {
     DeleteConfirmationFacts facts = {.groupsLosingEveryCopy = 1, .groupsLosingEveryFile = 3};
-    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
-              QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none), QStringLiteral("No copy of 1 song will be left."));
     EXPECT_EQ(texts::warning(facts, FilesToTrash::unshared),
               QStringLiteral("No copy of 3 songs will be left."));
     facts.filesPending = true;
@@ -116,11 +113,9 @@ TEST(ConfirmationTexts, TellOfFilesThatTheTrashRefuses) {
 
 TEST(ConfirmationTexts, WarnOfTheLibraryUnlessThereIsWorse) {
     DeleteConfirmationFacts facts = {.libraryObstacle = "cannot write in /music"};
-    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
-              QStringLiteral("The library cannot be written."));
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none), QStringLiteral("The library cannot be written."));
     facts.groupsLosingEveryCopy = 1;
-    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
-              QStringLiteral("No copy of 1 song will be left."));
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none), QStringLiteral("No copy of 1 song will be left."));
 }
 
 TEST(ConfirmationTexts, WarnOfTheLastCopiesOfRecordings) {
