@@ -47,7 +47,7 @@ class FileSurveyTest : public testing::Test {
     }
 
     std::unique_ptr<FileSurvey> survey(const LibraryLocations& locations = {}) {
-        return std::make_unique<FileSurvey>(SurveyedRows(m_list.rows, m_list.storage),
+        return std::make_unique<FileSurvey>(m_list, std::make_shared<std::mutex>(),
                                             DeleteConfirmationFacts{.tracks = 7, .filesPending = true},
                                             SurveySources{m_files, locations}, m_cleanup, m_center);
     }
@@ -106,12 +106,14 @@ TEST_F(FileSurveyTest, StopsVisitingTheLibraryOnceItIsCancelled) {
     EXPECT_FALSE(m_answer);
 }
 
-TEST_F(FileSurveyTest, IsOfTheMarksAsTheyWereWhenItWasMadeAndKeepsTheirTexts) {
+TEST_F(FileSurveyTest, IsOfTheMarksAsTheyWereWhenItReadThemAndKeepsTheirTexts) {
     const TrackRecord* const marked = m_list.rows.front();
     const std::string shared = marked->location.string();
-    const auto made = survey([&](const LocationVisitor& visit) { return visit("X", shared); });
-    m_list.rows.front()->checkbox = false;
-    m_list = {};
+    const auto made = survey([&](const LocationVisitor& visit) {
+        m_list.rows.front()->checkbox = false;
+        m_list = {};
+        return visit("X", shared);
+    });
     made->main();
     ASSERT_TRUE(m_answer);
     EXPECT_THAT(m_answer->plan.shared, UnorderedElementsAre(marked));
