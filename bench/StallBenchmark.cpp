@@ -101,7 +101,7 @@ class Round {
         , m_controller(std::make_unique<AppController>(m_program.controllerServices(), m_windows.views()))
         , m_actions(std::make_unique<WindowActions>(
               m_windows, *m_controller,
-              [this](const std::string& path) { return m_program.openLibrary(path); }, log))
+              [this](const std::string& path) { return m_program.openLibrary(path); }, log, std::string()))
         , m_library(library) {}
 
     void run() {

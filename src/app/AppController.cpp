@@ -247,10 +247,8 @@ Result<void> AppController::exportResults(const std::string& path, const Exporte
                              .tracks = m_search.libraryCount(),
                              .listed = listedCount(),
                              .notes = searchVerdict().notes};
-    if (MarkReasons* const reasons = m_results.markReasons()) {
-        reasons->index();
-        results.reason = [&](int row) { return reasons->of(*rows.at(static_cast<std::size_t>(row))); };
-    }
+    if (const auto reasons = m_results.reasonsOfRows())
+        results.reason = [reasons](int row) { return reasons(static_cast<std::size_t>(row)); };
     return exporter(results);
 }
 

@@ -68,15 +68,26 @@ void Results::setMarkedBy(std::optional<MarkChoice> rule) {
                                                                    : MarkReasons::Recordings::unknown);
 }
 
-/// A recording's only copy has its reason in its neighbours, as they stand now.
 std::string Results::markReason(const TrackRecord& record) const {
-    if (!m_reasons) return {};
-    std::string reason = m_reasons->of(record);
-    if (!reason.empty() || record.checkbox || !m_soundsCompared) return reason;
     const std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
     const auto found = std::find(rows.begin(), rows.end(), &record);
-    return found == rows.end() ? reason
-                               : recordingReason(rows, static_cast<std::size_t>(found - rows.begin()));
+    if (!m_reasons || found == rows.end()) return {};
+    return reasonOfRow(static_cast<std::size_t>(found - rows.begin()));
+}
+
+std::function<std::string(std::size_t row)> Results::reasonsOfRows() const {
+    if (!m_reasons) return {};
+    m_reasons->index();
+    return [this](std::size_t row) { return reasonOfRow(row); };
+}
+
+/// A recording's only copy has its reason in its neighbours, as they stand now.
+std::string Results::reasonOfRow(std::size_t row) const {
+    const std::vector<TrackRecord*>& rows = m_tableDataSource.rows;
+    const TrackRecord& record = *rows.at(row);
+    std::string reason = m_reasons->of(record);
+    if (!reason.empty() || record.checkbox || !m_soundsCompared) return reason;
+    return recordingReason(rows, row);
 }
 
 bool Results::keepSounds(const DisplayedList& list, const std::vector<SoundFinding>& findings) {

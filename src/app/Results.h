@@ -6,6 +6,8 @@
 #include "dupes/MarkReasons.h"
 #include "library/DisplayedList.h"
 
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -67,6 +69,9 @@ class Results {
     bool soundsCompared() const { return m_soundsCompared; }
     /// Why the record is marked, or stays; empty where no rule has marked anything.
     std::string markReason(const TrackRecord& record) const;
+    /// The same of every row, by a pass over the rows beforehand; nothing where no rule has marked anything.
+    /// Valid until the rows or the marks' rule change.
+    std::function<std::string(std::size_t row)> reasonsOfRows() const;
     /// Marks were set by a rule, or by hand. The status follows where the caller wants it to.
     void setMarkedBy(std::optional<MarkChoice> rule);
     /// What can be undone of the marks; forgotten with the rows.
@@ -78,6 +83,7 @@ class Results {
     void setStatusLabel();
 
   private:
+    std::string reasonOfRow(std::size_t row) const;
     void forgetMarks();
     void setSoundsCompared(bool compared);
 

@@ -90,7 +90,9 @@ void WindowsFixture::startSearch() {
 
 void WindowsFixture::search() {
     startSearch();
-    ASSERT_TRUE(runEventLoopUntil([this] { return page() == QStringLiteral("tableviewContainer"); }));
+    ASSERT_TRUE(runEventLoopUntil([this] {
+        return page() == QStringLiteral("tableviewContainer") || page() == QStringLiteral("noticePage");
+    }));
     ASSERT_TRUE(runEventLoopUntil([this] { return !controller->isWorking(); }));
     QApplication::setActiveWindow(&window());
 }

@@ -38,13 +38,13 @@ TEST(ConfirmationTexts, LeaveOutTracksThatStayForASharedId) {
     DeleteConfirmationFacts facts{.tracks = 3, .keptTracks = 1, .embeddedLibrary = true};
     EXPECT_EQ(texts::heading(facts), QStringLiteral("Delete 2 tracks from the library?"));
     EXPECT_EQ(texts::deleteButton(facts), QStringLiteral("&Delete 2 tracks"));
-    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
               QStringLiteral("1 track shares its ID with another one, and stays."));
     facts.keptTracks = 3;
     EXPECT_EQ(texts::heading(facts), QStringLiteral("No track can be deleted"));
     EXPECT_EQ(texts::explanation(facts), QStringLiteral("Nothing will be deleted."));
     EXPECT_EQ(texts::deleteButton(facts), QStringLiteral("&Delete"));
-    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::all),
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::all),
               QStringLiteral("3 tracks share their IDs with others, and stay."));
 }
 
@@ -120,11 +120,11 @@ TEST(ConfirmationTexts, WarnOfTheLibraryUnlessThereIsWorse) {
 
 TEST(ConfirmationTexts, WarnOfTheLastCopiesOfRecordings) {
     DeleteConfirmationFacts facts = {.libraryObstacle = "cannot write in /music", .lastOfRecordings = 1};
-    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
               QStringLiteral("1 marked copy is the last of its recording."));
     facts.lastOfRecordings = 2;
     facts.groupsLosingEveryCopy = 1;
-    EXPECT_EQ(texts::warning(facts, texts::FilesToTrash::none),
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
               QStringLiteral("No copy of 1 song will be left.\n"
                              "2 marked copies are the last of their recordings."));
 }
