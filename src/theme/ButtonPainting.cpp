@@ -26,6 +26,16 @@ QColor accentFillOf(const ThemeColors& colors, const QStyle::State state) {
     return (state & QStyle::State_MouseOver) != 0 ? colors.accent.lighter(slightly) : colors.accent;
 }
 
+/// A chevron that points where the arrow of the button does: down, or to where its text reads on.
+void arrow(const Canvas& canvas, const QRect& place, const QStyleOptionToolButton& button) {
+    canvas.painter.save();
+    canvas.painter.translate(QRectF(place).center());
+    if (button.arrowType == Qt::RightArrow)
+        canvas.painter.rotate(button.direction == Qt::RightToLeft ? 90 : -90);
+    chevron(canvas, QPointF(), button.palette.color(QPalette::WindowText));
+    canvas.painter.restore();
+}
+
 } // namespace
 
 void roundedBox(const Canvas& canvas, const QRectF& rect, qreal radius, const QColor& fill,
@@ -93,7 +103,10 @@ void toolButtonLabel(const Canvas& canvas, const QStyleOptionToolButton& button,
     const auto visual = [&](const QRect& rect) {
         return QStyle::visualRect(button.direction, button.rect, rect);
     };
-    button.icon.paint(&canvas.painter, visual(icon), Qt::AlignCenter, mode);
+    if (button.features.testFlag(QStyleOptionToolButton::Arrow))
+        arrow(canvas, visual(icon), button);
+    else
+        button.icon.paint(&canvas.painter, visual(icon), Qt::AlignCenter, mode);
     const int flags =
         static_cast<int>(Qt::AlignVCenter | QStyle::visualAlignment(button.direction, Qt::AlignLeft)) |
         mnemonic;

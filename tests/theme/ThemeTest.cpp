@@ -292,5 +292,20 @@ TEST(TextToolButton, KeepsNoRoomForAnIcon) {
     EXPECT_LT(button.sizeHint().height(), scaledLength(28, &button)) << "it fits into a line";
 }
 
+TEST(ArrowToolButton, ShowsWhereItsArrowPoints) {
+    applyTheme(*qApp);
+    QToolButton button;
+    button.setText(QStringLiteral("Options"));
+    button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    const auto painted = [&](Qt::ArrowType arrow) {
+        button.setArrowType(arrow);
+        return button.grab().toImage();
+    };
+    EXPECT_NE(painted(Qt::RightArrow), painted(Qt::NoArrow));
+    EXPECT_NE(painted(Qt::RightArrow), painted(Qt::DownArrow));
+    button.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_NE(painted(Qt::RightArrow), painted(Qt::DownArrow));
+}
+
 } // namespace
 } // namespace songsweep
