@@ -106,6 +106,9 @@ QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files) {
                             QStringLiteral("1 marked copy is the last of its recording."),
                             QStringLiteral("%1 marked copies are the last of their recordings."));
     if (!sentences.empty()) return sentences.join(QLatin1Char('\n'));
+    if (facts.libraryInUse)
+        return QStringLiteral("The library cannot be written:\n%1.")
+            .arg(QString::fromStdString(facts.libraryObstacle));
     if (!facts.libraryObstacle.empty()) return QStringLiteral("The library cannot be written.");
     if (facts.keptTracks == 0) return {};
     return worded(facts.keptTracks, QStringLiteral("1 track shares its ID with another one, and stays."),

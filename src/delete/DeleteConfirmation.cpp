@@ -6,18 +6,40 @@
 #include "theme/DialogFrame.h"
 #include "ui_DeleteConfirmation.h"
 
+#include <QList>
 #include <QPushButton>
+#include <QStringList>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace songsweep {
 
 namespace {
 
-/// Shows a line, or hides it where it has nothing to say.
-template <class Control>
-void showLine(Control* control, const QString& text) {
-    control->setVisible(!text.isEmpty());
-    showLive(*control, text);
+int countOf(const QStringList& lines) {
+    return static_cast<int>(
+        std::count_if(lines.begin(), lines.end(), [](auto& line) { return !line.isEmpty(); }));
+}
+
+void hideKeepingRoom(QLabel& label, bool keepsRoom) {
+    QSizePolicy policy = label.sizePolicy();
+    policy.setRetainSizeWhenHidden(keepsRoom);
+    label.setSizePolicy(policy);
+    label.ensurePolished(); // The style gives it the height that it keeps.
+    label.hide();
+}
+
+/// Shows each line that has something to say, and keeps room below them for as many as there can be. The
+/// others go first: the sheet grows at once when one is shown.
+void showInLabels(const QStringList& lines, const QList<QLabel*>& labels, int mostLines) {
+    int spare = mostLines - countOf(lines);
+    for (qsizetype i = lines.size(); i-- > 0;)
+        if (lines[i].isEmpty()) hideKeepingRoom(*labels[i], spare-- > 0);
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        labels[i]->setVisible(!lines[i].isEmpty());
+        showLive(*labels[i], lines[i]);
+    }
 }
 
 } // namespace
@@ -113,7 +135,7 @@ void DeleteConfirmation::updateHeading() {
 void DeleteConfirmation::updateLines() {
     m_deleteButton->setEnabled(!deletesFiles() || !m_facts.filesPending);
     showWarning();
-    showLines(lines());
+    showLines();
     showOptions();
 }
 
@@ -128,23 +150,22 @@ void DeleteConfirmation::showOptions() {
     m_ui->delConfTrashSharedCK->setVisible(hasSharedOption() && isOpen);
 }
 
-DeleteConfirmation::Lines DeleteConfirmation::lines() const {
+/// Of each label; "" hides it.
+QStringList DeleteConfirmation::linesWithFiles() const {
     using namespace confirmationTexts;
-    if (!deletesFiles()) return {.trash = filesStayLine(m_facts)};
-    if (m_facts.filesPending) return {.trash = filesPendingLine()};
-    if (m_facts.libraryUnknown)
-        return {.trash = libraryUnknownLine(m_facts), .missing = missingLine(m_facts)};
-    return {.trash = trashLine(m_facts, leavesSharedFiles()),
-            .shared = sharedLine(m_facts, leavesSharedFiles()),
-            .missing = missingLine(m_facts),
-            .refused = refusedLine(m_facts)};
+    if (m_facts.filesPending) return {filesPendingLine(), {}, {}, {}};
+    if (m_facts.libraryUnknown) return {libraryUnknownLine(m_facts), {}, missingLine(m_facts), {}};
+    return {trashLine(m_facts, leavesSharedFiles()), sharedLine(m_facts, leavesSharedFiles()),
+            missingLine(m_facts), refusedLine(m_facts)};
 }
 
-void DeleteConfirmation::showLines(const Lines& lines) {
-    showLine(m_ui->delConfTrashLabel, lines.trash);
-    showLine(m_ui->delConfSharedLabel, lines.shared);
-    showLine(m_ui->delConfMissingLabel, lines.missing);
-    showLine(m_ui->delConfRefusedLabel, lines.refused);
+void DeleteConfirmation::showLines() {
+    const QStringList withFiles = linesWithFiles();
+    const QStringList withoutFiles = {confirmationTexts::filesStayLine(m_facts), {}, {}, {}};
+    showInLabels(deletesFiles() ? withFiles : withoutFiles,
+                 {m_ui->delConfTrashLabel, m_ui->delConfSharedLabel, m_ui->delConfMissingLabel,
+                  m_ui->delConfRefusedLabel},
+                 std::max(countOf(withFiles), countOf(withoutFiles)));
     m_ui->delConfRefusedLabel->setToolTip(QString::fromStdString(m_facts.refusal));
 }
 

@@ -19,10 +19,9 @@ class DeleteConfirmation;
 ///
 /// Return and Escape both cancel; deleting needs a deliberate key or click. Whether files go to the Trash is
 /// kept from one confirmation to the next; files that other tracks use are left each time again, unless
-/// somebody opens the options and says otherwise. The
-/// room of the lines about files and of the warning is reserved, so that nothing moves when the box is
-/// switched or when the files have been looked at; until then files cannot be deleted, but tracks can. Main
-/// thread.
+/// somebody opens the options and says otherwise. The room of the lines that there can be about files is
+/// kept, so that nothing moves when the box is switched. Until the files have been looked at they cannot be
+/// deleted, but tracks can. Main thread.
 class DeleteConfirmation : public QDialog {
     Q_OBJECT
 
@@ -60,14 +59,8 @@ class DeleteConfirmation : public QDialog {
     bool hasSharedOption() const;
     FilesToTrash filesToTrash() const;
     void showWarning();
-    struct Lines {
-        QString trash = {};
-        QString shared = {};
-        QString missing = {};
-        QString refused = {};
-    };
-    Lines lines() const;
-    void showLines(const Lines& lines);
+    QStringList linesWithFiles() const;
+    void showLines();
 
     std::unique_ptr<Ui::DeleteConfirmation> m_ui;
     QPushButton* m_cancelButton = nullptr;

@@ -22,6 +22,7 @@ struct DeleteConfirmationFacts {
     int refusedFiles = 0;             ///< files that the Trash will refuse
     std::string refusal = {};         ///< why it will one of them; a phrase
     std::string libraryObstacle = {}; ///< why the library will not be written; "" where nothing is in the way
+    bool libraryInUse = false;        ///< what is in its way is another Songsweep
     int groupsLosingEveryCopy = 0;    ///< by what the search saw
     int groupsLosingEveryFile = 0;    ///< groups of which no copy is left if files go, too
     int groupsLosingSharedFiles = 0;  ///< the same if files shared with tracks that stay go, too

@@ -31,7 +31,8 @@ void FileSurvey::main() {
     const Result<void> locked = m_cleanup.lock();
     auto plan = surveyFiles(rows, m_sources, m_facts, [this] { return isCancelled(); });
     if (!plan) return;
-    if (!locked && locked.error().code == Error::Code::busy) m_facts.libraryObstacle = locked.error().message;
+    m_facts.libraryInUse = !locked && locked.error().code == Error::Code::busy;
+    if (m_facts.libraryInUse) m_facts.libraryObstacle = locked.error().message;
     auto answer = std::make_shared<SurveyAnswer>(SurveyAnswer{std::move(*plan), m_facts});
     m_center.post({EventName::surveyDone, std::move(answer), this});
 }

@@ -111,6 +111,15 @@ TEST(ConfirmationTexts, TellOfFilesThatTheTrashRefuses) {
               QStringLiteral("2 files cannot go to the Trash, and are kept."));
 }
 
+TEST(ConfirmationTexts, NameTheOtherSongsweepThatIsAtTheLibrary) {
+    const DeleteConfirmationFacts facts = {.libraryObstacle =
+                                               "another Songsweep (the window) is cleaning up this library",
+                                           .libraryInUse = true};
+    EXPECT_EQ(texts::warning(facts, FilesToTrash::none),
+              QStringLiteral("The library cannot be written:\n"
+                             "another Songsweep (the window) is cleaning up this library."));
+}
+
 TEST(ConfirmationTexts, WarnOfTheLibraryUnlessThereIsWorse) {
     DeleteConfirmationFacts facts = {.libraryObstacle = "cannot write in /music"};
     EXPECT_EQ(texts::warning(facts, FilesToTrash::none), QStringLiteral("The library cannot be written."));

@@ -128,6 +128,32 @@ TEST_F(DeleteConfirmationTest, DoesNotMoveWhenTheFileOptionIsSwitched) {
     EXPECT_EQ(child<QPushButton>(sheet, "delConfOkButton").mapTo(&sheet, QPoint()), button);
 }
 
+TEST_F(DeleteConfirmationTest, HasNoEmptyLineOnceTheFilesGo) {
+    DeleteConfirmation sheet;
+    sheet.setFacts(threeTracks());
+    child<QCheckBox>(sheet, "delConfFileCK").click();
+    test::open(sheet);
+    const auto& last = child<QLabel>(sheet, "delConfMissingLabel");
+    const int end = last.mapTo(&sheet, QPoint(0, last.height())).y();
+    EXPECT_EQ(child<QToolButton>(sheet, "delConfOptionsButton").mapTo(&sheet, QPoint()).y(), end);
+}
+
+TEST_F(DeleteConfirmationTest, DoesNotMoveEitherWhereNoFileGoesToTheTrash) {
+    DeleteConfirmationFacts facts = threeTracks();
+    facts.filesToTrash = 0;
+    for (const int missing : {0, 1, 2}) {
+        facts.missingFiles = missing;
+        facts.sharedFiles = missing / 2;
+        DeleteConfirmation sheet;
+        sheet.setFacts(facts);
+        test::open(sheet);
+        const QSize before = sheet.size();
+        child<QCheckBox>(sheet, "delConfFileCK").click();
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(sheet.size(), before) << missing;
+    }
+}
+
 TEST_F(DeleteConfirmationTest, ReservesNoRoomForItsWarning) {
     DeleteConfirmation sheet;
     sheet.setFacts(threeTracks());

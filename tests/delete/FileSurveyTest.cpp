@@ -83,6 +83,7 @@ TEST_F(FileSurveyTest, TellsWhoElseIsAtTheLibrary) {
     m_cleanup.isBusy = true;
     survey()->main();
     EXPECT_EQ(m_answer->facts.libraryObstacle, "another Songsweep is cleaning up");
+    EXPECT_TRUE(m_answer->facts.libraryInUse);
 }
 
 TEST_F(FileSurveyTest, SaysNothingOnceItIsCancelled) {
