@@ -133,8 +133,9 @@ TEST_F(DeleteConfirmationTest, HasNoEmptyLineOnceTheFilesGo) {
     sheet.setFacts(threeTracks());
     child<QCheckBox>(sheet, "delConfFileCK").click();
     test::open(sheet);
-    const auto& last = child<QLabel>(sheet, "delConfMissingLabel");
-    const int end = last.mapTo(&sheet, QPoint(0, last.height())).y();
+    const auto& lines = child<QWidget>(sheet, "delConfLines");
+    EXPECT_EQ(lines.height(), 3 * child<QLabel>(sheet, "delConfTrashLabel").minimumHeight());
+    const int end = lines.mapTo(&sheet, QPoint(0, lines.height())).y();
     EXPECT_EQ(child<QToolButton>(sheet, "delConfOptionsButton").mapTo(&sheet, QPoint()).y(), end);
 }
 
