@@ -393,7 +393,7 @@ TEST_F(WindowActionsTest, ALibraryAllOfWhoseFilesAreMissingIsToldBesideTheResult
     const std::string values =
         "<key>Name</key><string>Song</string>"
         "<key>Total Time</key><integer>1000</integer><key>Track Type</key><string>File</string>"
-        "<key>Location</key><string>file:///Users/ann/a.mp3</string>";
+        "<key>Location</key><string>file:///Users/ann/nowhere.mp3</string>";
     const std::string missing =
         libraryXml({{1, "A1", values}, {2, "A2", values}}, {{"Library", "<key>Master</key><true/>", {1, 2}}});
     Q_EMIT window().openLibrary(folder.write("missing.xml", missing));
