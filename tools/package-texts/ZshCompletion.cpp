@@ -36,7 +36,7 @@ std::string valueAction(const cli::OptionDescription& option) {
     return " ";
 }
 
-std::string specification(const cli::OptionDescription& option) {
+std::string optionEntry(const cli::OptionDescription& option) {
     const std::string value = option.value.empty() ? "" : ":" + option.value + ":" + valueAction(option);
     if (option.name.empty()) return shellQuoted("1" + value);
     // A map may be given several times; the others once.
@@ -45,10 +45,10 @@ std::string specification(const cli::OptionDescription& option) {
     return shellQuoted(times + name + "[" + escaped(option.text) + "]" + value);
 }
 
-std::string specifications(const cli::CommandDescription& command, const std::string& indent) {
+std::string optionEntries(const cli::CommandDescription& command, const std::string& indent) {
     std::string lines;
     for (const cli::OptionDescription& option : command.options)
-        lines += " \\\n" + indent + specification(option);
+        lines += " \\\n" + indent + optionEntry(option);
     return lines;
 }
 
@@ -99,11 +99,11 @@ std::string zshCompletion(const cli::CommandDescription& program) {
     std::string text = "#compdef songsweep\n# The completion of songsweep(1) for zsh.\n\n"
                        "_songsweep_playlists() {\n" +
                        playlistCommand("\"$1\"") + "}\n" + playlists + commandList(program) +
-                       "    _arguments -C -A \"-*\"" + specifications(withoutArguments(program), "        ") +
+                       "    _arguments -C -A \"-*\"" + optionEntries(withoutArguments(program), "        ") +
                        choice;
     for (const cli::CommandDescription& command : program.commands)
         text += "        " + command.name + ")\n            _arguments" +
-                specifications(command, "                ") + " && ret=0\n            ;;\n";
+                optionEntries(command, "                ") + " && ret=0\n            ;;\n";
     return text + "        esac\n        ;;\n    esac\n    return ret\n}\n\n_songsweep \"$@\"\n";
 }
 
