@@ -15,8 +15,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <taglib/fileref.h>
-#include <taglib/tag.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -80,14 +78,10 @@ std::vector<std::string> filesIn(const std::string& folder) {
     return files;
 }
 
-void readBare(const std::vector<std::string>& files) {
-    long length = 0;
-    for (const std::string& file : files) {
-        const TagLib::FileRef read(file.c_str(), true, TagLib::AudioProperties::Fast);
-        if (!read.isNull() && read.audioProperties() != nullptr)
-            length += read.audioProperties()->lengthInMilliseconds() + long(read.tag()->title().size());
-    }
-    if (length == 0) ::_exit(1);
+/// A program of its own, whose allocator is the C library's.
+void readBare(const std::string& folder) {
+    ::execl(SONGSWEEP_BARE_TAGS, SONGSWEEP_BARE_TAGS, folder.c_str(), nullptr);
+    ::_exit(1);
 }
 
 void walkBare(const std::string& folder) {
@@ -110,29 +104,33 @@ void scan(const FolderLibrary& place) {
     if (!report || !report.value().unread.empty()) ::_exit(1);
 }
 
-/// One that an earlier run made is good for this one.
-void makeFolder(const std::string& folder, int files) {
-    if (fs::exists(folder) && filesIn(folder).size() == static_cast<std::size_t>(files)) return;
-    if (const Result<void> made = sample::makeSoundFolder(folder, files); !made) {
-        std::fprintf(stderr, "%s\n", made.error().message.c_str());
-        std::exit(EXIT_FAILURE);
-    }
+[[noreturn]] void stop(const std::string& reason) {
+    std::fprintf(stderr, "%s\n", reason.c_str());
+    std::exit(EXIT_FAILURE);
+}
+
+/// One that an earlier run made is good for this one, too, unless it has more files.
+void makeFolder(const std::string& folder, std::size_t files) {
+    const std::size_t there = fs::exists(folder) ? filesIn(folder).size() : 0;
+    if (there > files) stop(folder + " has more files than are to be measured");
+    if (there == files) return;
+    if (const Result<void> made = sample::makeSoundFolder(folder, static_cast<int>(files)); !made)
+        stop(made.error().message);
 }
 
 /// Each folder is made in the one before it, so that files are made once. Memory is what a scan takes more
 /// than that of a few files, which writes a library, too.
 void measure(const std::string& folder, const std::string& data, int files) {
-    makeFolder(folder, files);
+    makeFolder(folder, static_cast<std::size_t>(files));
     makeFolder(folder + " of few", fewFiles);
     const int rounds = files > 50'000 ? 2 : 5;
     const FolderLibrary place = FolderLibrary::of(folder, data).value();
-    const std::vector<std::string> paths = filesIn(folder);
     const auto nothing = [] {};
-    readBare(paths);
+    costOf([&] { readBare(folder); });
     const FolderLibrary few = FolderLibrary::of(folder + " of few", data).value();
     const Cost writing = bestOf(
         3, [&] { fs::remove_all(data); }, [&] { scan(few); });
-    const Cost floor = bestOf(rounds, nothing, [&] { readBare(paths); });
+    const Cost floor = bestOf(rounds, nothing, [&] { readBare(folder); });
     const Cost first = bestOf(
         rounds, [&] { fs::remove_all(data); }, [&] { scan(place); });
     const Cost walk = bestOf(rounds + 5, nothing, [&] { walkBare(folder); });

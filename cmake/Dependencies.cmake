@@ -11,6 +11,9 @@ pkg_check_modules(TAGLIB REQUIRED IMPORTED_TARGET taglib)
 if(NOT APPLE)
     pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
     pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+    if(NOT SONGSWEEP_SANITIZER) # which has an allocator of its own
+        find_package(mimalloc REQUIRED)
+    endif()
 endif()
 
 # What compares the sound of copies; without it the program builds, and says so.

@@ -24,7 +24,7 @@ ProgramOptions programOptions(const cli::LibraryOptions& options) {
 int main(int argumentCount, char** arguments) {
     openStandardDescriptors();
     survivePipesThatClose();
-    returnLargeBlocksAtOnce();
+    returnFreeMemoryAtOnce();
     const auto parsed =
         cli::parseCommandLine(argumentCount, arguments, SONGSWEEP_VERSION SONGSWEEP_VERSION_NOTE);
     if (const auto* exitCode = std::get_if<cli::ExitCode>(&parsed)) return static_cast<int>(*exitCode);

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Memory.h"
 
-#include <malloc.h>
+#include <mimalloc.h>
 
 namespace songsweep {
 
-void returnLargeBlocksAtOnce() {
-    constexpr int largeBlock = 512 * 1024;
-    // Setting the threshold also keeps it from growing.
-    mallopt(M_MMAP_THRESHOLD, largeBlock);
-}
+void returnFreeMemoryAtOnce() { mi_option_set(mi_option_decommit_delay, 0); }
 
 } // namespace songsweep

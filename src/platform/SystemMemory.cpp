@@ -3,7 +3,7 @@
 
 namespace songsweep {
 
-/// The allocator of macOS does so unasked.
-void returnLargeBlocksAtOnce() {}
+/// The system's own allocator, or a sanitizer's, is left as it is.
+void returnFreeMemoryAtOnce() {}
 
 } // namespace songsweep
