@@ -61,6 +61,9 @@ std::string summary(const NamedRestore& restore) {
     std::string line = restore.dryRun ? "Would restore " : "Restored ";
     line += std::to_string(report.entries()) + " of " + counted(report.tracks.size(), "track") + " of \"" +
             restore.cleanup + "\", " + counted(report.files(), "file") + " put back";
+    if (report.playlists > 0)
+        line += ", " + counted(report.playlists, "playlist file") +
+                (report.playlists == 1 ? " as it was" : " as they were");
     const auto left = std::count_if(report.tracks.begin(), report.tracks.end(),
                                     [](const RestoredTrack& track) { return !track.dealtWith(); });
     if (left > 0)
@@ -102,6 +105,7 @@ void writeJson(Output& output, const NamedRestore& restore) {
     whole["cleanup"] = restore.cleanup;
     whole["backup"] = restore.report.backup;
     whole["record"] = restore.report.record;
+    whole["playlistfiles"] = restore.report.playlists;
     whole["notes"] = restore.report.notes;
     whole["outcomes"] = nlohmann::ordered_json::array();
     for (const RestoredTrack& track : restore.report.tracks)

@@ -103,6 +103,7 @@ std::vector<std::string> foreseen(const RestoreReport& report) {
     if (report.files() > 0)
         sentences.add(filesWithSize(report) +
                       (report.files() == 1 ? " comes back from the Trash." : " come back from the Trash."));
+    sentences.add(report.playlists, "playlist file", "gets its lines back.", "get their lines back.");
     addProblems(sentences, report);
     if (!report.hasWork() && report.allDealtWith()) sentences.add("All of it is there already.");
     return sentences.take();
@@ -118,6 +119,7 @@ std::vector<std::string> done(const RestoreReport& report) {
     if (report.files() > 0)
         sentences.add(filesWithSize(report) +
                       (report.files() == 1 ? " is back in its place." : " are back in their places."));
+    sentences.add(report.playlists, "playlist file", "has its lines back.", "have their lines back.");
     addProblems(sentences, report);
     return sentences.take();
 }

@@ -81,6 +81,18 @@ TEST_F(FolderPlaylists, ComeBackByteForByte) {
                 HasSubstr("2 songs in 1 group"));
 }
 
+TEST_F(FolderPlaylists, AreCountedBeforeAndAfterTheyComeBack) {
+    ASSERT_EQ(deleteTracks({"--yes", "--files"}).exitCode, 0);
+    std::size_t changed = 0;
+    for (const auto& [name, bytes] : m_whole)
+        if (m_without[name] != bytes) ++changed;
+    const std::string count = ", " + std::to_string(changed) + " playlist files as they were\n";
+    EXPECT_THAT(run({"restore", "--library", music(), "--dry-run"}).output, HasSubstr(count));
+    EXPECT_THAT(run({"restore", "--library", music(), "--dry-run", "--format", "json"}).output,
+                HasSubstr("\"playlistfiles\": " + std::to_string(changed) + ","));
+    EXPECT_THAT(restore().output, HasSubstr(count));
+}
+
 TEST_F(FolderPlaylists, StayAsTheyAreWhereNothingIsDeleted) {
     ASSERT_EQ(deleteTracks({"--dry-run", "--files"}).exitCode, 0);
     EXPECT_EQ(lists(), m_whole);

@@ -68,6 +68,14 @@ TEST(RestoreTexts, TellWhatCameBackAndHowItEnded) {
     EXPECT_EQ(restoreTexts::done(report).front(), "The restore did not come to its end: no room.");
 }
 
+TEST(RestoreTexts, CountThePlaylistFilesThatGetTheirLinesBack) {
+    RestoreReport report;
+    report.playlists = 2;
+    EXPECT_THAT(restoreTexts::foreseen(report), ElementsAre("2 playlist files get their lines back."));
+    report.playlists = 1;
+    EXPECT_THAT(restoreTexts::done(report), ElementsAre("1 playlist file has its lines back."));
+}
+
 TEST(RestoreTexts, ListWhatIsNotAsBeforeFirst) {
     RestoreReport report;
     report.tracks = {track(Entry::restored, File::putBack), track(Entry::restored, File::none)};
