@@ -161,6 +161,18 @@ void CleanupRecord::plan(const RecordedTrack& track) {
     m_sizes.push_back(track.file.size);
 }
 
+void CleanupRecord::merge(const RecordedMerge& merge) {
+    JsonLine line;
+    line.text("step", "merge").text("keptId", merge.keptId).number("keptTrackId", merge.keptTrackId);
+    add(line.numbers("removed", merge.removed).truth("places", merge.places).finished());
+    for (const RecordedValue& value : merge.values) {
+        JsonLine change;
+        change.text("step", "mergedValue").text("key", value.after.key).text("before", value.before);
+        change.text("form", wordOf(value.after.form));
+        add(change.text("after", value.after.text).finished());
+    }
+}
+
 Result<void> CleanupRecord::planned() {
     add(JsonLine().text("step", "planned").finished());
     handOver();

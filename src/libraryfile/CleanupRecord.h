@@ -77,6 +77,9 @@ class CleanupRecord {
 
     void outcome(std::size_t track, const RecordedOutcome& outcome);
 
+    /// What a copy that stays is given; among the plan.
+    void merge(const RecordedMerge& merge);
+
     /// Removes the record of what never began.
     void discard();
 

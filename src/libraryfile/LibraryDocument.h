@@ -146,8 +146,13 @@ class LibraryDocument {
     /// Takes back all changes of some tracks, see LibraryChanges, and the deletions of others. Linear in the
     /// changes.
     void withdraw(const std::vector<TrackPosition>& changed, const std::vector<TrackPosition>& deleted);
-    /// What is changed from now until the next write is changed in this version of the file or not at all.
-    void bindChangesToVersion() { m_changes.bindToVersion(); }
+    /// Brings the index up to date, under the lock of a clean-up that has yet to begin; what is changed from
+    /// then until the next write is changed in this version of the file or not at all.
+    Result<void> bindChangesToVersion(const CleanupLock::Request& request);
+    /// Why changes were lost that have yet to be written; nothing where none were.
+    const std::optional<Error>& lostChanges() const { return m_lostChanges; }
+    /// The values of a track that are to be changed, as they are in the file and as they will be.
+    Result<std::vector<RecordedValue>> changedValues(TrackPosition track) const;
 
     /// The number of deletions that `flush` has yet to write.
     std::size_t pendingDeletions() const { return m_deletedCount; }

@@ -86,6 +86,21 @@ void LibraryDocument::withdraw(const std::vector<TrackPosition>& changed,
     forgetLists();
 }
 
+Result<std::vector<RecordedValue>> LibraryDocument::changedValues(TrackPosition track) const {
+    std::vector<RecordedValue> values;
+    const std::vector<ValueChange>* const changes = m_changes.of(track);
+    if (!changes) return values;
+    const auto entry = m_file->read(m_index.tracks[track].range());
+    if (!entry) return entry.error();
+    const auto before = EntryValues::parse(entry.value(), m_index.entities);
+    if (!before) return unreadable(track);
+    for (const ValueChange& change : *changes) {
+        const EntryValue* const value = before->find(change.key);
+        values.push_back({value ? value->text : std::string(), change});
+    }
+    return values;
+}
+
 /// Tracks that were added to a playlist come behind its items, with the numbers that follow.
 void LibraryDocument::listAdded(std::size_t playlist, TrackListing& listing) const {
     const LibraryChanges::OfPlaylist* const changes = m_changes.ofPlaylist(m_playlistOrder[playlist]);

@@ -17,6 +17,14 @@ Result<void> LibraryDocument::lockForCleanup(const CleanupLock::Request& request
     return {};
 }
 
+Result<void> LibraryDocument::bindChangesToVersion(const CleanupLock::Request& request) {
+    if (!m_transaction)
+        if (auto locked = lockForCleanup(request); !locked) return locked;
+    auto refreshed = refresh();
+    if (refreshed) m_changes.bindToVersion();
+    return refreshed;
+}
+
 Result<void> LibraryDocument::beginCleanup(const CleanupLock::Request& request) {
     if (!m_transaction)
         if (auto locked = lockForCleanup(request); !locked) return locked;
@@ -61,8 +69,9 @@ Result<void> LibraryDocument::flush() {
 }
 
 void LibraryDocument::rollback() {
-    if (!isChanged()) return;
+    const bool wasChanged = isChanged();
     m_changes.clear();
+    if (!wasChanged) return;
     m_lostChanges.reset();
     forgetValues();
     for (TrackSlot& track : m_index.tracks)

@@ -47,7 +47,7 @@ Result<void> LibraryRestore::State::planNow() {
     if (!opened) return opened.error();
     plan.reset();
     present = std::move(opened).value();
-    auto planned = Restoration::plan(old, *present, wanted.tracks);
+    auto planned = Restoration::plan(old, *present, wanted.tracks, wanted.merges);
     if (!planned) return planned.error();
     plan = std::move(planned).value();
     outcome = outcomeOf(*plan);
@@ -76,7 +76,7 @@ Result<LibraryRestore::Outcome> LibraryRestore::foresee(const std::string& libra
     if (!old) return old.error();
     const auto present = IndexedLibrary::open(library);
     if (!present) return present.error();
-    const auto plan = Restoration::plan(old.value(), present.value(), wanted.tracks);
+    const auto plan = Restoration::plan(old.value(), present.value(), wanted.tracks, wanted.merges);
     if (!plan) return plan.error();
     return outcomeOf(plan.value());
 }

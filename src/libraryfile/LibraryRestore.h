@@ -30,6 +30,7 @@ class LibraryRestore {
         std::string backup; ///< path
         std::vector<RecordedTrack> tracks;
         OwnBackup ownBackup = OwnBackup::forEntries;
+        std::vector<RecordedMerge> merges = {}; ///< taken back with their tracks, by the numbers of these
     };
 
     /// What becomes of each wanted track.

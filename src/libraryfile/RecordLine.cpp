@@ -14,6 +14,8 @@ constexpr std::array howWords{"complete", "cancelled", "failed"};
 constexpr std::array trackWords{"deleted", "restored", "failed", "not attempted"};
 constexpr std::array fileWords{"not asked", "trashed", "put back", "missing", "kept"};
 
+constexpr std::array formWords{"text", "integer", "date", "true", "none"};
+
 template <class Value, std::size_t count>
 std::optional<Value> valueOf(const std::array<const char*, count>& words, const std::string& word) {
     for (std::size_t i = 0; i < count; ++i)
@@ -43,6 +45,12 @@ std::string_view wordOf(RecordHeading::Kind kind) { return kindWords[static_cast
 std::string_view wordOf(RecordEnd::How how) { return howWords[static_cast<std::size_t>(how)]; }
 std::string_view wordOf(RecordedOutcome::Track track) { return trackWords[static_cast<std::size_t>(track)]; }
 std::string_view wordOf(RecordedOutcome::File file) { return fileWords[static_cast<std::size_t>(file)]; }
+
+std::string_view wordOf(ValueChange::Form form) { return formWords[static_cast<std::size_t>(form)]; }
+
+std::optional<ValueChange::Form> valueFormOf(const std::string& word) {
+    return valueOf<ValueChange::Form>(formWords, word);
+}
 
 std::optional<RecordLine> RecordLine::parse(const std::string& text) {
     auto json = nlohmann::json::parse(text, nullptr, false);

@@ -37,6 +37,8 @@ class RecordLine {
 /// The heading of a record in that folder.
 RecordHeading recordHeadingIn(const RecordLine& line, const std::string& folder);
 RecordEnd recordEndIn(const RecordLine& line);
+/// Nothing where the word is not known.
+std::optional<ValueChange::Form> valueFormOf(const std::string& word);
 /// Nothing where the words are not known.
 std::optional<RecordedOutcome> recordedOutcomeIn(const RecordLine& line);
 

@@ -6,6 +6,7 @@
 #include "libraryfile/RecordLine.h"
 #include "platform/SystemError.h"
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 
@@ -46,6 +47,8 @@ class Reader {
         if (step == "begin") return takeHeading(line);
         if (!m_begun) return false;
         if (step == "plan") m_cleanup.tracks.push_back({plannedTrack(line), false, {}, {}});
+        if (step == "merge") return takeMerge(line);
+        if (step == "mergedValue") return takeMergedValue(line);
         if (step == "planned") m_cleanup.isPlanned = true;
         if (step == "writing") ++m_cleanup.writesBegun;
         if (step == "written") ++m_cleanup.writesDone;
@@ -75,6 +78,24 @@ class Reader {
         m_cleanup.heading.version = stampIn(line);
         for (RecordedCleanup::Track& track : m_cleanup.tracks)
             track.plan.trackId = -1;
+    }
+
+    bool takeMerge(const RecordLine& line) {
+        m_cleanup.merges.push_back({line.text("keptId"),
+                                    line.number("keptTrackId", -1),
+                                    line.numbers("removed"),
+                                    line.truth("places"),
+                                    {}});
+        return std::ranges::all_of(m_cleanup.merges.back().removed,
+                                   [this](std::size_t track) { return track < m_cleanup.tracks.size(); });
+    }
+
+    bool takeMergedValue(const RecordLine& line) {
+        const auto form = valueFormOf(line.text("form"));
+        if (m_cleanup.merges.empty() || !form) return false;
+        m_cleanup.merges.back().values.push_back(
+            {line.text("before"), {line.text("key"), *form, line.text("after")}});
+        return true;
     }
 
     bool takeBegun(const RecordLine& line) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "libraryfile/LibraryFile.h"
+#include "libraryfile/RecordedMerge.h"
 #include "libraryfile/RecordedPlaylist.h"
 #include "platform/Trash.h"
 
@@ -81,6 +82,7 @@ struct RecordedCleanup {
     RecordHeading heading;
     std::vector<Track> tracks;
     std::vector<RecordedPlaylist> playlists; ///< files that were rewritten, in that order
+    std::vector<RecordedMerge> merges;       ///< of those of their tracks that went
     bool isPlanned = false;                  ///< the plan is whole; before that nothing was done
     std::size_t writesBegun = 0;             ///< of the library
     std::size_t writesDone = 0;
@@ -98,6 +100,7 @@ std::string_view wordOf(RecordHeading::Kind kind);
 std::string_view wordOf(RecordEnd::How how);
 std::string_view wordOf(RecordedOutcome::Track track);
 std::string_view wordOf(RecordedOutcome::File file);
+std::string_view wordOf(ValueChange::Form form);
 
 /// The record of a backup: the same name with the extension ".jsonl".
 std::string recordPathFor(const std::string& backup);

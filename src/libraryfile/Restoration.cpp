@@ -9,8 +9,9 @@
 namespace songsweep {
 
 Result<Restoration> Restoration::plan(const IndexedLibrary& backup, const IndexedLibrary& present,
-                                      const std::vector<RecordedTrack>& wanted) {
-    return RestorationPlanner(backup, present).plan(wanted);
+                                      const std::vector<RecordedTrack>& wanted,
+                                      const std::vector<RecordedMerge>& merges) {
+    return RestorationPlanner(backup, present).plan(wanted, merges);
 }
 
 bool Restoration::isResult(const LibraryIndex& readBack) const {
@@ -20,8 +21,8 @@ bool Restoration::isResult(const LibraryIndex& readBack) const {
         wentBack[track] = readBack.tracks[track].range() == *entry;
         if (wentBack[track]) ++entry;
     }
-    return entry == m_entries.end() &&
-           isRemainderOf(readBack, m_present->index, [&](std::uint32_t track) { return wentBack[track]; });
+    return entry == m_entries.end() && isRemainderOf(readBack, m_unmerged ? *m_unmerged : m_present->index,
+                                                     [&](std::uint32_t track) { return wentBack[track]; });
 }
 
 } // namespace songsweep

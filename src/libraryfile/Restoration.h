@@ -6,6 +6,7 @@
 #include "libraryfile/TrackMatch.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,9 @@ namespace songsweep {
 /// there. If nobody else has changed the library, that makes it the backup again, byte for byte; what others
 /// changed stays as they left it. A track that is there already is left alone. Where a track ID has another
 /// owner by now, the entry and its items get a new one. A playlist is known by its persistent ID, else by its
-/// name; `notes` tells of those that are gone, and of a library in which no place is known any more.
+/// name. What copies that stayed were given of those that come back is taken back from them, where all of the
+/// song do, and nobody has changed it since. `notes` tells of those that are gone, and of a library in which
+/// no place is known any more.
 ///
 /// n log n in the larger file. A value; the libraries must outlive it.
 class Restoration {
@@ -26,7 +29,8 @@ class Restoration {
     enum class Fate : std::uint8_t { comesBack, isThere, isUnknown };
 
     static Result<Restoration> plan(const IndexedLibrary& backup, const IndexedLibrary& present,
-                                    const std::vector<RecordedTrack>& wanted);
+                                    const std::vector<RecordedTrack>& wanted,
+                                    const std::vector<RecordedMerge>& merges = {});
 
     /// For each wanted track.
     const std::vector<Fate>& fates() const { return m_fates; }
@@ -51,6 +55,7 @@ class Restoration {
     std::vector<FilePiece> m_pieces;
     std::vector<ByteRange> m_entries; ///< of the tracks that went back, in the new version, in order
     std::size_t m_trackCount = 0;
+    std::optional<LibraryIndex> m_unmerged; ///< the present one as merges that go back leave it
 
     friend class RestorationPlanner;
 };

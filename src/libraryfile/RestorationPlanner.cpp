@@ -6,8 +6,10 @@
 #include "libraryfile/PlaylistMatch.h"
 
 #include <algorithm>
-#include <optional>
+#include <iterator>
 #include <set>
+#include <unordered_set>
+#include <utility>
 
 namespace songsweep {
 
@@ -25,24 +27,96 @@ std::vector<std::int64_t> sortedTrackIds(const std::vector<TrackSlot>& tracks) {
     return ids;
 }
 
+/// The items of a present playlist as they are once merges are taken back, without those that come back.
+class UnmergedItems {
+  public:
+    explicit UnmergedItems(const PlaylistSlot& present)
+        : m_present(present) {}
+
+    /// The item gives its place to one that comes back.
+    void take(const ItemSlot& item) { m_taken.insert(item.begin); }
+    /// An item of a track that stayed comes back, before what is at that offset.
+    void add(std::uint64_t at, std::uint32_t track, std::uint32_t length) {
+        m_items.emplace_back(at, ItemSlot{track, 0, length});
+    }
+
+    std::vector<ItemSlot> items() {
+        for (const ItemSlot& item : m_present.items)
+            if (!m_taken.contains(item.begin)) m_items.emplace_back(m_present.rangeOf(item).begin, item);
+        std::ranges::stable_sort(m_items, {}, &std::pair<std::uint64_t, ItemSlot>::first);
+        std::vector<ItemSlot> items;
+        for (const auto& [at, item] : m_items)
+            items.push_back(item);
+        return items;
+    }
+
+  private:
+    const PlaylistSlot& m_present;
+    std::unordered_set<std::uint32_t> m_taken; // by their begins
+    std::vector<std::pair<std::uint64_t, ItemSlot>> m_items;
+};
+
 FilePiece textPiece(std::string text) { return {nullptr, {}, std::move(text)}; }
 
 } // namespace
 
-Result<Restoration> RestorationPlanner::plan(const std::vector<RecordedTrack>& wanted) {
+/// What goes back into one playlist, item after item.
+struct RestorationPlanner::ReturningItems {
+    InsertionPoint point;
+    ItemMatch match;
+    const PlaylistSlot& present;
+    UnmergedItems unmerged;
+};
+
+Result<Restoration> RestorationPlanner::plan(const std::vector<RecordedTrack>& wanted,
+                                             const std::vector<RecordedMerge>& merges) {
     Restoration restoration(m_present);
     const Sought sought = seek(wanted);
     m_match = TrackMatch::of(m_backup, m_present, sought.tracks);
     decideFates(sought, restoration);
+    findMerges(sought, merges);
     giveTrackIds();
     if (auto added = addEntries(); !added) return added.error();
+    if (auto undone = undoMerges(); !undone) return undone.error(); // Behind what comes to the same offset.
     if (auto added = addItems(); !added) return added.error();
     FileEdits::Outcome outcome = m_edits.appliedTo(m_present.file);
     restoration.m_pieces = std::move(outcome.pieces);
     restoration.m_entries = std::move(outcome.entries);
     restoration.m_trackCount = restoration.m_entries.size();
     restoration.m_notes = std::move(m_notes);
+    restoration.m_unmerged = std::move(m_unmerged);
     return restoration;
+}
+
+/// Those of which every removed copy comes back now, and whose kept one is still there. No two tracks had one
+/// persistent ID when they were merged.
+void RestorationPlanner::findMerges(const Sought& sought, const std::vector<RecordedMerge>& merges) {
+    if (merges.empty()) return;
+    PersistentIdTable table;
+    table.build(m_backup.index.tracks);
+    for (const RecordedMerge& merge : merges) {
+        std::vector<std::uint32_t> removed;
+        for (const std::size_t number : merge.removed)
+            std::ranges::copy(sought.ofWanted[number], std::back_inserter(removed));
+        const auto kept = table.find(m_backup.index.tracks, PersistentId::of(merge.keptId));
+        const bool comesBack = removed.size() == merge.removed.size() &&
+                               std::ranges::all_of(removed, [&](auto track) { return m_returning[track]; });
+        if (kept.size() != 1 || !comesBack) continue;
+        const std::uint32_t present = m_match.presentOf[kept.front()];
+        if (present != LibraryIndex::noTrack) m_undo.add(merge, kept.front(), present, removed);
+    }
+}
+
+Result<void> RestorationPlanner::undoMerges() {
+    if (m_undo.isEmpty()) return {};
+    std::unordered_map<std::uint32_t, std::int64_t> growth;
+    if (auto changed = m_undo.changeEntries(m_edits, growth, m_notes); !changed) return changed;
+    m_unmerged = m_present.index;
+    for (const auto& [track, bytes] : growth) {
+        TrackSlot& slot = m_unmerged->tracks[track];
+        slot.length = static_cast<std::uint32_t>(slot.length + bytes);
+    }
+    return {};
 }
 
 /// The tracks of the backup that are meant: those of the persistent ID, and of the track ID where it is known
@@ -157,60 +231,103 @@ Result<void> RestorationPlanner::addItems() {
             m_notes.push_back("the playlist \"" + old.name + "\" is no longer there");
             continue;
         }
-        if (auto added = addItemsOf(old, *present, rule); !added) return added;
+        if (auto added = addItemsOf(i, *present, rule); !added) return added;
     }
     return {};
 }
 
-Result<void> RestorationPlanner::addItemsOf(const PlaylistSlot& old, const PlaylistSlot& present,
+Result<void> RestorationPlanner::addItemsOf(std::size_t playlist, const PlaylistSlot& present,
                                             const ItemRule& rule) {
+    const PlaylistSlot& old = m_backup.index.playlists[playlist];
     const ContainerSlot& container = present.container;
     const bool isMissing = container.form == ContainerSlot::Form::missing;
     if (isMissing && present.end == 0) return {}; // An empty tag, which has no name either.
     const std::uint64_t begin = isMissing ? present.end : beginOf(container);
     if (isMissing) m_edits.insert(begin, textPiece("\n\t\t\t<key>Playlist Items</key>\n\t\t\t<array>"));
     if (container.form == ContainerSlot::Form::emptyTag) m_edits.replace(container.tag, textPiece("<array>"));
-    InsertionPoint point(m_backup.file, beginOf(old.container), m_present.file, begin);
-    ItemMatch match(present);
-    for (const ItemSlot& item : old.items) {
-        const ByteRange range = old.rangeOf(item);
-        if (rule.goes(item)) {
-            auto piece = pieceOf(range, item.track, Form::item);
-            if (!piece) return piece.error();
-            m_edits.insert(point.placeOf(range), std::move(piece).value());
-            continue;
+    ReturningItems items{{m_backup.file, beginOf(old.container), m_present.file, begin},
+                         ItemMatch(present),
+                         present,
+                         UnmergedItems(present)};
+    const auto merged = m_undo.itemsOf(playlist);
+    for (std::size_t number = 0; number < old.items.size(); ++number) {
+        const ItemSlot& item = old.items[number];
+        if (rule.goes(item) || (merged[number] && merged[number]->fate == PlaceFate::isGivenUp)) {
+            if (auto added = addItem(item, old.rangeOf(item), merged[number], items); !added) return added;
+        } else {
+            passItem(item, old.rangeOf(item), items);
         }
-        const bool isDangling = item.track == LibraryIndex::noTrack;
-        const std::uint32_t track = presentTrackOf(item);
-        const ItemSlot* found =
-            isDangling || track != LibraryIndex::noTrack ? match.next(track, item.length) : nullptr;
-        point.pass(range, found ? std::optional(present.rangeOf(*found).end()) : std::nullopt);
     }
     if (container.form != ContainerSlot::Form::tags) m_edits.insert(begin, textPiece("\n\t\t\t</array>"));
+    if (m_unmerged)
+        m_unmerged->playlists[static_cast<std::size_t>(&present - m_present.index.playlists.data())].items =
+            items.unmerged.items();
     return {};
 }
 
+void RestorationPlanner::passItem(const ItemSlot& item, ByteRange range, ReturningItems& items) const {
+    const ItemSlot* const found = presentItem(item.track, item.length, items);
+    items.point.pass(range, found ? std::optional(items.present.rangeOf(*found).end()) : std::nullopt);
+}
+
+/// To its place, which the copy that stayed may have got; an item of that one itself that was given up comes
+/// back, too.
+Result<void> RestorationPlanner::addItem(const ItemSlot& item, ByteRange range,
+                                         const std::optional<MergeUndo::Item>& merged,
+                                         ReturningItems& items) {
+    auto piece = pieceOf(range, item.track, Form::item);
+    if (!piece) return piece.error();
+    const bool isReplaced = merged && merged->fate == PlaceFate::goesToKept;
+    const ItemSlot* const found = isReplaced ? presentItem(merged->kept, item.length, items) : nullptr;
+    if (found != nullptr) {
+        const ByteRange place = items.present.rangeOf(*found);
+        m_edits.replace(place, std::move(piece).value());
+        items.point.pass(range, place.end());
+        items.unmerged.take(*found);
+        return {};
+    }
+    const std::uint64_t place = items.point.placeOf(range);
+    m_edits.insert(place, std::move(piece).value());
+    if (!m_returning[item.track]) items.unmerged.add(place, presentTrackOf(item.track), item.length);
+    return {};
+}
+
+const ItemSlot* RestorationPlanner::presentItem(std::uint32_t oldTrack, std::uint32_t length,
+                                                ReturningItems& items) const {
+    const std::uint32_t track = presentTrackOf(oldTrack);
+    const bool isDangling = oldTrack == LibraryIndex::noTrack;
+    return isDangling || track != LibraryIndex::noTrack ? items.match.next(track, length) : nullptr;
+}
+
 /// The present track that an item refers to which stayed; of several of one ID, the first that is there.
-std::uint32_t RestorationPlanner::presentTrackOf(const ItemSlot& old) const {
-    if (old.track == LibraryIndex::noTrack) return LibraryIndex::noTrack;
-    const std::uint32_t present = m_match.presentOf[old.track];
+std::uint32_t RestorationPlanner::presentTrackOf(std::uint32_t old) const {
+    if (old == LibraryIndex::noTrack) return LibraryIndex::noTrack;
+    const std::uint32_t present = m_match.presentOf[old];
     if (present != LibraryIndex::noTrack) return present;
-    const auto found = m_presentOfId.find(m_backup.index.tracks[old.track].trackId);
+    const auto found = m_presentOfId.find(m_backup.index.tracks[old].trackId);
     return found == m_presentOfId.end() ? LibraryIndex::noTrack : found->second;
 }
 
-/// The bytes of the backup, with the new track ID where there is one.
+/// The bytes of the backup, with the present track ID where that is another one.
 Result<FilePiece> RestorationPlanner::pieceOf(ByteRange range, std::uint32_t track, Form form) const {
-    const auto id = m_newIds.find(track);
-    if (id == m_newIds.end()) return FilePiece{&m_backup.file, range, {}};
+    const std::optional<std::int64_t> id = newIdOf(track);
+    if (!id) return FilePiece{&m_backup.file, range, {}};
     const auto bytes = m_backup.file.read(range);
     if (!bytes) return bytes.error();
-    auto changed = form == Form::entry ? entryWithTrackId(bytes.value(), id->second)
-                                       : itemWithTrackId(bytes.value(), id->second);
+    auto changed =
+        form == Form::entry ? entryWithTrackId(bytes.value(), *id) : itemWithTrackId(bytes.value(), *id);
     if (!changed)
         return Error{Error::Code::invalid,
                      m_backup.file.path() + " has a track whose ID cannot be changed, as it must be"};
     return textPiece(std::move(*changed));
+}
+
+std::optional<std::int64_t> RestorationPlanner::newIdOf(std::uint32_t track) const {
+    if (const auto id = m_newIds.find(track); id != m_newIds.end()) return id->second;
+    const std::uint32_t present = m_match.presentOf[track];
+    if (m_returning[track] || present == LibraryIndex::noTrack) return {};
+    const std::int64_t id = m_present.index.tracks[present].trackId;
+    return id == m_backup.index.tracks[track].trackId ? std::nullopt : std::optional(id);
 }
 
 } // namespace songsweep

@@ -7,6 +7,7 @@
 #include "restore/FileReturn.h"
 #include "restore/RestoreRun.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <unordered_set>
@@ -32,6 +33,26 @@ RestoreReport reportFor(const RecordedCleanup& cleanup, const LibraryRestore::Ou
     return report;
 }
 
+/// Takes tracks out of a clean-up, and the merges of which not all copies are left.
+template <class Test>
+void takeOut(RecordedCleanup& cleanup, const Test& goes) {
+    constexpr auto gone = static_cast<std::size_t>(-1);
+    std::vector<std::size_t> numbers(cleanup.tracks.size(), gone);
+    std::vector<RecordedCleanup::Track> left;
+    for (std::size_t track = 0; track < cleanup.tracks.size(); ++track) {
+        if (goes(cleanup.tracks[track])) continue;
+        numbers[track] = left.size();
+        left.push_back(std::move(cleanup.tracks[track]));
+    }
+    cleanup.tracks = std::move(left);
+    for (RecordedMerge& merge : cleanup.merges)
+        for (std::size_t& track : merge.removed)
+            track = numbers[track];
+    std::erase_if(cleanup.merges, [&](const RecordedMerge& merge) {
+        return std::ranges::find(merge.removed, gone) != merge.removed.end();
+    });
+}
+
 /// Takes the tracks out of the clean-up whose files are lost; a second track of one file has no fate of its
 /// own.
 std::vector<RestoredTrack> takeOutLost(RecordedCleanup& cleanup, Trash& trash) {
@@ -40,7 +61,7 @@ std::vector<RestoredTrack> takeOutLost(RecordedCleanup& cleanup, Trash& trash) {
     for (std::size_t i = 0; i < files.size(); ++i)
         if (files[i].fate == FileReturn::Fate::isGone) lost.insert(cleanup.tracks[i].plan.path);
     std::vector<RestoredTrack> leftOut;
-    std::erase_if(cleanup.tracks, [&](const RecordedCleanup::Track& track) {
+    takeOut(cleanup, [&](const RecordedCleanup::Track& track) {
         if (!lost.contains(track.plan.path)) return false;
         leftOut.push_back({track.plan, RestoredTrack::Entry::leftOut, {}, {}});
         leftOut.back().setFileGone();
@@ -53,6 +74,7 @@ LibraryRestore::Wanted wantedOf(const RecordedCleanup& cleanup) {
     LibraryRestore::Wanted wanted{cleanup.heading.backup, {}, LibraryRestore::OwnBackup::always};
     for (const RecordedCleanup::Track& track : cleanup.tracks)
         wanted.tracks.push_back(track.plan);
+    wanted.merges = cleanup.merges;
     return wanted;
 }
 
@@ -84,7 +106,7 @@ CleanupRestore::CleanupRestore(std::string library, RecordedCleanup cleanup, Tra
     : m_library(std::move(library))
     , m_cleanup(std::move(cleanup))
     , m_trash(trash) {
-    std::erase_if(m_cleanup.tracks, [this](const auto& track) { return !isWanted(track, m_cleanup); });
+    takeOut(m_cleanup, [this](const auto& track) { return !isWanted(track, m_cleanup); });
     if (lostFiles == LostFiles::tracksStayAway) m_leftOut = takeOutLost(m_cleanup, trash);
 }
 

@@ -149,11 +149,12 @@ TEST_F(LibraryChangeTest, WhatIsWithdrawnLeavesNothingBehind) {
 
 TEST_F(LibraryChangeTest, ChangesBoundToTheirVersionAreNotMadeInAnother) {
     open(small("old", {}));
-    m_library->bindChangesToVersion();
+    ASSERT_TRUE(m_library->bindChangesToVersion({"a test"}));
     rename(0, "new");
     replaceLibrary(small("theirs", {}));
     EXPECT_FALSE(m_library->flush());
     EXPECT_EQ(content(), small("theirs", {}));
+    m_library->endCleanup();
     rename(0, "ours");
     replaceLibrary(small("theirs again", {}));
     EXPECT_TRUE(m_library->flush()) << "the next changes are not bound";
