@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "library/TrackRecord.h"
+#include "library/TrackStorage.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace songsweep {
+
+/// The songs of which copies go and exactly one stays, taken from the rows at one moment.
+///
+/// Where several copies stay nobody knows whose the places and plays are to be, so that such a song is left
+/// as it is, and counted. A copy that cannot be named to iTunes stays, whatever its mark. The records are
+/// keys and never read through, so that another thread may work with this while the rows change; the texts
+/// are those of the storage, which is kept. A value; linear in the rows.
+struct SongsToMerge {
+    struct Copy {
+        const TrackRecord* record = nullptr;
+        Text pid;
+        std::size_t number = 0; ///< of a copy that goes: its place among the marked rows
+    };
+    struct Song {
+        Copy kept;
+        std::vector<Copy> removed;
+    };
+
+    explicit SongsToMerge(const std::vector<TrackRecord*>& rows,
+                          std::shared_ptr<const TrackStorage> kept = nullptr);
+
+    std::vector<Song> songs;
+    std::size_t keepSeveral = 0; ///< songs that lose copies and keep two or more
+    std::shared_ptr<const TrackStorage> storage;
+};
+
+} // namespace songsweep

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "merge/SongsToMerge.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+
+namespace songsweep {
+namespace {
+
+class SongsToMergeTest : public testing::Test {
+  protected:
+    void add(int gid, const char* pid, bool isMarked) {
+        TrackRecord& record = m_records.emplace_back();
+        record.gid = gid;
+        record.pid = pid;
+        record.checkbox = isMarked;
+        m_rows.push_back(&record);
+    }
+
+    std::deque<TrackRecord> m_records;
+    std::vector<TrackRecord*> m_rows;
+};
+
+TEST_F(SongsToMergeTest, AreThoseThatKeepExactlyOneCopy) {
+    add(1, "A1", true);
+    add(1, "A2", false);
+    add(1, "A3", true);
+    add(2, "B1", true);
+    add(2, "B2", false);
+    add(2, "B3", false);
+    add(3, "C1", true);
+    add(3, "C2", true);
+    add(4, "D1", false);
+    add(4, "D2", true);
+    const SongsToMerge songs(m_rows);
+    ASSERT_EQ(songs.songs.size(), 2U);
+    EXPECT_EQ(songs.songs[0].kept.pid, "A2");
+    ASSERT_EQ(songs.songs[0].removed.size(), 2U);
+    EXPECT_EQ(songs.songs[0].removed[1].pid, "A3");
+    EXPECT_EQ(songs.songs[0].removed[1].number, 1U);
+    EXPECT_EQ(songs.songs[1].removed[0].number, 5U) << "numbers are those among all marked rows";
+    EXPECT_EQ(songs.keepSeveral, 1U);
+}
+
+TEST_F(SongsToMergeTest, ACopyThatCannotBeNamedStays) {
+    add(1, "", true);
+    add(1, "A2", false);
+    add(1, "A3", true);
+    add(2, "B1", true);
+    add(2, "0", false);
+    const SongsToMerge songs(m_rows);
+    EXPECT_TRUE(songs.songs.empty());
+    EXPECT_EQ(songs.keepSeveral, 1U);
+}
+
+} // namespace
+} // namespace songsweep
