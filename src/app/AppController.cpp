@@ -267,8 +267,8 @@ void AppController::deleteMarkedMenuClick() {
     }
 }
 
-void AppController::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
-    m_deletion.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+void AppController::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles, MergeChoice merge) {
+    m_deletion.delConfOkButtonClick(deleteFiles, leaveSharedFiles, merge);
 }
 
 void AppController::cancelButtonClick() {
@@ -381,6 +381,13 @@ void AppController::threadHandlerSingleFinished2(const WorkerEvent& event) {
          [](A& a, const E& e) { take(e, a, &AppController::tellInterruption); }},
         {N::cleanupFinished, silent, [](A& a, const E& e) { take(e, a.m_notices, &Notices::tellFinished); }},
         {N::libraryRead, silent, [](A& a, const E& e) { a.onLibraryRead(e); }},
+        {N::mergeAddCount, silent, [](A& a, const E&) { a.m_progress.count(1); }},
+        {N::mergeFinish, silent, [](A& a, const E& e) { take(e, a.m_deletion, &Deletion::onMergeFinish); }},
+        {N::mergeCancel, silent,
+         [](A& a, const E& e) {
+             take(e, a.m_deletion, &Deletion::onMergeCancel);
+             a.tellDeletion();
+         }},
     });
     static_assert(hasEveryEventInItsPlace(reactions), "an event would find another one's reaction, or none");
     if (m_search.isStale(event)) return;

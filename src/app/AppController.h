@@ -129,7 +129,7 @@ class AppController {
     void delConfCancelButtonClick() { m_deletion.delConfCancelButtonClick(); }
     /// `leaveSharedFiles`: files that a track that stays uses too are not touched. Nothing happens with
     /// `deleteFiles` before the survey of the files has answered.
-    void delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles = true);
+    void delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles = true, MergeChoice merge = {});
     void beginDelete() { m_deletion.beginDelete(); }
     void cancelButtonClick();
 

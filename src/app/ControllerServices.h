@@ -3,6 +3,7 @@
 
 #include "app/MapRule.h"
 #include "delete/DeletePlan.h"
+#include "delete/MergeProc.h"
 #include "delete/SharedIds.h"
 #include "library/LibraryOverview.h"
 #include "library/ReaderServices.h"
@@ -69,6 +70,9 @@ struct ControllerServices {
     std::function<std::vector<MapRule>()> mapRules = [] { return std::vector<MapRule>(); };
     /// Adds one; no worker runs.
     std::function<void(const MapRule&)> addMapRule = [](const MapRule&) {};
+
+    /// Plans what copies that stay are given of those that go; not set where the library does not tell.
+    MergePlanner planMerge = {};
 
     /// What is asked before a deletion.
     SurveySources surveySources() const;

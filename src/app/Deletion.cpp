@@ -105,12 +105,13 @@ void Deletion::delConfCancelButtonClick() {
     unlockLibrary();
 }
 
-void Deletion::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
+void Deletion::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles, MergeChoice merge) {
     if (m_phase != Phase::confirming) return;
     if (deleteFiles && m_pendingSurvey) return; // which files may go is not known yet
     m_view.endDeleteConfirmation();
     m_phase = Phase::starting;
     m_deleteFiles = deleteFiles;
+    m_mergeChoice = merge;
     if (!deleteFiles) forgetSurvey();
     if (!leaveSharedFiles) m_plan.giveUpSharedFiles();
     m_queries.iTunesStop();
@@ -119,9 +120,46 @@ void Deletion::delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles) {
 
 void Deletion::beginDelete() {
     m_myTimer.stop();
-    startWorker();
-    m_progress.setText(ProgressBar::progress, "Deleting...");
+    m_deletedBefore = m_readers.deletedSinceRead();
+    if (!startMerge()) startWorker();
     m_progress.showProgressWindow(ProgressBar::progress);
+}
+
+/// False where there is nothing to merge.
+bool Deletion::startMerge() {
+    if (!m_mergeChoice.isAny() || !m_services.planMerge) return false;
+    const DisplayedList& list = m_results.tableDataSource();
+    SongsToMerge songs(list.rows, list.storage);
+    if (songs.songs.empty()) return false;
+    m_phase = Phase::running;
+    Progress& progress = m_progress.progress();
+    progress.total = static_cast<int>(songs.songs.size());
+    progress.beginPhase(0, 100);
+    const MergeServices services = {m_workers.center, m_services.scripts, m_services.log, m_services.cleanup,
+                                    m_services.planMerge};
+    m_workers.queue.add(std::make_unique<MergeProc>(std::move(songs), m_mergeChoice, services));
+    m_progress.setText(ProgressBar::progress, "Merging...");
+    return true;
+}
+
+void Deletion::onMergeFinish(const std::shared_ptr<MergeReport>& report) {
+    m_plan.merge = std::move(*report);
+    startWorker();
+}
+
+/// The library is as it was, and so are the rows.
+void Deletion::onMergeCancel(const std::shared_ptr<MergeReport>& report) {
+    auto notDone = std::make_shared<DeleteReport>();
+    notDone->notBegun = report->notBegun;
+    for (const TrackRecord* const record : m_results.tableDataSource().rows)
+        if (record->checkbox) notDone->outcomes.push_back(outcomeOf(*record));
+    m_report = std::move(notDone);
+    m_phase = Phase::none;
+    m_plan = {};
+    unlockLibrary();
+    m_progress.closeProgressWindow(ProgressBar::progress);
+    m_results.showRowsLeft();
+    if (!m_report->notBegun.empty()) alertNotBegun();
 }
 
 void Deletion::startWorker() {
@@ -129,12 +167,12 @@ void Deletion::startWorker() {
     Progress& progress = m_progress.progress();
     progress.total = m_results.getCheckedCount();
     progress.beginPhase(0, 100);
-    m_deletedBefore = m_readers.deletedSinceRead();
     if (progress.total > 0) m_readers.setDeletedSinceRead(true);
     const DeleteServices services = {m_workers.center, m_services.scripts, m_services.files,
                                      m_services.log,   m_services.cleanup, m_services.tracksOfId};
     m_workers.queue.add(std::make_unique<DeleteProc>(m_results.tableDataSource(), m_deleteFiles, services,
                                                      std::exchange(m_plan, {})));
+    m_progress.setText(ProgressBar::progress, "Deleting...");
 }
 
 void Deletion::cancelButtonClick() {

@@ -7,6 +7,7 @@
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
 #include "delete/FileSurvey.h"
+#include "merge/MergeChoice.h"
 
 #include <QTimer>
 
@@ -31,8 +32,9 @@ struct ControllerViews;
 ///
 /// The confirmation opens at once; what it says of files comes when a survey of them has answered, on a queue
 /// of its own, so that no worker waits for a survey that takes long to stop. The library is locked from the
-/// survey on, until the deletion has ended or was given up. Between the confirmation and
-/// the worker lies a short delay, in which a cancel leaves everything as it was. Main thread.
+/// survey on, until the deletion has ended or was given up. Between the confirmation and the worker lies a
+/// short delay, in which a cancel leaves everything as it was. Where copies that stay are to be given what
+/// others know, a worker of its own does that first. Main thread.
 class Deletion {
   public:
     /// `abandoned` is called from the event loop when one has ended that had no worker yet, whose return
@@ -57,7 +59,7 @@ class Deletion {
     // What users do.
     void deleteButtonClick();
     void delConfCancelButtonClick();
-    void delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles);
+    void delConfOkButtonClick(bool deleteFiles, bool leaveSharedFiles, MergeChoice merge);
     void beginDelete();
     void cancelButtonClick();
     /// For the end of the program.
@@ -65,6 +67,8 @@ class Deletion {
 
     // What workers say.
     void onSurveyDone(const WorkerEvent& event);
+    void onMergeFinish(const std::shared_ptr<MergeReport>& report);
+    void onMergeCancel(const std::shared_ptr<MergeReport>& report);
     void onDeleteFinish(const WorkerEvent& event);
     void onDeleteCancel(const WorkerEvent& event);
 
@@ -74,6 +78,7 @@ class Deletion {
     void startSurvey(const DeleteConfirmationFacts& facts);
     void forgetSurvey();
     void unlockLibrary();
+    bool startMerge();
     void startWorker();
     void end(const WorkerEvent& event);
     void alertNotBegun();
@@ -91,6 +96,7 @@ class Deletion {
 
     Phase m_phase = Phase::none;
     bool m_deleteFiles = false;
+    MergeChoice m_mergeChoice;
     bool m_deletedBefore = false; ///< an earlier deletion, since the library was read
     DeletePlan m_plan;
     std::optional<std::uint64_t> m_pendingSurvey; ///< its serial, while the confirmation waits for its answer

@@ -56,6 +56,20 @@ void EmbeddedCleanup::unlock() {
     m_scripts.withCleanup([](LibraryCleanup& cleanup) { cleanup.unlock(); });
 }
 
+Result<void> EmbeddedCleanup::beginMerge() {
+    if (!m_isEmbedded()) return {};
+    return withPath(m_scripts.withCleanup(
+        [&](LibraryCleanup& cleanup) { return cleanup.beginMerge(m_identity.request); }));
+}
+
+void EmbeddedCleanup::noteMerge(const MergedSong& song) {
+    m_scripts.withCleanup([&](LibraryCleanup& cleanup) { cleanup.noteMerge(song); });
+}
+
+void EmbeddedCleanup::abandonMerge() {
+    m_scripts.withCleanup([](LibraryCleanup& cleanup) { cleanup.abandonMerge(); });
+}
+
 Result<void> EmbeddedCleanup::begin(std::vector<RecordedTrack> tracks, Files files) {
     m_isOn = m_hasBegun = false;
     if (tracks.empty() || !m_isEmbedded()) return {};

@@ -27,6 +27,9 @@ class EmbeddedCleanup final : public Cleanup {
 
     Result<void> lock() override;
     void unlock() override;
+    Result<void> beginMerge() override;
+    void noteMerge(const MergedSong& song) override;
+    void abandonMerge() override;
     Result<void> begin(std::vector<RecordedTrack> tracks, Files files) override;
     bool beginTrack(std::size_t number) override;
     Result<void> finish() override;

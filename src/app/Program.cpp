@@ -6,6 +6,7 @@
 #include "libraryfile/CleanupForesight.h"
 #include "libraryfile/ForeignFile.h"
 #include "libraryfile/LibraryFile.h"
+#include "merge/LibraryMerge.h"
 #include "platform/GivenLibrary.h"
 #include "platform/Log.h"
 #include "platform/Native.h"
@@ -132,6 +133,8 @@ ControllerServices Program::controllerServices() {
         .embeddedLibrary = [this] { return m_scripts.usesEmbedded(); },
         .mapRules = [this] { return m_options.mapRules; },
         .addMapRule = [this](const MapRule& rule) { addMapRule(rule); },
+        .planMerge = [this](const SongsToMerge& songs,
+                            const MergeChoice& choice) { return planMergeOf(songs, choice); },
     };
 }
 
@@ -180,6 +183,13 @@ bool Program::areTracksOfITunes(const std::vector<TrackRecord*>& records) {
     if (!m_scripts.usesEmbedded()) return true;
     const Result<bool> same = m_scripting.hasTracks(records);
     return same && same.value();
+}
+
+/// Of the system's iTunes nobody reads here what is to be merged, so that nothing is.
+Result<MergePlan> Program::planMergeOf(const SongsToMerge& songs, const MergeChoice& choice) {
+    if (!m_scripts.usesEmbedded()) return MergePlan();
+    return m_scripting.withLibrary(
+        [&](LibraryDocument& library) { return planMerge(library, songs, choice); });
 }
 
 /// The system's iTunes is not asked: it gives no ID twice.

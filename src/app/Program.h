@@ -96,6 +96,7 @@ class Program {
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
     std::vector<std::string> tracksOfId(std::string_view pid);
     Result<CleanupRoom> foreseeWriting(const CleanupSize& size);
+    Result<MergePlan> planMergeOf(const SongsToMerge& songs, const MergeChoice& choice);
     Result<LibraryContents> libraryContents();
     Error unreadable(const Error& reason) const;
     std::vector<std::string> otherLibraries() const;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "libraryfile/RecordedCleanup.h"
+#include "libraryfile/RecordedMerge.h"
 #include "platform/Result.h"
 #include "platform/Trash.h"
 
@@ -46,6 +47,14 @@ class Cleanup {
     virtual Result<void> lock() { return {}; }
     /// Ends that where nothing was begun.
     virtual void unlock() {}
+
+    /// Begins what comes before the deletion: from now on texts give copies of songs what others know, and
+    /// nothing of it is written but with the deletions. An error where that cannot be.
+    virtual Result<void> beginMerge() { return {}; }
+    /// The texts about that song have run.
+    virtual void noteMerge(const MergedSong& /*song*/) {}
+    /// Takes all of it back, where no deletion is to follow.
+    virtual void abandonMerge() {}
 
     /// Takes the tracks over. On an error nothing must be deleted.
     // NOLINTNEXTLINE(performance-unnecessary-value-param): those that write a record move them

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "delete/MergeProc.h"
 #include "delete/SharedIds.h"
 #include "library/DisplayedList.h"
 #include "library/TrackRecord.h"
@@ -67,6 +68,8 @@ struct DeletePlan {
     /// Groups of which no copy is left if files go, too, and those of which none is if shared ones do.
     std::unordered_set<std::int32_t> lostSongs;
     std::unordered_set<std::int32_t> songsLostWithShared;
+    /// What the copies that stay were given before.
+    MergeReport merge;
 
     /// Lets shared files go, too, as somebody asked who knows their number; not where that is unknown.
     void giveUpSharedFiles();

@@ -74,6 +74,9 @@ DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFi
         if (!record->checkbox) continue;
         DeleteOutcome& outcome = report.outcomes.emplace_back(outcomeOf(*record));
         predictTrack(*record, ids, outcome);
+        const auto given = plan.merge.given.find(record);
+        if (given != plan.merge.given.end() && outcome.track == DeleteOutcome::Track::deleted)
+            outcome.merged = given->second;
         if (!isDelFile) continue;
         if (outcome.track == DeleteOutcome::Track::deleted) {
             predictFile(*record, plan, staying, going, outcome);
@@ -81,6 +84,7 @@ DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFi
             predictKeptFile(*record, plan, outcome);
         }
     }
+    report.merge = plan.merge.counts;
     return report;
 }
 

@@ -48,6 +48,7 @@ DeleteProc::DeleteProc(DisplayedList& list, bool isDelFile, DeleteServices servi
     , m_isDelFile(isDelFile)
     , m_services(services)
     , m_keptSongs(std::move(plan.keptSongs))
+    , m_merge(std::move(plan.merge))
     , m_fileDeletion(services.scripts, services.files, std::move(plan)) {}
 
 void DeleteProc::main() {
@@ -102,8 +103,11 @@ void DeleteProc::finish() {
         if (outcome.track != DeleteOutcome::Track::deleted || !m_services.cleanup.hasTrack(number)) continue;
         outcome.track = DeleteOutcome::Track::failed;
         outcome.dealtWith = false;
+        outcome.merged.reset();
         outcome.addReason(written ? "the library still has it" : "the library was not written");
     }
+    m_report->merge = m_merge.counts;
+    m_report->countMerge();
     m_fileDeletion.settle(m_report->outcomes, m_services.cleanup);
     m_report->notes = m_services.cleanup.traces().notes;
     noteNotAttempted();
@@ -162,6 +166,8 @@ void DeleteProc::deleteMarked(TrackRecord& record) {
 
 /// By what is known only now that its turn has come.
 std::string DeleteProc::reasonToKeep(const TrackRecord& record) {
+    if (const auto failed = m_merge.failed.find(&record); failed != m_merge.failed.end())
+        return failed->second;
     std::string reason = m_sharedIds->reasonToKeep(record);
     if (reason.empty() && !m_stayingCopies->isLeftOf(record)) reason = lastCopyReason;
     return reason;
@@ -180,6 +186,8 @@ void DeleteProc::deleteTrack(const TrackRecord& record, DeleteOutcome& outcome) 
     if (deleted && !obstacle) {
         outcome.track = DeleteOutcome::Track::deleted;
         outcome.dealtWith = true;
+        if (const auto given = m_merge.given.find(&record); given != m_merge.given.end())
+            outcome.merged = given->second;
         return;
     }
     outcome.track = DeleteOutcome::Track::failed;

@@ -81,6 +81,7 @@ class DeleteProc final : public Operation {
     std::unordered_set<std::int32_t> m_keptSongs;
     std::optional<SharedIds> m_sharedIds; // both of the rows as they are when it begins
     std::optional<StayingCopies> m_stayingCopies;
+    MergeReport m_merge;
     FileDeletion m_fileDeletion;
     std::shared_ptr<DeleteReport> m_report = std::make_shared<DeleteReport>();
 };

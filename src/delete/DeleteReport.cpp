@@ -60,6 +60,19 @@ bool DeleteReport::allDealtWith() const {
                        [](const DeleteOutcome& outcome) { return outcome.dealtWith; });
 }
 
+void DeleteReport::countMerge() {
+    MergeCounts counts;
+    counts.keepSeveral = merge.keepSeveral;
+    counts.unclear = merge.unclear;
+    for (const DeleteOutcome& outcome : outcomes) {
+        if (!outcome.merged) continue;
+        counts.places += outcome.merged->places;
+        counts.plays += outcome.merged->plays;
+    }
+    const bool isAll = counts.places == merge.places && counts.plays == merge.plays;
+    if (!isAll) merge = counts;
+}
+
 DeleteOutcome outcomeOf(const TrackRecord& record) {
     DeleteOutcome outcome;
     outcome.pid = record.pid.string();
@@ -74,6 +87,9 @@ std::string outcomeText(const DeleteOutcome& outcome, Tense tense) {
     std::string text = isDone ? trackWord(outcome.track) : expectation(outcome.track);
     if (outcome.file != DeleteOutcome::File::notAsked)
         text += ", file " + (isDone ? fileWord(outcome.file) : expectation(outcome.file));
+    if (outcome.merged)
+        if (const std::string given = wordsOf(*outcome.merged); !given.empty())
+            text += ", " + given + (isDone ? " given to " : " would be given to ") + outcome.merged->keptId;
     if (!outcome.reason.empty()) text += ": " + outcome.reason;
     return text;
 }

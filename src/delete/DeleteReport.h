@@ -2,6 +2,7 @@
 #pragma once
 
 #include "library/TrackRecord.h"
+#include "merge/MergeWords.h"
 #include "platform/Trash.h"
 
 #include <optional>
@@ -22,6 +23,7 @@ struct DeleteOutcome {
     std::string name;
     std::string artist;
     std::string location;
+    std::optional<MergedCopy> merged; ///< what it gave to the copy that stays
     std::optional<TrashedFile> trash; ///< where the file lies now, if it is in the Trash and that is known
 
     /// Whether what was asked for was done. A file that was left because a track that is not marked uses it
@@ -38,11 +40,14 @@ struct DeleteReport {
     std::string backup; ///< path of the library as it was; "" where there is none
     std::string record; ///< path of the record of this deletion; "" where there is none
     std::vector<DeleteOutcome> outcomes;
-    std::string notBegun;           ///< why no track was touched; "" where the deletion began
     std::vector<std::string> notes; ///< sentences; what could not be done beside the tracks
+    MergeCounts merge = {}; ///< what copies that stay were given, and songs that were left as they were
+    std::string notBegun;   ///< why no track was touched; "" where the deletion began
     std::string notWritten; ///< why the deletion ended early, its last part undone; "" where it did not
 
     bool allDealtWith() const;
+    /// Counts what was given once more, where some tracks stay after all.
+    void countMerge();
 };
 
 /// The outcome of a track that nobody has dealt with yet.

@@ -236,6 +236,7 @@ Result<void> EmbeddedScripting::flushLocked() {
         return {};
     }
     if (m_cleanup.isOn()) return m_cleanup.write(*document);
+    if (m_cleanup.isMerging()) m_cleanup.abandonMerge(); // Nothing of it is written without its deletions.
     return writePending(*document);
 }
 
@@ -270,7 +271,9 @@ void EmbeddedScripting::writeWhenDue(const std::stop_token& stop) {
     std::unique_lock lock(m_lock);
     while (!stop.stop_requested()) {
         const auto due = m_schedule.due();
-        if (due && *due <= WriteSchedule::Clock::now()) {
+        if (due && m_cleanup.isMerging()) {
+            m_schedule.written(); // It is written as a whole, when it is finished.
+        } else if (due && *due <= WriteSchedule::Clock::now()) {
             static_cast<void>(flushLocked()); // Kept as the last write error, and logged.
         } else if (due) {
             m_scheduleChanged.wait_until(lock, stop, *due, [] { return false; });

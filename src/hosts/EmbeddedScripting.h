@@ -18,6 +18,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace songsweep {
@@ -101,6 +102,15 @@ class EmbeddedScripting final : public AppleScript {
     std::size_t pendingDeletions() const;
     /// Why the last write failed, whoever asked for it; nothing after one that succeeded.
     std::optional<Error> lastWriteError() const;
+
+    /// Lets something be done with the library, between two texts; an error where it cannot be read.
+    template <class Act>
+    auto withLibrary(Act act) -> decltype(act(std::declval<LibraryDocument&>())) {
+        const std::lock_guard lock(m_lock);
+        const auto document = currentDocument();
+        if (!document) return document.error();
+        return act(*document.value());
+    }
 
     /// Lets something be done with the frame of a clean-up, between two texts.
     template <class Act>

@@ -5,6 +5,7 @@
 #include "scan/PlaylistRewriting.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -51,19 +52,79 @@ Result<void> LibraryCleanup::lock(const CleanupLock::Request& request) {
 }
 
 void LibraryCleanup::unlock() {
-    if (!isOn() && m_library.opened() != nullptr) m_library.opened()->endCleanup();
+    if (!isOn() && !m_isMerging && m_library.opened() != nullptr) m_library.opened()->endCleanup();
 }
 
 Result<void> LibraryCleanup::begin(const CleanupLock::Request& request, CleanupPlan plan) {
+    if (m_merges.empty() && m_library.opened() != nullptr) forgetMerges(*m_library.opened());
+    if (m_library.opened() != nullptr && !m_isMerging)
+        if (auto written = m_write(*m_library.opened()); !written) return written;
+    m_library.beginScript();
+    const auto document = m_library.document();
+    if (!document) return document.error();
+    LibraryDocument& library = *document.value();
+    auto begun = library.beginCleanup(request);
+    if (begun && library.lostChanges()) begun = *library.lostChanges();
+    if (begun) begun = beginRecord(library, std::move(plan));
+    if (!begun) {
+        library.abandonCleanup();
+        forgetMerges(library);
+    }
+    return begun;
+}
+
+Result<void> LibraryCleanup::beginMerge(const CleanupLock::Request& request) {
     if (m_library.opened() != nullptr)
         if (auto written = m_write(*m_library.opened()); !written) return written;
     m_library.beginScript();
     const auto document = m_library.document();
     if (!document) return document.error();
-    if (auto begun = document.value()->beginCleanup(request); !begun) return begun;
-    auto recorded = beginRecord(*document.value(), std::move(plan));
-    if (!recorded) document.value()->abandonCleanup();
-    return recorded;
+    auto bound = document.value()->bindChangesToVersion(request);
+    m_isMerging = bound.hasValue();
+    m_merges.clear();
+    return bound;
+}
+
+void LibraryCleanup::noteMerge(const MergedSong& song) {
+    if (m_library.opened() == nullptr) return;
+    LibraryDocument& library = *m_library.opened();
+    const auto kept = library.tracksWithPersistentId(song.keptId);
+    if (kept.empty()) return; // Another program changed the library, which the next step finds.
+    PendingMerge merge;
+    merge.kept = kept.front();
+    merge.record = {song.keptId, library.trackId(merge.kept), {}, song.places, {}};
+    for (const MergedSong::Removed& removed : song.removed) {
+        std::ranges::copy(library.tracksWithPersistentId(removed.persistentId),
+                          std::back_inserter(merge.removed));
+        merge.record.removed.push_back(removed.number);
+    }
+    m_merges.push_back(std::move(merge));
+}
+
+void LibraryCleanup::abandonMerge() {
+    if (m_library.opened() == nullptr) return;
+    m_library.opened()->endCleanup();
+    forgetMerges(*m_library.opened());
+}
+
+void LibraryCleanup::forgetMerges(LibraryDocument& library) {
+    if (m_isMerging) library.rollback();
+    m_isMerging = false;
+    m_merges.clear();
+}
+
+/// Where one of its copies stays after all, the others stay with it, and the kept one is as it was.
+void LibraryCleanup::withdrawIncompleteMerges(LibraryDocument& library) {
+    m_isMerging = false;
+    std::vector<LibraryDocument::TrackPosition> changed;
+    std::vector<LibraryDocument::TrackPosition> deleted;
+    for (const PendingMerge& merge : std::exchange(m_merges, {})) {
+        if (std::ranges::all_of(merge.removed, [&](auto track) { return library.isDeleted(track); }))
+            continue;
+        changed.push_back(merge.kept);
+        deleted.insert(deleted.end(), merge.removed.begin(), merge.removed.end());
+    }
+    if (!changed.empty()) library.withdraw(changed, deleted);
 }
 
 Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan plan) {
@@ -79,6 +140,10 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     for (RecordedTrack& track : plan.tracks) {
         track.trackId = ids.of(track);
         record.value().plan(track);
+    }
+    if (auto noted = recordMerges(library, record.value()); !noted) {
+        record.value().discard();
+        return noted;
     }
     if (auto planned = record.value().planned(); !planned) {
         record.value().discard();
@@ -96,6 +161,16 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     m_hasActed = false;
     m_notes.clear();
     m_error.reset();
+    return {};
+}
+
+Result<void> LibraryCleanup::recordMerges(LibraryDocument& library, CleanupRecord& record) {
+    for (PendingMerge& merge : m_merges) {
+        auto values = library.changedValues(merge.kept);
+        if (!values) return values.error();
+        merge.record.values = std::move(values).value();
+        record.merge(merge.record);
+    }
     return {};
 }
 
@@ -119,6 +194,7 @@ Result<void> LibraryCleanup::write(LibraryDocument& library) {
         library.rollback(); // What was told meanwhile is not written either.
         return *m_error;
     }
+    if (m_isMerging && !library.lostChanges()) withdrawIncompleteMerges(library);
     auto written = writeLibrary(library);
     if (written) written = moveFiles(library);
     if (!written) m_error = written.error();
@@ -221,6 +297,8 @@ bool LibraryCleanup::hasTrack(std::size_t number) const {
 Result<void> LibraryCleanup::end(std::span<const RecordedOutcome> outcomes, RecordEnd::How how,
                                  const std::string& reason) {
     if (!isOn()) return {};
+    m_isMerging = false;
+    m_merges.clear();
     if (!m_hasActed && !m_error) {
         leaveNothing();
         m_plan.clear();

@@ -6,6 +6,7 @@
 #include "libraryfile/CleanupLock.h"
 #include "libraryfile/CleanupRecord.h"
 #include "libraryfile/FileStampHash.h"
+#include "libraryfile/LibraryDocument.h"
 
 #include <functional>
 #include <optional>
@@ -17,7 +18,6 @@
 namespace songsweep {
 
 class EmbeddedLibrary;
-class LibraryDocument;
 
 /// What a clean-up adds to the scripts over a library file: one lock from its beginning to its end, a record
 /// that is ahead of each step, files that wait until their tracks are written out of the library, and an end
@@ -44,6 +44,16 @@ class LibraryCleanup {
     /// Takes as long as a copy of the library.
     Result<void> begin(const CleanupLock::Request& request, CleanupPlan plan);
     bool isOn() const { return m_record.has_value(); }
+
+    /// Locks the library for a clean-up that has yet to begin, before which copies of songs are given what
+    /// others know. From then on nothing is written before the clean-up finishes; what is changed goes with
+    /// its deletions, or stays away with them.
+    Result<void> beginMerge(const CleanupLock::Request& request);
+    bool isMerging() const { return m_isMerging; }
+    /// The texts about a song have run.
+    void noteMerge(const MergedSong& song);
+    /// Takes back all that was merged, where no clean-up is to follow.
+    void abandonMerge();
 
     /// The next texts are about the track of that number in the plan. False where a write has failed: then
     /// nothing is written any more and no further track must be begun.
@@ -79,12 +89,22 @@ class LibraryCleanup {
   private:
     using PlannedTracks = std::unordered_map<FileStamp, std::vector<std::size_t>, FileStampHash>;
 
+    /// A song that was merged, by places that are good while the library is the same.
+    struct PendingMerge {
+        LibraryDocument::TrackPosition kept = 0;
+        std::vector<LibraryDocument::TrackPosition> removed;
+        RecordedMerge record;
+    };
+
+    void forgetMerges(LibraryDocument& library);
+    void withdrawIncompleteMerges(LibraryDocument& library);
     Result<void> beginRecord(LibraryDocument& library, CleanupPlan plan);
     Result<void> writeLibrary(LibraryDocument& library);
     void noteBackup(const LibraryDocument& library);
     void leaveNothing();
     Result<void> moveFiles(LibraryDocument& library);
     void rewritePlaylists();
+    Result<void> recordMerges(LibraryDocument& library, CleanupRecord& record);
     void noteUsers();
     void noteWritten(LibraryDocument& library);
     void settle(const HeldFile& file, const Result<TrashedFile>& fate);
@@ -95,6 +115,8 @@ class LibraryCleanup {
     EmbeddedLibrary& m_library;
     Trash& m_trash;
     Write m_write;
+    bool m_isMerging = false;
+    std::vector<PendingMerge> m_merges;
     std::optional<CleanupRecord> m_record; ///< while the clean-up is on
     std::string m_backup;
     FileStamp m_version; ///< of the library that the backup is a copy of

@@ -33,6 +33,9 @@ std::string_view text(EventName name) {
         "interruptionFound",
         "cleanupFinished",
         "libraryRead",
+        "mergeAddCount",
+        "mergeFinish",
+        "mergeCancel",
     };
     return texts.at(static_cast<std::size_t>(name));
 }

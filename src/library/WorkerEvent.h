@@ -15,6 +15,7 @@ struct DeleteReport;
 struct FinishAnswer;
 struct InterruptedCleanup;
 struct LibraryAnswer;
+struct MergeReport;
 struct ReadError;
 struct RestoreAnswer;
 struct SurveyAnswer;
@@ -50,9 +51,12 @@ enum class EventName {
     interruptionFound,
     cleanupFinished,
     libraryRead,
+    mergeAddCount,
+    mergeFinish,
+    mergeCancel,
 };
 
-inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::libraryRead) + 1;
+inline constexpr std::size_t eventCount = static_cast<std::size_t>(EventName::mergeCancel) + 1;
 
 /// The event's text, as the log shows it ("addFinish").
 std::string_view text(EventName name);
@@ -64,11 +68,12 @@ struct ProgressUnits {
 
 /// What an event brings: nothing, a record, work units, the library file's attributes, or the result of a
 /// worker, which is the receiver's from then on.
-using WorkerEventPayload = std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes,
-                                        std::shared_ptr<ReadError>, std::shared_ptr<SurveyAnswer>,
-                                        std::shared_ptr<DeleteReport>, std::shared_ptr<CleanupListing>,
-                                        std::shared_ptr<RestoreAnswer>, std::shared_ptr<InterruptedCleanup>,
-                                        std::shared_ptr<FinishAnswer>, std::shared_ptr<LibraryAnswer>>;
+using WorkerEventPayload =
+    std::variant<std::monostate, TrackRecord*, ProgressUnits, FileAttributes, std::shared_ptr<ReadError>,
+                 std::shared_ptr<SurveyAnswer>, std::shared_ptr<DeleteReport>,
+                 std::shared_ptr<CleanupListing>, std::shared_ptr<RestoreAnswer>,
+                 std::shared_ptr<InterruptedCleanup>, std::shared_ptr<FinishAnswer>,
+                 std::shared_ptr<LibraryAnswer>, std::shared_ptr<MergeReport>>;
 
 /// One event on its way from a worker to the main thread. A value; the record stays its storage's.
 struct WorkerEvent {
@@ -81,7 +86,8 @@ struct WorkerEvent {
 /// for it: it rides along with the next one.
 inline bool isCount(const WorkerEvent& event) {
     return event.name == EventName::progress || event.name == EventName::deleteAddCount ||
-           event.name == EventName::step1 || event.name == EventName::step2;
+           event.name == EventName::mergeAddCount || event.name == EventName::step1 ||
+           event.name == EventName::step2;
 }
 
 } // namespace songsweep
