@@ -135,6 +135,12 @@ void addDeleteOptions(CLI::App& command, DeleteOptions& options, Raw& raw) {
     command.add_flag("--yes", options.yes, "Delete")->excludes(dryRun);
     command.add_flag("--shared-files", options.sharedFiles, "Trash files that tracks that stay use too");
     command.add_flag("--allow-all-copies", options.allowAllCopies, "Let a group lose every copy");
+    command.add_flag("--keep-places,!--no-keep-places", options.merge.places,
+                     "Give the copy that stays the others' places in playlists (default: on)");
+    command.add_flag("--keep-history,!--no-keep-history", options.merge.history,
+                     "Add their plays, ratings and dates to the copy that stays (default: on)");
+    command.add_flag("--fill-in", options.merge.fillIns,
+                     "Fill in what the copy that stays lacks: genre, year, comments, composer, numbers");
 }
 
 void addRestoreOptions(CLI::App& command, RestoreOptions& options, Raw& raw) {

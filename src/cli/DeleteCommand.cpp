@@ -8,6 +8,7 @@
 #include "delete/TrackFacts.h"
 #include "dupes/RecordingGroups.h"
 #include "platform/ReasonWithPath.h"
+#include "scan/FolderLibrary.h"
 
 #include <algorithm>
 
@@ -53,15 +54,27 @@ std::optional<DeletePlan> planOf(LibrarySession& session, const DeleteOptions& o
     return plan;
 }
 
+/// What the copies that stay would be given.
+Result<void> foreseeMerge(LibrarySession& session, const DeleteOptions& options, DeletePlan& plan) {
+    if (!options.merge.isAny()) return {};
+    const SongsToMerge songs(session.controller().tableDataSource().rows);
+    const auto merge = session.program().controllerServices().planMerge(songs, options.merge);
+    if (!merge) return merge.error();
+    plan.merge = foreseenMerge(merge.value());
+    return {};
+}
+
 ExitCode predict(LibrarySession& session, const DeleteOptions& options, Output& output) {
     DeleteConfirmationFacts facts;
-    const auto plan = planOf(session, options, facts);
+    auto plan = planOf(session, options, facts);
     if (!plan) return ExitCode::interrupted;
     if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
     const SurveyedRows rows(session.controller().tableDataSource().rows);
     const auto room = session.program().controllerServices().libraryForesight(
         options.files ? rows.sizeWithFiles() : rows.sizeWithoutFiles());
     const bool begins = room || session.controller().getCheckedCount() == 0;
+    if (const auto foreseen = foreseeMerge(session, options, *plan); !foreseen)
+        return fail(reasonWithPath(options.library, foreseen.error().message));
     const DeleteReport report =
         begins ? predictedReport(session.controller().tableDataSource().rows, options.files, *plan,
                                  session.program().controllerServices().tracksOfId)
@@ -87,7 +100,7 @@ bool allAttempted(const DeleteReport& report) {
 ExitCode carryOut(LibrarySession& session, const DeleteOptions& options, Output& output) {
     const DeleteConfirmationFacts& facts = session.askToDelete(options.files);
     if (const auto problem = refuseToLoseSongs(options, facts)) return *problem;
-    const bool completed = session.deleteMarked(options.files, !options.sharedFiles);
+    const bool completed = session.deleteMarked(options.files, !options.sharedFiles, options.merge);
     const Result<void> written = session.writeLibrary();
     const DeleteReport report = reportOf(session.controller());
     const auto problem = writeReportTo(output, options, report);
@@ -107,9 +120,16 @@ std::optional<ExitCode> mark(LibrarySession& session, const DeleteOptions& optio
     return markRecordings(session, options, recordings);
 }
 
+/// A folder's playlists are files, which the next look at the folder reads again.
+DeleteOptions withoutPlacesOfFolders(DeleteOptions options) {
+    if (isFolder(options.library)) options.merge.places = false;
+    return options;
+}
+
 } // namespace
 
-ExitCode runDelete(const DeleteOptions& options, const std::string& version) {
+ExitCode runDelete(const DeleteOptions& given, const std::string& version) {
+    const DeleteOptions options = withoutPlacesOfFolders(given);
     using Purpose = LibrarySession::Purpose;
     LibrarySession session(options, version, options.dryRun ? Purpose::look : Purpose::cleanUp);
     if (const auto problem = session.search()) return *problem;

@@ -63,6 +63,7 @@ void writeTrack(Output& output, const SearchReport& report, std::size_t row) {
     if (!report.differences.empty() && !report.differences[row].empty())
         track["differences"] = report.differences[row];
     if (report.hasSounds) track["sound"] = report.rows.at(row)->sound.set;
+    if (!report.playlists.empty()) track["playlists"] = report.playlists[row];
     if (report.reason) track["reason"] = report.reason(static_cast<int>(row));
     output.write(dump(track));
 }

@@ -10,6 +10,7 @@
 #include "dupes/SmallDifference.h"
 #include "library/CaseFolding.h"
 #include "library/Trim.h"
+#include "merge/CopyPlaylists.h"
 #include "platform/Native.h"
 #include "restore/InterruptedCleanup.h"
 #include "scan/ScanProgress.h"
@@ -151,7 +152,7 @@ const DeleteConfirmationFacts& LibrarySession::askToDelete(bool deleteFiles) {
     return m_view.deleteFacts();
 }
 
-bool LibrarySession::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
+bool LibrarySession::deleteMarked(bool deleteFiles, bool leaveSharedFiles, MergeChoice merge) {
     if (m_controller->getCheckedCount() == 0) return true;
     m_interrupts.setLastAct([this] { endDeletionAtOnce(); });
     // Ctrl-C may have come while tracks were marked, so late that nobody was told yet.
@@ -159,7 +160,7 @@ bool LibrarySession::deleteMarked(bool deleteFiles, bool leaveSharedFiles) {
     if (m_interrupted) {
         m_controller->delConfCancelButtonClick();
     } else {
-        m_controller->delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+        m_controller->delConfOkButtonClick(deleteFiles, leaveSharedFiles, merge);
         runUntilIdle();
     }
     return !m_interrupted;
@@ -192,6 +193,17 @@ std::vector<std::string> LibrarySession::notes() const {
     return all;
 }
 
+/// For the format alone that has room for them.
+std::vector<std::vector<std::string>> LibrarySession::playlistsOfRows() {
+    using Playlists = std::vector<std::vector<std::string>>;
+    if (m_options.format != OutputFormat::json) return {};
+    const auto playlists =
+        m_program->scripting().withLibrary([&](LibraryDocument& library) -> Result<Playlists> {
+            return playlistsOfCopies(library, m_controller->tableDataSource().rows);
+        });
+    return playlists ? playlists.value() : Playlists();
+}
+
 SearchReport LibrarySession::report() {
     const std::vector<TrackRecord*>& rows = m_controller->tableDataSource().rows;
     return {.tracks = m_trackCount,
@@ -201,7 +213,8 @@ SearchReport LibrarySession::report() {
             .rows = rows,
             .differences = m_options.parameters.issimilar ? smallDifferencesOf(rows, m_options.parameters)
                                                           : std::vector<std::vector<std::string>>(),
-            .hasSounds = m_options.sound};
+            .hasSounds = m_options.sound,
+            .playlists = playlistsOfRows()};
 }
 
 std::optional<ExitCode> writeResult(const FindOptions& options, const SearchReport& report,

@@ -36,7 +36,7 @@ class LibrarySession {
     const DeleteConfirmationFacts& askToDelete(bool deleteFiles);
 
     /// Says yes to it, and deletes them. False when it was interrupted. Write the library afterwards.
-    bool deleteMarked(bool deleteFiles, bool leaveSharedFiles);
+    bool deleteMarked(bool deleteFiles, bool leaveSharedFiles, MergeChoice merge);
 
     /// Why the deletion did not begin; nothing where it did.
     const std::optional<std::string>& deletionProblem() const { return m_view.deletionProblem(); }
@@ -62,6 +62,7 @@ class LibrarySession {
     std::optional<std::string> prepare();
     std::optional<std::string> lockLibrary();
     std::optional<std::string> choosePlaylist();
+    std::vector<std::vector<std::string>> playlistsOfRows();
     void runUntilIdle();
     void waitForSurvey();
     void interrupt();

@@ -3,6 +3,7 @@
 
 #include "app/MapRule.h"
 #include "library/SearchParameters.h"
+#include "merge/MergeChoice.h"
 #include "platform/PathMap.h"
 
 #include <optional>
@@ -51,6 +52,7 @@ struct DeleteOptions : MarkOptions {
     bool yes = false;
     bool sharedFiles = false;    ///< trash files that tracks that stay use too
     bool allowAllCopies = false; ///< a group may lose every copy
+    MergeChoice merge = {.places = true, .history = true, .fillIns = false};
 };
 
 /// The options of `restore`: the list, or one clean-up and whether it is really taken back.

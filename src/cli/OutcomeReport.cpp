@@ -36,6 +36,15 @@ std::string summary(const DeleteReport& report, bool dryRun) {
     return line;
 }
 
+/// "12 places in 5 playlists, 31 plays given to copies that stay", and what was left; a line each.
+std::string mergeLines(const MergeCounts& counts, bool dryRun) {
+    std::string lines;
+    if (const std::string given = wordsOf(counts); !given.empty())
+        lines += given + (dryRun ? " would be given" : " given") + " to copies that stay\n";
+    if (const std::string left = leftWords(counts); !left.empty()) lines += left + "\n";
+    return lines;
+}
+
 void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
     for (const DeleteOutcome& outcome : report.outcomes) {
         const std::string line = outcomeLine(outcome, dryRun ? Tense::conditional : Tense::past);
@@ -43,7 +52,7 @@ void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
     }
     for (const std::string& note : report.notes)
         output.write("Note: " + (output.isTerminal() ? terminalLine(note) : note) + "\n");
-    output.write(summary(report, dryRun) + "\n");
+    output.write(summary(report, dryRun) + "\n" + mergeLines(report.merge, dryRun));
     for (const auto& [title, path] :
          {std::pair("Backup: ", report.backup), std::pair("Record: ", report.record)})
         if (!path.empty()) output.write(title + (output.isTerminal() ? terminalLine(path) : path) + "\n");
@@ -62,7 +71,18 @@ nlohmann::ordered_json jsonOutcome(const DeleteOutcome& outcome) {
     object["reason"] = outcome.reason;
     object["dealtwith"] = outcome.dealtWith;
     if (outcome.trash) object["trash"] = outcome.trash->path();
+    if (outcome.merged)
+        object["merged"] = {{"to", outcome.merged->keptId},
+                            {"places", outcome.merged->places},
+                            {"plays", outcome.merged->plays},
+                            {"values", outcome.merged->values}};
     return object;
+}
+
+nlohmann::ordered_json jsonMerge(const MergeCounts& counts) {
+    return {{"places", counts.places},   {"playlists", counts.playlists}, {"plays", counts.plays},
+            {"ratings", counts.ratings}, {"values", counts.fillIns},      {"keepseveral", counts.keepSeveral},
+            {"unclear", counts.unclear}};
 }
 
 void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
@@ -71,6 +91,7 @@ void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
     if (!report.backup.empty()) whole["backup"] = report.backup;
     if (!report.record.empty()) whole["record"] = report.record;
     if (!report.notes.empty()) whole["notes"] = report.notes;
+    if (report.merge != MergeCounts()) whole["merge"] = jsonMerge(report.merge);
     whole["outcomes"] = nlohmann::ordered_json::array();
     for (const DeleteOutcome& outcome : report.outcomes) {
         whole["outcomes"].push_back(jsonOutcome(outcome));
@@ -79,14 +100,17 @@ void writeJsonOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
 }
 
 void writeCsvOutcomes(Output& output, const DeleteReport& report, bool dryRun) {
-    output.write("pid,name,artist,location,track,file,reason,dealtwith,dryrun,trash,backup,record\r\n");
+    output.write("pid,name,artist,location,track,file,reason,dealtwith,dryrun,trash,backup,record,mergedto,"
+                 "merged\r\n");
     for (const DeleteOutcome& outcome : report.outcomes) {
         output.write(csvField(outcome.pid) + "," + csvField(outcome.name) + "," + csvField(outcome.artist) +
                      "," + csvField(outcome.location) + "," + trackWord(outcome.track) + "," +
                      fileWord(outcome.file) + "," + csvField(outcome.reason) + "," +
                      csvTruth(outcome.dealtWith) + "," + csvTruth(dryRun) + "," +
                      csvField(outcome.trash ? outcome.trash->path() : std::string()) + "," +
-                     csvField(report.backup) + "," + csvField(report.record) + "\r\n");
+                     csvField(report.backup) + "," + csvField(report.record) + "," +
+                     csvField(outcome.merged ? outcome.merged->keptId : std::string()) + "," +
+                     csvField(outcome.merged ? wordsOf(*outcome.merged) : std::string()) + "\r\n");
     }
 }
 

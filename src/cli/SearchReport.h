@@ -25,6 +25,8 @@ struct SearchReport {
     /// By row, how a copy differs from the plainest of its group; empty where small differences count.
     std::vector<std::vector<std::string>> differences = {};
     bool hasSounds = false; ///< whether sounds were compared
+    /// By row, the playlists that hold the copy; empty where nobody asked.
+    std::vector<std::vector<std::string>> playlists = {};
 };
 
 /// Writes the report in a format.

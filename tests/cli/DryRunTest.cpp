@@ -102,8 +102,8 @@ TEST_F(DryRun, SpeaksOfWhatWouldBe) {
 TEST_F(DryRun, SaysSoInEveryFormat) {
     EXPECT_TRUE(json::parse(foretell("json").output).at("dryrun"));
     const std::string csv = foretell("csv").output;
-    EXPECT_THAT(csv, HasSubstr("dealtwith,dryrun,trash,backup,record\r\n"));
-    EXPECT_THAT(csv, HasSubstr("deleted,trashed,,true,true,,,\r\n"));
+    EXPECT_THAT(csv, HasSubstr("dealtwith,dryrun,trash,backup,record,mergedto,merged\r\n"));
+    EXPECT_THAT(csv, HasSubstr("deleted,trashed,,true,true,,,,,\r\n"));
     EXPECT_THAT(command("delete", {"--rule", "highest-bitrate", "--yes", "--format", "csv"}).output,
                 HasSubstr("deleted,not asked,,true,false,,"));
 }

@@ -158,7 +158,8 @@ TEST_F(Find, GivesExactlyTheKeysOfARecordInJson) {
                                    {"hasartwork", false},
                                    {"isfile", true},
                                    {"isdead", false},
-                                   {"trackid", "1"}};
+                                   {"trackid", "1"},
+                                   {"playlists", {"Few"}}};
     EXPECT_EQ(track, expected) << track.dump(1);
 }
 

@@ -302,7 +302,7 @@ TEST_F(MarkAndDelete, TellsOutcomesInJsonAndCsv) {
     EXPECT_EQ(outcomes.at("outcomes").at(0).at("pid"), "0000000000000001");
     EXPECT_THAT(command("delete", {"--rule", "highest-bitrate", "--dry-run", "--format", "csv"}).output,
                 ::testing::StartsWith("pid,name,artist,location,track,file,reason,dealtwith,dryrun,trash,"
-                                      "backup,record\r\n"));
+                                      "backup,record,mergedto,merged\r\n"));
 }
 
 } // namespace
