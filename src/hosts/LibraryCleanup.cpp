@@ -2,6 +2,7 @@
 #include "hosts/LibraryCleanup.h"
 
 #include "hosts/EmbeddedLibrary.h"
+#include "libraryfile/LibraryReplacement.h"
 #include "scan/PlaylistRewriting.h"
 
 #include <algorithm>
@@ -133,6 +134,8 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     heading.tracks = plan.tracks.size();
     heading.withFiles = plan.withFiles;
     const std::string backup = heading.backup;
+    m_notes.clear();
+    if (heading.isNarrowed) m_notes.push_back(noteOfNarrowness(heading.library));
     m_version = heading.version;
     auto record = CleanupRecord::create(std::move(heading));
     if (!record) return record.error();
@@ -159,7 +162,6 @@ Result<void> LibraryCleanup::beginRecord(LibraryDocument& library, CleanupPlan p
     m_firstUnwritten = 0;
     m_track = 0;
     m_hasActed = false;
-    m_notes.clear();
     m_error.reset();
     return {};
 }
@@ -285,7 +287,8 @@ void LibraryCleanup::rewritePlaylists() {
     std::vector<std::string> paths;
     for (std::size_t track = 0; track < m_plan.size(); ++track)
         if (!m_plan[track].path.empty() && !hasTrack(track)) paths.push_back(m_plan[track].path);
-    m_notes = songsweep::rewritePlaylists(m_library.path(), paths, *m_record);
+    for (std::string& note : songsweep::rewritePlaylists(m_library.path(), paths, *m_record))
+        m_notes.push_back(std::move(note));
 }
 
 bool LibraryCleanup::hasTrack(std::size_t number) const {

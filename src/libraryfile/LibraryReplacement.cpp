@@ -54,8 +54,8 @@ Result<void> LibraryReplacement::tryWith(TemporaryFile& copy, const FileStamp& e
     if (!own) return own.error();
     const auto way = exchange(copy, own.value(), expected);
     if (!way) return way.error();
-    // A plain rename cannot be undone; the exchange was refused only after all else had been checked.
-    if (way.value() == Way::notKnown) return {};
+    // That of the library could not be undone; the exchange was refused only after all else had been checked.
+    if (way.value() == Way::notKnown) return tryRename();
     return giveBack(copy, own.value(), expected);
 }
 
@@ -90,6 +90,18 @@ Result<LibraryReplacement::Way> LibraryReplacement::exchange(TemporaryFile& file
     if (cameOut && cameOut.value() == expected) return Way::exchanged;
     if (auto back = giveBack(file, own, expected); !back) return back.error();
     return isChanged();
+}
+
+/// Some network shares cannot rename, or not over a file that is there.
+Result<void> LibraryReplacement::tryRename() const {
+    auto one = TemporaryFile::createBeside(m_target);
+    if (!one) return one.error();
+    const auto other = TemporaryFile::createBeside(m_target);
+    if (!other) return other.error();
+    if (std::rename(one.value().path().c_str(), other.value().path().c_str()) != 0)
+        return systemError(errno, "replace", m_target);
+    one.value().release();
+    return {};
 }
 
 /// What every file system can do instead of an exchange, with as little time as possible for others.
@@ -135,5 +147,11 @@ bool LibraryReplacement::isInPlace(const FileStamp& stamp) const {
 }
 
 Error LibraryReplacement::isChanged() const { return {Error::Code::busy, m_target + " is being rewritten"}; }
+
+std::string noteOfNarrowness(const std::string& library) {
+    return "The file system of " + library +
+           " cannot let two files change places, so that another program's change would be lost in the very "
+           "moment in which the library is replaced";
+}
 
 } // namespace songsweep

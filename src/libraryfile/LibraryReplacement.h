@@ -36,9 +36,9 @@ class LibraryReplacement {
     /// Makes a new version, complete and on the disk, under a temporary name; it is gone with the object.
     Result<TemporaryFile> write(const LibraryFile& original, const std::vector<FilePiece>& pieces);
 
-    /// Changes places with the library and back, to see now whether that can be done. The copy has every byte
-    /// of the library, so that nobody is harmed whatever happens. `busy` where the library is not that of
-    /// the stamp.
+    /// Changes places with the library and back, to see now whether that can be done; where the file system
+    /// knows no exchange, tries a plain rename with files of its own. The copy has every byte of the library,
+    /// so that nobody is harmed whatever happens. `busy` where the library is not that of the stamp.
     Result<void> tryWith(TemporaryFile& copy, const FileStamp& expected);
 
     /// Puts a new version in the library's place and sees to it that it is on the disk. `busy`, and the
@@ -54,6 +54,7 @@ class LibraryReplacement {
 
     Result<TemporaryFile> newRoom(std::uint64_t bytes) const;
     Result<Way> exchange(TemporaryFile& file, const FileStamp& own, const FileStamp& expected);
+    Result<void> tryRename() const;
     Result<void> renameOver(TemporaryFile& file, const FileStamp& expected);
     Result<void> giveBack(TemporaryFile& file, const FileStamp& own, const FileStamp& expected);
     void keepUnlessKnown(TemporaryFile& file, const FileStamp& own, const FileStamp& expected) const;
@@ -65,5 +66,8 @@ class LibraryReplacement {
     std::optional<TemporaryFile> m_old; ///< the version that came out last
     bool m_narrowed = false;
 };
+
+/// What a user is told of a library that could not be exchanged. A sentence without its full stop.
+std::string noteOfNarrowness(const std::string& library);
 
 } // namespace songsweep

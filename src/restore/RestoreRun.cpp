@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "restore/RestoreRun.h"
 
+#include "libraryfile/LibraryReplacement.h"
+
 #include <algorithm>
 #include <span>
 #include <utility>
@@ -97,6 +99,7 @@ bool RestoreRun::writeEntries() {
     }
     m_record.written();
     m_report.setEntries(written.value());
+    if (m_restore.isNarrowed()) m_report.notes.push_back(noteOfNarrowness(m_restore.library()));
     return true;
 }
 

@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 // A restore with files in which one system call fails, or before one of which the program is killed: each of
 // them in turn.
+#include "FaultScene.h"
 #include "FolderTrash.h"
-#include "libraryfile/LibraryFixture.h"
-#include "libraryfile/SystemCalls.h"
-#include "platform/FileUrl.h"
 #include "restore/CleanupRestore.h"
 #include "support/SampleCleanup.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <cerrno>
-#include <filesystem>
-#include <set>
-#include <string>
-#include <vector>
 
 namespace songsweep {
 namespace {
@@ -25,39 +16,32 @@ namespace {
 namespace fs = std::filesystem;
 using test::contentOf;
 using test::SystemCalls;
+using testing::ElementsAre;
+using testing::HasSubstr;
 
-constexpr int trackCount = 8;
-
-/// Eight tracks with a file each, of which those of even number were deleted.
-class Scene {
+/// Eight tracks, of which four were deleted.
+class RestoreScene : public test::FaultScene {
   public:
-    Scene() {
-        std::vector<test::FixtureTrack> tracks;
-        std::vector<int> all;
-        std::vector<std::string> marked;
-        for (int id = 1; id <= trackCount; ++id) {
-            tracks.push_back({id, test::persistentIdOf(id),
-                              "<key>Location</key><string>" +
-                                  fileUrl(m_folder.write(nameOf(id), soundOf(id))) + "</string>"});
-            all.push_back(id);
-            if (isMarked(id)) marked.push_back(test::persistentIdOf(id));
-        }
-        m_whole =
-            test::libraryXml(tracks, {{"Library", "<key>Master</key><true/>", all}, {"Party", "", all}});
-        m_folder.write("library.xml", m_whole);
-        test::FolderTrash trash(m_folder.pathOf("Trash"));
-        m_record = test::carryOut({m_folder.pathOf("library.xml"), marked, trash});
+    RestoreScene()
+        : FaultScene(8) {
+        std::vector<std::string> ids;
+        for (const int id : m_marked)
+            ids.push_back(test::persistentIdOf(id));
+        test::FolderTrash trash(trashPath());
+        m_record = test::carryOut({libraryPath(), ids, trash});
         m_deleted = text();
     }
 
     /// `begins` is called before it.
     template <class Begins>
-    Result<RestoreReport> restore(Begins begins) {
-        test::FolderTrash trash(m_folder.pathOf("Trash"));
-        const CleanupRestore restore(m_folder.pathOf("library.xml"), RecordedCleanup::read(m_record).value(),
-                                     trash);
+    Result<RestoreReport> run(Begins begins) {
+        test::FolderTrash trash(trashPath());
+        const CleanupRestore restore(libraryPath(), RecordedCleanup::read(m_record).value(), trash);
         begins();
         return restore.carryOut({.program = "a test", .purpose = "a test"});
+    }
+    static bool isDone(const Result<RestoreReport>& report) {
+        return report && report.value().allDealtWith();
     }
 
     /// What the disk has of each track is what the report says.
@@ -82,42 +66,27 @@ class Scene {
     void expectNothingLost() const {
         const bool isWritten = text() == m_whole;
         EXPECT_TRUE(isWritten || text() == m_deleted);
-        std::multiset<std::string> sounds;
-        for (const auto& file : fs::directory_iterator(m_folder.pathOf("Trash")))
-            sounds.insert(contentOf(file.path()));
-        for (int id = 1; id <= trackCount; ++id) {
-            const std::string path = m_folder.pathOf(nameOf(id));
-            const bool isThere = fs::exists(path) && contentOf(path) == soundOf(id);
+        const auto sounds = trashed();
+        for (int id = 1; id <= m_trackCount; ++id) {
+            const bool isThere = fs::exists(pathOf(id)) && contentOf(pathOf(id)) == soundOf(id);
             EXPECT_NE(isThere, sounds.contains(soundOf(id))) << id;
             EXPECT_TRUE(isThere ? isWritten || !isMarked(id) : isMarked(id)) << id;
         }
     }
 
-    void expectNoRubbish() const {
-        for (const std::string& name : m_folder.names())
-            EXPECT_FALSE(name.starts_with(".")) << name;
-    }
-
     void expectAllIsBack() const {
         EXPECT_EQ(text(), m_whole);
-        for (int id = 1; id <= trackCount; ++id)
-            EXPECT_EQ(contentOf(m_folder.pathOf(nameOf(id))), soundOf(id));
-        EXPECT_TRUE(fs::is_empty(m_folder.pathOf("Trash")));
+        for (int id = 1; id <= m_trackCount; ++id)
+            EXPECT_EQ(contentOf(pathOf(id)), soundOf(id));
+        EXPECT_TRUE(fs::is_empty(trashPath()));
     }
 
   private:
-    static std::string nameOf(int id) { return std::to_string(id) + ".mp3"; }
-    static std::string soundOf(int id) { return "sound " + std::to_string(id); }
-    static bool isMarked(int id) { return id % 2 == 0; }
-    std::string text() const { return contentOf(m_folder.pathOf("library.xml")); }
-
     void expectNothingBegun() const {
         for (const std::string& name : m_folder.names())
             EXPECT_FALSE(name.starts_with("library (before restoring")) << name;
     }
 
-    test::Folder m_folder;
-    std::string m_whole;
     std::string m_deleted;
     std::string m_record;
 };
@@ -125,51 +94,36 @@ class Scene {
 class FailingRestore : public testing::TestWithParam<int> {};
 
 TEST_P(FailingRestore, LosesNothingAndTellsTheTruth) {
-    int failures = 0;
-    for (int call = 1;; ++call) {
-        Scene scene;
-        const auto report = scene.restore([&] { SystemCalls::failAt(call, GetParam()); });
-        SystemCalls::stop();
-        const std::string failed = SystemCalls::failed();
-        if (failed.empty()) break;
-        ++failures;
-        SCOPED_TRACE(failed + ", call " + std::to_string(call));
+    const int failures = test::failEachCall<RestoreScene>(GetParam(), [](auto& scene, const auto& report) {
         scene.expectTruth(report);
         scene.expectNothingLost();
         scene.expectNoRubbish();
-        EXPECT_TRUE(scene.restore([] {})); // What failed once need not fail for ever.
+        EXPECT_TRUE(scene.run([] {})); // What failed once need not fail for ever.
         scene.expectAllIsBack();
-        if (HasFailure()) break;
-    }
+    });
     EXPECT_GT(failures, 40); // The calls are seen, or the test would show nothing.
     RecordProperty("failures", failures);
 }
 
 INSTANTIATE_TEST_SUITE_P(Errors, FailingRestore, testing::Values(EIO, ENOSPC, EACCES));
 
+TEST(RestoreWithoutAnExchange, IsDoneAndSaysWhatItCouldNotGuard) {
+    RestoreScene scene;
+    const auto report = scene.run([] { SystemCalls::failAll("renameat2", EINVAL); });
+    SystemCalls::stop();
+    scene.expectTruth(report);
+    scene.expectAllIsBack();
+    EXPECT_THAT(report.value().notes,
+                ElementsAre(HasSubstr("library.xml cannot let two files change places")));
+}
+
 TEST(KilledRestoreAtEachCall, LosesNothingAndIsBroughtToItsEndByTheNext) {
-    int kills = 0;
-    for (int call = 1;; ++call) {
-        Scene scene;
-        const pid_t child = ::fork();
-        if (child == 0) {
-            const auto report = scene.restore([&] { SystemCalls::killAt(call); });
-            ::_exit(report && report.value().allDealtWith() ? 0 : 1);
-        }
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        if (!WIFSIGNALED(status)) {
-            EXPECT_EQ(WEXITSTATUS(status), 0);
-            break;
-        }
-        ++kills;
-        SCOPED_TRACE("call " + std::to_string(call));
+    const int kills = test::killAtEachCall<RestoreScene>([](auto& scene) {
         scene.expectNothingLost();
-        EXPECT_TRUE(scene.restore([] {}));
+        EXPECT_TRUE(scene.run([] {}));
         scene.expectAllIsBack();
         scene.expectNoRubbish();
-        if (testing::Test::HasFailure()) break;
-    }
+    });
     EXPECT_GT(kills, 40);
     RecordProperty("kills", kills);
 }

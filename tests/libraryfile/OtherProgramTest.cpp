@@ -159,6 +159,19 @@ TEST_F(OtherProgram, WithoutAnExchangeAnEditBeforeTheWindowIsKept) {
     expectBoth();
 }
 
+TEST_F(OtherProgram, WithoutAnyRenameNothingBegins) {
+    SystemCalls::before("renameat2", [] { // the exchange
+        SystemCalls::failAt(1, EINVAL);
+        SystemCalls::before("rename", [] { SystemCalls::failAt(1, EPERM); });
+    });
+    const auto begun = m_library->beginCleanup({"a test"});
+    SystemCalls::stop();
+    EXPECT_EQ(SystemCalls::failed(), "rename");
+    ASSERT_FALSE(begun);
+    EXPECT_EQ(begun.error().code, Error::Code::noPermission) << begun.error().message;
+    EXPECT_THAT(m_folder.names(), ElementsAre("library.xml"));
+}
+
 TEST_F(OtherProgram, AFileSystemThatExchangesIsNotNarrow) {
     ASSERT_TRUE(m_library->beginCleanup({"a test"}));
     EXPECT_FALSE(m_library->cleanupHeading().isNarrowed);
