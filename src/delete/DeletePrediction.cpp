@@ -49,8 +49,10 @@ void predictFile(const TrackRecord& record, const DeletePlan& plan, const Stayin
     }
 }
 
-void predictTrack(const TrackRecord& record, SharedIds& ids, DeleteOutcome& outcome) {
-    const char* const obstacle = trackObstacle(record.pid);
+/// `plan` where files go, too.
+void predictTrack(const TrackRecord& record, SharedIds& ids, const DeletePlan* plan, DeleteOutcome& outcome) {
+    const char* obstacle = trackObstacle(record.pid);
+    if (!obstacle && plan) obstacle = nameObstacle(record, *plan);
     const std::string reason = obstacle ? obstacle : ids.reasonToKeep(record);
     outcome.track = reason.empty() ? DeleteOutcome::Track::deleted : DeleteOutcome::Track::failed;
     outcome.dealtWith = reason.empty();
@@ -73,7 +75,7 @@ DeleteReport predictedReport(const std::vector<TrackRecord*>& rows, bool isDelFi
     for (const TrackRecord* const record : rows) {
         if (!record->checkbox) continue;
         DeleteOutcome& outcome = report.outcomes.emplace_back(outcomeOf(*record));
-        predictTrack(*record, ids, outcome);
+        predictTrack(*record, ids, isDelFile ? &plan : nullptr, outcome);
         const auto given = plan.merge.given.find(record);
         if (given != plan.merge.given.end() && outcome.track == DeleteOutcome::Track::deleted)
             outcome.merged = given->second;

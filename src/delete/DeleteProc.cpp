@@ -170,7 +170,8 @@ std::string DeleteProc::reasonToKeep(const TrackRecord& record) {
         return failed->second;
     std::string reason = m_sharedIds->reasonToKeep(record);
     if (reason.empty() && !m_stayingCopies->isLeftOf(record)) reason = lastCopyReason;
-    return reason;
+    const char* const obstacle = m_isDelFile ? m_fileDeletion.trackObstacle(record) : nullptr;
+    return reason.empty() && obstacle ? obstacle : reason;
 }
 
 /// iTunes calls it no error when nothing has the ID, so that a track without one would count as deleted.

@@ -4,7 +4,6 @@
 #include "delete/Cleanup.h"
 #include "delete/DeleteTexts.h"
 #include "delete/MarkedFiles.h"
-#include "delete/Obstacles.h"
 #include "library/QuotedTrack.h"
 #include "platform/Files.h"
 #include "platform/LocalName.h"

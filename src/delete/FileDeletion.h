@@ -3,6 +3,7 @@
 
 #include "delete/DeletePlan.h"
 #include "delete/DeleteReport.h"
+#include "delete/Obstacles.h"
 #include "delete/StayingFiles.h"
 #include "libraryfile/RecordedCleanup.h"
 #include "platform/Files.h"
@@ -34,6 +35,8 @@ class FileDeletion {
 
     /// What is planned for a marked track, and for its file if files go.
     RecordedTrack planFor(const TrackRecord& record, bool withFile) const;
+    /// Why a marked track stays for the sake of its file; null where it does not.
+    const char* trackObstacle(const TrackRecord& record) const { return nameObstacle(record, m_plan); }
     /// Keeps the files of the rows that will stay from going with others; before the first file goes.
     void keepFiles(const std::vector<TrackRecord*>& rows, SharedIds& ids) { m_staying = {rows, m_plan, ids}; }
     /// Deals with the track's file; the outcome is the report's next one. An exception of the standard kind,

@@ -23,6 +23,11 @@ const char* kindObstacle(FileAttributes::Kind kind) {
     return "it is no regular file";
 }
 
+const char* nameObstacle(const TrackRecord& record, const DeletePlan& plan) {
+    const bool hasFile = plan.files.contains(&record);
+    return hasFile && !canNameFile(record.location) ? "its file's name cannot be told to Finder" : nullptr;
+}
+
 const char* fileObstacle(std::string_view location, FileAttributes::Kind kind) {
     if (const char* const obstacle = kindObstacle(kind)) return obstacle;
     return canNameFile(location) ? nullptr : unnameable;

@@ -15,6 +15,9 @@ const char* trackObstacle(std::string_view pid);
 
 /// Why what is no file stays; null for a file. A folder would take the files of other tracks with it.
 const char* kindObstacle(FileAttributes::Kind kind);
+/// Why a track stays in the library where files go, too: one whose file would be left behind, since its name
+/// cannot be told. Null where nothing is in the way.
+const char* nameObstacle(const TrackRecord& record, const DeletePlan& plan);
 /// Of a file whose path cannot stand in a text.
 inline constexpr const char* unnameable = "its name cannot be told to Finder";
 /// Why what exists at a location stays though it is to be trashed; null where nothing is in the way.

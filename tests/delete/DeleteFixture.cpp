@@ -94,9 +94,9 @@ std::vector<std::string> DeleteFixture::journal(std::string_view beginning) cons
     return found;
 }
 
-std::vector<std::string> DeleteFixture::outcomes() const {
+std::vector<std::string> DeleteFixture::outcomesOf(const DeleteReport& report) {
     std::vector<std::string> texts;
-    for (const DeleteOutcome& outcome : m_report.outcomes)
+    for (const DeleteOutcome& outcome : report.outcomes)
         texts.push_back(outcome.pid + ": " + outcomeText(outcome));
     return texts;
 }

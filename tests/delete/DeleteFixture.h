@@ -65,7 +65,8 @@ class DeleteFixture : public testing::Test {
     std::vector<std::string> journal(std::string_view beginning = "") const;
     const std::vector<std::string>& wholeJournal() const { return m_journal; }
     /// "PID: outcome" of each track of the report.
-    std::vector<std::string> outcomes() const;
+    std::vector<std::string> outcomes() const { return outcomesOf(m_report); }
+    static std::vector<std::string> outcomesOf(const DeleteReport& report);
     std::vector<std::string> pidsLeft() const;
     bool exists(const std::string& name) const;
     std::string path(const std::string& name) const { return m_folder.path() + "/" + name; }

@@ -2,6 +2,7 @@
 #include "delete/FileDeletion.h"
 
 #include "delete/DeletePlan.h"
+#include "delete/DeletePrediction.h"
 #include "delete/DeleteProcFixture.h"
 #include "scripting/TextLiteral.h"
 
@@ -171,6 +172,19 @@ TEST_F(FileDeletionTest, ALinkWhoseFileWasTrashedBeforeIsDealtWith) {
                 ElementsAre("A: deleted, file trashed", "B: deleted, file trashed: it is a link, which is "
                                                         "left; it is the file of “Song” by Artist, too"));
     EXPECT_TRUE(m_report.allDealtWith());
+}
+
+/// A location of this kind is of no file that could be looked at; systems differ in what else cannot be told.
+TEST_F(FileDeletionTest, ATrackStaysWithAFileWhoseNameCannotBeTold) {
+    const TrackRecord& track = add(1, "A", true, "a.mp3");
+    DeletePlan plan;
+    plan.files[&track] = {.path = path("a.mp3"), .obstacle = nullptr};
+    EXPECT_THAT(outcomesOf(predictedReport(m_list.rows, withoutFiles, plan, {})), ElementsAre("A: deleted"));
+    EXPECT_THAT(outcomesOf(predictedReport(m_list.rows, withFiles, plan, {})),
+                ElementsAre("A: failed, file kept: its file's name cannot be told to Finder"));
+    run(withFiles, plan);
+    EXPECT_THAT(journal("track"), IsEmpty());
+    EXPECT_THAT(outcomes(), ElementsAre("A: failed, file missing: its file's name cannot be told to Finder"));
 }
 
 TEST_F(FileDeletionTest, AFileThatATrackUsesThatStaysIsLeft) {
