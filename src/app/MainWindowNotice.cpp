@@ -17,7 +17,7 @@ QString labelOf(NoticeAction action) {
     case NoticeAction::details:
         return QStringLiteral("Details");
     case NoticeAction::showTrash:
-        return QStringLiteral("Show Trash");
+        return QStringLiteral("Show in Trash");
     case NoticeAction::showBackup:
         return QStringLiteral("Show backup");
     case NoticeAction::finish:

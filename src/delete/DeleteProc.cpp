@@ -114,7 +114,8 @@ void DeleteProc::finish() {
 }
 
 void DeleteProc::endCleanup(RecordEnd::How how) {
-    const auto ended = m_services.cleanup.end(*m_report, hasFailed() ? RecordEnd::How::failed : how);
+    m_report->how = hasFailed() ? RecordEnd::How::failed : how;
+    const auto ended = m_services.cleanup.end(*m_report, m_report->how);
     if (!ended) m_services.log.line("The record has no end : " + ended.error().message);
     const Cleanup::Traces traces = m_services.cleanup.traces();
     m_report->backup = traces.backup;
@@ -210,12 +211,7 @@ void DeleteProc::noteNotAttempted() {
 void DeleteProc::postEnd() {
     m_services.center.post(
         {isCancelled() || hasFailed() ? EventName::deleteCancel : EventName::deleteFinish, m_report, this});
-    for (const DeleteOutcome& outcome : m_report->outcomes)
-        m_services.log.line(outcomeLine(outcome));
-    for (const std::string& note : m_report->notes)
-        m_services.log.line(note);
-    if (!m_report->backup.empty()) m_services.log.line("Backup : " + m_report->backup);
-    if (!m_report->record.empty()) m_services.log.line("Record : " + m_report->record);
+    logReport(*m_report, m_services.log);
 }
 
 } // namespace songsweep

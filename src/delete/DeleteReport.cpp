@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "delete/DeleteReport.h"
 
+#include "platform/Log.h"
+
 #include <algorithm>
 
 namespace songsweep {
@@ -102,6 +104,15 @@ std::string outcomeLine(const DeleteOutcome& outcome, Tense tense) {
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     return line;
+}
+
+void logReport(const DeleteReport& report, Log& log) {
+    for (const DeleteOutcome& outcome : report.outcomes)
+        log.line(outcomeLine(outcome));
+    for (const std::string& note : report.notes)
+        log.line(note);
+    if (!report.backup.empty()) log.line("Backup : " + report.backup);
+    if (!report.record.empty()) log.line("Record : " + report.record);
 }
 
 } // namespace songsweep

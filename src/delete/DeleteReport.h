@@ -2,6 +2,7 @@
 #pragma once
 
 #include "library/TrackRecord.h"
+#include "libraryfile/RecordedCleanup.h"
 #include "merge/MergeWords.h"
 #include "platform/Trash.h"
 
@@ -10,6 +11,8 @@
 #include <vector>
 
 namespace songsweep {
+
+class Log;
 
 /// What became of one marked track.
 struct DeleteOutcome {
@@ -40,9 +43,10 @@ struct DeleteReport {
     std::string backup; ///< path of the library as it was; "" where there is none
     std::string record; ///< path of the record of this deletion; "" where there is none
     std::vector<DeleteOutcome> outcomes;
-    std::vector<std::string> notes; ///< sentences; what could not be done beside the tracks
+    RecordEnd::How how = RecordEnd::How::complete; ///< of a deletion that began
+    std::string notBegun;                          ///< why no track was touched; "" where the deletion began
+    std::vector<std::string> notes;                ///< sentences; what could not be done beside the tracks
     MergeCounts merge = {}; ///< what copies that stay were given, and songs that were left as they were
-    std::string notBegun;   ///< why no track was touched; "" where the deletion began
     std::string notWritten; ///< why the deletion ended early, its last part undone; "" where it did not
 
     bool allDealtWith() const;
@@ -68,5 +72,8 @@ std::string outcomeText(const DeleteOutcome& outcome, Tense tense = Tense::past)
 /// A line for the log: "Track Song by Artist (00A1B2C3D4E5F607) deleted, file trashed, /music/song.mp3, in
 /// the Trash as song.2.mp3". Line breaks in names are blanks there.
 std::string outcomeLine(const DeleteOutcome& outcome, Tense tense = Tense::past);
+
+/// Writes down in the log what became of each track, and where backup and record lie. Any thread.
+void logReport(const DeleteReport& report, Log& log);
 
 } // namespace songsweep

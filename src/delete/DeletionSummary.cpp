@@ -21,9 +21,36 @@ std::size_t count(const DeleteReport& report, DeleteOutcome::File file) {
                       [=](const DeleteOutcome& outcome) { return outcome.file == file; }));
 }
 
-void addSentence(std::string& text, std::size_t number, const std::string& noun, const std::string& words) {
+void addCount(std::string& text, std::size_t number, const std::string& noun, const std::string& words) {
     if (number == 0) return;
-    text += (text.empty() ? "" : " ") + counted(number, noun) + " " + words + ".";
+    text += (text.empty() ? "" : ", ") + counted(number, noun) + " " + words;
+}
+
+void addSentence(std::string& text, const std::string& sentence) {
+    if (!sentence.empty()) text += (text.empty() ? "" : " ") + sentence + ".";
+}
+
+std::string counts(const DeleteReport& report, std::optional<std::uint64_t> trashedBytes) {
+    using Track = DeleteOutcome::Track;
+    using File = DeleteOutcome::File;
+    const std::string size = trashedBytes ? " (" + megabytes(*trashedBytes) + ")" : std::string();
+    std::string text;
+    addCount(text, count(report, File::trashed), "file", "in the Trash" + size);
+    addCount(text, count(report, File::kept), "file", "kept");
+    addCount(text, count(report, File::missing), "file", "missing already");
+    addCount(text, count(report, Track::failed), "track", "could not be deleted");
+    addCount(text, count(report, Track::notAttempted), "track", "not attempted");
+    return text;
+}
+
+std::string titleOf(const DeleteReport& report) {
+    const std::size_t all = report.outcomes.size();
+    const std::size_t deleted = count(report, DeleteOutcome::Track::deleted);
+    const std::string how = report.how == RecordEnd::How::cancelled ? "Cancelled: "
+                            : report.how == RecordEnd::How::failed  ? "Stopped: "
+                                                                    : "";
+    return how + (deleted == all ? "" : std::to_string(deleted) + " of ") + counted(all, "track") +
+           " deleted";
 }
 
 std::string lineOf(const DeleteOutcome& outcome) {
@@ -40,22 +67,11 @@ std::string DeletionSummary::line() const {
 }
 
 DeletionSummary summaryOf(const DeleteReport& report, std::optional<std::uint64_t> trashedBytes) {
-    using Track = DeleteOutcome::Track;
-    using File = DeleteOutcome::File;
-    const std::size_t all = report.outcomes.size();
-    const std::size_t deleted = count(report, Track::deleted);
-    const std::size_t trashed = count(report, File::trashed);
-    DeletionSummary summary;
-    summary.title =
-        (deleted == all ? "" : std::to_string(deleted) + " of ") + counted(all, "track") + " deleted";
-    const std::string size = trashedBytes ? " (" + megabytes(*trashedBytes) + ")" : std::string();
-    addSentence(summary.rest, trashed, "file", "in the Trash" + size);
-    addSentence(summary.rest, count(report, File::kept), "file", "kept");
-    addSentence(summary.rest, count(report, File::missing), "file", "missing already");
-    addSentence(summary.rest, count(report, Track::failed), "track", "could not be deleted");
-    addSentence(summary.rest, count(report, Track::notAttempted), "track", "not attempted");
+    DeletionSummary summary = {.title = titleOf(report), .rest = {}};
+    addSentence(summary.rest, counts(report, trashedBytes));
+    if (!report.notWritten.empty()) addSentence(summary.rest, "It ended early: " + report.notWritten);
     for (const std::string& note : report.notes)
-        summary.rest += (summary.rest.empty() ? "" : " ") + note + ".";
+        addSentence(summary.rest, note);
     return summary;
 }
 

@@ -12,8 +12,10 @@ namespace songsweep {
 
 /// What a deletion came to, in the words of the window. A value.
 struct DeletionSummary {
-    std::string title; ///< "56 tracks deleted", or "12 of 56 tracks deleted" where some are left
-    std::string rest;  ///< "36 files in the Trash (0.6 MB). 3 files kept."; "" where there is no more to say
+    /// "56 tracks deleted", "12 of 56 tracks deleted" where some are left, or "Cancelled: 12 of 56 tracks
+    /// deleted".
+    std::string title;
+    std::string rest; ///< "36 files in the Trash (0.6 MB), 3 files kept."; "" where there is no more to say
 
     /// Both as one line.
     std::string line() const;

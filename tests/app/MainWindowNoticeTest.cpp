@@ -30,6 +30,7 @@ TEST_F(MainWindowNotice, StandsOverTheTableAsALineWithButtons) {
     ASSERT_TRUE(bar().isVisible());
     EXPECT_EQ(bar().height(), 28);
     EXPECT_EQ(control<QLabel>("noticeLabel").text(), QString::fromStdString(m_notice.line));
+    EXPECT_EQ(control<QToolButton>("noticeButton1").text(), QStringLiteral("Show in Trash"));
     QSignalSpy clicks(&window, &MainWindow::noticeActionClick);
     for (const char* name : {"noticeButton0", "noticeButton1", "noticeButton2", "noticeButton3"})
         control<QToolButton>(name).click();

@@ -46,9 +46,10 @@ TEST_F(Notices, ACancelledDeletionIsToldToo) {
     auto cancelled = report();
     cancelled->outcomes[1].track = DeleteOutcome::Track::notAttempted;
     cancelled->outcomes[1].dealtWith = false;
+    cancelled->how = RecordEnd::How::cancelled;
     post(EventName::deleteCancel, cancelled);
     ASSERT_THAT(view.notices, SizeIs(1));
-    EXPECT_EQ(view.notices[0].title, "1 of 2 tracks deleted");
+    EXPECT_EQ(view.notices[0].title, "Cancelled: 1 of 2 tracks deleted");
     EXPECT_TRUE(view.notices[0].isWarning);
 }
 

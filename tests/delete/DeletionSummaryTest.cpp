@@ -32,9 +32,9 @@ TEST(DeletionSummary, TellsTracksAndFiles) {
     add(report, 17, Track::deleted, File::missing);
     const DeletionSummary summary = summaryOf(report, 600'000);
     EXPECT_EQ(summary.title, "56 tracks deleted");
-    EXPECT_EQ(summary.rest, "36 files in the Trash (0.6 MB). 3 files kept. 17 files missing already.");
+    EXPECT_EQ(summary.rest, "36 files in the Trash (0.6 MB), 3 files kept, 17 files missing already.");
     EXPECT_EQ(summary.line(),
-              "56 tracks deleted, 36 files in the Trash (0.6 MB). 3 files kept. 17 files missing "
+              "56 tracks deleted, 36 files in the Trash (0.6 MB), 3 files kept, 17 files missing "
               "already.");
 }
 
@@ -61,10 +61,25 @@ TEST(DeletionSummary, SaysHowFarACancelledOneCame) {
     add(report, 12, Track::deleted, File::trashed);
     add(report, 1, Track::failed, File::kept, "no such track");
     add(report, 44, Track::notAttempted, File::notAsked);
+    report.how = RecordEnd::How::cancelled;
     const DeletionSummary summary = summaryOf(report, std::nullopt);
-    EXPECT_EQ(summary.title, "12 of 57 tracks deleted");
-    EXPECT_EQ(summary.rest, "12 files in the Trash. 1 file kept. 1 track could not be deleted. 44 tracks not "
+    EXPECT_EQ(summary.title, "Cancelled: 12 of 57 tracks deleted");
+    EXPECT_EQ(summary.rest, "12 files in the Trash, 1 file kept, 1 track could not be deleted, 44 tracks not "
                             "attempted.");
+}
+
+TEST(DeletionSummary, SaysWhatStoppedAFailedOneAndWhatElseCouldNotBeDone) {
+    DeleteReport report;
+    add(report, 1, Track::deleted, File::notAsked);
+    add(report, 2, Track::failed, File::notAsked, "the library was not written");
+    report.how = RecordEnd::How::failed;
+    report.notWritten = "the disk is full";
+    report.notes = {"The playlist was not changed"};
+    const DeletionSummary summary = summaryOf(report, std::nullopt);
+    EXPECT_EQ(summary.title, "Stopped: 1 of 3 tracks deleted");
+    EXPECT_EQ(
+        summary.rest,
+        "2 tracks could not be deleted. It ended early: the disk is full. The playlist was not changed.");
 }
 
 TEST(DeletionDetails, NameWhatDidNotGoAsAskedFirstAndWhy) {
