@@ -71,10 +71,12 @@ std::string interruption(const InterruptedCleanup& found) {
     const std::string what = found.kind == RecordHeading::Kind::restore ? "restore" : "deletion";
     const std::string which =
         " --library \"" + found.library + "\" --cleanup \"" + cleanupName(found.record) + "\" --dry-run";
-    std::string warning = "warning: the " + what + " of " + found.date + " was interrupted, and " +
-                          found.whatCanBePutBack() + " can be put back: songsweep restore" + which;
+    std::string warning = "warning: the " + what + " of " + found.date + " was interrupted, and ";
+    warning += found.canBePutBack() ? found.whatCanBePutBack() + " can be put back: songsweep restore" + which
+                                    : "nothing of it is left to put back";
     if (found.filesToTrash)
-        warning += ", or it can be finished (" + found.whatFinishingDoes() + "): songsweep finish" + which;
+        warning += std::string(found.canBePutBack() ? ", or" : ";") + " it can be finished (" +
+                   found.whatFinishingDoes() + "): songsweep finish" + which;
     return warning;
 }
 

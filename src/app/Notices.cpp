@@ -117,10 +117,11 @@ void Notices::tellInterruption(const InterruptedCleanup& found) {
     m_details.clear();
     m_trashedFile.clear();
     m_backup = found.backup;
-    m_record = found.record;
+    m_record = found.canBePutBack() ? found.record : std::string();
     m_unfinished = found.filesToTrash ? found.record : std::string();
     const std::string title = what + when + " was interrupted";
-    std::string rest = found.whatCanBePutBack() + " can be put back.";
+    std::string rest = found.canBePutBack() ? found.whatCanBePutBack() + " can be put back."
+                                            : "Nothing of it is left to put back.";
     if (found.filesToTrash) rest += " If you finish it, " + found.whatFinishingDoes() + ".";
     show({title, rest, title + ". " + rest, true, {}});
 }
@@ -140,7 +141,11 @@ void Notices::tellFinishing() {
 
 /// Where it failed, it can be tried again.
 void Notices::tellFinished(const std::shared_ptr<FinishAnswer>& answer) {
-    if (answer->problem.empty()) return tellDeletion(finishedReport(answer->cleanup));
+    if (answer->problem.empty()) {
+        const DeleteReport report = finishedReport(answer->cleanup);
+        logReport(report, m_services.log);
+        return tellDeletion(report);
+    }
     const std::string title = "The deletion could not be finished";
     show({title, answer->problem + ".", title + ": " + answer->problem, true, {}});
 }

@@ -21,7 +21,7 @@ Restoring::Restoring(const ControllerServices& services, RestoreView& view, Work
 Restoring::~Restoring() = default;
 
 RestoreServices Restoring::services() const {
-    return {m_workers.center, m_services.desktop.trash(), "Songsweep " + m_services.version,
+    return {m_workers.center, m_services.desktop.trash(), m_services.log, "Songsweep " + m_services.version,
             m_services.writeLibrary};
 }
 

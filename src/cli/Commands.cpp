@@ -37,6 +37,12 @@ void tell(const std::string& message) {
     std::fprintf(stderr, "songsweep: %s\n", terminalText(message).c_str());
 }
 
+void tellNotes(const std::vector<std::string>& notes, OutputFormat format) {
+    if (format != OutputFormat::csv) return;
+    for (const std::string& note : notes)
+        tell(note);
+}
+
 ExitCode fail(const std::string& message) {
     tell(message);
     return ExitCode::failed;

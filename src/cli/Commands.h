@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace songsweep {
 class RecordingGroups;
@@ -38,7 +39,10 @@ std::optional<ExitCode> markRecordings(LibrarySession& session, const MarkOption
 /// Prints "songsweep: MESSAGE" on standard error, safe for a terminal.
 void tell(const std::string& message);
 
-/// The same, and gives the code of a failure.
+/// Tells notes that stand nowhere else: rows of CSV have no place for them.
+void tellNotes(const std::vector<std::string>& notes, OutputFormat format);
+
+/// Like `tell`, and gives the code of a failure.
 ExitCode fail(const std::string& message);
 
 /// The same for a result that could not be written; one that Ctrl-C ended is no failure, and told by the

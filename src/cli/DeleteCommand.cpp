@@ -24,6 +24,7 @@ std::string refusal(int groups) {
 std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& options,
                                       const DeleteReport& report) {
     writeOutcomes(output, report, options.dryRun, options.format);
+    tellNotes(report.notes, options.format);
     if (const Result<void> written = output.finish(); !written) return failToWrite(written.error());
     return std::nullopt;
 }

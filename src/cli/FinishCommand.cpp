@@ -34,12 +34,6 @@ Result<CleanupSummary> interruptedCleanup(const FinishOptions& options) {
     return chosen;
 }
 
-void logReport(Log& log, const DeleteReport& report) {
-    for (const DeleteOutcome& outcome : report.outcomes)
-        log.line(outcomeLine(outcome));
-    log.line("Record : " + report.record);
-}
-
 ExitCode finishDeletion(const FinishOptions& options, const std::string& version) {
     const InterruptWatch interrupts([] {});
     const Result<std::unique_ptr<CommandLog>> log = CommandLog::open(options);
@@ -59,8 +53,9 @@ ExitCode finishDeletion(const FinishOptions& options, const std::string& version
                                           .isCancelled = [&] { return interrupts.heard(); }});
     if (!finished) return fail(withPath(options, finished.error().message));
     const DeleteReport report = finishedReport(finished.value());
-    if (options.yes) logReport(*log.value(), report);
+    if (options.yes) logReport(report, *log.value());
     writeOutcomes(output.value(), report, options.dryRun, options.format);
+    tellNotes(report.notes, options.format);
     if (const Result<void> written = output.value().finish(); !written) return fail(written.error().message);
     if (options.yes && !finished.value().end) return ExitCode::interrupted;
     return report.allDealtWith() ? ExitCode::done : ExitCode::failed;

@@ -58,7 +58,7 @@ void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
         if (!path.empty()) output.write(title + (output.isTerminal() ? terminalLine(path) : path) + "\n");
 }
 
-/// A location that is not UTF-8 is told once more as a URL.
+/// A path that is not UTF-8 is told once more as a URL.
 nlohmann::ordered_json jsonOutcome(const DeleteOutcome& outcome) {
     nlohmann::ordered_json object;
     object["pid"] = outcome.pid;
@@ -70,7 +70,11 @@ nlohmann::ordered_json jsonOutcome(const DeleteOutcome& outcome) {
     object["file"] = fileWord(outcome.file);
     object["reason"] = outcome.reason;
     object["dealtwith"] = outcome.dealtWith;
-    if (outcome.trash) object["trash"] = outcome.trash->path();
+    if (outcome.trash) {
+        const std::string place = outcome.trash->path();
+        object["trash"] = place;
+        if (!isUtf8(place)) object["trashurl"] = fileUrl(place);
+    }
     if (outcome.merged)
         object["merged"] = {{"to", outcome.merged->keptId},
                             {"places", outcome.merged->places},

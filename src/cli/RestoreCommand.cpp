@@ -9,6 +9,7 @@
 #include "cli/RestoreOutput.h"
 #include "platform/Native.h"
 #include "restore/CleanupRestore.h"
+#include "restore/RestoreLog.h"
 
 #include <utility>
 
@@ -60,6 +61,9 @@ ExitCode RestoreCommand::restore(Output& output, const CleanupSummary& cleanup) 
     // Nothing to do is recorded once, so that a clean-up whose restore was killed at its end is settled too.
     const bool isSettled = cleanup.isRestored && !report.value().hasWork();
     if (m_interrupts.heard()) return ExitCode::interrupted;
+    if (m_options.dryRun)
+        if (const Result<void> possible = restore.foreseeWriting(report.value()); !possible)
+            return fail(withPath(possible.error().message));
     if (m_options.yes && !isSettled)
         report = restore.carryOut({.program = "Songsweep " + m_version,
                                    .purpose = "the command restore",
@@ -70,9 +74,9 @@ ExitCode RestoreCommand::restore(Output& output, const CleanupSummary& cleanup) 
 
 ExitCode RestoreCommand::tellOutcome(Output& output, const NamedRestore& restore) {
     const RestoreReport& report = restore.report;
-    if (!report.backup.empty()) m_log->line("The library as it was before: " + report.backup);
-    if (!report.record.empty()) m_log->line("What was done: " + report.record);
+    if (!restore.dryRun) logRestore(report, *m_log);
     writeRestore(output, restore, m_options.format);
+    tellNotes(report.notes, m_options.format);
     if (const Result<void> written = output.finish(); !written) return failToWrite(written.error());
     if (report.end == RestoreReport::End::failed) return fail(withPath(report.problem));
     if (report.end == RestoreReport::End::cancelled) return ExitCode::interrupted;

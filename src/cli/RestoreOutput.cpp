@@ -113,15 +113,18 @@ void writeJson(Output& output, const NamedRestore& restore) {
     output.write(whole.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n");
 }
 
-void writeCsv(Output& output, const RestoreReport& report) {
-    output.write("pid,name,artist,location,track,file,reason,dealtwith\r\n");
+void writeCsv(Output& output, const NamedRestore& restore) {
+    const RestoreReport& report = restore.report;
+    const std::string whole = csvTruth(restore.dryRun) + "," + csvField(restore.cleanup) + "," +
+                              csvField(report.backup) + "," + csvField(report.record) + "\r\n";
+    output.write("pid,name,artist,location,track,file,reason,dealtwith,dryrun,cleanup,backup,record\r\n");
     for (const RestoredTrack& track : report.tracks) {
         std::string row;
         for (const std::string& field :
              {track.plan.persistentId, track.plan.name, track.plan.artist, track.plan.path,
               std::string(wordOf(track.entry)), std::string(wordOf(track.file)), track.reason})
             row += csvField(field) + ",";
-        output.write(row + csvTruth(track.dealtWith()) + "\r\n");
+        output.write(row + csvTruth(track.dealtWith()) + "," + whole);
     }
 }
 
@@ -135,7 +138,7 @@ void writeRestore(Output& output, const NamedRestore& restore, OutputFormat form
     case OutputFormat::json:
         return writeJson(output, restore);
     case OutputFormat::csv:
-        return writeCsv(output, restore.report);
+        return writeCsv(output, restore);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "restore/CleanupRestore.h"
 
+#include "libraryfile/CleanupForesight.h"
 #include "libraryfile/CleanupHistory.h"
 #include "libraryfile/CleanupRecord.h"
 #include "libraryfile/LibraryRestore.h"
@@ -121,6 +122,17 @@ Result<RestoreReport> CleanupRestore::foresee() const {
     RestoreReport report = reportFor(m_cleanup, outcome.value(), lookForFiles(m_cleanup, m_trash));
     report.setPlaylists(PlaylistRestoring(m_cleanup.playlists, report.filesThere()).foresee());
     return withLeftOut(std::move(report));
+}
+
+Result<void> CleanupRestore::foreseeWriting(const RestoreReport& foreseen) const {
+    if (!foreseen.hasWork()) return {};
+    CleanupSize size{m_cleanup.tracks.size(), 0};
+    for (const RecordedCleanup::Track& track : m_cleanup.tracks)
+        for (const std::string* text :
+             {&track.plan.persistentId, &track.plan.name, &track.plan.artist, &track.plan.path})
+            size.textBytes += text->size();
+    const auto room = foreseeCleanup(m_library, size);
+    return room ? Result<void>() : Result<void>(room.error());
 }
 
 Result<RestoreReport> CleanupRestore::carryOut(const RestoreTask& task) const {

@@ -34,6 +34,10 @@ class CleanupRestore {
     /// What would come back now, and what cannot. Changes nothing and needs no lock.
     Result<RestoreReport> foresee() const;
 
+    /// Whether the library can be written, as far as that can be seen without changing anything; for what was
+    /// foreseen.
+    Result<void> foreseeWriting(const RestoreReport& foreseen) const;
+
     /// An error where nothing was begun.
     Result<RestoreReport> carryOut(const RestoreTask& task) const;
 

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "restore/FileReturn.h"
 
+#include "libraryfile/FileNames.h"
 #include "libraryfile/LibraryFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <chrono>
 #include <ctime>
 #include <filesystem>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace songsweep {
@@ -59,10 +64,22 @@ class Look {
         const std::optional<TrashedFile> place = placeOf(track);
         if (!place) return {isThere(path) && !track.trash ? Fate::none : Fate::isGone, {}};
         if (isThere(path)) return {Fate::isOccupied, *place};
-        return {Fate::comesBack, *place};
+        return {letsIn(folderOf(path)) ? Fate::comesBack : Fate::isShutOut, *place};
     }
 
   private:
+    /// By the next folder above that is there, in which missing ones would be made.
+    bool letsIn(const std::string& folder) {
+        const auto [known, isNew] = m_folders.try_emplace(folder);
+        if (isNew) {
+            std::string present = folder;
+            while (present != "/" && present != "." && !isThere(present))
+                present = folderOf(present);
+            known->second = ::faccessat(AT_FDCWD, present.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+        }
+        return known->second;
+    }
+
     /// Nothing tells whether it went: the program was killed meanwhile.
     static bool wasUnderWay(const RecordedCleanup::Track& track) { return track.begun && !track.outcome; }
 
@@ -76,6 +93,7 @@ class Look {
     std::chrono::system_clock::time_point m_begin;
     Trash& m_trash;
     std::unordered_set<std::string_view> m_seen;
+    std::unordered_map<std::string, bool> m_folders;
 };
 
 } // namespace

@@ -17,7 +17,8 @@ struct FileReturn {
         isThere,    ///< it is at its path already
         isGone,     ///< it is neither at its path nor in the Trash
         isOccupied, ///< another file has its path
-        isUnknown   ///< its place in the Trash cannot be looked at
+        isUnknown,  ///< its place in the Trash cannot be looked at
+        isShutOut   ///< it lies in the Trash, and the folder that it came from lets nothing in
     };
 
     Fate fate = Fate::none;
@@ -25,8 +26,8 @@ struct FileReturn {
 };
 
 /// Looks where the files of the tracks are now. A file is known by inode, size and time, so that one that
-/// somebody brought back by hand is there. Costs a look or two a file; for those that were under way when the
-/// program was killed, 64 at most, a look through the Trash each.
+/// somebody brought back by hand is there. Costs a look or two a file, and a few for each folder; for those
+/// that were under way when the program was killed, 64 at most, a look through the Trash each.
 std::vector<FileReturn> lookForFiles(const RecordedCleanup& cleanup, Trash& trash);
 
 } // namespace songsweep

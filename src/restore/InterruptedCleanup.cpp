@@ -64,7 +64,7 @@ std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& libr
     auto record = RecordedCleanup::read(cleanup->path);
     if (!record) return std::nullopt;
     const auto report = CleanupRestore(library, std::move(record).value(), trash).foresee();
-    if (!report || !report.value().hasWork()) return std::nullopt;
+    if (!report || (cleanup->end && !report.value().hasWork())) return std::nullopt;
     return InterruptedCleanup{.library = library,
                               .kind = newest.heading.kind,
                               .date = newest.heading.date,

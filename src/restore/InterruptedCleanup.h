@@ -25,16 +25,18 @@ struct InterruptedCleanup {
     /// Files that go to the Trash if it is finished instead; nothing where that is the same as putting back.
     std::optional<std::size_t> filesToTrash;
 
-    /// "3 tracks and 2 files", "1 track"; playlist files where they alone are left.
+    bool canBePutBack() const { return tracks + files + playlists > 0; }
+    /// "3 tracks and 2 files", "1 track"; playlist files where they alone are left. Where it can be put back.
     std::string whatCanBePutBack() const;
     /// "2 files go to the Trash", "no file is left to go to the Trash".
     std::string whatFinishingDoes() const;
 };
 
 /// Looks whether the newest deletion or restore of a library came to its end, or is still at it; nothing
-/// where it did, where nothing of it can be put back, and where that cannot be told. Reads the ends of the
-/// records; where one has none, costs the indexes of the library and of the backup, and the looks of a
-/// RemainingFiles. Any thread.
+/// where it did, where a restore has nothing left to put back, and where that cannot be told. Of a deletion
+/// that had done nothing yet it is told, too, until its record has an end. Reads the ends of the records;
+/// where one has none, costs the indexes of the library and of the backup, and the looks of a RemainingFiles.
+/// Any thread.
 std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& library, const Files& files,
                                                          Trash& trash);
 

@@ -3,6 +3,7 @@
 
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
+#include "restore/RestoreLog.h"
 
 #include <exception>
 
@@ -27,9 +28,18 @@ Result<CleanupRestore> restoreFor(const RestoreOrder& order, Trash& trash) {
 
 } // namespace
 
-void RestoreForesight::main() {
+Result<RestoreReport> RestoreForesight::foresee() const {
     const Result<CleanupRestore> restore = restoreFor(m_order, m_services.trash);
-    auto answer = answerOf(restore ? restore.value().foresee() : restore.error());
+    if (!restore) return restore.error();
+    Result<RestoreReport> report = restore.value().foresee();
+    if (report)
+        if (const Result<void> possible = restore.value().foreseeWriting(report.value()); !possible)
+            return possible.error();
+    return report;
+}
+
+void RestoreForesight::main() {
+    auto answer = answerOf(foresee());
     if (isCancelled()) return;
     m_services.center.post({EventName::restoreForeseen, std::move(answer), this});
 }
@@ -43,7 +53,9 @@ void RestoreProc::main() {
     } catch (...) {
         failure = std::current_exception();
     }
-    m_services.center.post({EventName::restoreFinish, answerOf(std::move(restored)), this});
+    const auto answer = answerOf(std::move(restored));
+    m_services.center.post({EventName::restoreFinish, answer, this});
+    logRestore(answer->report, m_services.log);
     if (failure) std::rethrow_exception(failure);
 }
 

@@ -9,6 +9,7 @@
 
 namespace songsweep {
 
+class Log;
 class Trash;
 struct WorkerEvent;
 template <typename Event>
@@ -31,6 +32,7 @@ struct RestoreOrder {
 struct RestoreServices {
     NotificationCenter<WorkerEvent>& center;
     Trash& trash;
+    Log& log;
     std::string program;                        ///< name and version, for the record
     std::function<Result<void>()> writeLibrary; ///< writes what this program has not written yet
 };
@@ -45,6 +47,8 @@ class RestoreForesight final : public Operation {
     void main() override;
 
   private:
+    Result<RestoreReport> foresee() const;
+
     RestoreOrder m_order;
     RestoreServices m_services;
 };

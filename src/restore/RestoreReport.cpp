@@ -70,6 +70,8 @@ void RestoreReport::setFiles(const std::vector<FileReturn>& files, File coming) 
         if (fate == FileReturn::Fate::isThere) tracks[i].file = File::isThere;
         if (fate == FileReturn::Fate::isGone) tracks[i].setFileGone();
         if (fate == FileReturn::Fate::isOccupied) tracks[i].setFileOccupied();
+        if (fate == FileReturn::Fate::isShutOut)
+            tracks[i].setFile(File::failed, "its file stays in the Trash: its folder cannot be written to");
         if (fate == FileReturn::Fate::isUnknown)
             tracks[i].setFile(File::failed, "the Trash cannot be read: " + files[i].place.trashFolder);
     }

@@ -35,8 +35,10 @@ class Finish : public test::RecordedDeletionTest {
 TEST_F(Finish, MovesTheFilesThatWereLeftAndEndsTheRecord) {
     const std::string name = deleteTracksAndNoFile();
     const std::string deleted = library();
-    const RunResult result = finish({"--yes"});
+    const RunResult result = finish({"--yes", "--log", path("log")});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
+    for (const std::string& trace : {"Backup : " + newestBackup(), "Record : " + path(name + ".jsonl")})
+        EXPECT_THAT(m_folder.read("log"), HasSubstr(trace + "\n"));
     EXPECT_THAT(result.output, AllOf(HasSubstr("Track A by X (0000000000000003) deleted, file trashed, " +
                                                path(fileName(3)) + ", in the Trash as 3.mp3\n"),
                                      HasSubstr("Deleted 2 of 2 tracks, files of 2 in the Trash\n"),

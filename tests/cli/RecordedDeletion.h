@@ -25,6 +25,8 @@ class RecordedDeletionTest : public ProgramTest {
     void makeAnew();
     /// Deletes, and gives the name of the clean-up.
     std::string deleteTracks();
+    /// The same, killed when its plan is written down and before anything is deleted.
+    std::string deleteNothing();
     /// The same, killed when the library is written and before any file is moved.
     std::string deleteTracksAndNoFile();
     /// The same, killed when the file of that track is moved, and before that is recorded.

@@ -63,6 +63,33 @@ TEST_F(Restore, TellsBeforehandAndTouchesNothing) {
     EXPECT_EQ(tree(), before);
 }
 
+TEST_F(Restore, ForeseesALibraryThatCannotBeWritten) {
+    if (::geteuid() != 0) GTEST_SKIP() << "needs to become another user";
+    deleteTracks();
+    for (const auto& entry : fs::recursive_directory_iterator(path("")))
+        fs::permissions(entry.path(), fs::perms(0777));
+    fs::permissions(path(""), fs::perms(0555));
+    m_beforeStart = [] { static_cast<void>(::setuid(65534)); };
+    const RunResult foretold = restore({"--dry-run"});
+    EXPECT_EQ(foretold.exitCode, 1);
+    EXPECT_THAT(foretold.errors, HasSubstr("Permission denied"));
+}
+
+TEST_F(Restore, NamesBackupAndRecordInEveryFormatAndInTheLog) {
+    const std::string name = deleteTracks();
+    const RunResult foretold = restore({"--dry-run", "--format", "csv"});
+    EXPECT_THAT(foretold.output, StartsWith("pid,name,artist,location,track,file,reason,dealtwith,dryrun,"
+                                            "cleanup,backup,record\r\n"));
+    EXPECT_THAT(foretold.output, HasSubstr(",true,true," + name + ",,\r\n"));
+    const std::string output = restore({"--yes", "--format", "csv", "--log", path("log")}).output;
+    const std::string traces = ",false," + name + "," + path("Library (before restoring of ");
+    EXPECT_THAT(output, HasSubstr(traces));
+    const std::string log = m_folder.read("log");
+    EXPECT_THAT(log, HasSubstr("A – X: track restored, file put back, " + path(fileName(3)) + "\n"));
+    EXPECT_THAT(log, HasSubstr("Backup : " + path("Library (before restoring of ")));
+    EXPECT_THAT(log, HasSubstr("Record : " + path("Library (before restoring of ")));
+}
+
 TEST_F(Restore, LeavesTracksOutWhoseFilesAreLostWhereTheUserSaysSo) {
     deleteTracks();
     fs::remove(path(inTrash(1)));
@@ -95,7 +122,7 @@ TEST_F(Restore, NamesAFileThatLeftTheTrash) {
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.output,
                 HasSubstr("0000000000000001,A,X," + path(fileName(1)) +
-                          ",restored,missing,its file is not in the Trash any more,false\r\n"));
+                          ",restored,missing,its file is not in the Trash any more,false,false,"));
     EXPECT_EQ(library(), m_whole);
     EXPECT_FALSE(fs::exists(path(fileName(1))));
     EXPECT_EQ(m_folder.read(fileName(3)), "music 3");
@@ -176,6 +203,18 @@ TEST_F(Restore, IsOfferedWhereTheNewestDeletionWasKilled) {
         EXPECT_EQ(run(find).errors, "") << "it may be at it still";
     }
     ASSERT_EQ(restore({"--yes"}).exitCode, 0);
+    EXPECT_EQ(run(find).errors, "");
+}
+
+TEST_F(Restore, OfADeletionThatWasKilledBeforeItDidAnythingIsNotOffered) {
+    const std::string name = deleteNothing();
+    const std::vector<std::string> find = {"find", "--library", m_library};
+    EXPECT_THAT(run(find).errors,
+                HasSubstr("Z was interrupted, and nothing of it is left to put back; it can be finished (no "
+                          "file is left to go to the Trash): songsweep finish --library \"" +
+                          m_library + "\" --cleanup \"" + name + "\" --dry-run\n"));
+    EXPECT_EQ(run({"finish", "--library", m_library, "--yes"}).exitCode, 1) << "its tracks stay";
+    EXPECT_EQ(library(), m_whole);
     EXPECT_EQ(run(find).errors, "");
 }
 

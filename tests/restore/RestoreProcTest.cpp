@@ -3,6 +3,7 @@
 
 #include "library/WorkerEvent.h"
 #include "operations/NotificationCenter.h"
+#include "support/RecordingLog.h"
 #include "support/RecordingTrash.h"
 
 #include <gmock/gmock.h>
@@ -24,12 +25,13 @@ class RestoreProcTest : public testing::Test {
 
     RestoreProc worker(std::function<Result<void>()> writeLibrary) {
         return RestoreProc({"/nowhere/library.xml", "/nowhere/record.jsonl", {}},
-                           {m_center, m_trash, "a test", std::move(writeLibrary)});
+                           {m_center, m_trash, m_log, "a test", std::move(writeLibrary)});
     }
 
     NotificationCenter<WorkerEvent> m_center;
     std::vector<std::string> m_calls;
     test::RecordingTrash m_trash{m_calls};
+    test::RecordingLog m_log;
     std::vector<std::string> m_problems;
 };
 
