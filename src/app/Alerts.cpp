@@ -3,7 +3,9 @@
 
 #include "app/AlertBox.h"
 #include "app/MapGuess.h"
+#include "theme/CountedText.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPushButton>
 
@@ -12,7 +14,7 @@ namespace songsweep::alerts {
 namespace {
 
 QPushButton* addOkButton(QMessageBox& box) {
-    QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    QPushButton* ok = box.addButton(QCoreApplication::translate("Alerts", "OK"), QMessageBox::AcceptRole);
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);
     return ok;
@@ -29,7 +31,8 @@ QMessageBox* openWarning(QWidget* parent, const QString& message, const QString&
 } // namespace
 
 QMessageBox* openNoDuplicates(QWidget* parent, const QString& explanation) {
-    auto* box = new AlertBox(QMessageBox::NoIcon, QStringLiteral("No duplicates found."), parent);
+    auto* box = new AlertBox(QMessageBox::NoIcon,
+                             QCoreApplication::translate("Alerts", "No duplicates found."), parent);
     box->setInformativeText(explanation);
     addOkButton(*box);
     box->open();
@@ -41,7 +44,8 @@ QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QStri
     auto* box = new AlertBox(QMessageBox::Warning, message, parent);
     box->setInformativeText(reason);
     addOkButton(*box);
-    QPushButton* help = box->addButton(QStringLiteral("&Help"), QMessageBox::ActionRole);
+    QPushButton* help =
+        box->addButton(QCoreApplication::translate("Alerts", "&Help"), QMessageBox::ActionRole);
     help->setAutoDefault(false);
     QObject::connect(box, &QMessageBox::finished, box, [box, help, ended = std::move(ended)] {
         ended(box->clickedButton() == help ? secondButton : firstButton);
@@ -51,28 +55,33 @@ QMessageBox* openCantAccess(QWidget* parent, const QString& message, const QStri
 }
 
 QMessageBox* openCantOpenLibrary(QWidget* parent, const QString& reason) {
-    return openWarning(parent, QStringLiteral("Can't open the library."), reason);
+    return openWarning(parent, QCoreApplication::translate("Alerts", "Can't open the library."), reason);
 }
 
 QMessageBox* openCantWriteLibrary(QWidget* parent, const QString& reason) {
-    return openWarning(parent, QStringLiteral("Can't write the library."), reason);
+    return openWarning(parent, QCoreApplication::translate("Alerts", "Can't write the library."), reason);
 }
 
 QMessageBox* openCantExport(QWidget* parent, const QString& reason) {
-    return openWarning(parent, QStringLiteral("Can't export the results."), reason);
+    return openWarning(parent, QCoreApplication::translate("Alerts", "Can't export the results."), reason);
 }
 
 QMessageBox* openSearchWithMap(QWidget* parent, const MapGuess& guess, std::function<void()> accepted) {
-    auto* box = new AlertBox(QMessageBox::NoIcon, QStringLiteral("Look for the files there?"), parent);
+    auto* box = new AlertBox(QMessageBox::NoIcon,
+                             QCoreApplication::translate("Alerts", "Look for the files there?"), parent);
     const QString found =
         guess.tried == 1
-            ? QStringLiteral("The file that was tried is there.")
-            : QStringLiteral("%L1 of %L2 files that were tried are there.").arg(guess.found).arg(guess.tried);
-    box->setInformativeText(QStringLiteral("In the library: %1\nHere: %2\n\n%3")
+            ? QCoreApplication::translate("Alerts", "The file that was tried is there.")
+            : QCoreApplication::translate("Alerts", "%L1 of %L2 files that were tried are there.")
+                  .arg(guess.found)
+                  .arg(guess.tried);
+    box->setInformativeText(QCoreApplication::translate("Alerts", "In the library: %1\nHere: %2\n\n%3")
                                 .arg(QFile::decodeName(guess.rule.from.c_str()),
                                      QFile::decodeName(guess.rule.to.c_str()), found));
-    QPushButton* cancel = box->addButton(QStringLiteral("&Cancel"), QMessageBox::RejectRole);
-    QPushButton* search = box->addButton(QStringLiteral("&Search again"), QMessageBox::AcceptRole);
+    QPushButton* cancel =
+        box->addButton(QCoreApplication::translate("Alerts", "&Cancel"), QMessageBox::RejectRole);
+    QPushButton* search =
+        box->addButton(QCoreApplication::translate("Alerts", "&Search again"), QMessageBox::AcceptRole);
     box->setDefaultButton(search);
     box->setEscapeButton(cancel);
     QObject::connect(search, &QPushButton::clicked, box, [accepted = std::move(accepted)] { accepted(); });
@@ -81,17 +90,21 @@ QMessageBox* openSearchWithMap(QWidget* parent, const MapGuess& guess, std::func
 }
 
 QMessageBox* openNoFilesIn(QWidget* parent, const QString& folder) {
-    return openWarning(parent, QStringLiteral("None of the files were found there."),
-                       folder + QStringLiteral("\nChoose the folder that holds the artists' folders."));
+    return openWarning(
+        parent, QCoreApplication::translate("Alerts", "None of the files were found there."),
+        folder + QLatin1Char('\n') +
+            QCoreApplication::translate("Alerts", "Choose the folder that holds the artists' folders."));
 }
 
 QMessageBox* openMarksAreLost(QWidget* parent, int marks, std::function<void()> accepted) {
-    auto* box = new AlertBox(QMessageBox::Warning, QStringLiteral("Open another library?"), parent);
-    box->setInformativeText(marks == 1
-                                ? QStringLiteral("The mark in these results is lost then.")
-                                : QStringLiteral("The %L1 marks in these results are lost then.").arg(marks));
-    QPushButton* cancel = box->addButton(QStringLiteral("&Cancel"), QMessageBox::RejectRole);
-    QPushButton* open = box->addButton(QStringLiteral("&Open"), QMessageBox::AcceptRole);
+    auto* box = new AlertBox(QMessageBox::Warning,
+                             QCoreApplication::translate("Alerts", "Open another library?"), parent);
+    box->setInformativeText(countedText("Alerts", "The %1 marks in these results are lost then.",
+                                        "The mark in these results is lost then.", marks));
+    QPushButton* cancel =
+        box->addButton(QCoreApplication::translate("Alerts", "&Cancel"), QMessageBox::RejectRole);
+    QPushButton* open =
+        box->addButton(QCoreApplication::translate("Alerts", "&Open"), QMessageBox::AcceptRole);
     open->setAutoDefault(false);
     box->setDefaultButton(cancel);
     box->setEscapeButton(cancel);

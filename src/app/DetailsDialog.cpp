@@ -53,8 +53,8 @@ DetailsDialog::DetailsDialog(const QString& title, const std::vector<std::string
 
 void DetailsDialog::setUpButtons() {
     auto* buttons = new QDialogButtonBox(this);
-    auto* close = buttons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
-    auto* copy = buttons->addButton(QStringLiteral("Co&py"), QDialogButtonBox::ActionRole);
+    auto* close = buttons->addButton(DetailsDialog::tr("&Close"), QDialogButtonBox::RejectRole);
+    auto* copy = buttons->addButton(DetailsDialog::tr("Co&py"), QDialogButtonBox::ActionRole);
     close->setObjectName(QStringLiteral("detailsCloseButton"));
     copy->setObjectName(QStringLiteral("detailsCopyButton"));
     copy->setAutoDefault(false);

@@ -21,7 +21,7 @@ FolderActions::FolderActions(Windows& windows, Log& log, TellUnread tellUnread)
     , m_queue(m_center, log) {
     m_center.setObserver([this](const FolderScanEvent& event) { handle(event); });
     m_sheet.findChild<QPushButton*>(QStringLiteral("progressCancelButton"))
-        ->setAccessibleName(QStringLiteral("Cancel reading"));
+        ->setAccessibleName(ProgressSheet::tr("Cancel reading"));
     m_sheet.addAction(&windows.mainWindow().quitMenuitem());
     QObject::connect(&m_sheet, &QDialog::rejected, &m_sheet, [this] { m_queue.cancelAllOperations(); });
 }

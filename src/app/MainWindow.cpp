@@ -8,6 +8,7 @@
 #include "app/TableFilter.h"
 #include "library/ValueFormats.h"
 #include "theme/Announcement.h"
+#include "theme/CountedText.h"
 #include "ui/MessagePageView.h"
 #include "ui/NoticeBarView.h"
 #include "ui/SWTableView.h"
@@ -26,17 +27,17 @@ namespace songsweep {
 
 namespace {
 
-QString countedSongs(int count) {
-    return count == 1 ? QStringLiteral("1 song") : QStringLiteral("%L1 songs").arg(count);
-}
+QString countedSongs(int count) { return countedText("MainWindow", "%1 songs", "1 song", count); }
 
 /// "· 104 copies of 48 songs · 56 marked, 412.0 MB"
 QString gainText(const ListGain& gain) {
-    QString held = QStringLiteral("· %L1 copies of %2").arg(gain.copies).arg(countedSongs(gain.songs));
+    QString held = QStringLiteral("· ") +
+                   MainWindow::tr("%L1 copies of %2").arg(gain.copies).arg(countedSongs(gain.songs));
     if (gain.marked == 0) return held;
-    return held + QStringLiteral(" · %L1 marked, %2")
-                      .arg(gain.marked)
-                      .arg(QString::fromStdString(megabytes(gain.markedBytes)));
+    return held + QStringLiteral(" · ") +
+           MainWindow::tr("%L1 marked, %2")
+               .arg(gain.marked)
+               .arg(QString::fromStdString(megabytes(gain.markedBytes)));
 }
 
 } // namespace
@@ -199,7 +200,9 @@ void MainWindow::updateGainLabel() { m_gain->count(m_filter->all().rows); }
 void MainWindow::showGain(const ListGain& gain) {
     const auto shown = static_cast<int>(m_filter->shown().rows.size());
     const QString filtered =
-        shown == gain.copies ? QString() : QStringLiteral("· %L1 of %L2 shown ").arg(shown).arg(gain.copies);
+        shown == gain.copies
+            ? QString()
+            : QStringLiteral("· %1 ").arg(tr("%L1 of %L2 shown").arg(shown).arg(gain.copies));
     m_ui->gainLabel->setText(gain.copies == 0 ? QString() : filtered + gainText(gain));
 }
 
@@ -211,11 +214,11 @@ void MainWindow::setSearchEnabled(bool enabled) {
 
 void MainWindow::setUndoNames(const std::string& undo, const std::string& redo) {
     const auto name = [](QAction& item, const QString& verb, const std::string& what) {
-        item.setText(what.empty() ? verb : verb + QStringLiteral(" “%1”").arg(QString::fromStdString(what)));
+        item.setText(what.empty() ? verb : tr("%1 “%2”").arg(verb, QString::fromStdString(what)));
         item.setEnabled(!what.empty());
     };
-    name(*m_ui->undoMenuitem, QStringLiteral("&Undo"), undo);
-    name(*m_ui->redoMenuitem, QStringLiteral("&Redo"), redo);
+    name(*m_ui->undoMenuitem, MainWindow::tr("&Undo"), undo);
+    name(*m_ui->redoMenuitem, MainWindow::tr("&Redo"), redo);
 }
 
 void MainWindow::setMarkEnabled(bool enabled) {

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 #include "app/TableFilter.h"
+#include "platform/Words.h"
 #include "theme/Icons.h"
 #include "ui/SWTableView.h"
 #include "ui_MainWindow.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QShortcut>
@@ -24,20 +26,22 @@ struct KindItem {
     const char* name;
 };
 
-constexpr std::array kindItems = {KindItem{Kind::all, "All"}, KindItem{Kind::marked, "Marked"},
-                                  KindItem{Kind::missing, "Missing"},
-                                  KindItem{Kind::losingEveryCopy, "Losing every copy"}};
+constexpr std::array kindItems = {
+    KindItem{Kind::all, translatable("Filter", "All")},
+    KindItem{Kind::marked, translatable("Filter", "Marked")},
+    KindItem{Kind::missing, translatable("Filter", "Missing")},
+    KindItem{Kind::losingEveryCopy, translatable("Filter", "Losing every copy")}};
 
 } // namespace
 
 void MainWindow::setUpFilter() {
     QLineEdit* field = m_ui->filterField;
     QAction* magnifier = field->addAction(themedIcon(Icon::search), QLineEdit::LeadingPosition);
-    magnifier->setToolTip(QStringLiteral("What is shown"));
+    magnifier->setToolTip(MainWindow::tr("What is shown"));
     auto* kinds = new QMenu(field);
     m_filterKinds = new QActionGroup(this);
     for (const KindItem& each : kindItems) {
-        QAction* item = kinds->addAction(QLatin1String(each.name));
+        QAction* item = kinds->addAction(QCoreApplication::translate("Filter", each.name));
         item->setCheckable(true);
         item->setChecked(each.kind == Kind::all);
         item->setData(static_cast<int>(each.kind));

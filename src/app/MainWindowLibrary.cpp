@@ -5,6 +5,7 @@
 #include "library/ValueFormats.h"
 #include "platform/DataFolder.h"
 #include "scan/FolderLibrary.h"
+#include "theme/CountedText.h"
 #include "ui/MessagePageView.h"
 #include "ui_MainWindow.h"
 
@@ -48,19 +49,15 @@ QString nameOfLibrary(const std::string& path) {
 QString nameAndFolder(const std::string& path) {
     if (const QString folder = folderRead(path); !folder.isEmpty()) return folder;
     const QFileInfo file = fileOf(path);
-    return QStringLiteral("%1 in %2").arg(file.fileName(), shortened(file.path()));
+    return MainWindow::tr("%1 in %2").arg(file.fileName(), shortened(file.path()));
 }
 
-QString countedTracks(int count) {
-    return count == 1 ? QStringLiteral("1 track") : QStringLiteral("%L1 tracks").arg(count);
-}
+QString countedTracks(int count) { return countedText("MainWindow", "%1 tracks", "1 track", count); }
 
-QString countedPlaylists(int count) {
-    return count == 1 ? QStringLiteral("1 playlist") : QStringLiteral("%L1 playlists").arg(count);
-}
+QString countedPlaylists(int count) { return countedText("MainWindow", "%1 playlists", "1 playlist", count); }
 
 QString contentsText(const LibraryContents& contents) {
-    return QStringLiteral("%1, %2, saved %3")
+    return MainWindow::tr("%1, %2, saved %3")
         .arg(countedTracks(contents.tracks), countedPlaylists(contents.playlists),
              QString::fromStdString(shortDateTime(contents.savedSeconds)));
 }
@@ -69,28 +66,29 @@ QString placesText(const std::vector<std::string>& places) {
     QStringList names;
     for (const std::string& place : places)
         names << shortened(fileOf(place).filePath());
-    return QStringLiteral("Looked in ") + names.join(QStringLiteral(", "));
+    return MainWindow::tr("Looked in %1").arg(names.join(QStringLiteral(", ")));
 }
 
 MessagePageView::Words pageWords(const LibraryOverview& library) {
     const QString name = nameOfLibrary(library.path);
-    const QString title = QStringLiteral("Find the songs you have twice");
-    const QString promise = QStringLiteral("Nothing is deleted until you say so.");
+    const QString title = MainWindow::tr("Find the songs you have twice");
+    const QString promise = MainWindow::tr("Nothing is deleted until you say so.");
     switch (library.state) {
     case State::unknown:
         break;
     case State::none:
-        return {QStringLiteral("No iTunes library was found"),
-                QStringLiteral("Open its XML file, or drop it here."), promise, placesText(library.places)};
+        return {MainWindow::tr("No iTunes library was found"),
+                MainWindow::tr("Open its XML file, or drop it here."), promise, placesText(library.places)};
     case State::reading:
-        return {title, name + QStringLiteral(" – Reading the library..."), promise};
+        return {title, QStringLiteral("%1 – %2").arg(name, MainWindow::tr("Reading the library...")),
+                promise};
     case State::read:
         return {title, name + QStringLiteral(" – ") + contentsText(library.contents), promise};
     case State::unreadable:
-        return {QStringLiteral("The library can't be read"), QString::fromStdString(library.problem),
+        return {MainWindow::tr("The library can't be read"), QString::fromStdString(library.problem),
                 promise};
     }
-    return {title, QStringLiteral("Songsweep reads your iTunes library and shows its duplicates in groups."),
+    return {title, MainWindow::tr("Songsweep reads your iTunes library and shows its duplicates in groups."),
             promise};
 }
 
@@ -130,10 +128,10 @@ void MainWindow::showPageWords() {
     MessagePageView* page = m_ui->emptyPage;
     page->setWords(pageWords(m_library));
     if (hasNoUse(m_library.state)) {
-        page->setButtons({{QStringLiteral("&Open library...")}, {QStringLiteral("Choose m&usic folder...")}},
+        page->setButtons({{MainWindow::tr("&Open library...")}, {MainWindow::tr("Choose m&usic folder...")}},
                          0);
     } else {
-        page->setButtons({{QStringLiteral("&Search..."), QStringLiteral("Find duplicates")}}, 0);
+        page->setButtons({{MainWindow::tr("&Search..."), MainWindow::tr("Find duplicates")}}, 0);
     }
 }
 
@@ -151,10 +149,10 @@ void MainWindow::chooseLibrary() {
         QApplication::beep();
         return;
     }
-    auto* dialog = new QFileDialog(this, QStringLiteral("Open library"));
+    auto* dialog = new QFileDialog(this, MainWindow::tr("Open library"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({QStringLiteral("iTunes libraries (*.xml)"), QStringLiteral("All files (*)")});
+    dialog->setNameFilters({MainWindow::tr("iTunes libraries (*.xml)"), MainWindow::tr("All files (*)")});
     dialog->setDirectory(m_library.path.empty()
                              ? QStandardPaths::writableLocation(QStandardPaths::MusicLocation)
                              : fileOf(m_library.path).path());
@@ -184,14 +182,14 @@ void MainWindow::chooseFolder() {
         QApplication::beep();
         return;
     }
-    openFolderChooser(QStringLiteral("Choose music folder"),
+    openFolderChooser(MainWindow::tr("Choose music folder"),
                       QStandardPaths::writableLocation(QStandardPaths::MusicLocation),
                       [this](const std::string& path) { Q_EMIT openLibrary(path); });
 }
 
 /// The music often lies where its library does.
 void MainWindow::chooseFilesFolder() {
-    openFolderChooser(QStringLiteral("Choose the music folder"), fileOf(m_library.path).path(),
+    openFolderChooser(MainWindow::tr("Choose the music folder"), fileOf(m_library.path).path(),
                       [this](const std::string& path) { Q_EMIT filesFolderChosen(path); });
 }
 
@@ -201,14 +199,14 @@ void MainWindow::chooseExport() {
         QApplication::beep();
         return;
     }
-    auto* dialog = new QFileDialog(this, QStringLiteral("Export results"));
+    auto* dialog = new QFileDialog(this, MainWindow::tr("Export results"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters({QStringLiteral("Table (*.csv)"), QStringLiteral("JSON (*.json)"),
-                            QStringLiteral("Web page (*.html)")});
+    dialog->setNameFilters({MainWindow::tr("Table (*.csv)"), MainWindow::tr("JSON (*.json)"),
+                            MainWindow::tr("Web page (*.html)")});
     dialog->setDefaultSuffix(QStringLiteral("csv"));
     dialog->setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    dialog->selectFile(QStringLiteral("Duplicates.csv"));
+    dialog->selectFile(MainWindow::tr("Duplicates.csv"));
     connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
         const QString ending = filter.section(QLatin1Char('.'), -1).chopped(1);
         dialog->setDefaultSuffix(ending);

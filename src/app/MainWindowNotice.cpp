@@ -15,19 +15,19 @@ namespace {
 QString labelOf(NoticeAction action) {
     switch (action) {
     case NoticeAction::details:
-        return QStringLiteral("Details");
+        return MainWindow::tr("Details");
     case NoticeAction::showTrash:
-        return QStringLiteral("Show in Trash");
+        return MainWindow::tr("Show in Trash");
     case NoticeAction::showBackup:
-        return QStringLiteral("Show backup");
+        return MainWindow::tr("Show backup");
     case NoticeAction::finish:
-        return QStringLiteral("Finish");
+        return MainWindow::tr("Finish");
     case NoticeAction::restore:
-        return QStringLiteral("Restore...");
+        return MainWindow::tr("Restore...");
     case NoticeAction::chooseFilesFolder:
-        return QStringLiteral("Choose the music folder...");
+        return MainWindow::tr("Choose the music folder...");
     case NoticeAction::searchWithFewer:
-        return QStringLiteral("Search with fewer fields...");
+        return MainWindow::tr("Search with fewer fields...");
     }
     return {};
 }
@@ -58,7 +58,7 @@ void MainWindow::showNotice(const Notice& notice) {
     std::vector<MessagePageView::Button> buttons;
     for (const QString& label : labels)
         buttons.push_back({label});
-    buttons.push_back({QStringLiteral("&Search..."), QStringLiteral("Find duplicates")});
+    buttons.push_back({MainWindow::tr("&Search..."), MainWindow::tr("Find duplicates")});
     m_ui->noticePage->setButtons(buttons, static_cast<int>(labels.size()));
     showPage();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MainWindow.h"
 #include "app/TableFilter.h"
+#include "platform/Words.h"
 #include "theme/Icons.h"
 #include "theme/Metrics.h"
 #include "ui/ColumnLook.h"
@@ -9,6 +10,7 @@
 #include "ui/TrackTableModel.h"
 #include "ui_MainWindow.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -42,14 +44,13 @@ void MainWindow::setUpToolbar() {
 }
 
 void MainWindow::setUpToolTips() {
-    const auto describe = [](QWidget* button, const char* text, const QKeySequence& key) {
-        button->setToolTip(
-            QStringLiteral("%1 (%2)").arg(QLatin1String(text), key.toString(QKeySequence::NativeText)));
+    const auto describe = [](QWidget* button, const QString& text, const QKeySequence& key) {
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(text, key.toString(QKeySequence::NativeText)));
     };
-    describe(m_ui->searchButton, "Find duplicates", m_ui->searchMenuitem->shortcut());
-    describe(m_ui->autoMarkButton, "Mark copies by a rule", m_ui->autoMarkMenuitem->shortcut());
-    describe(m_ui->deleteButton, "Delete the marked tracks", m_ui->deleteMarkedMenuitem->shortcut());
-    describe(m_ui->formprogressCancelButton, "Cancel search", Qt::Key_Escape);
+    describe(m_ui->searchButton, tr("Find duplicates"), m_ui->searchMenuitem->shortcut());
+    describe(m_ui->autoMarkButton, tr("Mark copies by a rule"), m_ui->autoMarkMenuitem->shortcut());
+    describe(m_ui->deleteButton, tr("Delete the marked tracks"), m_ui->deleteMarkedMenuitem->shortcut());
+    describe(m_ui->formprogressCancelButton, tr("Cancel search"), Qt::Key_Escape);
 }
 
 /// The keys of two pages; a page out of sight hears none. Escape is no shortcut of its button, which would
@@ -99,7 +100,7 @@ void MainWindow::connectFileMenu() {
 #ifdef Q_OS_MACOS
     m_ui->deleteMarkedMenuitem->setShortcut(Qt::CTRL | Qt::Key_Backspace);
     m_ui->guideMenuitem->setShortcut(Qt::CTRL | Qt::Key_Question);
-    m_ui->showinFinderMenuitem->setText(QStringLiteral("Show in Finder"));
+    m_ui->showinFinderMenuitem->setText(MainWindow::tr("Show in Finder"));
 #endif
 }
 
@@ -147,17 +148,23 @@ std::vector<std::string> MainWindow::keyboardLines() const {
         const char* what;
     };
     static constexpr std::array tableKeys = {
-        Key{"Space", "Mark the selected rows, or unmark them where all are marked"},
-        Key{"Up, Down", "The row before, the next row; with Shift more rows"},
-        Key{"Home, End", "The first row, the last row"},
-        Key{"Ctrl+Up, Ctrl+Down", "The first row of the group before, of the next group"},
-        Key{"Esc", "In the filter: all rows again"},
-        Key{"Letters", "The next track whose name begins so"},
-        Key{"Tab", "From control to control"},
-        Key{"Esc", "Cancel a search or a deletion, close a dialog"},
+        Key{translatable("Keyboard", "Space"),
+            translatable("Keyboard", "Mark the selected rows, or unmark them where all are marked")},
+        Key{translatable("Keyboard", "Up, Down"),
+            translatable("Keyboard", "The row before, the next row; with Shift more rows")},
+        Key{translatable("Keyboard", "Home, End"), translatable("Keyboard", "The first row, the last row")},
+        Key{translatable("Keyboard", "Ctrl+Up, Ctrl+Down"),
+            translatable("Keyboard", "The first row of the group before, of the next group")},
+        Key{translatable("Keyboard", "Esc"), translatable("Keyboard", "In the filter: all rows again")},
+        Key{translatable("Keyboard", "Letters"),
+            translatable("Keyboard", "The next track whose name begins so")},
+        Key{translatable("Keyboard", "Tab"), translatable("Keyboard", "From control to control")},
+        Key{translatable("Keyboard", "Esc"),
+            translatable("Keyboard", "Cancel a search or a deletion, close a dialog")},
     };
     for (const Key& key : tableKeys)
-        add(QLatin1String(key.keys), QLatin1String(key.what));
+        add(QCoreApplication::translate("Keyboard", key.keys),
+            QCoreApplication::translate("Keyboard", key.what));
     return lines;
 }
 

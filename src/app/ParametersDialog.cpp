@@ -58,7 +58,8 @@ void ParametersDialog::showParamWindow() { bringToFront(*this); }
 void ParametersDialog::closeParamWindow() { hide(); }
 void ParametersDialog::setPlaylistsPending(bool pending) {
     m_ui->paramLocationCB->setEnabled(!pending);
-    m_ui->paramLocationCB->setPlaceholderText(pending ? QStringLiteral("Reading the library...") : QString());
+    m_ui->paramLocationCB->setPlaceholderText(pending ? ParametersDialog::tr("Reading the library...")
+                                                      : QString());
     findChild<QPushButton*>(QStringLiteral("paramSearchButton"))->setEnabled(!pending);
 }
 
@@ -93,8 +94,10 @@ void ParametersDialog::putBack() {
 }
 
 void ParametersDialog::setUpButtons() {
-    auto* cancel = m_ui->paramButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
-    auto* search = m_ui->paramButtons->addButton(QStringLiteral("&Search"), QDialogButtonBox::AcceptRole);
+    auto* cancel =
+        m_ui->paramButtons->addButton(ParametersDialog::tr("&Cancel"), QDialogButtonBox::RejectRole);
+    auto* search =
+        m_ui->paramButtons->addButton(ParametersDialog::tr("&Search"), QDialogButtonBox::AcceptRole);
     cancel->setObjectName(QStringLiteral("paramCancelButton"));
     cancel->setAutoDefault(false);
     search->setObjectName(QStringLiteral("paramSearchButton"));

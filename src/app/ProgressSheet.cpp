@@ -23,9 +23,10 @@ ProgressSheet::ProgressSheet(QWidget* parent)
     , m_ui(std::make_unique<Ui::ProgressSheet>()) {
     m_ui->setupUi(this);
     setFocusPolicy(Qt::StrongFocus);
-    auto* cancel = m_ui->progressButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
+    auto* cancel =
+        m_ui->progressButtons->addButton(ProgressSheet::tr("&Cancel"), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("progressCancelButton"));
-    cancel->setAccessibleName(QStringLiteral("Cancel deletion"));
+    cancel->setAccessibleName(ProgressSheet::tr("Cancel deletion"));
     cancel->setAutoDefault(false);
     connect(cancel, &QPushButton::clicked, this, &ProgressSheet::reject);
     m_end.setSingleShot(true);

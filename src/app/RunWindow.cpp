@@ -6,9 +6,11 @@
 #include "app/WindowActions.h"
 #include "app/Windows.h"
 #include "platform/BufferedLog.h"
+#include "platform/Languages.h"
 #include "platform/LogFile.h"
 #include "platform/RecentFiles.h"
 #include "platform/SignalWatch.h"
+#include "platform/Words.h"
 #include "scan/FolderLibrary.h"
 #include "sound/ListenerProgram.h"
 #include "theme/SongsweepStyle.h"
@@ -28,7 +30,7 @@ namespace songsweep {
 namespace {
 
 constexpr std::uint64_t mostLogBytes = 20'000'000;
-constexpr const char* libraryIsAsBefore = "The library is as it was before.";
+std::string libraryIsAsBefore() { return words("Alerts", "The library is as it was before."); }
 
 void nameApplication(const std::string& version) {
     QApplication::setApplicationName(QStringLiteral("Songsweep"));
@@ -84,7 +86,7 @@ void writeLibrary(Program& program, Windows& windows) {
     const Result<void> written = program.writeLibrary();
     if (written) return;
     const QMessageBox* const alert =
-        windows.alertCantWrite(written.error().message + "\n" + libraryIsAsBefore);
+        windows.alertCantWrite(written.error().message + "\n" + libraryIsAsBefore());
     QObject::connect(alert, &QMessageBox::finished, qApp, &QCoreApplication::quit);
     QApplication::exec();
 }
@@ -100,8 +102,9 @@ int runUntilQuit(ProgramOptions options, InterruptibleLog& output, Beginning beg
     if (isFolder(options.library)) beginning.folder = std::exchange(options.library, {});
     Program program(std::move(options), beginning.log);
     Windows windows(beginning.log);
-    program.setWriteFailedHandler(
-        [&windows](const std::string& reason) { windows.alertCantWrite(reason + "\n" + libraryIsAsBefore); });
+    program.setWriteFailedHandler([&windows](const std::string& reason) {
+        windows.alertCantWrite(reason + "\n" + libraryIsAsBefore());
+    });
     const int exitCode = runController(program, windows, beginning);
     writeLibrary(program, windows);
     return exitCode;
@@ -123,6 +126,7 @@ int runWindow(ProgramOptions options, const std::string& logFile, Exporter expor
     qInstallMessageHandler(handler);
     nameApplication(options.version);
     keepNoSettingsFile();
+    installLanguage(application);
     applyTheme(application);
     InterruptibleLog console(STDERR_FILENO, InterruptibleLog::Descriptor::staysOpen);
     if (logFile.empty()) {

@@ -4,6 +4,7 @@
 #include "app/AppController.h"
 #include "app/Progress.h"
 #include "app/Windows.h"
+#include "platform/Words.h"
 #include "sound/ListenerProgram.h"
 #include "ui/SWTableView.h"
 
@@ -32,7 +33,7 @@ SoundActions::SoundActions(Windows& windows, AppController& controller, Log& log
     , m_queue(m_center, log) {
     m_center.setObserver([this](const SoundEvent& event) { handle(event); });
     m_sheet.findChild<QPushButton*>(QStringLiteral("progressCancelButton"))
-        ->setAccessibleName(QStringLiteral("Cancel comparing"));
+        ->setAccessibleName(ProgressSheet::tr("Cancel comparing"));
     const bool isThere = isProgram(listener);
     windows.mainWindow().setSoundAvailable(isThere);
     windows.markWindow().setSoundAvailable(isThere);
@@ -66,7 +67,7 @@ void SoundActions::compare(SoundDialog::Scope scope) {
     m_compared = m_controller.rowsToCompare(scopeOf(scope));
     if (m_compared.rows.empty()) return;
     m_begun = std::chrono::steady_clock::now();
-    m_sheet.setProgressText("Comparing sounds...");
+    m_sheet.setProgressText(words("SoundActions", "Comparing sounds..."));
     m_sheet.setProgressValue(0);
     m_sheet.setProgressCounts({});
     m_sheet.beginProgress();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/SoundDialog.h"
 
+#include "theme/CountedText.h"
 #include "theme/DialogFrame.h"
 #include "ui_SoundDialog.h"
 
@@ -11,8 +12,7 @@ namespace songsweep {
 namespace {
 
 QString choiceText(const QString& choice, int copies) {
-    return copies == 1 ? choice + QStringLiteral(" (1 copy)")
-                       : choice + QStringLiteral(" (%L1 copies)").arg(copies);
+    return QStringLiteral("%1 (%2)").arg(choice, countedText("SoundDialog", "%1 copies", "1 copy", copies));
 }
 
 } // namespace
@@ -21,8 +21,8 @@ SoundDialog::SoundDialog(QWidget* parent)
     : QDialog(parent, dialogFrame(Qt::Sheet))
     , m_ui(std::make_unique<Ui::SoundDialog>()) {
     m_ui->setupUi(this);
-    auto* cancel = m_ui->soundButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
-    auto* compare = m_ui->soundButtons->addButton(QStringLiteral("Co&mpare"), QDialogButtonBox::AcceptRole);
+    auto* cancel = m_ui->soundButtons->addButton(SoundDialog::tr("&Cancel"), QDialogButtonBox::RejectRole);
+    auto* compare = m_ui->soundButtons->addButton(SoundDialog::tr("Co&mpare"), QDialogButtonBox::AcceptRole);
     cancel->setObjectName(QStringLiteral("soundCancelButton"));
     cancel->setAutoDefault(false);
     compare->setObjectName(QStringLiteral("soundCompareButton"));
@@ -37,10 +37,10 @@ SoundDialog::SoundDialog(QWidget* parent)
 SoundDialog::~SoundDialog() = default;
 
 void SoundDialog::ask(int listedCopies, int selectedCopies) {
-    m_ui->soundListedRB->setText(choiceText(QStringLiteral("&All songs"), listedCopies));
+    m_ui->soundListedRB->setText(choiceText(SoundDialog::tr("&All songs"), listedCopies));
     m_ui->soundSelectedRB->setText(selectedCopies == 0
-                                       ? QStringLiteral("&Selected songs")
-                                       : choiceText(QStringLiteral("&Selected songs"), selectedCopies));
+                                       ? SoundDialog::tr("&Selected songs")
+                                       : choiceText(SoundDialog::tr("&Selected songs"), selectedCopies));
     m_ui->soundSelectedRB->setEnabled(selectedCopies > 0);
     QRadioButton* const chosen = selectedCopies > 0 ? m_ui->soundSelectedRB : m_ui->soundListedRB;
     chosen->setChecked(true);

@@ -66,7 +66,7 @@ void WindowActions::connectLinks() {
     connect(window, &MainWindow::helpButtonClick, this, [=] { controller->helpButtonClick(); });
     connect(window, &MainWindow::contactButtonClick, this, [=] { controller->contactButtonClick(); });
     connect(window, &MainWindow::keyboardMenuClick, this, [this](const std::vector<std::string>& lines) {
-        m_windows.showDetails(QStringLiteral("Keyboard"), lines);
+        m_windows.showDetails(WindowActions::tr("Keyboard"), lines);
     });
     connect(about, &AboutDialog::websiteRequested, this, [=] { controller->websiteButtonClick(); });
     connect(about, &AboutDialog::helpRequested, this, [=] { controller->helpButtonClick(); });
@@ -167,7 +167,7 @@ void WindowActions::connectRestoring() {
     connect(sheet, &RestoreDialog::cancelRequested, this,
             [this] { m_controller.restoreCancelButtonClick(); });
     connect(sheet, &RestoreDialog::detailsRequested, this, [this](const std::vector<std::string>& lines) {
-        m_windows.showDetails(QStringLiteral("Restored tracks"), lines);
+        m_windows.showDetails(WindowActions::tr("Restored tracks"), lines);
     });
 }
 
@@ -178,7 +178,7 @@ void WindowActions::connectNotices() {
     connect(window, &MainWindow::filesFolderChosen, this, &WindowActions::offerMap);
     connect(window, &MainWindow::noticeClosed, this, [this] { m_controller.noticeCloseButtonClick(); });
     connect(window, &MainWindow::noticeDetails, this, [this](const std::vector<std::string>& lines) {
-        m_windows.showDetails(QStringLiteral("Details"), lines);
+        m_windows.showDetails(WindowActions::tr("Details"), lines);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "app/Alerts.h"
 #include "app/BringToFront.h"
 #include "app/DetailsDialog.h"
+#include "platform/Words.h"
 
 #include <QApplication>
 #include <QFile>
@@ -79,7 +80,7 @@ void Windows::alertNoFilesIn(const std::string& folder) {
 }
 
 void Windows::alertCantBeginDelete(const std::string& reason) {
-    alertCantWrite(reason + "\nNothing was deleted.");
+    alertCantWrite(reason + "\n" + words("Alerts", "Nothing was deleted."));
 }
 
 void Windows::showDetails(const QString& title, const std::vector<std::string>& lines) {
@@ -89,7 +90,7 @@ void Windows::showDetails(const QString& title, const std::vector<std::string>& 
 }
 
 void Windows::alertCantGoOnDeleting(const std::string& reason) {
-    alertCantWrite(reason + "\nTracks that the library still has keep their files.");
+    alertCantWrite(reason + "\n" + words("Alerts", "Tracks that the library still has keep their files."));
 }
 
 QMessageBox* Windows::alertCantWrite(const std::string& reason) {

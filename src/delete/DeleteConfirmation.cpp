@@ -100,8 +100,10 @@ void DeleteConfirmation::showEvent(QShowEvent* event) {
 }
 
 void DeleteConfirmation::setUpButtons() {
-    m_cancelButton = m_ui->delConfButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
-    m_deleteButton = m_ui->delConfButtons->addButton(QStringLiteral("&Delete"), QDialogButtonBox::AcceptRole);
+    m_cancelButton =
+        m_ui->delConfButtons->addButton(DeleteConfirmation::tr("&Cancel"), QDialogButtonBox::RejectRole);
+    m_deleteButton =
+        m_ui->delConfButtons->addButton(DeleteConfirmation::tr("&Delete"), QDialogButtonBox::AcceptRole);
     m_cancelButton->setObjectName(QStringLiteral("delConfCancelButton"));
     m_deleteButton->setObjectName(QStringLiteral("delConfOkButton"));
     m_deleteButton->setProperty("role", QStringLiteral("destructive"));

@@ -4,9 +4,11 @@
 #include "dupes/MarkingRules.h"
 #include "dupes/UpperCaseValidator.h"
 #include "theme/Announcement.h"
+#include "theme/CountedText.h"
 #include "theme/DialogFrame.h"
 #include "ui_MarkDialog.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QPushButton>
 #include <QShowEvent>
@@ -37,7 +39,7 @@ constexpr std::array fieldControls = {
 
 void addItems(QComboBox* combo, MarkField field) {
     for (const MarkRule& rule : markRules())
-        if (rule.field == field) combo->addItem(QString::fromUtf8(rule.item));
+        if (rule.field == field) combo->addItem(QCoreApplication::translate("MarkRule", rule.item));
 }
 
 /// The rule of a field that the item of its list stands for: the first for the first item, the last for any
@@ -57,27 +59,28 @@ void setTag(const Ui::MarkDialog& ui, QRadioButton* radio, MarkField field) {
 }
 
 QString previewText(const MarkPreview& preview) {
-    if (preview.total == 0) return QStringLiteral("No tracks to mark");
-    const QString counts = QStringLiteral(" %L1 of %L2").arg(preview.marked).arg(preview.total);
-    const QString none = preview.matches ? QString() : QStringLiteral("No track matches. ");
-    if (preview.inForce) return none + QStringLiteral("Marked") + counts;
-    const QString lost = preview.byHand == 0 ? QString()
-                         : preview.byHand == 1
-                             ? QStringLiteral(",\nreplaces 1 mark made by hand")
-                             : QStringLiteral(",\nreplaces %L1 marks made by hand").arg(preview.byHand);
-    return none + QStringLiteral("Would mark") + counts + lost;
+    if (preview.total == 0) return MarkDialog::tr("No tracks to mark");
+    const QString none = preview.matches ? QString() : MarkDialog::tr("No track matches.") + QLatin1Char(' ');
+    const QString counts =
+        preview.inForce ? MarkDialog::tr("Marked %L1 of %L2") : MarkDialog::tr("Would mark %L1 of %L2");
+    const QString lost =
+        preview.inForce || preview.byHand == 0
+            ? QString()
+            : QStringLiteral(",\n") + countedText("MarkDialog", "replaces %1 marks made by hand",
+                                                  "replaces 1 mark made by hand", preview.byHand);
+    return none + counts.arg(preview.marked).arg(preview.total) + lost;
 }
 
 QString recordingsText(bool exceptOne) {
-    return exceptOne ? QStringLiteral("One copy of each recording stays, a working one if there is one.")
-                     : QStringLiteral("Copies that tie all stay. No recording loses every copy.");
+    return exceptOne ? MarkDialog::tr("One copy of each recording stays, a working one if there is one.")
+                     : MarkDialog::tr("Copies that tie all stay. No recording loses every copy.");
 }
 
 QString helperText(MarkType markType, bool exceptOne) {
-    if (exceptOne) return QStringLiteral("One copy of each song stays, a working one if there is one.");
+    if (exceptOne) return MarkDialog::tr("One copy of each song stays, a working one if there is one.");
     if (markType >= MarkType::kind)
-        return QStringLiteral("A song can lose every copy. Missing files are marked too.");
-    return QStringLiteral("Copies that tie all stay. Missing files are marked too.");
+        return MarkDialog::tr("A song can lose every copy. Missing files are marked too.");
+    return MarkDialog::tr("Copies that tie all stay. Missing files are marked too.");
 }
 
 } // namespace
@@ -184,23 +187,23 @@ void MarkDialog::connectFolder() {
 }
 
 void MarkDialog::setUpButtons() {
-    auto* close = m_ui->markButtons->addButton(QStringLiteral("&Close"), QDialogButtonBox::RejectRole);
-    auto* mark = m_ui->markButtons->addButton(QStringLiteral("&Mark"), QDialogButtonBox::AcceptRole);
+    auto* close = m_ui->markButtons->addButton(MarkDialog::tr("&Close"), QDialogButtonBox::RejectRole);
+    auto* mark = m_ui->markButtons->addButton(MarkDialog::tr("&Mark"), QDialogButtonBox::AcceptRole);
     close->setObjectName(QStringLiteral("markCancelButton"));
     close->setAutoDefault(false);
     mark->setObjectName(QStringLiteral("markMarkButton"));
     mark->setDefault(true);
-    mark->setToolTip(QStringLiteral("Replaces all present marks"));
+    mark->setToolTip(MarkDialog::tr("Replaces all present marks"));
     connect(mark, &QPushButton::clicked, this, &MarkDialog::markRequested);
     connect(close, &QPushButton::clicked, this, &MarkDialog::reject);
 }
 
 void MarkDialog::openFolderChooser() {
-    auto* chooser = new QFileDialog(this, QStringLiteral("Select a folder"));
+    auto* chooser = new QFileDialog(this, MarkDialog::tr("Select a folder"));
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     chooser->setFileMode(QFileDialog::Directory);
     chooser->setOption(QFileDialog::ShowDirsOnly);
-    chooser->setLabelText(QFileDialog::Accept, QStringLiteral("Select"));
+    chooser->setLabelText(QFileDialog::Accept, MarkDialog::tr("Select"));
     connect(chooser, &QFileDialog::fileSelected, this, &MarkDialog::folderChosen);
     chooser->open();
 }
@@ -209,11 +212,11 @@ void MarkDialog::updateHelper() {
     const MarkChoice now = choice();
     showLive(*m_ui->markExceptOneLabel,
              m_byRecordings ? recordingsText(now.exceptOne) : helperText(now.markType, now.exceptOne));
-    m_ui->markKeepLabel->setText(m_byRecordings ? QStringLiteral("Keep of each recording")
-                                                : QStringLiteral("Keep in each group"));
+    m_ui->markKeepLabel->setText(m_byRecordings ? MarkDialog::tr("Keep of each recording")
+                                                : MarkDialog::tr("Keep in each group"));
     m_ui->markSoundLabel->setText(m_byRecordings
-                                      ? QStringLiteral("Recordings were told apart by their sound.")
-                                      : QStringLiteral("Equal tags can be different recordings."));
+                                      ? MarkDialog::tr("Recordings were told apart by their sound.")
+                                      : MarkDialog::tr("Equal tags can be different recordings."));
 }
 
 } // namespace songsweep

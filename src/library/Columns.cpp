@@ -4,6 +4,7 @@
 #include "library/Groups.h"
 #include "library/KeySort.h"
 #include "library/ValueFormats.h"
+#include "platform/Words.h"
 
 namespace songsweep {
 
@@ -21,7 +22,7 @@ std::string_view made(const TrackRecord& record, std::string& made) {
 }
 
 std::string_view yesOrNo(const TrackRecord& record, std::string& /*made*/) {
-    return record.hasartwork ? "Yes" : "No";
+    return record.hasartwork ? translatable("Columns", "Yes") : translatable("Columns", "No");
 }
 
 std::string_view fileOf(const TrackRecord& record, std::string& /*made*/) { return fileName(record); }
@@ -77,34 +78,40 @@ using enum Elision;
 // The size is a text and is compared as one: "9" stands behind "10". The missing files' pictures have no
 // order.
 constexpr std::array<ColumnInfo, allColumns.size()> columns = {{
-    {Column::checkbox, "checkbox", "", "Marked for deletion", "Marked for deletion", checkBox, 32, centre,
-     end, nullptr, addKeys<addNumber<&TrackRecord::checkbox>>},
-    {Column::dtrack, "dtrack", "", "File missing", "", image, 28, centre, end, nullptr, addKeys<addNothing>},
-    {Column::name, "name", "Name", "Name", "", text, 184, left, end, textOf<&TrackRecord::name>,
-     addKeys<addText<&TrackRecord::name>>},
-    {Column::artist, "artist", "Artist", "Artist", "", text, 144, left, end, textOf<&TrackRecord::artist>,
-     addKeys<addText<&TrackRecord::artist>>},
-    {Column::album, "album", "Album", "Album", "", text, 148, left, end, textOf<&TrackRecord::album>,
-     addKeys<addText<&TrackRecord::album>>},
-    {Column::time, "time", "Time", "Time", "", text, 64, right, end, textOf<&TrackRecord::time>,
-     addKeys<addNumber<&TrackRecord::timev>>},
-    {Column::bitrate, "bitrate", "Bit rate", "Bit rate", "kbit/s", text, 76, right, end,
-     textOf<&TrackRecord::bitrate>, addKeys<addInteger<&TrackRecord::bitrate>>},
-    {Column::sizestring, "sizestring", "Size", "Size", "", text, 76, right, end, made<sizestring>,
-     addKeys<addText<&TrackRecord::size>>},
-    {Column::rating, "rating", "Rating", "Rating", "", stars, 88, left, end, nullptr,
-     addKeys<addNumber<&TrackRecord::rating>>},
-    {Column::playcount, "playcount", "Plays", "Plays", "", text, 56, right, end,
-     textOf<&TrackRecord::playcount>, addKeys<addInteger<&TrackRecord::playcount>>},
-    {Column::dateadded, "dateadded", "Date added", "Date added", "", text, 128, left, end, made<dateadded>,
+    {Column::checkbox, "checkbox", "", translatable("Columns", "Marked for deletion"),
+     translatable("Columns", "Marked for deletion"), checkBox, 32, centre, end, nullptr,
+     addKeys<addNumber<&TrackRecord::checkbox>>},
+    {Column::dtrack, "dtrack", "", translatable("Columns", "File missing"), "", image, 28, centre, end,
+     nullptr, addKeys<addNothing>},
+    {Column::name, "name", translatable("Columns", "Name"), translatable("Columns", "Name"), "", text, 184,
+     left, end, textOf<&TrackRecord::name>, addKeys<addText<&TrackRecord::name>>},
+    {Column::artist, "artist", translatable("Columns", "Artist"), translatable("Columns", "Artist"), "", text,
+     144, left, end, textOf<&TrackRecord::artist>, addKeys<addText<&TrackRecord::artist>>},
+    {Column::album, "album", translatable("Columns", "Album"), translatable("Columns", "Album"), "", text,
+     148, left, end, textOf<&TrackRecord::album>, addKeys<addText<&TrackRecord::album>>},
+    {Column::time, "time", translatable("Columns", "Time"), translatable("Columns", "Time"), "", text, 64,
+     right, end, textOf<&TrackRecord::time>, addKeys<addNumber<&TrackRecord::timev>>},
+    {Column::bitrate, "bitrate", translatable("Columns", "Bit rate"), translatable("Columns", "Bit rate"),
+     "kbit/s", text, 76, right, end, textOf<&TrackRecord::bitrate>,
+     addKeys<addInteger<&TrackRecord::bitrate>>},
+    {Column::sizestring, "sizestring", translatable("Columns", "Size"), translatable("Columns", "Size"), "",
+     text, 76, right, end, made<sizestring>, addKeys<addText<&TrackRecord::size>>},
+    {Column::rating, "rating", translatable("Columns", "Rating"), translatable("Columns", "Rating"), "",
+     stars, 88, left, end, nullptr, addKeys<addNumber<&TrackRecord::rating>>},
+    {Column::playcount, "playcount", translatable("Columns", "Plays"), translatable("Columns", "Plays"), "",
+     text, 56, right, end, textOf<&TrackRecord::playcount>, addKeys<addInteger<&TrackRecord::playcount>>},
+    {Column::dateadded, "dateadded", translatable("Columns", "Date added"),
+     translatable("Columns", "Date added"), "", text, 128, left, end, made<dateadded>,
      addKeys<addNumber<&TrackRecord::dateaddedv>>},
-    {Column::hasartwork, "hasartwork", "Artwork", "Artwork", "", text, 72, centre, end, yesOrNo,
-     addKeys<addNumber<&TrackRecord::hasartwork>>},
-    {Column::sound, "sound", "Sound", "Sound", "Whether copies are the same recording", text, 100, left, end,
-     soundOf, addKeys<addSound>},
-    {Column::file, "file", "File", "File", "", text, 180, left, middle, fileOf, addKeys<addFileName>},
-    {Column::location, "location", "Location", "Location", "", text, 300, left, middle,
-     textOf<&TrackRecord::location>, addKeys<addText<&TrackRecord::location>>},
+    {Column::hasartwork, "hasartwork", translatable("Columns", "Artwork"), translatable("Columns", "Artwork"),
+     "", text, 72, centre, end, yesOrNo, addKeys<addNumber<&TrackRecord::hasartwork>>},
+    {Column::sound, "sound", translatable("Columns", "Sound"), translatable("Columns", "Sound"),
+     translatable("Columns", "Whether copies are the same recording"), text, 100, left, end, soundOf,
+     addKeys<addSound>},
+    {Column::file, "file", translatable("Columns", "File"), translatable("Columns", "File"), "", text, 180,
+     left, middle, fileOf, addKeys<addFileName>},
+    {Column::location, "location", translatable("Columns", "Location"), translatable("Columns", "Location"),
+     "", text, 300, left, middle, textOf<&TrackRecord::location>, addKeys<addText<&TrackRecord::location>>},
 }};
 
 constexpr bool rowsStandAtTheirColumns() {

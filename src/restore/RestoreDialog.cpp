@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "restore/RestoreDialog.h"
 
+#include "platform/Words.h"
 #include "restore/CleanupCell.h"
 #include "restore/RestoreTexts.h"
 #include "theme/Announcement.h"
@@ -64,11 +65,12 @@ void RestoreDialog::setUpList() {
 }
 
 void RestoreDialog::setUpButtons() {
-    m_cancelButton = m_ui->restoreButtons->addButton(QStringLiteral("&Cancel"), QDialogButtonBox::RejectRole);
+    m_cancelButton =
+        m_ui->restoreButtons->addButton(RestoreDialog::tr("&Cancel"), QDialogButtonBox::RejectRole);
     m_restoreButton =
-        m_ui->restoreButtons->addButton(QStringLiteral("&Restore"), QDialogButtonBox::AcceptRole);
+        m_ui->restoreButtons->addButton(RestoreDialog::tr("&Restore"), QDialogButtonBox::AcceptRole);
     m_detailsButton =
-        m_ui->restoreButtons->addButton(QStringLiteral("&Details"), QDialogButtonBox::ActionRole);
+        m_ui->restoreButtons->addButton(RestoreDialog::tr("&Details"), QDialogButtonBox::ActionRole);
     m_cancelButton->setObjectName(QStringLiteral("restoreCancelButton"));
     m_restoreButton->setObjectName(QStringLiteral("restoreOkButton"));
     m_detailsButton->setObjectName(QStringLiteral("restoreDetailsButton"));
@@ -96,9 +98,9 @@ void RestoreDialog::setUnknown() {
     m_ui->restoreList->clear();
     m_ui->restoreList->setEnabled(true);
     m_ui->restoreLeaveLostCK->setChecked(false);
-    m_cancelButton->setText(QStringLiteral("&Cancel"));
+    m_cancelButton->setText(RestoreDialog::tr("&Cancel"));
     setForeseeing();
-    showLines({"Looking for deletions..."});
+    showLines({tr("Looking for deletions...").toStdString()});
 }
 
 void RestoreDialog::setListing(const CleanupListing& listing, int chosen) {
@@ -108,9 +110,11 @@ void RestoreDialog::setListing(const CleanupListing& listing, int chosen) {
     m_ui->restoreList->setCurrentItem(m_ui->restoreList->topLevelItem(chosen));
     m_ui->restoreList->setFocus();
     if (!listing.cleanups.empty()) return;
-    showLines({listing.problem.empty() ? "Nothing was deleted from this library by Songsweep, or the records "
-                                         "of it are no longer beside the library."
-                                       : "The deletions cannot be listed: " + listing.problem + "."});
+    showLines(
+        {listing.problem.empty()
+             ? words("RestoreDialog", "Nothing was deleted from this library by Songsweep, or the records "
+                                      "of it are no longer beside the library.")
+             : filled(words("RestoreDialog", "The deletions cannot be listed: %1."), {listing.problem})});
 }
 
 void RestoreDialog::setForeseeing() {
@@ -118,7 +122,7 @@ void RestoreDialog::setForeseeing() {
     m_ui->restoreProgress->hide();
     m_restoreButton->setEnabled(false);
     m_detailsButton->setEnabled(false);
-    showLines({"Looking what can come back..."});
+    showLines({tr("Looking what can come back...").toStdString()});
 }
 
 void RestoreDialog::setForeseen(const RestoreAnswer& answer) {
@@ -129,8 +133,10 @@ void RestoreDialog::setForeseen(const RestoreAnswer& answer) {
 }
 
 void RestoreDialog::showAnswer(const RestoreAnswer& answer, const std::vector<std::string>& lines) {
-    showLines(answer.problem.empty() ? lines
-                                     : std::vector{"Nothing can be restored: " + answer.problem + "."});
+    showLines(
+        answer.problem.empty()
+            ? lines
+            : std::vector{filled(words("RestoreDialog", "Nothing can be restored: %1."), {answer.problem})});
     m_details = restoreTexts::details(answer.report);
     m_detailsButton->setEnabled(!m_details.empty());
 }
@@ -142,7 +148,7 @@ void RestoreDialog::setRestoring() {
     m_detailsButton->setEnabled(false);
     m_ui->restoreProgress->show();
     setProgress(0);
-    showLines({"Restoring..."});
+    showLines({tr("Restoring...").toStdString()});
     m_cancelButton->setFocus();
 }
 
@@ -151,7 +157,7 @@ void RestoreDialog::setProgress(int percent) { m_ui->restoreProgress->setValue(p
 void RestoreDialog::setRestored(const RestoreAnswer& answer) {
     m_ui->restoreProgress->hide();
     showAnswer(answer, restoreTexts::done(answer.report));
-    m_cancelButton->setText(QStringLiteral("&Close"));
+    m_cancelButton->setText(RestoreDialog::tr("&Close"));
 }
 
 void RestoreDialog::showLines(const std::vector<std::string>& lines) {

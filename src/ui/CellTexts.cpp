@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ui/CellTexts.h"
 
+#include "platform/Words.h"
 #include "ui/ColumnLook.h"
+
+#include <QCoreApplication>
+
+#include <array>
 
 namespace songsweep {
 
@@ -11,9 +16,14 @@ QString fromText(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// The words of soundWord(), which asks nobody.
+[[maybe_unused]] constexpr std::array soundWords = {
+    translatable("Columns", "same"), translatable("Columns", "differs"), translatable("Columns", "unsure"),
+    translatable("Columns", "not readable")};
+
 QString spokenRating(int stars) {
-    if (stars <= 0) return QStringLiteral("Not rated");
-    return QStringLiteral("Rating: %1 of 5 stars").arg(stars);
+    if (stars <= 0) return QCoreApplication::translate("CellTexts", "Not rated");
+    return QCoreApplication::translate("CellTexts", "Rating: %1 of 5 stars").arg(stars);
 }
 
 } // namespace
@@ -22,7 +32,9 @@ QString displayText(const TrackRecord& record, Column column) {
     const ColumnInfo& info = columnInfo(column);
     if (info.text == nullptr) return {};
     std::string made;
-    return fromText(info.text(record, made));
+    const std::string_view text = info.text(record, made);
+    if (column != Column::hasartwork && column != Column::sound) return fromText(text);
+    return QCoreApplication::translate("Columns", std::string(text).c_str());
 }
 
 QString drawnText(const TrackRecord& record, Column column) {
@@ -32,9 +44,11 @@ QString drawnText(const TrackRecord& record, Column column) {
 QString spokenText(const TrackRecord& record, Column column) {
     switch (column) {
     case Column::checkbox:
-        return record.checkbox ? QStringLiteral("Marked") : QStringLiteral("Not marked");
+        return record.checkbox ? QCoreApplication::translate("CellTexts", "Marked")
+                               : QCoreApplication::translate("CellTexts", "Not marked");
     case Column::dtrack:
-        return record.isdead ? QStringLiteral("File missing") : QStringLiteral("File present");
+        return record.isdead ? QCoreApplication::translate("CellTexts", "File missing")
+                             : QCoreApplication::translate("CellTexts", "File present");
     case Column::rating:
         return spokenRating(record.rating);
     default:
@@ -43,7 +57,7 @@ QString spokenText(const TrackRecord& record, Column column) {
 }
 
 QString spokenPlace(const RowPlace& place) {
-    return QStringLiteral("Group %1 of %2, copy %3 of %4")
+    return QCoreApplication::translate("CellTexts", "Group %1 of %2, copy %3 of %4")
         .arg(place.group)
         .arg(place.groups)
         .arg(place.copy)

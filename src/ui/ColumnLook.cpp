@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ui/ColumnLook.h"
 
+#include <QCoreApplication>
+
 namespace songsweep {
 
 namespace {
 
 using Looks = std::array<ColumnLook, allColumns.size()>;
 
-QString fromText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+/// The table's texts end with a zero, being literals.
+QString inWords(std::string_view text) { return QCoreApplication::translate("Columns", text.data()); }
 
 Qt::Alignment toQt(Alignment alignment) {
     switch (alignment) {
@@ -24,9 +25,9 @@ Qt::Alignment toQt(Alignment alignment) {
 }
 
 ColumnLook lookOf(const ColumnInfo& info) {
-    return {.title = fromText(info.title),
-            .toolTip = fromText(info.toolTip),
-            .spokenTitle = fromText(info.spokenTitle),
+    return {.title = inWords(info.title),
+            .toolTip = inWords(info.toolTip),
+            .spokenTitle = inWords(info.spokenTitle),
             .width = info.width,
             .alignment = toQt(info.alignment),
             .elision = info.elision == Elision::middle ? Qt::ElideMiddle : Qt::ElideRight,

@@ -5,6 +5,7 @@
 #include "ui/ColumnLook.h"
 #include "ui/TrackTableModel.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace songsweep {
@@ -14,7 +15,8 @@ namespace {
 QString cellText(const TrackRecord& record, Column column) {
     if (column == Column::checkbox || column == Column::dtrack) {
         const bool isSo = column == Column::checkbox ? record.checkbox : record.isdead;
-        return isSo ? QStringLiteral("Yes") : QStringLiteral("No");
+        return isSo ? QCoreApplication::translate("Columns", "Yes")
+                    : QCoreApplication::translate("Columns", "No");
     }
     if (column == Column::rating) return QString::number(record.rating);
     QString text = displayText(record, column);

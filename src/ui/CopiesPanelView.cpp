@@ -65,7 +65,7 @@ std::vector<bool> differingRows(const Copies& copies) {
 CopiesPanelView::CopiesPanelView(QWidget* parent)
     : QTableWidget(parent) {
     setObjectName(QStringLiteral("copiesPanel"));
-    setAccessibleName(QStringLiteral("Copies of the song"));
+    setAccessibleName(CopiesPanelView::tr("Copies of the song"));
     setFrameShape(QFrame::NoFrame);
     setShowGrid(false);
     setEditTriggers(NoEditTriggers);
@@ -85,10 +85,11 @@ CopiesPanelView::CopiesPanelView(QWidget* parent)
 }
 
 void CopiesPanelView::setUpRows() {
-    QStringList titles = {QStringLiteral("Marked"), QStringLiteral("Difference"), QStringLiteral("Sound")};
+    QStringList titles = {CopiesPanelView::tr("Marked"), CopiesPanelView::tr("Difference"),
+                          CopiesPanelView::tr("Sound")};
     for (const Column column : shownColumns)
         titles << columnLook(column).spokenTitle;
-    titles.last() = QStringLiteral("Folder");
+    titles.last() = CopiesPanelView::tr("Folder");
     setRowCount(static_cast<int>(titles.size()));
     setVerticalHeaderLabels(titles);
 }

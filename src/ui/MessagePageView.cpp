@@ -152,7 +152,7 @@ void MessagePageView::setChoices(const QStringList& names, const QStringList& to
         button->setObjectName(partName("Choice") + QString::number(index));
         button->setText(names.at(index));
         button->setToolTip(toolTips.value(index));
-        button->setAccessibleName(QStringLiteral("Open %1").arg(toolTips.value(index)));
+        button->setAccessibleName(MessagePageView::tr("Open %1").arg(toolTips.value(index)));
         connect(button, &QToolButton::clicked, this, [this, index] { Q_EMIT choiceClicked(index); });
         m_choices->addWidget(button, 0, Qt::AlignHCenter);
         m_choiceButtons.push_back(button);

@@ -43,8 +43,8 @@ NoticeBarView::NoticeBarView(QWidget* parent)
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_close->setObjectName(QStringLiteral("noticeCloseButton"));
     m_close->setIcon(themedIcon(Icon::cancel));
-    m_close->setAccessibleName(QStringLiteral("Close message"));
-    m_close->setToolTip(QStringLiteral("Close message"));
+    m_close->setAccessibleName(NoticeBarView::tr("Close message"));
+    m_close->setToolTip(NoticeBarView::tr("Close message"));
     connect(m_close, &QToolButton::clicked, this, &NoticeBarView::closed);
     m_layout->addWidget(m_icon);
     m_layout->addWidget(m_label, 1);

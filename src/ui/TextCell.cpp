@@ -4,6 +4,7 @@
 #include "ui/ColumnLook.h"
 #include "ui/TrackTableModel.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 namespace songsweep {
@@ -27,7 +28,7 @@ QString onOneLine(QString text) {
 
 bool isSecondary(Column column, const QString& text, const QModelIndex& index) {
     if (index.data(TrackTableModel::MissingRole).toBool()) return true;
-    return column == Column::hasartwork && text == QStringLiteral("No");
+    return column == Column::hasartwork && text == QCoreApplication::translate("Columns", "No");
 }
 
 } // namespace
