@@ -13,6 +13,7 @@
 #include "delete/FileSurvey.h"
 #include "delete/TrackFacts.h"
 #include "dupes/RecordingGroups.h"
+#include "platform/Words.h"
 
 #include <utility>
 
@@ -138,7 +139,7 @@ bool Deletion::startMerge() {
     const MergeServices services = {m_workers.center, m_services.scripts, m_services.log, m_services.cleanup,
                                     m_services.planMerge};
     m_workers.queue.add(std::make_unique<MergeProc>(std::move(songs), m_mergeChoice, services));
-    m_progress.setText(ProgressBar::progress, "Merging...");
+    m_progress.setText(ProgressBar::progress, words("Deletion", "Merging..."));
     return true;
 }
 
@@ -172,7 +173,7 @@ void Deletion::startWorker() {
                                      m_services.log,   m_services.cleanup, m_services.tracksOfId};
     m_workers.queue.add(std::make_unique<DeleteProc>(m_results.tableDataSource(), m_deleteFiles, services,
                                                      std::exchange(m_plan, {})));
-    m_progress.setText(ProgressBar::progress, "Deleting...");
+    m_progress.setText(ProgressBar::progress, words("Deletion", "Deleting..."));
 }
 
 void Deletion::cancelButtonClick() {

@@ -5,6 +5,7 @@
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Files.h"
+#include "platform/Words.h"
 #include "restore/InterruptedCleanup.h"
 
 #include <algorithm>
@@ -35,9 +36,14 @@ std::vector<std::string> uselessMaps(const std::vector<MapRule>& rules, const Li
     std::vector<std::string> warnings;
     warnings.reserve(left.size());
     for (const MapRule& rule : left)
-        warnings.push_back("--map " + rule.from + "=" + rule.to +
-                           " changes nothing, as no path of the library begins so" +
-                           (first.empty() ? std::string() : "; its first is " + first));
+        warnings.push_back(
+            first.empty() ? filled(words("LibraryWarnings",
+                                         "--map %1=%2 changes nothing, as no path of the library begins so"),
+                                   {rule.from, rule.to})
+                          : filled(words("LibraryWarnings",
+                                         "--map %1=%2 changes nothing, as no path of the library begins so; "
+                                         "its first is %3"),
+                                   {rule.from, rule.to, first}));
     return warnings;
 }
 
@@ -58,25 +64,39 @@ MissingFiles allFilesMissing(const Files& files, const LibraryLocations& locatio
 }
 
 std::string allMissingWarning(const MissingFiles& missing, const std::vector<std::string>& folders) {
-    const std::string begin = "none of the library's files is here; ";
-    const std::string first = " (the first is " + missing.sample.front() + ")";
+    const std::string& first = missing.sample.front();
     if (const auto guess = guessMap(missing.sample, folders))
-        return begin + "--map \"" + guess->rule.from + "=" + guess->rule.to + "\" finds " +
-               std::to_string(guess->found) + " of the " +
-               counted(static_cast<std::size_t>(guess->tried), "file") + " that were tried" + first;
-    return begin + "if they came from another machine, --map FROM=TO tells where they are now" + first;
+        return filled(
+            countedWords("LibraryWarnings",
+                         "none of the library's files is here; --map \"%2=%3\" finds %4 of the %1 files "
+                         "that were tried (the first is %5)",
+                         "none of the library's files is here; --map \"%2=%3\" finds %4 of the 1 file "
+                         "that were tried (the first is %5)",
+                         guess->tried),
+            {guess->rule.from, guess->rule.to, numberText(guess->found), first});
+    return filled(
+        words("LibraryWarnings",
+              "none of the library's files is here; if they came from another machine, --map FROM=TO "
+              "tells where they are now (the first is %1)"),
+        {first});
 }
 
 std::string interruption(const InterruptedCleanup& found) {
-    const std::string what = found.kind == RecordHeading::Kind::restore ? "restore" : "deletion";
     const std::string which =
         " --library \"" + found.library + "\" --cleanup \"" + cleanupName(found.record) + "\" --dry-run";
-    std::string warning = "warning: the " + what + " of " + found.date + " was interrupted, and ";
-    warning += found.canBePutBack() ? found.whatCanBePutBack() + " can be put back: songsweep restore" + which
-                                    : "nothing of it is left to put back";
+    std::string warning =
+        filled(found.kind == RecordHeading::Kind::restore
+                   ? words("LibraryWarnings", "warning: the restore of %1 was interrupted, and")
+                   : words("LibraryWarnings", "warning: the deletion of %1 was interrupted, and"),
+               {found.date}) +
+        " ";
+    warning += found.canBePutBack() ? filled(words("LibraryWarnings", "%1 can be put back: %2"),
+                                             {found.whatCanBePutBack(), "songsweep restore" + which})
+                                    : words("LibraryWarnings", "nothing of it is left to put back");
     if (found.filesToTrash)
-        warning += std::string(found.canBePutBack() ? ", or" : ";") + " it can be finished (" +
-                   found.whatFinishingDoes() + "): songsweep finish" + which;
+        warning += filled(found.canBePutBack() ? words("LibraryWarnings", ", or it can be finished (%1): %2")
+                                               : words("LibraryWarnings", "; it can be finished (%1): %2"),
+                          {found.whatFinishingDoes(), "songsweep finish" + which});
     return warning;
 }
 

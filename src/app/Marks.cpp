@@ -7,6 +7,7 @@
 #include "dupes/MarkingRules.h"
 #include "dupes/RecordingMarks.h"
 #include "platform/Log.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <utility>
@@ -27,7 +28,8 @@ void Marks::markOkButtonClick(const MarkChoice& choice) {
     std::vector<TrackRecord*>& rows = m_results.tableDataSource().rows;
     if (rows.empty()) return;
     m_log.line("markTyp = " + std::to_string(static_cast<std::int32_t>(choice.markType)));
-    m_results.markHistory().record(MarkHistory::By::rule, "Mark by rule", rows, [&] { mark(choice); });
+    m_results.markHistory().record(MarkHistory::By::rule, words("Marks", "Mark by rule"), rows,
+                                   [&] { mark(choice); });
     m_results.setMarkedBy(choice);
     showMarks();
 }
@@ -54,15 +56,18 @@ void Marks::markFolderButtonClick() {
     m_view.chooseMarkFolder();
 }
 
-/// "Unmark all" is markMenuClick(3). This is kept for a control without a tag, such as a button.
-void Marks::markNone() { setMarks("Unmark all", m_results.tableDataSource().rows, false); }
+/// words("Marks", "Unmark all") is markMenuClick(3). This is kept for a control without a tag, such as a
+/// button.
+void Marks::markNone() { setMarks(words("Marks", "Unmark all"), m_results.tableDataSource().rows, false); }
 
 void Marks::markMenuClick(std::int32_t tag) {
     const bool value = tag == 0 || tag == 2;
     if (tag >= 2) {
-        setMarks(value ? "Mark all" : "Unmark all", m_results.tableDataSource().rows, value);
+        setMarks(value ? words("Marks", "Mark all") : words("Marks", "Unmark all"),
+                 m_results.tableDataSource().rows, value);
     } else {
-        setMarks(value ? "Mark selected" : "Unmark selected", m_results.selectedRecords(), value);
+        setMarks(value ? words("Marks", "Mark selected") : words("Marks", "Unmark selected"),
+                 m_results.selectedRecords(), value);
     }
 }
 
@@ -89,7 +94,7 @@ void Marks::showMarks() {
 void Marks::setObjectValue(bool value, Column column, int row) {
     TrackRecord* const record = m_results.recordAt(row);
     if (column == Column::checkbox && record) {
-        setByHand(value ? "Mark" : "Unmark", {record}, value);
+        setByHand(value ? words("Marks", "Mark") : words("Marks", "Unmark"), {record}, value);
         m_results.setStatusLabel();
     }
     m_results.reloadTable();
@@ -99,7 +104,8 @@ void Marks::toggleSelectedRows() {
     const std::vector<TrackRecord*> selected = m_results.selectedRecords();
     const bool allChecked =
         std::all_of(selected.begin(), selected.end(), [](const TrackRecord* each) { return each->checkbox; });
-    if (!selected.empty()) setByHand(allChecked ? "Unmark" : "Mark", selected, !allChecked);
+    if (!selected.empty())
+        setByHand(allChecked ? words("Marks", "Unmark") : words("Marks", "Mark"), selected, !allChecked);
     m_results.reloadTable();
 }
 

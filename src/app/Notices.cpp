@@ -9,13 +9,12 @@
 #include "libraryfile/CleanupHistory.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
+#include "platform/Words.h"
 #include "restore/FinishProc.h"
 #include "restore/InterruptedCleanup.h"
 #include "restore/RestoreProc.h"
 #include "restore/RestoreTexts.h"
 #include "sound/SoundComparison.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -35,23 +34,23 @@ std::string countsOf(const std::vector<SoundFinding>& findings) {
     using enum SoundVerdict;
     struct Word {
         SoundVerdict verdict;
-        const char* word;
+        Countable counted;
     };
     std::string text;
-    for (const Word& word :
-         {Word{same, "same"}, {differs, "different"}, {unsure, "unsure"}, {notReadable, "not readable"}}) {
+    for (const Word& word : {Word{same, countable("Notices", "%1 same", "1 same")},
+                             {differs, countable("Notices", "%1 different", "1 different")},
+                             {unsure, countable("Notices", "%1 unsure", "1 unsure")},
+                             {notReadable, countable("Notices", "%1 not readable", "1 not readable")}}) {
         const auto copies = std::count_if(findings.begin(), findings.end(), [&](const SoundFinding& each) {
             return each.verdict == word.verdict;
         });
-        if (copies > 0) text += (text.empty() ? "" : ", ") + std::to_string(copies) + " " + word.word;
+        if (copies > 0) text += (text.empty() ? "" : ", ") + countedWords(word.counted, copies);
     }
     return text + ".";
 }
 
-std::string grouped(int number) { return QLocale().toString(number).toStdString(); }
-
-std::string countedTracks(int tracks) {
-    return tracks == 1 ? "1 track was" : grouped(tracks) + " tracks were";
+std::string searchedText(int tracks) {
+    return countedWords("Notices", "%1 tracks were searched.", "1 track was searched.", tracks);
 }
 
 int fieldCount(const SearchParameters& parameters) {
@@ -60,11 +59,13 @@ int fieldCount(const SearchParameters& parameters) {
 }
 
 std::string missingTitle(const MissingFiles& missing) {
-    if (missing.files == 1) return "The file was not found";
-    const std::string all = "of the " + grouped(missing.files) + " files ";
-    if (missing.areAll()) return "None " + all + "were found";
-    const int found = missing.files - missing.missing;
-    return "Only " + grouped(found) + " " + all + (found == 1 ? "was" : "were") + " found";
+    if (missing.files == 1) return words("Notices", "The file was not found");
+    const std::string all = numberText(missing.files);
+    if (missing.areAll()) return filled(words("Notices", "None of the %1 files were found"), {all});
+    const auto found = static_cast<std::size_t>(missing.files - missing.missing);
+    return filled(countedWords("Notices", "Only %1 of the %2 files were found",
+                               "Only 1 of the %2 files was found", found),
+                  {all});
 }
 
 std::optional<std::uint64_t> trashedBytes(const std::string& record) {
@@ -104,7 +105,8 @@ void Notices::tellSounds(const ComparedSounds& sounds) {
     m_backup.clear();
     m_record.clear();
     m_unfinished.clear();
-    const std::string title = "The sound of " + counted(sounds.findings.size(), "file") + " was compared";
+    const std::string title = countedWords("Notices", "The sound of %1 files was compared",
+                                           "The sound of 1 file was compared", sounds.findings.size());
     const std::string rest = countsOf(sounds.findings);
     show({title, rest, title + ": " + rest, false, {}});
 }
@@ -112,17 +114,20 @@ void Notices::tellSounds(const ComparedSounds& sounds) {
 void Notices::tellInterruption(const InterruptedCleanup& found) {
     const auto date = parseLibraryDate(found.date);
     const std::string when = date ? shortDateTime(*date) : found.date;
-    const char* const what =
-        found.kind == RecordHeading::Kind::restore ? "The restore of " : "The deletion of ";
     m_details.clear();
     m_trashedFile.clear();
     m_backup = found.backup;
     m_record = found.canBePutBack() ? found.record : std::string();
     m_unfinished = found.filesToTrash ? found.record : std::string();
-    const std::string title = what + when + " was interrupted";
-    std::string rest = found.canBePutBack() ? found.whatCanBePutBack() + " can be put back."
-                                            : "Nothing of it is left to put back.";
-    if (found.filesToTrash) rest += " If you finish it, " + found.whatFinishingDoes() + ".";
+    const std::string title = filled(found.kind == RecordHeading::Kind::restore
+                                         ? words("Notices", "The restore of %1 was interrupted")
+                                         : words("Notices", "The deletion of %1 was interrupted"),
+                                     {when});
+    std::string rest = found.canBePutBack()
+                           ? filled(words("Notices", "%1 can be put back."), {found.whatCanBePutBack()})
+                           : words("Notices", "Nothing of it is left to put back.");
+    if (found.filesToTrash)
+        rest += " " + filled(words("Notices", "If you finish it, %1."), {found.whatFinishingDoes()});
     show({title, rest, title + ". " + rest, true, {}});
 }
 
@@ -136,7 +141,8 @@ void Notices::tellUnreadFiles(const std::string& title, std::vector<std::string>
 }
 
 void Notices::tellFinishing() {
-    m_view.showNotice({"Finishing the deletion", "", "Finishing the deletion", false, {}});
+    const std::string title = words("Notices", "Finishing the deletion");
+    m_view.showNotice({title, "", title, false, {}});
 }
 
 /// Where it failed, it can be tried again.
@@ -146,7 +152,7 @@ void Notices::tellFinished(const std::shared_ptr<FinishAnswer>& answer) {
         logReport(report, m_services.log);
         return tellDeletion(report);
     }
-    const std::string title = "The deletion could not be finished";
+    const std::string title = words("Notices", "The deletion could not be finished");
     show({title, answer->problem + ".", title + ": " + answer->problem, true, {}});
 }
 
@@ -160,9 +166,8 @@ void Notices::forget() {
 
 void Notices::tellNoDuplicates(int tracks, const SearchParameters& parameters, const MissingFiles& missing) {
     forget();
-    const std::string title = "No duplicates found";
-    std::string rest =
-        countedTracks(tracks) + " searched. " + searchSummary(parameters, ChosenPlaylist::searched) + ".";
+    const std::string title = words("Notices", "No duplicates found");
+    std::string rest = searchedText(tracks) + " " + searchSummary(parameters, ChosenPlaylist::searched) + ".";
     if (missing.areMost()) rest += " " + missingTitle(missing) + ".";
     Notice notice{title, rest, title + ". " + rest, false, {}};
     if (missing.areMost()) notice.actions.push_back(NoticeAction::chooseFilesFolder);
@@ -173,7 +178,7 @@ void Notices::tellNoDuplicates(int tracks, const SearchParameters& parameters, c
 void Notices::tellMissingFiles(const MissingFiles& missing) {
     forget();
     const std::string title = missingTitle(missing);
-    const std::string rest = "If they came from another machine, tell where they are now.";
+    const std::string rest = words("Notices", "If they came from another machine, tell where they are now.");
     show({title, rest, title + ".", true, {NoticeAction::chooseFilesFolder}});
 }
 

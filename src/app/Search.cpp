@@ -10,6 +10,7 @@
 #include "app/views/SearchView.h"
 #include "dupes/BuildResultProc.h"
 #include "platform/Log.h"
+#include "platform/Words.h"
 
 #include <QThreadPool>
 
@@ -21,9 +22,9 @@ namespace songsweep {
 namespace {
 
 std::string cantAccessMessage(const std::string& player) {
-    return "Can't access " + player +
-           ". If there is a dialog window (eg. update notification, song info, preferences) showing on " +
-           player + ", please close it first.";
+    return filled(words("Search", "Can't access %1. If there is a dialog window (eg. update notification, "
+                                  "song info, preferences) showing on %1, please close it first."),
+                  {player});
 }
 
 /// What a text that is not there reads as where a text is built from it.
@@ -39,7 +40,8 @@ std::shared_ptr<TrackList> makeList() {
 }
 
 std::string wholeLibraryNote(const SearchParameters& parameters) {
-    return "the whole library was searched, not “" + parameters.playlist.value_or("") + "”";
+    return filled(words("Search", "the whole library was searched, not “%1”"),
+                  {parameters.playlist.value_or("")});
 }
 
 } // namespace
@@ -155,10 +157,10 @@ void Search::begin(std::int32_t playlistIndex, std::int32_t trackCount) {
 
 void Search::showSearching() {
     m_results.hide();
-    m_progress.setText(ProgressBar::progress, "Searching...");
+    m_progress.setText(ProgressBar::progress, words("Search", "Searching..."));
     m_results.clearStatus();
     m_progress.showProgressWindow(ProgressBar::formprogress);
-    m_progress.setText(ProgressBar::formprogress, "Searching...");
+    m_progress.setText(ProgressBar::formprogress, words("Search", "Searching..."));
 }
 
 void Search::cancelformButtonClick() {
@@ -181,7 +183,7 @@ void Search::forgetLibrary() {
 // What workers say.
 
 void Search::onAddFinish() {
-    m_progress.setText(ProgressBar::formprogress, "Processing...");
+    m_progress.setText(ProgressBar::formprogress, words("Search", "Processing..."));
     m_listedCount = static_cast<int>(m_list1->records.size());
     if (m_readers.useLibraryXML()) {
         m_progress.progress().beginPhase(70, 30);
@@ -202,7 +204,7 @@ void Search::startLibraryLook() {
 void Search::onXmlDoneParsing() {
     m_progress.progress().beginPhase(50, 20);
     m_readers.setDeletedSinceRead(false);
-    m_progress.setText(ProgressBar::formprogress, "Checking missing tracks...");
+    m_progress.setText(ProgressBar::formprogress, words("Search", "Checking missing tracks..."));
 }
 
 void Search::onXmlError() {

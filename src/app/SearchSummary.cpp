@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/SearchSummary.h"
 
+#include "platform/Words.h"
+
 #include <array>
 
 namespace songsweep {
@@ -9,22 +11,26 @@ std::string searchSummary(const SearchParameters& parameters, ChosenPlaylist pla
                           const std::vector<std::string>& notes) {
     struct Field {
         bool chosen;
-        const char* name;
+        std::string name;
     };
-    const std::array fields = {Field{parameters.issamename, "name"}, Field{parameters.issameartist, "artist"},
-                               Field{parameters.issamealbum, "album"}, Field{parameters.issametime, "time"}};
+    const std::array fields = {Field{parameters.issamename, words("SearchSummary", "name")},
+                               Field{parameters.issameartist, words("SearchSummary", "artist")},
+                               Field{parameters.issamealbum, words("SearchSummary", "album")},
+                               Field{parameters.issametime, words("SearchSummary", "time")}};
     std::string names;
     for (const Field& field : fields) {
         if (!field.chosen) continue;
-        names += names.empty() ? "same " : ", ";
-        names += field.name;
+        names += (names.empty() ? "" : ", ") + field.name;
     }
     std::string place = parameters.playlist.value_or("");
-    if (playlist == ChosenPlaylist::missed) place = "Whole library, not “" + place + "”";
+    if (playlist == ChosenPlaylist::missed)
+        place = filled(words("SearchSummary", "Whole library, not “%1”"), {place});
     for (const std::string& note : notes)
         place += " (" + note + ")";
-    if (parameters.issimilar && !names.empty()) names += ", with small differences";
-    return place + ": " + (names.empty() ? "everything" : names);
+    if (names.empty()) return place + ": " + words("SearchSummary", "everything");
+    const std::string same = parameters.issimilar ? words("SearchSummary", "same %1, with small differences")
+                                                  : words("SearchSummary", "same %1");
+    return place + ": " + filled(same, {names});
 }
 
 } // namespace songsweep

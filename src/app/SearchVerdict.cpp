@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/SearchVerdict.h"
 
-#include "library/ValueFormats.h"
+#include "platform/Words.h"
 
 #include <utility>
 
@@ -11,30 +11,38 @@ namespace {
 
 using Playlist = SearchCoverage::Playlist;
 
-std::string searchedTracks(int searched, const SearchScope& scope) {
-    return std::to_string(searched) + " of " + std::to_string(scope.libraryTracks) +
-           " tracks were searched: ";
+/// "2 of 12 tracks were searched: the library file has no playlist to choose"
+std::string searchedTracks(int searched, const SearchScope& scope, const std::string& reason) {
+    return filled(words("SearchVerdict", "%1 of %2 tracks were searched: %3"),
+                  {numberText(searched), numberText(scope.libraryTracks), reason});
 }
 
-std::string quotedName(const SearchScope& scope) { return "“" + scope.playlist.value_or("") + "”"; }
+std::string withName(const char* text, const SearchScope& scope) {
+    return filled(words("SearchVerdict", text), {scope.playlist.value_or("")});
+}
 
 std::string unlistedReason(const SearchScope& scope) {
-    if (!scope.playlist) return "the library file has no playlist to choose";
-    if (scope.playlist->empty()) return "the library has no name by which it is found in its file";
-    return "the library file has no playlist named " + quotedName(scope);
+    if (!scope.playlist) return words("SearchVerdict", "the library file has no playlist to choose");
+    if (scope.playlist->empty())
+        return words("SearchVerdict", "the library has no name by which it is found in its file");
+    return withName(translatable("SearchVerdict", "the library file has no playlist named “%1”"), scope);
 }
 
 /// The library's playlist lists each track that iTunes has; a playlist of the user leaves out what it likes.
 std::string leftOutReason(const SearchCoverage& coverage) {
-    return "the library's own playlist leaves out " +
-           counted(static_cast<std::size_t>(coverage.leftOutTracks), "track");
+    return countedWords("SearchVerdict", "the library's own playlist leaves out %1 tracks",
+                        "the library's own playlist leaves out 1 track", coverage.leftOutTracks);
 }
 
 /// Why no track was compared though the playlist was found.
 std::string nothingListedReason(const SearchScope& scope) {
-    const std::string playlist = scope.isLibrary ? "the library" : "the playlist " + quotedName(scope);
-    if (scope.coverage.playlistTracks == 0) return playlist + " lists none";
-    return "none that " + playlist + " lists is a file to be searched";
+    const bool isEmpty = scope.coverage.playlistTracks == 0;
+    if (scope.isLibrary)
+        return isEmpty ? words("SearchVerdict", "the library lists none")
+                       : words("SearchVerdict", "none that the library lists is a file to be searched");
+    if (isEmpty) return withName(translatable("SearchVerdict", "the playlist “%1” lists none"), scope);
+    return withName(
+        translatable("SearchVerdict", "none that the playlist “%1” lists is a file to be searched"), scope);
 }
 
 } // namespace
@@ -47,19 +55,24 @@ SearchVerdict SearchVerdict::of(const SearchScope& scope) {
     };
     const SearchCoverage& coverage = scope.coverage;
     const bool isOther = scope.isLibrary && coverage.playlist == Playlist::other;
-    if (!coverage.brokenOff.empty()) failed("the search broke off: " + coverage.brokenOff);
+    if (!coverage.brokenOff.empty())
+        failed(filled(words("SearchVerdict", "the search broke off: %1"), {coverage.brokenOff}));
     if (coverage.unreadTracks > 0)
-        failed(counted(static_cast<std::size_t>(coverage.unreadTracks), "track") +
-               " could not be read: " + coverage.unreadReason);
+        failed(filled(countedWords("SearchVerdict", "%1 tracks could not be read: %2",
+                                   "1 track could not be read: %2", coverage.unreadTracks),
+                      {coverage.unreadReason}));
     if (coverage.playlist == Playlist::none && scope.libraryTracks > 0)
-        failed(searchedTracks(0, scope) + unlistedReason(scope));
+        failed(searchedTracks(0, scope, unlistedReason(scope)));
     else if (isOther)
-        failed(searchedTracks(scope.listedTracks, scope) + "the first playlist named " + quotedName(scope) +
-               " in the library file is not the library");
+        failed(searchedTracks(
+            scope.listedTracks, scope,
+            withName(translatable("SearchVerdict",
+                                  "the first playlist named “%1” in the library file is not the library"),
+                     scope)));
     else if (scope.isLibrary && coverage.leftOutTracks > 0)
-        failed(searchedTracks(scope.listedTracks, scope) + leftOutReason(coverage));
+        failed(searchedTracks(scope.listedTracks, scope, leftOutReason(coverage)));
     if (verdict.isComplete && scope.listedTracks == 0 && scope.libraryTracks > 0)
-        verdict.notes.push_back(searchedTracks(0, scope) + nothingListedReason(scope));
+        verdict.notes.push_back(searchedTracks(0, scope, nothingListedReason(scope)));
     return verdict;
 }
 

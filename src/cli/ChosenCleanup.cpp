@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ChosenCleanup.h"
 
+#include "platform/Words.h"
+
 #include <algorithm>
 #include <filesystem>
 
@@ -32,7 +34,9 @@ Result<CleanupSummary> chosenCleanup(const std::vector<CleanupSummary>& cleanups
     if (found != cleanups.end()) return *found;
     if (choice.name.empty()) return Error{Error::Code::notFound, choice.none};
     return Error{Error::Code::notFound,
-                 "there is no clean-up '" + choice.name + "'; restore --list shows those that are there"};
+                 filled(words("RestoreCommand",
+                              "there is no clean-up '%1'; restore --list shows those that are there"),
+                        {choice.name})};
 }
 
 } // namespace songsweep::cli

@@ -5,9 +5,11 @@
 #include "cli/Output.h"
 #include "cli/TextTable.h"
 #include "library/ValueFormats.h"
+#include "platform/Words.h"
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <string>
 
 namespace songsweep::cli {
@@ -20,6 +22,19 @@ std::string stateOf(const CleanupSummary& cleanup) {
     if (cleanup.isRestored) return "restored";
     if (!cleanup.hasBackup) return "backup missing";
     return cleanup.end ? std::string(wordOf(cleanup.end->how)) : "not ended";
+}
+
+/// wordOf() asks nobody for its words.
+[[maybe_unused]] constexpr std::array endWords = {translatable("CleanupTable", "complete"),
+                                                  translatable("CleanupTable", "cancelled"),
+                                                  translatable("CleanupTable", "failed")};
+
+/// Of a table, which people read.
+std::string shownState(const CleanupSummary& cleanup) {
+    if (cleanup.isRestored) return words("CleanupTable", "restored");
+    if (!cleanup.hasBackup) return words("CleanupTable", "backup missing");
+    if (!cleanup.end) return words("CleanupTable", "not ended");
+    return words("CleanupTable", std::string(wordOf(cleanup.end->how)).c_str());
 }
 
 std::size_t tracksOf(const CleanupSummary& cleanup) {
@@ -37,23 +52,23 @@ std::vector<std::string> cellsOf(const CleanupSummary& cleanup) {
             std::to_string(tracksOf(cleanup)),
             cleanup.end ? std::to_string(end.files) : "?",
             cleanup.end ? sizeOf(end) : "?",
-            stateOf(cleanup),
+            shownState(cleanup),
             cleanup.name()};
 }
 
 void writeText(Output& output, const std::vector<CleanupSummary>& cleanups) {
-    TextTable table({{"Date", Alignment::left, 20},
-                     {"Tracks", Alignment::right, 20},
-                     {"Files", Alignment::right, 20},
-                     {"Size", Alignment::right, 20},
-                     {"State", Alignment::left, 20},
-                     {"Name", Alignment::left, widestName}});
+    TextTable table({{words("CleanupTable", "Date"), Alignment::left, 20},
+                     {words("CleanupTable", "Tracks"), Alignment::right, 20},
+                     {words("CleanupTable", "Files"), Alignment::right, 20},
+                     {words("CleanupTable", "Size"), Alignment::right, 20},
+                     {words("CleanupTable", "State"), Alignment::left, 20},
+                     {words("CleanupTable", "Name"), Alignment::left, widestName}});
     for (const CleanupSummary& cleanup : cleanups)
         table.measure(cellsOf(cleanup));
     if (!cleanups.empty()) output.write(table.titles());
     for (const CleanupSummary& cleanup : cleanups)
         output.write(table.line(cellsOf(cleanup)));
-    output.write(counted(cleanups.size(), "clean-up") + "\n");
+    output.write(countedWords("CleanupTable", "%1 clean-ups", "1 clean-up", cleanups.size()) + "\n");
 }
 
 nlohmann::ordered_json jsonOf(const CleanupSummary& cleanup) {

@@ -7,6 +7,7 @@
 #include "dupes/RecordingGroups.h"
 #include "library/CaseFolding.h"
 #include "platform/TerminalText.h"
+#include "platform/Words.h"
 
 #include <cstdio>
 #include <utility>
@@ -58,8 +59,9 @@ std::optional<ExitCode> markByRule(LibrarySession& session, const MarkOptions& o
     if (choice.markType == MarkType::folder) choice.text = session.controller().folderInLibrary(choice.text);
     if (!rows.empty() && !matchesRow(rows, choice)) {
         const bool byKind = choice.markType == MarkType::kind;
-        tell((byKind ? "no track of these groups is of the kind " : "no track of these groups is in ") +
-             choice.text);
+        tell(filled(byKind ? words("Commands", "no track of these groups is of the kind %1")
+                           : words("Commands", "no track of these groups is in %1"),
+                    {choice.text}));
         return ExitCode::usage;
     }
     session.controller().markOkButtonClick(choice);

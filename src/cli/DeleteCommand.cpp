@@ -8,6 +8,7 @@
 #include "delete/TrackFacts.h"
 #include "dupes/RecordingGroups.h"
 #include "platform/ReasonWithPath.h"
+#include "platform/Words.h"
 #include "scan/FolderLibrary.h"
 
 #include <algorithm>
@@ -17,8 +18,10 @@ namespace songsweep::cli {
 namespace {
 
 std::string refusal(int groups) {
-    const std::string songs = groups == 1 ? "1 song" : std::to_string(groups) + " songs";
-    return "no copy of " + songs + " would be left; nothing was deleted (--allow-all-copies allows it)";
+    return countedWords(
+        "DeleteCommand",
+        "no copy of %1 songs would be left; nothing was deleted (--allow-all-copies allows it)",
+        "no copy of 1 song would be left; nothing was deleted (--allow-all-copies allows it)", groups);
 }
 
 std::optional<ExitCode> writeReportTo(Output& output, const DeleteOptions& options,

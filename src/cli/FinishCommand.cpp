@@ -11,6 +11,7 @@
 #include "platform/Files.h"
 #include "platform/Log.h"
 #include "platform/Native.h"
+#include "platform/Words.h"
 #include "restore/CleanupFinish.h"
 
 #include <utility>
@@ -26,10 +27,11 @@ std::string withPath(const FinishOptions& options, const std::string& reason) {
 Result<CleanupSummary> interruptedCleanup(const FinishOptions& options) {
     const auto cleanups = deletionsOf(options.library);
     if (!cleanups) return cleanups.error();
-    auto chosen = chosenCleanup(cleanups.value(),
-                                {.name = options.cleanup,
-                                 .isWanted = [](const CleanupSummary& cleanup) { return !cleanup.end; },
-                                 .none = "no deletion was interrupted; restore --list shows all"});
+    auto chosen = chosenCleanup(
+        cleanups.value(),
+        {.name = options.cleanup,
+         .isWanted = [](const CleanupSummary& cleanup) { return !cleanup.end; },
+         .none = words("FinishCommand", "no deletion was interrupted; restore --list shows all")});
     if (!chosen) return Error{chosen.error().code, withPath(options, chosen.error().message)};
     return chosen;
 }

@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "platform/DataFolder.h"
 #include "platform/UsualLibraries.h"
+#include "platform/Words.h"
 #include "scan/ScanProgress.h"
 
 #include <unistd.h>
@@ -47,7 +48,9 @@ class ReadingLine {
 /// On standard error as a count, and each for the reports.
 void noteUnread(const std::vector<UnreadPath>& unread, const std::string& folder, LibraryOptions& options) {
     if (unread.empty()) return;
-    tell(options.library + ": " + unreadFilesText(unread.size()) + "; --verbose tells which, and why");
+    tell(
+        options.library + ": " +
+        filled(words("ScanCommand", "%1; --verbose tells which, and why"), {unreadFilesText(unread.size())}));
     for (const UnreadPath& path : unread)
         options.unread.push_back(folder + "/" + path.path + ": " + path.reason);
 }
@@ -87,8 +90,9 @@ std::optional<ExitCode> turnToFolderLibrary(LibraryOptions& options, Log& log,
     if (isCancelled()) return ExitCode::interrupted;
     if (!report && report.error().code != Error::Code::busy) return fail(report.error().message);
     if (report && report.value().tracks == 0)
-        return fail(options.library + ": there is no music in this folder");
-    if (!report) tell(report.error().message + "; its library is taken as it is");
+        return fail(options.library + ": " + words("FolderReading", "there is no music in this folder"));
+    if (!report)
+        tell(filled(words("FolderReading", "%1; its library is taken as it is"), {report.error().message}));
     if (report) noteUnread(report.value().unread, place.value().folder, options);
     options.library = place.value().library;
     return {};

@@ -3,6 +3,7 @@
 #include "cli/SearchReport.h"
 #include "library/Columns.h"
 #include "library/Groups.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -67,7 +68,7 @@ std::string cellText(const TrackRecord& record, Column column) {
         return stars;
     }
     case Column::dtrack:
-        return record.isdead ? "missing" : "";
+        return record.isdead ? words("Table", "missing") : std::string();
     default:
         std::string made;
         return std::string(columnInfo(column).text(record, made));
@@ -75,8 +76,9 @@ std::string cellText(const TrackRecord& record, Column column) {
 }
 
 std::string title(Column column) {
-    if (column == Column::checkbox) return "Marked";
-    return column == Column::dtrack ? "File" : std::string(columnInfo(column).title);
+    if (column == Column::checkbox) return words("Table", "Marked");
+    return column == Column::dtrack ? words("Table", "File")
+                                    : words("Columns", columnInfo(column).title.data());
 }
 
 std::string cell(const char* tag, Column column, const std::string& text) {
@@ -98,8 +100,8 @@ void writeHead(Output& output, const SearchReport& report) {
     std::string line = "<table>\n<thead><tr>";
     for (const Column column : shownColumns)
         line += cell("th", column, title(column));
-    if (!report.differences.empty()) line += "<th>Differences</th>";
-    if (report.reason) line += "<th>Reason</th>";
+    if (!report.differences.empty()) line += "<th>" + words("Table", "Differences") + "</th>";
+    if (report.reason) line += "<th>" + words("Table", "Reason") + "</th>";
     output.write(line + "</tr></thead>\n");
 }
 

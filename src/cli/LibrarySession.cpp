@@ -12,6 +12,7 @@
 #include "library/Trim.h"
 #include "merge/CopyPlaylists.h"
 #include "platform/Native.h"
+#include "platform/Words.h"
 #include "restore/InterruptedCleanup.h"
 #include "scan/ScanProgress.h"
 
@@ -23,11 +24,11 @@ namespace songsweep::cli {
 namespace {
 
 std::string listOf(const std::vector<PlaylistInfo>& playlists) {
-    if (playlists.empty()) return "; the library has none";
+    if (playlists.empty()) return words("LibrarySession", "the library has none");
     std::string names;
     for (const PlaylistInfo& playlist : playlists)
         names += "\n  " + playlist.name;
-    return "; the library has" + names;
+    return words("LibrarySession", "the library has") + names;
 }
 
 } // namespace
@@ -51,14 +52,16 @@ std::optional<ExitCode> LibrarySession::search() {
     if (m_controller->isWorking()) runUntilIdle();
     if (m_interrupted) return ExitCode::interrupted;
     if (m_view.searchProblem()) return fail(withPath(*m_view.searchProblem()));
-    if (!m_view.hasResults()) return fail(withPath("the search ended without a result"));
+    if (!m_view.hasResults())
+        return fail(withPath(words("LibrarySession", "the search ended without a result")));
     if (m_playlistGiven && m_controller->missedPlaylist())
-        return fail(withPath("the search could not be limited to the playlist '" +
-                             m_options.parameters.playlist.value_or("") + "'"));
+        return fail(
+            withPath(filled(words("LibrarySession", "the search could not be limited to the playlist '%1'"),
+                            {m_options.parameters.playlist.value_or("")})));
     for (const std::string& note : m_controller->searchVerdict().notes)
         tell(withPath(note));
     for (const std::string& warning : m_controller->libraryWarnings())
-        tell(withPath("warning: " + warning));
+        tell(withPath(filled(words("LibrarySession", "warning: %1"), {warning})));
     return std::nullopt;
 }
 
@@ -143,7 +146,8 @@ std::optional<std::string> LibrarySession::choosePlaylist() {
         chosen = found->name;
         return std::nullopt;
     }
-    return withPath("there is no playlist '" + *chosen + "'" + listOf(playlists.value()));
+    return withPath(filled(words("LibrarySession", "there is no playlist '%1'; %2"),
+                           {*chosen, listOf(playlists.value())}));
 }
 
 const DeleteConfirmationFacts& LibrarySession::askToDelete(bool deleteFiles) {

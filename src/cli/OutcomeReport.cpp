@@ -6,6 +6,7 @@
 #include "platform/FileUrl.h"
 #include "platform/TerminalText.h"
 #include "platform/Utf8.h"
+#include "platform/Words.h"
 
 #include <nlohmann/json.hpp>
 
@@ -26,13 +27,18 @@ std::string summary(const DeleteReport& report, bool dryRun) {
     const int trashed =
         countIf(report, [](const auto& outcome) { return outcome.file == DeleteOutcome::File::trashed; });
     const int failed = countIf(report, [](const auto& outcome) { return !outcome.dealtWith; });
-    std::string line = dryRun ? "Would delete " : "Deleted ";
-    line += std::to_string(deleted) + " of " + std::to_string(report.outcomes.size()) + " tracks";
+    const auto number = [](auto count) { return numberText(count); };
+    std::string line = filled(dryRun ? words("OutcomeReport", "Would delete %1 of %2 tracks")
+                                     : words("OutcomeReport", "Deleted %1 of %2 tracks"),
+                              {number(deleted), number(report.outcomes.size())});
     if (trashed > 0)
-        line += (dryRun ? ", and move files of " : ", files of ") + std::to_string(trashed) +
-                (dryRun ? " to the Trash" : " in the Trash");
+        line += ", " + filled(dryRun ? words("OutcomeReport", "and move files of %1 to the Trash")
+                                     : words("OutcomeReport", "files of %1 in the Trash"),
+                              {number(trashed)});
     if (failed > 0)
-        line += ", " + std::to_string(failed) + (dryRun ? " could not be" : " not") + " dealt with as asked";
+        line += ", " + filled(dryRun ? words("OutcomeReport", "%1 could not be dealt with as asked")
+                                     : words("OutcomeReport", "%1 not dealt with as asked"),
+                              {number(failed)});
     return line;
 }
 
@@ -51,11 +57,14 @@ void writeTextOutcomes(Output& output, const DeleteReport& report, bool dryRun) 
         output.write((output.isTerminal() ? terminalLine(line) : line) + "\n");
     }
     for (const std::string& note : report.notes)
-        output.write("Note: " + (output.isTerminal() ? terminalLine(note) : note) + "\n");
+        output.write(
+            filled(words("OutcomeReport", "Note: %1"), {output.isTerminal() ? terminalLine(note) : note}) +
+            "\n");
     output.write(summary(report, dryRun) + "\n" + mergeLines(report.merge, dryRun));
-    for (const auto& [title, path] :
-         {std::pair("Backup: ", report.backup), std::pair("Record: ", report.record)})
-        if (!path.empty()) output.write(title + (output.isTerminal() ? terminalLine(path) : path) + "\n");
+    for (const auto& [title, path] : {std::pair(words("OutcomeReport", "Backup: %1"), report.backup),
+                                      std::pair(words("OutcomeReport", "Record: %1"), report.record)})
+        if (!path.empty())
+            output.write(filled(title, {output.isTerminal() ? terminalLine(path) : path}) + "\n");
 }
 
 /// A path that is not UTF-8 is told once more as a URL.

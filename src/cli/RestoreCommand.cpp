@@ -8,6 +8,7 @@
 #include "cli/Output.h"
 #include "cli/RestoreOutput.h"
 #include "platform/Native.h"
+#include "platform/Words.h"
 #include "restore/CleanupRestore.h"
 #include "restore/RestoreLog.h"
 
@@ -45,10 +46,11 @@ ExitCode RestoreCommand::list(Output& output, const std::vector<CleanupSummary>&
 }
 
 Result<CleanupSummary> RestoreCommand::chosen(const std::vector<CleanupSummary>& cleanups) const {
-    return chosenCleanup(cleanups,
-                         {.name = m_options.cleanup,
-                          .isWanted = [](const CleanupSummary& cleanup) { return cleanup.isOpen(); },
-                          .none = "there is no clean-up that could be restored; --list shows all"});
+    return chosenCleanup(
+        cleanups,
+        {.name = m_options.cleanup,
+         .isWanted = [](const CleanupSummary& cleanup) { return cleanup.isOpen(); },
+         .none = words("RestoreCommand", "there is no clean-up that could be restored; --list shows all")});
 }
 
 ExitCode RestoreCommand::restore(Output& output, const CleanupSummary& cleanup) {

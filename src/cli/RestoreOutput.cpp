@@ -7,6 +7,7 @@
 #include "platform/FileUrl.h"
 #include "platform/TerminalText.h"
 #include "platform/Utf8.h"
+#include "platform/Words.h"
 
 #include <nlohmann/json.hpp>
 
@@ -21,34 +22,44 @@ using Entry = RestoredTrack::Entry;
 using File = RestoredTrack::File;
 
 std::string_view wordOf(Entry entry) {
-    constexpr std::string_view words[] = {"restored", "there already", "failed", "not attempted", "left out"};
-    return words[static_cast<std::size_t>(entry)];
+    constexpr std::string_view names[] = {"restored", "there already", "failed", "not attempted", "left out"};
+    return names[static_cast<std::size_t>(entry)];
 }
 
 std::string_view wordOf(File file) {
-    constexpr std::string_view words[] = {"not asked", "put back", "there already", "missing",
+    constexpr std::string_view names[] = {"not asked", "put back", "there already", "missing",
                                           "kept",      "failed",   "not attempted"};
-    return words[static_cast<std::size_t>(file)];
+    return names[static_cast<std::size_t>(file)];
 }
 
 std::string sentence(Entry entry, bool dryRun) {
-    if (entry == Entry::restored) return dryRun ? "would be restored" : "was restored";
-    if (entry == Entry::isThere) return "is in the library already";
-    if (entry == Entry::failed) return "cannot be restored";
-    return entry == Entry::leftOut ? "is left out" : "was not attempted";
+    const auto text = [](const char* each) { return words("RestoreOutput", each); };
+    if (entry == Entry::restored)
+        return dryRun ? text(translatable("RestoreOutput", "Track %1 by %2 (%3) would be restored"))
+                      : text(translatable("RestoreOutput", "Track %1 by %2 (%3) was restored"));
+    if (entry == Entry::isThere)
+        return text(translatable("RestoreOutput", "Track %1 by %2 (%3) is in the library already"));
+    if (entry == Entry::failed)
+        return text(translatable("RestoreOutput", "Track %1 by %2 (%3) cannot be restored"));
+    return entry == Entry::leftOut
+               ? text(translatable("RestoreOutput", "Track %1 by %2 (%3) is left out"))
+               : text(translatable("RestoreOutput", "Track %1 by %2 (%3) was not attempted"));
 }
 
 std::string sentence(File file, bool dryRun) {
-    if (file == File::putBack) return dryRun ? ", its file would be put back" : ", its file was put back";
-    if (file == File::isThere) return ", its file is there already";
-    return file == File::notAttempted ? ", its file was not attempted" : "";
+    if (file == File::putBack)
+        return ", " + (dryRun ? words("RestoreOutput", "its file would be put back")
+                              : words("RestoreOutput", "its file was put back"));
+    if (file == File::isThere) return ", " + words("RestoreOutput", "its file is there already");
+    if (file != File::notAttempted) return {};
+    return ", " + words("RestoreOutput", "its file was not attempted");
 }
 
 /// A name may hold line breaks.
 std::string lineOf(const RestoredTrack& track, bool dryRun) {
-    std::string line = "Track " + track.plan.name + " by " + track.plan.artist + " (" +
-                       track.plan.persistentId + ") " + sentence(track.entry, dryRun) +
-                       sentence(track.file, dryRun);
+    std::string line =
+        filled(sentence(track.entry, dryRun), {track.plan.name, track.plan.artist, track.plan.persistentId}) +
+        sentence(track.file, dryRun);
     if (!track.reason.empty()) line += ": " + track.reason;
     if (!track.plan.path.empty()) line += ", " + track.plan.path;
     std::replace_if(
@@ -58,16 +69,21 @@ std::string lineOf(const RestoredTrack& track, bool dryRun) {
 
 std::string summary(const NamedRestore& restore) {
     const RestoreReport& report = restore.report;
-    std::string line = restore.dryRun ? "Would restore " : "Restored ";
-    line += std::to_string(report.entries()) + " of " + counted(report.tracks.size(), "track") + " of \"" +
-            restore.cleanup + "\", " + counted(report.files(), "file") + " put back";
+    const std::string restored =
+        restore.dryRun ? countedWords("RestoreOutput", "Would restore %2 of %1 tracks of \"%3\"",
+                                      "Would restore %2 of 1 track of \"%3\"", report.tracks.size())
+                       : countedWords("RestoreOutput", "Restored %2 of %1 tracks of \"%3\"",
+                                      "Restored %2 of 1 track of \"%3\"", report.tracks.size());
+    std::string line = filled(restored, {numberText(report.entries()), restore.cleanup}) + ", " +
+                       countedWords("RestoreOutput", "%1 files put back", "1 file put back", report.files());
     if (report.playlists > 0)
-        line += ", " + counted(report.playlists, "playlist file") +
-                (report.playlists == 1 ? " as it was" : " as they were");
+        line += ", " + countedWords("RestoreOutput", "%1 playlist files as they were",
+                                    "1 playlist file as it was", report.playlists);
     const auto left = std::count_if(report.tracks.begin(), report.tracks.end(),
                                     [](const RestoredTrack& track) { return !track.dealtWith(); });
     if (left > 0)
-        line += ", " + counted(static_cast<std::size_t>(left), "track") + " not dealt with as asked";
+        line += ", " + countedWords("RestoreOutput", "%1 tracks not dealt with as asked",
+                                    "1 track not dealt with as asked", left);
     return line;
 }
 
@@ -78,10 +94,12 @@ void writeText(Output& output, const NamedRestore& restore) {
     for (const RestoredTrack& track : restore.report.tracks)
         write(lineOf(track, restore.dryRun));
     for (const std::string& note : restore.report.notes)
-        write("Note: " + note);
+        write(filled(words("OutcomeReport", "Note: %1"), {note}));
     write(summary(restore));
-    if (!restore.report.backup.empty()) write("The library as it was before: " + restore.report.backup);
-    if (!restore.report.record.empty()) write("What was done: " + restore.report.record);
+    if (!restore.report.backup.empty())
+        write(filled(words("RestoreOutput", "The library as it was before: %1"), {restore.report.backup}));
+    if (!restore.report.record.empty())
+        write(filled(words("RestoreOutput", "What was done: %1"), {restore.report.record}));
 }
 
 /// A path that is not UTF-8 is told once more as a URL.

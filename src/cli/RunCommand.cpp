@@ -2,8 +2,12 @@
 #include "cli/RunCommand.h"
 
 #include "cli/Commands.h"
+#include "platform/Languages.h"
 
 #include <QCoreApplication>
+#include <QLocale>
+
+#include <type_traits>
 
 namespace songsweep::cli {
 
@@ -23,10 +27,25 @@ struct Runner {
     ExitCode operator()(const LibraryOptions&) const { return ExitCode::usage; } // the window is no command
 };
 
+/// Programs read JSON and CSV, and what the interpreter says is AppleScript's; all else is in the user's
+/// language.
+struct IsForPeople {
+    template <class Options>
+    bool operator()(const Options& options) const {
+        if constexpr (requires { options.format; })
+            return options.format == OutputFormat::text || options.format == OutputFormat::html;
+        return !std::is_same_v<Options, ScriptOptions>;
+    }
+};
+
 } // namespace
 
 int runCommand(const Command& command, int argumentCount, char** arguments, const std::string& version) {
-    const QCoreApplication application(argumentCount, arguments);
+    QCoreApplication application(argumentCount, arguments);
+    if (std::visit(IsForPeople(), command))
+        installLanguage(application);
+    else
+        QLocale::setDefault(QLocale::c());
     return static_cast<int>(std::visit(Runner{version}, command));
 }
 

@@ -7,6 +7,7 @@
 #include "library/ValueFormats.h"
 #include "libraryfile/LibraryFile.h"
 #include "platform/DataFolder.h"
+#include "platform/Words.h"
 #include "scan/ScanProgress.h"
 
 #include <algorithm>
@@ -18,17 +19,17 @@ namespace {
 
 /// "6000 tracks: 12 new, 3 changed, 1 moved, 2 gone"; what did not happen is left out.
 std::string summary(const ScanReport& report) {
-    std::string text = counted(report.tracks, "track");
+    std::string text = countedWords("ScanCommand", "%1 tracks", "1 track", report.tracks);
     const char* separator = ": ";
-    const auto add = [&](std::size_t count, const char* what) {
+    const auto add = [&](std::size_t count, const Countable& what) {
         if (count == 0) return;
-        text += separator + std::to_string(count) + what;
+        text += separator + countedWords(what, count);
         separator = ", ";
     };
-    add(report.added, " new");
-    add(report.changed, " changed");
-    add(report.moved, " moved");
-    add(report.vanished, " gone");
+    add(report.added, countable("ScanCommand", "%1 new", "1 new"));
+    add(report.changed, countable("ScanCommand", "%1 changed", "1 changed"));
+    add(report.moved, countable("ScanCommand", "%1 moved", "1 moved"));
+    add(report.vanished, countable("ScanCommand", "%1 gone", "1 gone"));
     return text;
 }
 
@@ -73,7 +74,8 @@ ExitCode runScan(const ScanOptions& options, const std::string&) {
                          (options.output.empty() ? place.value().library : options.output) + "\n");
     if (const Result<void> written = output.value().finish(); !written) return failToWrite(written.error());
     if (!report.value().unread.empty())
-        tell(unreadFilesText(report.value().unread.size()) + "; --verbose tells which, and why");
+        tell(filled(words("ScanCommand", "%1; --verbose tells which, and why"),
+                    {unreadFilesText(report.value().unread.size())}));
     return codeOf(report.value());
 }
 

@@ -3,18 +3,11 @@
 
 #include "library/DisplayedList.h"
 #include "library/Groups.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 
 namespace songsweep::cli {
-
-namespace {
-
-std::string counted(int count, const std::string& one, const std::string& many) {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
-} // namespace
 
 std::string differencesOf(const SearchReport& report, std::size_t row) {
     std::string text;
@@ -43,10 +36,13 @@ std::string summaryLine(const SearchReport& report) {
         ++groups;
     const auto missing = static_cast<int>(std::count_if(
         report.rows.begin(), report.rows.end(), [](const TrackRecord* record) { return record->isdead; }));
-    std::string line = counted(static_cast<int>(report.rows.size()), "song", "songs") + " in " +
-                       counted(groups, "group", "groups");
-    if (missing > 0) line += ", " + counted(missing, "file", "files") + " missing";
-    if (report.reason) line += ", " + std::to_string(checkedCount(report.rows)) + " marked";
+    std::string line = filled(words("SearchReport", "%1 in %2"),
+                              {countedWords("SearchReport", "%1 songs", "1 song", report.rows.size()),
+                               countedWords("SearchReport", "%1 groups", "1 group", groups)});
+    if (missing > 0)
+        line += ", " + countedWords("SearchReport", "%1 files missing", "1 file missing", missing);
+    if (report.reason)
+        line += ", " + countedWords("SearchReport", "%1 marked", "1 marked", checkedCount(report.rows));
     return line;
 }
 

@@ -6,6 +6,7 @@
 #include "cli/ConsoleProgress.h"
 #include "cli/LibrarySession.h"
 #include "dupes/RecordingGroups.h"
+#include "platform/Words.h"
 #include "sound/ListenerProgram.h"
 #include "sound/SoundComparison.h"
 
@@ -21,7 +22,7 @@ class ListeningProgress {
     explicit ListeningProgress(ConsoleProgress::Line line)
         : m_console(line) {
         m_console.beginProgress();
-        m_console.setProgressText("Comparing sounds");
+        m_console.setProgressText(words("SoundOption", "Comparing sounds"));
     }
     ListeningProgress(const ListeningProgress&) = delete;
     ListeningProgress& operator=(const ListeningProgress&) = delete;
@@ -48,7 +49,8 @@ class ListeningProgress {
 std::optional<ExitCode> compareSoundsIfAsked(LibrarySession& session, const FindOptions& options) {
     if (!options.sound) return std::nullopt;
     const std::string program = listenerProgram();
-    if (!isProgram(program)) return fail("sounds cannot be compared: there is no " + program);
+    if (!isProgram(program))
+        return fail(filled(words("SoundOption", "sounds cannot be compared: there is no %1"), {program}));
     Listening listening(listeningBy(program), session.program().files());
     ListeningProgress progress(options.verbose ? ConsoleProgress::Line::taken : ConsoleProgress::Line::free);
     const auto& rows = session.controller().tableDataSource().rows;

@@ -5,6 +5,7 @@
 #include "library/Columns.h"
 #include "library/Groups.h"
 #include "platform/TerminalText.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <limits>
@@ -32,26 +33,27 @@ constexpr ShownColumn shownColumns[] = {
 std::string cell(const TrackRecord& record, Column column) {
     if (column == Column::rating)
         return std::string(static_cast<std::size_t>(std::clamp(record.rating, 0, 5)), '*');
-    if (column == Column::dtrack) return record.isdead ? "missing" : "";
+    if (column == Column::dtrack) return record.isdead ? words("Table", "missing") : std::string();
     std::string made;
     return std::string(columnInfo(column).text(record, made));
 }
 
 TextTable::ColumnTitle titleOf(const ShownColumn& shown) {
-    if (shown.column == Column::dtrack) return {"File", Alignment::left, shown.widest};
+    if (shown.column == Column::dtrack) return {words("Table", "File"), Alignment::left, shown.widest};
     const ColumnInfo& info = columnInfo(shown.column);
-    return {std::string(info.title), info.alignment, shown.widest};
+    return {words("Columns", info.title.data()), info.alignment, shown.widest};
 }
 
 TextTable makeTable(const SearchReport& report) {
-    std::vector<TextTable::ColumnTitle> columns = {{"Group", Alignment::right, anyWidth}};
+    std::vector<TextTable::ColumnTitle> columns = {{words("Table", "Group"), Alignment::right, anyWidth}};
     for (const ShownColumn& shown : shownColumns)
         columns.push_back(titleOf(shown));
-    if (!report.differences.empty()) columns.push_back({"Differs", Alignment::left, anyWidth});
-    if (report.hasSounds) columns.push_back({"Sound", Alignment::left, anyWidth});
+    if (!report.differences.empty())
+        columns.push_back({words("Table", "Differs"), Alignment::left, anyWidth});
+    if (report.hasSounds) columns.push_back({words("Table", "Sound"), Alignment::left, anyWidth});
     if (report.reason) {
-        columns.insert(columns.begin(), {"Mark", Alignment::left, anyWidth});
-        columns.push_back({"Reason", Alignment::left, anyWidth});
+        columns.insert(columns.begin(), {words("Table", "Mark"), Alignment::left, anyWidth});
+        columns.push_back({words("Table", "Reason"), Alignment::left, anyWidth});
     }
     return TextTable(std::move(columns));
 }
@@ -62,7 +64,7 @@ std::vector<std::string> cells(const SearchReport& report, int row) {
     for (const ShownColumn& shown : shownColumns)
         texts.push_back(cell(record, shown.column));
     if (!report.differences.empty()) texts.push_back(differencesOf(report, static_cast<std::size_t>(row)));
-    if (report.hasSounds) texts.emplace_back(soundWord(record.sound.verdict));
+    if (report.hasSounds) texts.push_back(words("Columns", soundWord(record.sound.verdict).data()));
     if (report.reason) {
         texts.insert(texts.begin(), record.checkbox ? "x" : "");
         texts.push_back(report.reason(row));

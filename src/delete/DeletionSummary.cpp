@@ -2,6 +2,7 @@
 #include "delete/DeletionSummary.h"
 
 #include "library/ValueFormats.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 
@@ -21,9 +22,8 @@ std::size_t count(const DeleteReport& report, DeleteOutcome::File file) {
                       [=](const DeleteOutcome& outcome) { return outcome.file == file; }));
 }
 
-void addCount(std::string& text, std::size_t number, const std::string& noun, const std::string& words) {
-    if (number == 0) return;
-    text += (text.empty() ? "" : ", ") + counted(number, noun) + " " + words;
+void addCount(std::string& text, std::size_t number, const Countable& counted) {
+    if (number > 0) text += (text.empty() ? "" : ", ") + countedWords(counted, number);
 }
 
 void addSentence(std::string& text, const std::string& sentence) {
@@ -33,24 +33,35 @@ void addSentence(std::string& text, const std::string& sentence) {
 std::string counts(const DeleteReport& report, std::optional<std::uint64_t> trashedBytes) {
     using Track = DeleteOutcome::Track;
     using File = DeleteOutcome::File;
-    const std::string size = trashedBytes ? " (" + megabytes(*trashedBytes) + ")" : std::string();
     std::string text;
-    addCount(text, count(report, File::trashed), "file", "in the Trash" + size);
-    addCount(text, count(report, File::kept), "file", "kept");
-    addCount(text, count(report, File::missing), "file", "missing already");
-    addCount(text, count(report, Track::failed), "track", "could not be deleted");
-    addCount(text, count(report, Track::notAttempted), "track", "not attempted");
+    addCount(text, count(report, File::trashed),
+             countable("DeletionSummary", "%1 files in the Trash", "1 file in the Trash"));
+    if (trashedBytes && !text.empty()) text += " (" + megabytes(*trashedBytes) + ")";
+    addCount(text, count(report, File::kept), countable("DeletionSummary", "%1 files kept", "1 file kept"));
+    addCount(text, count(report, File::missing),
+             countable("DeletionSummary", "%1 files missing already", "1 file missing already"));
+    addCount(text, count(report, Track::failed),
+             countable("DeletionSummary", "%1 tracks could not be deleted", "1 track could not be deleted"));
+    addCount(text, count(report, Track::notAttempted),
+             countable("DeletionSummary", "%1 tracks not attempted", "1 track not attempted"));
     return text;
 }
 
-std::string titleOf(const DeleteReport& report) {
+std::string deletedText(const DeleteReport& report) {
     const std::size_t all = report.outcomes.size();
     const std::size_t deleted = count(report, DeleteOutcome::Track::deleted);
-    const std::string how = report.how == RecordEnd::How::cancelled ? "Cancelled: "
-                            : report.how == RecordEnd::How::failed  ? "Stopped: "
-                                                                    : "";
-    return how + (deleted == all ? "" : std::to_string(deleted) + " of ") + counted(all, "track") +
-           " deleted";
+    if (deleted == all) return countedWords("DeletionSummary", "%1 tracks deleted", "1 track deleted", all);
+    return filled(countedWords("DeletionSummary", "%2 of %1 tracks deleted", "%2 of 1 track deleted", all),
+                  {numberText(deleted)});
+}
+
+std::string titleOf(const DeleteReport& report) {
+    const std::string deleted = deletedText(report);
+    if (report.how == RecordEnd::How::cancelled)
+        return filled(words("DeletionSummary", "Cancelled: %1"), {deleted});
+    if (report.how == RecordEnd::How::failed)
+        return filled(words("DeletionSummary", "Stopped: %1"), {deleted});
+    return deleted;
 }
 
 std::string lineOf(const DeleteOutcome& outcome) {
@@ -69,7 +80,7 @@ std::string DeletionSummary::line() const {
 DeletionSummary summaryOf(const DeleteReport& report, std::optional<std::uint64_t> trashedBytes) {
     DeletionSummary summary = {.title = titleOf(report), .rest = {}};
     addSentence(summary.rest, counts(report, trashedBytes));
-    if (!report.notWritten.empty()) addSentence(summary.rest, "It ended early: " + report.notWritten);
+    if (!report.notWritten.empty()) addSentence(summary.rest, filled(words("DeletionSummary", "It ended early: %1"), {report.notWritten}));
     for (const std::string& note : report.notes)
         addSentence(summary.rest, note);
     return summary;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dupes/MarkReasons.h"
 
+#include "platform/Words.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -31,10 +33,11 @@ std::string MarkReasons::of(const TrackRecord& record) {
 
 std::string MarkReasons::ofRow(std::size_t row) {
     const bool isMarked = m_list.rows[row]->checkbox;
-    if (isMarked != m_marked[row]) return isMarked ? "marked by hand" : "unmarked by hand";
+    if (isMarked != m_marked[row])
+        return isMarked ? words("MarkReason", "marked by hand") : words("MarkReason", "unmarked by hand");
     if (isMarked) return m_verdicts.of(row).reason;
     if (m_recordings && groupAt(m_list.rows, row).size() == 1) return {};
-    return m_verdicts.of(row).checked ? "kept: no copy of its recording would be left"
+    return m_verdicts.of(row).checked ? words("MarkReason", "kept: no copy of its recording would be left")
                                       : m_verdicts.reasonToKeep(row);
 }
 

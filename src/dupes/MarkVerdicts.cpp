@@ -2,6 +2,7 @@
 #include "dupes/MarkVerdicts.h"
 
 #include "dupes/MarkWalk.h"
+#include "platform/Words.h"
 
 #include <utility>
 
@@ -20,11 +21,11 @@ MarkVerdict MarkVerdicts::of(std::size_t row) {
 
 std::string MarkVerdicts::reasonToKeep(std::size_t row) {
     if (of(row).checked) return {};
-    if (row != m_marks.kept) return "kept: the rule has nothing against it";
+    if (row != m_marks.kept) return words("MarkReason", "kept: the rule has nothing against it");
     for (std::size_t other = m_group.first; other < m_group.end; ++other)
         if (other != row && m_losers.checked.at(other - m_group.first) && !m_rows.at(other)->isdead)
             return valuesAgainst(other);
-    return "kept: one copy stays";
+    return words("MarkReason", "kept: one copy stays");
 }
 
 /// Of the kept copy against another one, which loses: the values in the reason of that one change places.
@@ -33,8 +34,8 @@ std::string MarkVerdicts::valuesAgainst(std::size_t other) const {
     const std::string swapped =
         m_rule.words.reason(m_rule.words, {kept, *m_rows.at(other), m_choice.text, true});
     const std::size_t values = swapped.rfind(": ");
-    return values == std::string::npos ? "kept: the other copies go by the rule"
-                                       : "kept" + swapped.substr(values);
+    return values == std::string::npos ? words("MarkReason", "kept: the other copies go by the rule")
+                                       : words("MarkReason", "kept") + swapped.substr(values);
 }
 
 void MarkVerdicts::evaluateGroupOf(std::size_t row) {
@@ -46,7 +47,7 @@ void MarkVerdicts::evaluateGroupOf(std::size_t row) {
 
 std::string MarkVerdicts::reason(std::size_t row) const {
     const TrackRecord& record = *m_rows.at(row);
-    if (record.isdead) return "file missing";
+    if (record.isdead) return words("MarkReason", "file missing");
     const TrackRecord& kept = *m_rows.at(m_marks.kept); // a group with a live track keeps one
     return m_rule.words.reason(m_rule.words,
                                {record, kept, m_choice.text, m_losers.checked.at(row - m_group.first)});

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "dupes/RecordingGroups.h"
 
+#include "platform/Words.h"
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -92,11 +94,15 @@ int recordingsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
 std::string recordingReason(const std::vector<TrackRecord*>& rows, std::size_t row) {
     const TrackRecord& record = *rows.at(row);
     if (record.checkbox || record.sound.verdict == SoundVerdict::none) return {};
-    if (record.sound.verdict == SoundVerdict::notReadable) return "kept: its sound could not be compared";
-    const std::string kept =
-        record.sound.verdict == SoundVerdict::unsure ? "kept: perhaps another" : "kept: another";
-    if (isNeighbourOfOther(rows, row, row + 1)) return kept + " recording than the copy below";
-    return row > 0 && isNeighbourOfOther(rows, row, row - 1) ? kept + " recording than the copy above" : "";
+    if (record.sound.verdict == SoundVerdict::notReadable)
+        return words("MarkReason", "kept: its sound could not be compared");
+    const bool isUnsure = record.sound.verdict == SoundVerdict::unsure;
+    if (isNeighbourOfOther(rows, row, row + 1))
+        return isUnsure ? words("MarkReason", "kept: perhaps another recording than the copy below")
+                        : words("MarkReason", "kept: another recording than the copy below");
+    if (row == 0 || !isNeighbourOfOther(rows, row, row - 1)) return {};
+    return isUnsure ? words("MarkReason", "kept: perhaps another recording than the copy above")
+                    : words("MarkReason", "kept: another recording than the copy above");
 }
 
 } // namespace songsweep

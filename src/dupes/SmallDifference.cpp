@@ -4,6 +4,7 @@
 #include "library/CaseFolding.h"
 #include "library/Groups.h"
 #include "library/KeySort.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -19,13 +20,15 @@ namespace {
 struct ComparedText {
     bool SearchParameters::*isCompared;
     Text TrackRecord::*text;
-    const char* name;
+    const char* difference; ///< in English; "%1" is what differs
 };
 
 constexpr ComparedText comparedTexts[] = {
-    {&SearchParameters::issamename, &TrackRecord::name, "name"},
-    {&SearchParameters::issameartist, &TrackRecord::artist, "artist"},
-    {&SearchParameters::issamealbum, &TrackRecord::album, "album"},
+    {&SearchParameters::issamename, &TrackRecord::name, translatable("SmallDifference", "name differs: %1")},
+    {&SearchParameters::issameartist, &TrackRecord::artist,
+     translatable("SmallDifference", "artist differs: %1")},
+    {&SearchParameters::issamealbum, &TrackRecord::album,
+     translatable("SmallDifference", "album differs: %1")},
 };
 
 constexpr std::string_view wrapping = "()[]{} -,;:";
@@ -78,12 +81,15 @@ std::string differingWords(std::string_view text, std::string_view otherText) {
     const std::string theirs = unwrapped(joined(others));
     if (mine.empty() && theirs.empty()) return "“" + std::string(text) + "”";
     if (theirs.empty()) return mine;
-    return mine.empty() ? "without " + theirs : mine + ", not " + theirs;
+    if (mine.empty()) return filled(songsweep::words("SmallDifference", "without %1"), {theirs});
+    return filled(songsweep::words("SmallDifference", "%1, not %2"), {mine, theirs});
 }
 
 std::string timeDifference(const TrackRecord& record, const TrackRecord& other) {
     const std::int64_t seconds = std::int64_t{record.timev} - other.timev;
-    return std::to_string(std::abs(seconds)) + " s " + (seconds > 0 ? "longer" : "shorter");
+    return filled(seconds > 0 ? words("SmallDifference", "%1 s longer")
+                              : words("SmallDifference", "%1 s shorter"),
+                  {std::to_string(std::abs(seconds))});
 }
 
 } // namespace
@@ -105,7 +111,8 @@ std::vector<std::string> smallDifferences(const TrackRecord& record, const Track
         const Text text = record.*compared.text;
         const Text otherText = other.*compared.text;
         if (!(parameters.*compared.isCompared) || equalIgnoringCase(text, otherText)) continue;
-        differences.push_back(std::string(compared.name) + " differs: " + differingWords(text, otherText));
+        differences.push_back(
+            filled(words("SmallDifference", compared.difference), {differingWords(text, otherText)}));
     }
     if (parameters.issametime && record.timev != other.timev)
         differences.push_back(timeDifference(record, other));

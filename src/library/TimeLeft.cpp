@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "library/TimeLeft.h"
 
+#include "platform/Words.h"
+
 #include <algorithm>
 
 namespace songsweep {
@@ -8,11 +10,11 @@ namespace songsweep {
 std::string timeLeftText(int seconds) {
     constexpr int secondsOfMinute = 60;
     constexpr int step = 10;
+    const int rounded = std::max(step, (seconds + step - 1) / step * step);
     if (seconds < secondsOfMinute)
-        return "about " + std::to_string(std::max(step, (seconds + step - 1) / step * step)) +
-               " seconds left";
+        return countedWords("TimeLeft", "about %1 seconds left", "about 1 second left", rounded);
     const int minutes = (seconds + secondsOfMinute - 1) / secondsOfMinute;
-    return minutes == 1 ? "about 1 minute left" : "about " + std::to_string(minutes) + " minutes left";
+    return countedWords("TimeLeft", "about %1 minutes left", "about 1 minute left", minutes);
 }
 
 } // namespace songsweep

@@ -4,6 +4,7 @@
 #include "library/ValueFormats.h"
 #include "libraryfile/CleanupHistory.h"
 #include "libraryfile/CleanupLock.h"
+#include "platform/Words.h"
 #include "restore/CleanupFinish.h"
 #include "restore/CleanupRestore.h"
 
@@ -44,14 +45,19 @@ std::optional<std::size_t> filesToTrash(const CleanupSummary& cleanup, const std
 } // namespace
 
 std::string InterruptedCleanup::whatCanBePutBack() const {
-    std::string text = tracks > 0 ? counted(tracks, "track") : std::string();
-    if (files > 0) text += (text.empty() ? "" : " and ") + counted(files, "file");
-    return text.empty() ? counted(playlists, "playlist file") : text;
+    const std::string ofTracks = countedWords("InterruptedCleanup", "%1 tracks", "1 track", tracks);
+    const std::string ofFiles = countedWords("InterruptedCleanup", "%1 files", "1 file", files);
+    if (tracks > 0 && files > 0) return filled(words("InterruptedCleanup", "%1 and %2"), {ofTracks, ofFiles});
+    if (tracks > 0) return ofTracks;
+    if (files > 0) return ofFiles;
+    return countedWords("InterruptedCleanup", "%1 playlist files", "1 playlist file", playlists);
 }
 
 std::string InterruptedCleanup::whatFinishingDoes() const {
-    if (filesToTrash.value_or(0) == 0) return "no file is left to go to the Trash";
-    return counted(*filesToTrash, "file") + (*filesToTrash == 1 ? " goes" : " go") + " to the Trash";
+    if (filesToTrash.value_or(0) == 0)
+        return words("InterruptedCleanup", "no file is left to go to the Trash");
+    return countedWords("InterruptedCleanup", "%1 files go to the Trash", "1 file goes to the Trash",
+                        *filesToTrash);
 }
 
 std::optional<InterruptedCleanup> findInterruptedCleanup(const std::string& library, const Files& files,

@@ -2,6 +2,7 @@
 #include "scan/ScanProgress.h"
 
 #include "library/ValueFormats.h"
+#include "platform/Words.h"
 
 namespace songsweep {
 
@@ -17,10 +18,11 @@ std::string timeLeft(std::size_t read, std::size_t toRead, std::chrono::millisec
     const double left =
         duration<double>(elapsed).count() * static_cast<double>(toRead - read) / static_cast<double>(read);
     const auto minutes = (static_cast<std::int64_t>(left) + secondsOfMinute / 2) / secondsOfMinute;
-    if (minutes == 0) return ", less than a minute left";
+    if (minutes == 0) return ", " + words("ScanProgress", "less than a minute left");
     if (minutes < 2 * minutesOfHour)
-        return ", about " + counted(static_cast<std::size_t>(minutes), "minute") + " left";
-    return ", about " + counted(static_cast<std::size_t>(minutes / minutesOfHour), "hour") + " left";
+        return ", " + countedWords("ScanProgress", "about %1 minutes left", "about 1 minute left", minutes);
+    return ", " +
+           countedWords("ScanProgress", "about %1 hours left", "about 1 hour left", minutes / minutesOfHour);
 }
 
 } // namespace
@@ -35,12 +37,15 @@ std::string groupedNumber(std::size_t number) {
 }
 
 std::string scanProgressText(std::size_t read, std::size_t toRead, std::chrono::milliseconds elapsed) {
-    return "Reading " + groupedNumber(read) + " of " + groupedNumber(toRead) +
-           (toRead == 1 ? " file…" : " files…") + timeLeft(read, toRead, elapsed);
+    const std::string text = toRead == 1 ? words("ScanProgress", "Reading %1 of %2 file…")
+                                         : words("ScanProgress", "Reading %1 of %2 files…");
+    return filled(text, {groupedNumber(read), groupedNumber(toRead)}) + timeLeft(read, toRead, elapsed);
 }
 
 std::string unreadFilesText(std::size_t count) {
-    return count == 0 ? std::string() : counted(count, "file") + " could not be read";
+    return count == 0 ? std::string()
+                      : countedWords("ScanProgress", "%1 files could not be read", "1 file could not be read",
+                                     count);
 }
 
 } // namespace songsweep
