@@ -1,5 +1,5 @@
 # Every library that the program links, found once.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets Svg)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui LinguistTools Widgets Svg)
 find_package(LibXml2 REQUIRED)
 find_package(EXPAT REQUIRED)
 find_package(ICU REQUIRED COMPONENTS uc i18n)

@@ -13,7 +13,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE https://songsweep.example/)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pulseaudio-utils, shared-mime-info, xdg-user-dirs, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "pulseaudio-utils, qt6-translations-l10n, shared-mime-info, xdg-user-dirs, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS qt6-wayland)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "find the songs that a music library holds twice")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION

@@ -16,7 +16,7 @@ const std::string documentType =
     "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">\n<dict>\n";
 const std::string library = documentType + "\t<key>Major Version</key><integer>1</integer>\n"
                                            "\t<key>Minor Version</key><integer>1</integer>\n";
-const QString libraryType = QStringLiteral("application/x-itunes-library+xml");
+const QString libraryType = QStringLiteral("audio/x-itunes-library+xml");
 const QString xmlType = QStringLiteral("application/xml");
 
 /// The system's types and the package's in one folder, as they are when it is installed.
@@ -77,6 +77,7 @@ TEST_F(MimeType, LeavesOtherXmlAlone) {
     expectType(m_folder.write("bare.xml", "<note/>\n"), xmlType);
     expectType(m_folder.write("Info.xml", documentType + "\t<key>CFBundleName</key><string>x</string>\n"),
                xmlType);
+    EXPECT_EQ(qtType(m_folder.write("empty.xml", "")), xmlType);
     EXPECT_NE(qtType(m_folder.write("drawing.svg", "<?xml version=\"1.0\"?>\n<svg/>\n")), libraryType);
 }
 
