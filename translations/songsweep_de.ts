@@ -539,6 +539,30 @@ Hier: %2
             <numerusform>%1 Titel nicht versucht.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>deleted</source>
+        <translation>gelöscht</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>not attempted</source>
+        <translation>nicht versucht</translation>
+    </message>
+    <message>
+        <source>file trashed</source>
+        <translation>Datei im Papierkorb</translation>
+    </message>
+    <message>
+        <source>file missing</source>
+        <translation>Datei fehlte</translation>
+    </message>
+    <message>
+        <source>file kept</source>
+        <translation>Datei behalten</translation>
+    </message>
 </context>
 <context>
     <name>Filter</name>
@@ -1776,6 +1800,25 @@ Hier: %2
     </message>
 </context>
 <context>
+    <name>Status</name>
+    <message numerus="yes">
+        <source>%1 songs</source>
+        <comment>%1 songs</comment>
+        <translation>
+            <numerusform>%1 Song</numerusform>
+            <numerusform>%1 Songs</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%2 of %1 marked</source>
+        <comment>%2 of %1 marked</comment>
+        <translation>
+            <numerusform>%2 von %1 markiert</numerusform>
+            <numerusform>%2 von %1 markiert</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Table</name>
     <message>
         <source>missing</source>
@@ -2169,7 +2212,7 @@ Hier: %2
     </message>
     <message>
         <source>Nothing is deleted until you say so.</source>
-        <translation>Ohne Ihr Ja wird nichts gelöscht.</translation>
+        <translation>Ohne Ihre Bestätigung wird nichts gelöscht.</translation>
     </message>
     <message>
         <source>No iTunes library was found</source>

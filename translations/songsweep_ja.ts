@@ -512,6 +512,30 @@ Here: %2
             <numerusform>%1 個のトラックは処理していません。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>deleted</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>not attempted</source>
+        <translation>未処理</translation>
+    </message>
+    <message>
+        <source>file trashed</source>
+        <translation>ファイルはゴミ箱へ</translation>
+    </message>
+    <message>
+        <source>file missing</source>
+        <translation>ファイルなし</translation>
+    </message>
+    <message>
+        <source>file kept</source>
+        <translation>ファイルを残しました</translation>
+    </message>
 </context>
 <context>
     <name>Filter</name>
@@ -1699,6 +1723,23 @@ Here: %2
     <message>
         <source>sounds cannot be compared: there is no %1</source>
         <translation>音を比べられません: %1 がありません</translation>
+    </message>
+</context>
+<context>
+    <name>Status</name>
+    <message numerus="yes">
+        <source>%1 songs</source>
+        <comment>%1 songs</comment>
+        <translation>
+            <numerusform>%1 曲</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%2 of %1 marked</source>
+        <comment>%2 of %1 marked</comment>
+        <translation>
+            <numerusform>%1 個のうち %2 個をマーク</numerusform>
+        </translation>
     </message>
 </context>
 <context>

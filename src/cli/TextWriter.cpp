@@ -4,6 +4,7 @@
 #include "cli/TextTable.h"
 #include "library/Columns.h"
 #include "library/Groups.h"
+#include "platform/DecimalPoint.h"
 #include "platform/TerminalText.h"
 #include "platform/Words.h"
 
@@ -35,7 +36,8 @@ std::string cell(const TrackRecord& record, Column column) {
         return std::string(static_cast<std::size_t>(std::clamp(record.rating, 0, 5)), '*');
     if (column == Column::dtrack) return record.isdead ? words("Table", "missing") : std::string();
     std::string made;
-    return std::string(columnInfo(column).text(record, made));
+    const std::string text(columnInfo(column).text(record, made));
+    return column == Column::sizestring ? withDecimalPoint(text) : text;
 }
 
 TextTable::ColumnTitle titleOf(const ShownColumn& shown) {

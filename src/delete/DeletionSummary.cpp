@@ -64,8 +64,22 @@ std::string titleOf(const DeleteReport& report) {
     return deleted;
 }
 
+std::string wordOf(DeleteOutcome::Track track) {
+    if (track == DeleteOutcome::Track::deleted) return words("DeletionSummary", "deleted");
+    if (track == DeleteOutcome::Track::failed) return words("DeletionSummary", "failed");
+    return words("DeletionSummary", "not attempted");
+}
+
+std::string wordOf(DeleteOutcome::File file) {
+    if (file == DeleteOutcome::File::trashed) return words("DeletionSummary", "file trashed");
+    if (file == DeleteOutcome::File::missing) return words("DeletionSummary", "file missing");
+    return words("DeletionSummary", "file kept");
+}
+
 std::string lineOf(const DeleteOutcome& outcome) {
-    std::string line = outcome.name + " – " + outcome.artist + ": " + outcomeText(outcome);
+    std::string line = outcome.name + " – " + outcome.artist + ": " + wordOf(outcome.track);
+    if (outcome.file != DeleteOutcome::File::notAsked) line += ", " + wordOf(outcome.file);
+    if (!outcome.reason.empty()) line += ": " + outcome.reason;
     if (!outcome.location.empty()) line += ", " + outcome.location;
     return line;
 }

@@ -4,6 +4,7 @@
 #include "library/Groups.h"
 #include "library/KeySort.h"
 #include "library/RowParts.h"
+#include "platform/Words.h"
 
 #include <algorithm>
 #include <atomic>
@@ -56,8 +57,8 @@ int checkedCount(const std::vector<TrackRecord*>& rows) {
 }
 
 std::string statusText(int checked, int rows) {
-    if (checked < 1) return std::to_string(rows) + " songs";
-    return std::to_string(checked) + " of " + std::to_string(rows) + " marked";
+    if (checked < 1) return countedWords("Status", "%1 songs", "%1 songs", rows);
+    return filled(countedWords("Status", "%2 of %1 marked", "%2 of %1 marked", rows), {numberText(checked)});
 }
 
 } // namespace songsweep

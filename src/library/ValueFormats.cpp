@@ -2,6 +2,7 @@
 #include "library/ValueFormats.h"
 
 #include "library/Trim.h"
+#include "platform/DecimalPoint.h"
 
 #include <array>
 #include <charconv>
@@ -95,7 +96,7 @@ std::string sizestring(std::int32_t bytes) {
 }
 
 std::string megabytes(std::uint64_t bytes) {
-    return inMegabytes(std::floor(static_cast<double>(bytes) / 1048576.0 * 10 + 1.0) / 10);
+    return withDecimalPoint(inMegabytes(std::floor(static_cast<double>(bytes) / 1048576.0 * 10 + 1.0) / 10));
 }
 
 std::string counted(std::size_t count, std::string_view noun) {

@@ -30,7 +30,7 @@ std::string sizestring(std::int32_t bytes);
 /// The record's size for display, "" where the library gave none.
 std::string sizestring(const TrackRecord& record);
 
-/// A sum of file sizes, in the same form.
+/// A sum of file sizes, in the same form, with the decimal point of the user's locale: "5,1 MB".
 std::string megabytes(std::uint64_t bytes);
 
 /// "1 file", "3 files", "0 files": a count before a noun that takes an "s".

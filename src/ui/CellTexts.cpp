@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/CellTexts.h"
 
+#include "platform/DecimalPoint.h"
 #include "platform/Words.h"
 #include "ui/ColumnLook.h"
 
@@ -33,6 +34,7 @@ QString displayText(const TrackRecord& record, Column column) {
     if (info.text == nullptr) return {};
     std::string made;
     const std::string_view text = info.text(record, made);
+    if (column == Column::sizestring) return QString::fromStdString(withDecimalPoint(std::string(text)));
     if (column != Column::hasartwork && column != Column::sound) return fromText(text);
     return QCoreApplication::translate("Columns", std::string(text).c_str());
 }

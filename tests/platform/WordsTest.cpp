@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Words.h"
 
+#include "platform/DecimalPoint.h"
+
 #include <QLocale>
 
 #include <gtest/gtest.h>
@@ -27,6 +29,8 @@ TEST(Words, WriteNumbersInTheWayOfTheLocale) {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(numberText(1234567), "1.234.567");
     EXPECT_EQ(countedWords("Nowhere", "%1 files", "1 file", 1234), "1.234 files");
+    EXPECT_EQ(withDecimalPoint("11.8 MB"), "11,8 MB");
+    EXPECT_EQ(withDecimalPoint("12 MB"), "12 MB");
     QLocale::setDefault(before);
 }
 
