@@ -472,6 +472,10 @@ Hier: %2
         <source>Deleting...</source>
         <translation>Wird gelöscht...</translation>
     </message>
+    <message>
+        <source>Merging...</source>
+        <translation>Wird zusammengeführt...</translation>
+    </message>
 </context>
 <context>
     <name>DeletionSummary</name>
@@ -1317,6 +1321,14 @@ Hier: %2
             <numerusform>%1 Titel nicht wie gewünscht behandelt</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 playlist files as they were</source>
+        <comment>1 playlist file as it was</comment>
+        <translation>
+            <numerusform>%1 Wiedergabelistendatei wie zuvor</numerusform>
+            <numerusform>%1 Wiedergabelistendateien wie zuvor</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RestoreTexts</name>
@@ -1494,6 +1506,22 @@ Hier: %2
         <translation>
             <numerusform>%1 Titel ist nicht wie zuvor.</numerusform>
             <numerusform>%1 Titel sind nicht wie zuvor.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 playlist files get their lines back.</source>
+        <comment>1 playlist file gets its lines back.</comment>
+        <translation>
+            <numerusform>%1 Wiedergabelistendatei bekommt ihre Zeilen zurück.</numerusform>
+            <numerusform>%1 Wiedergabelistendateien bekommen ihre Zeilen zurück.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 playlist files have their lines back.</source>
+        <comment>1 playlist file has its lines back.</comment>
+        <translation>
+            <numerusform>%1 Wiedergabelistendatei hat ihre Zeilen wieder.</numerusform>
+            <numerusform>%1 Wiedergabelistendateien haben ihre Zeilen wieder.</numerusform>
         </translation>
     </message>
 </context>

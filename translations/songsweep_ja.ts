@@ -453,6 +453,10 @@ Here: %2
         <source>Deleting...</source>
         <translation>削除中...</translation>
     </message>
+    <message>
+        <source>Merging...</source>
+        <translation>まとめています...</translation>
+    </message>
 </context>
 <context>
     <name>DeletionSummary</name>
@@ -1270,6 +1274,13 @@ Here: %2
             <numerusform>%1 個のトラックは指定どおりに処理できません</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 playlist files as they were</source>
+        <comment>1 playlist file as it was</comment>
+        <translation>
+            <numerusform>元どおりのプレイリストファイル %1 個</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RestoreTexts</name>
@@ -1435,6 +1446,20 @@ Here: %2
         <comment>1 track is not as before.</comment>
         <translation>
             <numerusform>%1 個のトラックは以前と同じではありません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 playlist files get their lines back.</source>
+        <comment>1 playlist file gets its lines back.</comment>
+        <translation>
+            <numerusform>%1 個のプレイリストファイルに行が戻ります。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 playlist files have their lines back.</source>
+        <comment>1 playlist file has its lines back.</comment>
+        <translation>
+            <numerusform>%1 個のプレイリストファイルに行が戻りました。</numerusform>
         </translation>
     </message>
 </context>
