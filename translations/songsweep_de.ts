@@ -2338,6 +2338,10 @@ Hier: %2
         <source>Show in Finder</source>
         <translation>Im Finder zeigen</translation>
     </message>
+    <message>
+        <source>Without iTunes Songsweep edits the library file; iTunes elsewhere keeps a database of its own.</source>
+        <translation>Ohne iTunes bearbeitet Songsweep die Mediatheksdatei; iTunes auf anderen Rechnern hat eine eigene Datenbank.</translation>
+    </message>
 </context>
 <context>
     <name>songsweep::MarkDialog</name>

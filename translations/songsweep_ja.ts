@@ -2257,6 +2257,10 @@ Here: %2
         <source>Show in Finder</source>
         <translation>Finder で表示</translation>
     </message>
+    <message>
+        <source>Without iTunes Songsweep edits the library file; iTunes elsewhere keeps a database of its own.</source>
+        <translation>iTunes がない場合、Songsweep はライブラリファイルを編集します。ほかのコンピュータの iTunes は独自のデータベースを持っています。</translation>
+    </message>
 </context>
 <context>
     <name>songsweep::MarkDialog</name>

@@ -69,6 +69,13 @@ QString placesText(const std::vector<std::string>& places) {
     return MainWindow::tr("Looked in %1").arg(names.join(QStringLiteral(", ")));
 }
 
+/// Of a library that is a file; a folder has no iTunes elsewhere.
+QString whatIsEdited(const std::string& path) {
+    if (!folderRead(path).isEmpty()) return {};
+    return MainWindow::tr(
+        "Without iTunes Songsweep edits the library file; iTunes elsewhere keeps a database of its own.");
+}
+
 MessagePageView::Words pageWords(const LibraryOverview& library) {
     const QString name = nameOfLibrary(library.path);
     const QString title = MainWindow::tr("Find the songs you have twice");
@@ -83,7 +90,8 @@ MessagePageView::Words pageWords(const LibraryOverview& library) {
         return {title, QStringLiteral("%1 – %2").arg(name, MainWindow::tr("Reading the library...")),
                 promise};
     case State::read:
-        return {title, name + QStringLiteral(" – ") + contentsText(library.contents), promise};
+        return {title, QStringLiteral("%1 – %2").arg(name, contentsText(library.contents)), promise,
+                whatIsEdited(library.path)};
     case State::unreadable:
         return {MainWindow::tr("The library can't be read"), QString::fromStdString(library.problem),
                 promise};

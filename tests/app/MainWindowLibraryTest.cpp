@@ -32,6 +32,9 @@ TEST_F(MainWindowLibraryTest, TheOpenLibraryStandsInTitleAndPage) {
     EXPECT_TRUE(
         text("emptyText").startsWith(QStringLiteral("iTunes Library.xml – 104 tracks, 1 playlist, saved ")));
     EXPECT_EQ(text("emptyPromise"), QStringLiteral("Nothing is deleted until you say so."));
+    EXPECT_EQ(text("emptyHint"),
+              QStringLiteral("Without iTunes Songsweep edits the library file; iTunes elsewhere "
+                             "keeps a database of its own."));
     EXPECT_EQ(control<QPushButton>("emptyButton0").text(), QStringLiteral("&Search..."));
     EXPECT_EQ(window.findChild<QPushButton*>(QStringLiteral("emptyButton1")), nullptr);
 }
