@@ -9,6 +9,8 @@
 #include "restore/RestoreDialog.h"
 #include "support/Widgets.h"
 
+#include <QAbstractButton>
+
 #include <array>
 #include <functional>
 #include <memory>
