@@ -495,54 +495,6 @@ Hier: %2
             <numerusform>%2 von %1 Titeln gelöscht</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 files in the Trash.</source>
-        <comment>1 file in the Trash.</comment>
-        <translation>
-            <numerusform>%1 Datei im Papierkorb.</numerusform>
-            <numerusform>%1 Dateien im Papierkorb.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 files in the Trash (%2).</source>
-        <comment>1 file in the Trash (%2).</comment>
-        <translation>
-            <numerusform>%1 Datei im Papierkorb (%2).</numerusform>
-            <numerusform>%1 Dateien im Papierkorb (%2).</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 files kept.</source>
-        <comment>1 file kept.</comment>
-        <translation>
-            <numerusform>%1 Datei behalten.</numerusform>
-            <numerusform>%1 Dateien behalten.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 files missing already.</source>
-        <comment>1 file missing already.</comment>
-        <translation>
-            <numerusform>%1 Datei fehlte bereits.</numerusform>
-            <numerusform>%1 Dateien fehlten bereits.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 tracks could not be deleted.</source>
-        <comment>1 track could not be deleted.</comment>
-        <translation>
-            <numerusform>%1 Titel ließ sich nicht löschen.</numerusform>
-            <numerusform>%1 Titel ließen sich nicht löschen.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 tracks not attempted.</source>
-        <comment>1 track not attempted.</comment>
-        <translation>
-            <numerusform>%1 Titel nicht versucht.</numerusform>
-            <numerusform>%1 Titel nicht versucht.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>deleted</source>
         <translation>gelöscht</translation>
@@ -566,6 +518,58 @@ Hier: %2
     <message>
         <source>file kept</source>
         <translation>Datei behalten</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files in the Trash</source>
+        <comment>1 file in the Trash</comment>
+        <translation>
+            <numerusform>%1 Datei im Papierkorb</numerusform>
+            <numerusform>%1 Dateien im Papierkorb</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files kept</source>
+        <comment>1 file kept</comment>
+        <translation>
+            <numerusform>%1 Datei behalten</numerusform>
+            <numerusform>%1 Dateien behalten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing already</source>
+        <comment>1 file missing already</comment>
+        <translation>
+            <numerusform>%1 Datei fehlte bereits</numerusform>
+            <numerusform>%1 Dateien fehlten bereits</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tracks could not be deleted</source>
+        <comment>1 track could not be deleted</comment>
+        <translation>
+            <numerusform>%1 Titel ließ sich nicht löschen</numerusform>
+            <numerusform>%1 Titel ließen sich nicht löschen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tracks not attempted</source>
+        <comment>1 track not attempted</comment>
+        <translation>
+            <numerusform>%1 Titel nicht versucht</numerusform>
+            <numerusform>%1 Titel nicht versucht</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancelled: %1</source>
+        <translation>Abgebrochen: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>Angehalten: %1</translation>
+    </message>
+    <message>
+        <source>It ended early: %1</source>
+        <translation>Es endete vorzeitig: %1</translation>
     </message>
 </context>
 <context>
@@ -752,18 +756,6 @@ Hier: %2
         <source>none of the library&apos;s files is here; if they came from another machine, --map FROM=TO tells where they are now (the first is %1)</source>
         <translation>keine der Dateien der Mediathek ist hier; wenn sie von einem anderen Rechner kommen, sagt --map VON=NACH, wo sie jetzt sind (die erste ist %1)</translation>
     </message>
-    <message>
-        <source>warning: the restore of %1 was interrupted, and %2 can be put back: %3</source>
-        <translation>Warnung: die Wiederherstellung vom %1 wurde unterbrochen, und %2 lassen sich zurückholen: %3</translation>
-    </message>
-    <message>
-        <source>warning: the deletion of %1 was interrupted, and %2 can be put back: %3</source>
-        <translation>Warnung: das Löschen vom %1 wurde unterbrochen, und %2 lassen sich zurückholen: %3</translation>
-    </message>
-    <message>
-        <source>or it can be finished (%1): %2</source>
-        <translation>oder es lässt sich abschließen (dann %1): %2</translation>
-    </message>
     <message numerus="yes">
         <source>none of the library&apos;s files is here; --map &quot;%2=%3&quot; finds %4 of the %1 files that were tried (the first is %5)</source>
         <comment>none of the library&apos;s files is here; --map &quot;%2=%3&quot; finds %4 of the 1 file that were tried (the first is %5)</comment>
@@ -771,6 +763,30 @@ Hier: %2
             <numerusform>keine der Dateien der Mediathek ist hier; --map &quot;%2=%3&quot; findet %4 von %1 geprüften Datei (die erste ist %5)</numerusform>
             <numerusform>keine der Dateien der Mediathek ist hier; --map &quot;%2=%3&quot; findet %4 von %1 geprüften Dateien (die erste ist %5)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>warning: the restore of %1 was interrupted, and</source>
+        <translation>Warnung: Die Wiederherstellung vom %1 wurde unterbrochen;</translation>
+    </message>
+    <message>
+        <source>warning: the deletion of %1 was interrupted, and</source>
+        <translation>Warnung: Das Löschen vom %1 wurde unterbrochen;</translation>
+    </message>
+    <message>
+        <source>%1 can be put back: %2</source>
+        <translation>%1 lassen sich zurückholen: %2</translation>
+    </message>
+    <message>
+        <source>nothing of it is left to put back</source>
+        <translation>nichts davon lässt sich mehr zurückholen</translation>
+    </message>
+    <message>
+        <source>, or it can be finished (%1): %2</source>
+        <translation>, oder es lässt sich abschließen (dann %1): %2</translation>
+    </message>
+    <message>
+        <source>; it can be finished (%1): %2</source>
+        <translation>; es lässt sich abschließen (dann %1): %2</translation>
     </message>
 </context>
 <context>
@@ -1165,6 +1181,10 @@ Hier: %2
             <numerusform>%1 Titel wurde durchsucht.</numerusform>
             <numerusform>%1 Titel wurden durchsucht.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Nothing of it is left to put back.</source>
+        <translation>Davon lässt sich nichts mehr zurückholen.</translation>
     </message>
 </context>
 <context>
@@ -2311,10 +2331,6 @@ Hier: %2
         <translation>Details</translation>
     </message>
     <message>
-        <source>Show Trash</source>
-        <translation>Papierkorb zeigen</translation>
-    </message>
-    <message>
         <source>Show backup</source>
         <translation>Sicherung zeigen</translation>
     </message>
@@ -2341,6 +2357,10 @@ Hier: %2
     <message>
         <source>Without iTunes Songsweep edits the library file; iTunes elsewhere keeps a database of its own.</source>
         <translation>Ohne iTunes bearbeitet Songsweep die Mediatheksdatei; iTunes auf anderen Rechnern hat eine eigene Datenbank.</translation>
+    </message>
+    <message>
+        <source>Show in Trash</source>
+        <translation>Im Papierkorb zeigen</translation>
     </message>
 </context>
 <context>

@@ -474,48 +474,6 @@ Here: %2
             <numerusform>%1 個のうち %2 個のトラックを削除しました</numerusform>
         </translation>
     </message>
-    <message numerus="yes">
-        <source>%1 files in the Trash.</source>
-        <comment>1 file in the Trash.</comment>
-        <translation>
-            <numerusform>%1 個のファイルをゴミ箱に移動しました。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 files in the Trash (%2).</source>
-        <comment>1 file in the Trash (%2).</comment>
-        <translation>
-            <numerusform>%1 個のファイル (%2) をゴミ箱に移動しました。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 files kept.</source>
-        <comment>1 file kept.</comment>
-        <translation>
-            <numerusform>%1 個のファイルを残しました。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 files missing already.</source>
-        <comment>1 file missing already.</comment>
-        <translation>
-            <numerusform>%1 個のファイルはすでにありませんでした。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 tracks could not be deleted.</source>
-        <comment>1 track could not be deleted.</comment>
-        <translation>
-            <numerusform>%1 個のトラックは削除できませんでした。</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 tracks not attempted.</source>
-        <comment>1 track not attempted.</comment>
-        <translation>
-            <numerusform>%1 個のトラックは処理していません。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>deleted</source>
         <translation>削除</translation>
@@ -539,6 +497,53 @@ Here: %2
     <message>
         <source>file kept</source>
         <translation>ファイルを残しました</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files in the Trash</source>
+        <comment>1 file in the Trash</comment>
+        <translation>
+            <numerusform>ゴミ箱へ移動 %1 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files kept</source>
+        <comment>1 file kept</comment>
+        <translation>
+            <numerusform>残したファイル %1 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files missing already</source>
+        <comment>1 file missing already</comment>
+        <translation>
+            <numerusform>すでにないファイル %1 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tracks could not be deleted</source>
+        <comment>1 track could not be deleted</comment>
+        <translation>
+            <numerusform>削除できないトラック %1 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 tracks not attempted</source>
+        <comment>1 track not attempted</comment>
+        <translation>
+            <numerusform>未処理のトラック %1 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Cancelled: %1</source>
+        <translation>中止: %1</translation>
+    </message>
+    <message>
+        <source>Stopped: %1</source>
+        <translation>停止: %1</translation>
+    </message>
+    <message>
+        <source>It ended early: %1</source>
+        <translation>途中で終わりました: %1</translation>
     </message>
 </context>
 <context>
@@ -721,24 +726,36 @@ Here: %2
         <source>none of the library&apos;s files is here; if they came from another machine, --map FROM=TO tells where they are now (the first is %1)</source>
         <translation>ライブラリのファイルはここに 1 つもありません。別のコンピュータのものなら、--map 元=先 で今の場所を指定してください (最初のファイルは %1)</translation>
     </message>
-    <message>
-        <source>warning: the restore of %1 was interrupted, and %2 can be put back: %3</source>
-        <translation>警告: %1 の復元は中断されました。%2を戻せます: %3</translation>
-    </message>
-    <message>
-        <source>warning: the deletion of %1 was interrupted, and %2 can be put back: %3</source>
-        <translation>警告: %1 の削除は中断されました。%2を戻せます: %3</translation>
-    </message>
-    <message>
-        <source>or it can be finished (%1): %2</source>
-        <translation>または完了できます (%1): %2</translation>
-    </message>
     <message numerus="yes">
         <source>none of the library&apos;s files is here; --map &quot;%2=%3&quot; finds %4 of the %1 files that were tried (the first is %5)</source>
         <comment>none of the library&apos;s files is here; --map &quot;%2=%3&quot; finds %4 of the 1 file that were tried (the first is %5)</comment>
         <translation>
             <numerusform>ライブラリのファイルはここに 1 つもありません。--map &quot;%2=%3&quot; なら、確かめた %1 個のうち %4 個が見つかります (最初のファイルは %5)</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>warning: the restore of %1 was interrupted, and</source>
+        <translation>警告: %1 の復元は中断されました。</translation>
+    </message>
+    <message>
+        <source>warning: the deletion of %1 was interrupted, and</source>
+        <translation>警告: %1 の削除は中断されました。</translation>
+    </message>
+    <message>
+        <source>%1 can be put back: %2</source>
+        <translation>%1を戻せます: %2</translation>
+    </message>
+    <message>
+        <source>nothing of it is left to put back</source>
+        <translation>戻せるものは残っていません</translation>
+    </message>
+    <message>
+        <source>, or it can be finished (%1): %2</source>
+        <translation>。または完了できます (%1): %2</translation>
+    </message>
+    <message>
+        <source>; it can be finished (%1): %2</source>
+        <translation>。完了できます (%1): %2</translation>
     </message>
 </context>
 <context>
@@ -1122,6 +1139,10 @@ Here: %2
         <translation>
             <numerusform>%1 個のトラックを検索しました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Nothing of it is left to put back.</source>
+        <translation>戻せるものは残っていません。</translation>
     </message>
 </context>
 <context>
@@ -2230,10 +2251,6 @@ Here: %2
         <translation>詳細</translation>
     </message>
     <message>
-        <source>Show Trash</source>
-        <translation>ゴミ箱を表示</translation>
-    </message>
-    <message>
         <source>Show backup</source>
         <translation>バックアップを表示</translation>
     </message>
@@ -2260,6 +2277,10 @@ Here: %2
     <message>
         <source>Without iTunes Songsweep edits the library file; iTunes elsewhere keeps a database of its own.</source>
         <translation>iTunes がない場合、Songsweep はライブラリファイルを編集します。ほかのコンピュータの iTunes は独自のデータベースを持っています。</translation>
+    </message>
+    <message>
+        <source>Show in Trash</source>
+        <translation>ゴミ箱で表示</translation>
     </message>
 </context>
 <context>
