@@ -94,7 +94,9 @@ std::string DeletionSummary::line() const {
 DeletionSummary summaryOf(const DeleteReport& report, std::optional<std::uint64_t> trashedBytes) {
     DeletionSummary summary = {.title = titleOf(report), .rest = {}};
     addSentence(summary.rest, counts(report, trashedBytes));
-    if (!report.notWritten.empty()) addSentence(summary.rest, filled(words("DeletionSummary", "It ended early: %1"), {report.notWritten}));
+    if (!report.notWritten.empty())
+        addSentence(summary.rest,
+                    filled(words("DeletionSummary", "It ended early: %1"), {report.notWritten}));
     for (const std::string& note : report.notes)
         addSentence(summary.rest, note);
     return summary;
