@@ -230,7 +230,7 @@ Here: %2
     </message>
     <message>
         <source>Plays</source>
-        <translation>再生回数</translation>
+        <translation>再生数</translation>
     </message>
     <message>
         <source>Date added</source>
@@ -238,7 +238,7 @@ Here: %2
     </message>
     <message>
         <source>Artwork</source>
-        <translation>アートワーク</translation>
+        <translation>画像</translation>
     </message>
     <message>
         <source>Sound</source>
