@@ -4,7 +4,9 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <clocale>
 #include <set>
+#include <string>
 
 namespace songsweep {
 
@@ -22,6 +24,23 @@ std::string digitsOf(std::string_view text) {
     return {digits.begin(), digits.end()};
 }
 
+/// The C locale knows no groups of digits; Qt takes it for American English, which has them.
+bool isPlainLocale() {
+    const char* const name = std::setlocale(LC_NUMERIC, nullptr);
+    const bool isC = name != nullptr && (std::string_view(name) == "C" || std::string_view(name) == "POSIX" ||
+                                         std::string_view(name).starts_with("C."));
+    return isC && QLocale() == QLocale::system();
+}
+
+/// The number in the place of every "%1": a wording for one need not have it, and then begins with "%2".
+std::string withCount(std::string text, std::string_view number) {
+    constexpr std::string_view placeholder = "%1";
+    for (std::size_t at = text.find(placeholder); at != std::string::npos;
+         at = text.find(placeholder, at + number.size()))
+        text.replace(at, placeholder.size(), number);
+    return text;
+}
+
 } // namespace
 
 std::string words(const char* context, const char* text) {
@@ -32,7 +51,7 @@ std::string countedWords(const char* context, const char* many, const char* one,
     const auto number = static_cast<int>(count);
     const std::string found = QCoreApplication::translate(context, many, one, number).toStdString();
     const bool isEnglish = found == many;
-    return filled(isEnglish && count == 1 ? one : found, {numberText(count)});
+    return withCount(isEnglish && count == 1 ? one : found, numberText(count));
 }
 
 std::string countedWords(const Countable& text, std::int64_t count) {
@@ -40,6 +59,7 @@ std::string countedWords(const Countable& text, std::int64_t count) {
 }
 
 std::string numberText(std::int64_t number) {
+    if (isPlainLocale()) return std::to_string(number);
     return QLocale().toString(static_cast<qlonglong>(number)).toStdString();
 }
 

@@ -100,7 +100,7 @@ TEST_F(MainWindowLibraryTest, NothingBelowTheButtonTakesNoRoom) {
     window.showLibrary({.state = State::read, .path = "/m/A.xml", .others = {"/m/B.xml"}});
     handleWaitingEvents();
     EXPECT_NE(control<QPushButton>("emptyButton0").y(), before);
-    window.showLibrary({.state = State::read, .path = "/m/A.xml"});
+    window.showLibrary({.state = State::reading, .path = "/m/A.xml"});
     handleWaitingEvents();
     EXPECT_EQ(control<QPushButton>("emptyButton0").y(), before);
 }

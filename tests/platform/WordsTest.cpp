@@ -22,6 +22,7 @@ TEST(Words, HaveAWordingForOneAndOneForMany) {
 
 TEST(Words, LeaveOtherPlaceholdersOfACountForLater) {
     EXPECT_EQ(countedWords("Nowhere", "%2 of %1 files", "%2 of 1 file", 3), "%2 of 3 files");
+    EXPECT_EQ(countedWords("Nowhere", "%2 of %1 files", "%2 of 1 file", 1), "%2 of 1 file");
 }
 
 TEST(Words, WriteNumbersInTheWayOfTheLocale) {

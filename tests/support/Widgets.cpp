@@ -31,8 +31,9 @@ bool isClipped(const QWidget& control) {
 }
 
 bool showsText(const QWidget& control) {
-    return qobject_cast<const QLabel*>(&control) != nullptr ||
-           qobject_cast<const QAbstractButton*>(&control) != nullptr ||
+    const auto* button = qobject_cast<const QAbstractButton*>(&control);
+    return (button != nullptr && !button->text().isEmpty()) ||
+           qobject_cast<const QLabel*>(&control) != nullptr ||
            qobject_cast<const QComboBox*>(&control) != nullptr;
 }
 
