@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "scan/ScanProgress.h"
 
+#include "library/GroupedNumber.h"
 #include "library/ValueFormats.h"
 #include "platform/Words.h"
 
@@ -26,15 +27,6 @@ std::string timeLeft(std::size_t read, std::size_t toRead, std::chrono::millisec
 }
 
 } // namespace
-
-std::string groupedNumber(std::size_t number) {
-    constexpr std::size_t groupSize = 3;
-    constexpr const char* noBreakSpace = "\u00A0";
-    std::string text = std::to_string(number);
-    for (std::size_t place = text.size(); place > groupSize; place -= groupSize)
-        text.insert(place - groupSize, noBreakSpace);
-    return text;
-}
 
 std::string scanProgressText(std::size_t read, std::size_t toRead, std::chrono::milliseconds elapsed) {
     const std::string text = toRead == 1 ? words("ScanProgress", "Reading %1 of %2 file…")

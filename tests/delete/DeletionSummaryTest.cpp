@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "delete/DeletionSummary.h"
 
+#include <QLocale>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -23,6 +25,16 @@ void add(DeleteReport& report, int count, Track track, File file, const std::str
         outcome.dealtWith = reason.empty() && track == Track::deleted;
         report.outcomes.push_back(outcome);
     }
+}
+
+TEST(DeletionSummary, GroupsTheDigitsOfItsNumbers) {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    DeleteReport report;
+    add(report, 1200, Track::deleted, File::trashed);
+    EXPECT_EQ(summaryOf(report, 600'000).line(), "1,200 tracks deleted, 1,200 files in the Trash (0.6 MB).");
+    add(report, 1000, Track::failed, File::kept, "no");
+    EXPECT_EQ(summaryOf(report, 600'000).title, "1,200 of 2,200 tracks deleted");
+    QLocale::setDefault(QLocale::system());
 }
 
 TEST(DeletionSummary, TellsTracksAndFiles) {

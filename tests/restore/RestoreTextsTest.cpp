@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "restore/RestoreTexts.h"
 
+#include <QLocale>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -20,6 +22,20 @@ RestoredTrack track(Entry entry, File file) {
     made.entry = entry;
     made.file = file;
     return made;
+}
+
+TEST(RestoreTexts, GroupTheDigitsOfTheirNumbers) {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    CleanupSummary cleanup;
+    cleanup.end.emplace();
+    cleanup.end->tracks = 12'000;
+    cleanup.end->files = 11'000;
+    EXPECT_EQ(restoreTexts::cellsOf(cleanup).tracks, "12,000");
+    EXPECT_EQ(restoreTexts::cellsOf(cleanup).files, "11,000");
+    RestoreReport report;
+    report.tracks.assign(1'500, track(Entry::restored, File::putBack));
+    EXPECT_EQ(restoreTexts::title(report), "1,500 tracks restored");
+    QLocale::setDefault(QLocale::system());
 }
 
 TEST(RestoreTexts, ForeseeWhatComesBack) {
