@@ -13,6 +13,7 @@
 #include "delete/FileSurvey.h"
 #include "delete/TrackFacts.h"
 #include "dupes/RecordingGroups.h"
+#include "operations/BackgroundDelete.h"
 #include "platform/Words.h"
 
 #include <utility>
@@ -93,7 +94,7 @@ void Deletion::forgetSurvey() {
     m_pendingSurvey.reset();
     m_surveys.cancelAllOperations();
     const std::lock_guard read(*m_rowsLock); // Whoever may now change the rows waits for whoever reads them.
-    m_plan = {};
+    deleteInBackground(std::exchange(m_plan, {}));
 }
 
 void Deletion::unlockLibrary() { m_surveys.add(std::make_unique<Unlocking>(m_services.cleanup)); }
@@ -185,7 +186,7 @@ void Deletion::cancelButtonClick() {
 void Deletion::abandon() {
     m_myTimer.stop();
     m_phase = Phase::none;
-    m_plan = {};
+    deleteInBackground(std::exchange(m_plan, {}));
     unlockLibrary();
     QTimer::singleShot(0, &m_myTimer, m_abandoned);
 }

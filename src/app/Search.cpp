@@ -9,10 +9,9 @@
 #include "app/views/ControllerViews.h"
 #include "app/views/SearchView.h"
 #include "dupes/BuildResultProc.h"
+#include "operations/BackgroundDelete.h"
 #include "platform/Log.h"
 #include "platform/Words.h"
-
-#include <QThreadPool>
 
 #include <exception>
 #include <utility>
@@ -30,12 +29,9 @@ std::string cantAccessMessage(const std::string& player) {
 /// What a text that is not there reads as where a text is built from it.
 const std::string missingText = "(null)";
 
-/// A million records take a tenth of a second to go, for which nobody shall wait.
 std::shared_ptr<TrackList> makeList() {
     auto list = std::make_shared<TrackList>();
-    list->storage = std::shared_ptr<TrackStorage>(new TrackStorage, [](TrackStorage* storage) {
-        QThreadPool::globalInstance()->start([storage] { delete storage; });
-    });
+    list->storage = std::shared_ptr<TrackStorage>(new TrackStorage, BackgroundDelete());
     return list;
 }
 

@@ -8,6 +8,7 @@
 #include "delete/StayingCopies.h"
 #include "library/DisplayedList.h"
 #include "libraryfile/RecordedCleanup.h"
+#include "operations/BackgroundDelete.h"
 #include "operations/Operation.h"
 #include "platform/Result.h"
 
@@ -83,7 +84,7 @@ class DeleteProc final : public Operation {
     std::optional<StayingCopies> m_stayingCopies;
     MergeReport m_merge;
     FileDeletion m_fileDeletion;
-    std::shared_ptr<DeleteReport> m_report = std::make_shared<DeleteReport>();
+    std::shared_ptr<DeleteReport> m_report = {new DeleteReport, BackgroundDelete()};
 };
 
 } // namespace songsweep
