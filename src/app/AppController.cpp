@@ -299,7 +299,7 @@ void AppController::restoreOkButtonClick() {
 }
 
 void AppController::tellDeletion() {
-    if (const DeleteReport* const report = m_deletion.lastReport()) m_notices.tellDeletion(*report);
+    if (m_deletion.lastReport()) m_notices.tellDeletion(m_deletion.lastReport());
     m_library.refresh();
 }
 

@@ -155,7 +155,7 @@ class AppController {
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
     int getCheckedCount() const { return m_results.getCheckedCount(); }
     int listedCount() const { return m_search.listedCount(); }
-    const DeleteReport* lastDeleteReport() const { return m_deletion.lastReport(); }
+    const DeleteReport* lastDeleteReport() const { return m_deletion.lastReport().get(); }
     const Progress& progress() const { return m_progress.progress(); }
     bool missedPlaylist() const { return m_search.missedPlaylist(); }
     SearchVerdict searchVerdict() const { return m_search.verdict(); }

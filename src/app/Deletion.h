@@ -51,7 +51,7 @@ class Deletion {
     /// Whether the rows are a worker's now, so that nobody else may look at them.
     bool hasRows() const { return m_phase == Phase::running; }
     /// What became of the tracks of the last deletion; null before the first has ended.
-    const DeleteReport* lastReport() const { return m_report.get(); }
+    const std::shared_ptr<const DeleteReport>& lastReport() const { return m_report; }
 
     /// The groups that the confirmation warns of, by their numbers.
     std::unordered_set<std::int32_t> songsLost(FilesToTrash files) const;

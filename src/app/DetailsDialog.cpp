@@ -43,10 +43,11 @@ DetailsDialog::DetailsDialog(const QString& title, const std::vector<std::string
     m_list->setTabChangesFocus(true);
     m_list->document()->setDocumentMargin(scaledLength(margin, this));
     m_list->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    QStringList all;
     for (const std::string& line : lines)
-        all << inOneLine(line);
-    m_list->setPlainText(all.join(QChar::LineFeed));
+        m_lines << inOneLine(line);
+    m_list->setUndoRedoEnabled(false);
+    connect(&m_slices, &QTimer::timeout, this, &DetailsDialog::showMore);
+    showMore();
     setUpButtons();
     resize(scaledLength(firstWidth, this), scaledLength(firstHeight, this));
 }
@@ -64,6 +65,19 @@ void DetailsDialog::setUpButtons() {
     layout()->addWidget(buttons);
 }
 
-QString DetailsDialog::text() const { return m_list->toPlainText(); }
+/// Some thousand lines at a time, so that the dialog answers while a million of them come.
+void DetailsDialog::showMore() {
+    constexpr qsizetype linesOfSlice = 2000;
+    const QStringList slice = m_lines.mid(m_shown, linesOfSlice);
+    if (m_shown == 0) {
+        m_list->setPlainText(slice.join(QChar::LineFeed));
+    } else {
+        m_list->appendPlainText(slice.join(QChar::LineFeed));
+    }
+    m_shown += slice.size();
+    m_shown < m_lines.size() ? m_slices.start(0) : m_slices.stop();
+}
+
+QString DetailsDialog::text() const { return m_lines.join(QChar::LineFeed); }
 
 } // namespace songsweep

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QStringList>
+#include <QTimer>
 
 #include <string>
 #include <vector>
@@ -23,8 +25,12 @@ class DetailsDialog : public QDialog {
 
   private:
     void setUpButtons();
+    void showMore();
 
     QPlainTextEdit* m_list;
+    QStringList m_lines;
+    qsizetype m_shown = 0; ///< of the lines
+    QTimer m_slices;
 };
 
 } // namespace songsweep

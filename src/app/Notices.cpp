@@ -74,23 +74,29 @@ std::optional<std::uint64_t> trashedBytes(const std::string& record) {
     return cleanup->end->bytes;
 }
 
+std::function<std::vector<std::string>()> given(std::vector<std::string> lines) {
+    if (lines.empty()) return {};
+    return [kept = std::move(lines)] { return kept; };
+}
+
 } // namespace
 
-void Notices::tellDeletion(const DeleteReport& report) {
-    if (report.outcomes.empty() || !report.notBegun.empty()) return; // nothing was done
+void Notices::tellDeletion(std::shared_ptr<const DeleteReport> report) {
+    if (report->outcomes.empty() || !report->notBegun.empty()) return; // nothing was done
     m_unfinished.clear();
-    m_details = detailsOf(report);
-    m_trashedFile = aTrashedFile(report);
-    m_backup = report.backup;
-    m_record = report.record;
-    const DeletionSummary summary = summaryOf(report, trashedBytes(report.record));
-    show({summary.title, summary.rest, summary.line(), !report.allDealtWith(), {}});
+    m_trashedFile = aTrashedFile(*report);
+    m_backup = report->backup;
+    m_record = report->record;
+    const DeletionSummary summary = summaryOf(*report, trashedBytes(report->record));
+    const bool isWarning = !report->allDealtWith();
+    m_details = [kept = std::move(report)] { return detailsOf(*kept); };
+    show({summary.title, summary.rest, summary.line(), isWarning, {}});
 }
 
 void Notices::tellRestore(const RestoreAnswer& answer) {
     if (!answer.problem.empty()) return; // nothing was done, as the sheet says
     m_unfinished.clear();
-    m_details = restoreTexts::details(answer.report);
+    m_details = given(restoreTexts::details(answer.report));
     m_trashedFile.clear();
     m_backup = answer.report.backup;
     m_record.clear();
@@ -100,7 +106,7 @@ void Notices::tellRestore(const RestoreAnswer& answer) {
 }
 
 void Notices::tellSounds(const ComparedSounds& sounds) {
-    m_details = sounds.unread;
+    m_details = given(sounds.unread);
     m_trashedFile.clear();
     m_backup.clear();
     m_record.clear();
@@ -114,7 +120,7 @@ void Notices::tellSounds(const ComparedSounds& sounds) {
 void Notices::tellInterruption(const InterruptedCleanup& found) {
     const auto date = parseLibraryDate(found.date);
     const std::string when = date ? shortDateTime(*date) : found.date;
-    m_details.clear();
+    m_details = {};
     m_trashedFile.clear();
     m_backup = found.backup;
     m_record = found.canBePutBack() ? found.record : std::string();
@@ -132,7 +138,7 @@ void Notices::tellInterruption(const InterruptedCleanup& found) {
 }
 
 void Notices::tellUnreadFiles(const std::string& title, std::vector<std::string> lines) {
-    m_details = std::move(lines);
+    m_details = given(std::move(lines));
     m_trashedFile.clear();
     m_backup.clear();
     m_record.clear();
@@ -148,16 +154,16 @@ void Notices::tellFinishing() {
 /// Where it failed, it can be tried again.
 void Notices::tellFinished(const std::shared_ptr<FinishAnswer>& answer) {
     if (answer->problem.empty()) {
-        const DeleteReport report = finishedReport(answer->cleanup);
-        logReport(report, m_services.log);
-        return tellDeletion(report);
+        auto report = std::make_shared<DeleteReport>(finishedReport(answer->cleanup));
+        logReport(*report, m_services.log);
+        return tellDeletion(std::move(report));
     }
     const std::string title = words("Notices", "The deletion could not be finished");
     show({title, answer->problem + ".", title + ": " + answer->problem, true, {}});
 }
 
 void Notices::forget() {
-    m_details.clear();
+    m_details = {};
     m_trashedFile.clear();
     m_backup.clear();
     m_record.clear();
@@ -183,7 +189,7 @@ void Notices::tellMissingFiles(const MissingFiles& missing) {
 }
 
 void Notices::show(Notice notice) {
-    if (!m_details.empty()) notice.actions.push_back(NoticeAction::details);
+    if (m_details) notice.actions.push_back(NoticeAction::details);
     if (!m_trashedFile.empty()) notice.actions.push_back(NoticeAction::showTrash);
     if (!m_backup.empty()) notice.actions.push_back(NoticeAction::showBackup);
     if (!m_unfinished.empty()) notice.actions.push_back(NoticeAction::finish);
@@ -196,7 +202,7 @@ void Notices::close() { m_view.hideNotice(); }
 void Notices::noticeActionClick(NoticeAction action) {
     switch (action) {
     case NoticeAction::details:
-        return m_view.showNoticeDetails(m_details);
+        return m_view.showNoticeDetails(m_details());
     case NoticeAction::showTrash:
         return showInFileManager(m_trashedFile);
     case NoticeAction::showBackup:

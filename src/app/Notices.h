@@ -40,7 +40,7 @@ class Notices {
         : m_services(std::move(services))
         , m_view(view) {}
 
-    void tellDeletion(const DeleteReport& report);
+    void tellDeletion(std::shared_ptr<const DeleteReport> report);
     void tellRestore(const RestoreAnswer& answer);
     void tellInterruption(const InterruptedCleanup& found);
     /// Files of a folder that could not be read, a line each.
@@ -65,8 +65,8 @@ class Notices {
 
     Services m_services;
     NoticeView& m_view;
-    std::vector<std::string> m_details;
-    std::string m_trashedFile; ///< one of those that went to the Trash, "" for none
+    std::function<std::vector<std::string>()> m_details; ///< of a million tracks, made when asked for
+    std::string m_trashedFile;                           ///< one of those that went to the Trash, "" for none
     std::string m_backup;
     std::string m_record;     ///< of what can be restored
     std::string m_unfinished; ///< the record of what can be finished, "" for none
