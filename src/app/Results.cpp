@@ -11,7 +11,8 @@
 namespace songsweep {
 
 Results::Results(ResultsView& view)
-    : m_view(view) {}
+    : m_view(view)
+    , m_sorter([this](std::vector<TrackRecord*> rows) { takeSorted(std::move(rows)); }) {}
 
 int Results::getCheckedCount() const { return checkedCount(m_tableDataSource.rows); }
 
@@ -45,6 +46,7 @@ std::vector<TrackRecord*> Results::rowsOfSelectedGroups() const {
 }
 
 void Results::begin(std::shared_ptr<TrackStorage> storage) {
+    m_sorter.drop();
     m_tableDataSource = {{}, std::move(storage)};
     forgetMarks();
     setSoundsCompared(false);
@@ -77,8 +79,10 @@ std::string Results::markReason(const TrackRecord& record) const {
 
 std::function<std::string(std::size_t row)> Results::reasonsOfRows() const {
     if (!m_reasons) return {};
-    m_reasons->index();
-    return [this](std::size_t row) { return reasonOfRow(row); };
+    return [this, isIndexed = false](std::size_t row) mutable {
+        if (!std::exchange(isIndexed, true)) m_reasons->index();
+        return reasonOfRow(row);
+    };
 }
 
 /// A recording's only copy has its reason in its neighbours, as they stand now.
@@ -135,6 +139,7 @@ void Results::showEmptyState() {
 }
 
 void Results::forget() {
+    m_sorter.drop();
     m_tableDataSource = {};
     forgetMarks();
     setSoundsCompared(false);
@@ -143,6 +148,7 @@ void Results::forget() {
 }
 
 void Results::arrangeRows(const std::vector<std::size_t>& order) {
+    m_sorter.drop();
     std::vector<TrackRecord*> arranged;
     arranged.reserve(order.size());
     for (const std::size_t row : order)
@@ -160,7 +166,12 @@ void Results::didClickTableColumn(Column column) {
     m_sortIndicatorShown = true;
     m_view.setSortIndicator(column, m_sortAscending);
     m_lastMark.reset();
-    sortInsideGroups(m_tableDataSource.rows, column, m_sortAscending);
+    m_sorter.sort(m_tableDataSource, column, m_sortAscending);
+}
+
+void Results::takeSorted(std::vector<TrackRecord*> rows) {
+    m_tableDataSource.rows = std::move(rows);
+    m_lastMark.reset();
     reloadTable();
 }
 

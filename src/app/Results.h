@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/RowSorter.h"
 #include "dupes/MarkChoice.h"
 #include "dupes/MarkHistory.h"
 #include "dupes/MarkReasons.h"
@@ -26,7 +27,12 @@ class Results {
   public:
     explicit Results(ResultsView& view);
 
-    DisplayedList& tableDataSource() { return m_tableDataSource; }
+    /// In its last order: where that is still being made, waits for it.
+    DisplayedList& tableDataSource() {
+        m_sorter.finish();
+        return m_tableDataSource;
+    }
+    /// As the view shows it.
     const DisplayedList& tableDataSource() const { return m_tableDataSource; }
     /// The rule that set the present marks, for their reasons; nothing once a mark or the order has changed,
     /// since the rule might keep another copy now.
@@ -69,8 +75,8 @@ class Results {
     bool soundsCompared() const { return m_soundsCompared; }
     /// Why the record is marked, or stays; empty where no rule has marked anything.
     std::string markReason(const TrackRecord& record) const;
-    /// The same of every row, by a pass over the rows beforehand; nothing where no rule has marked anything.
-    /// Valid until the rows or the marks' rule change.
+    /// The same of every row, by a pass over the rows with the first; nothing where no rule has marked
+    /// anything. Valid until the rows or the marks' rule change; any one thread.
     std::function<std::string(std::size_t row)> reasonsOfRows() const;
     /// Marks were set by a rule, or by hand. The status follows where the caller wants it to.
     void setMarkedBy(std::optional<MarkChoice> rule);
@@ -84,6 +90,7 @@ class Results {
 
   private:
     std::string reasonOfRow(std::size_t row) const;
+    void takeSorted(std::vector<TrackRecord*> rows);
     void forgetMarks();
     void setSoundsCompared(bool compared);
 
@@ -98,6 +105,7 @@ class Results {
     bool m_deleteEnabled = false;
     bool m_soundsCompared = false;
     int m_horizontalScrollbarShowCount = 0;
+    RowSorter m_sorter; ///< last, so that it ends before what it uses
 };
 
 } // namespace songsweep

@@ -18,7 +18,6 @@ std::vector<const TrackRecord*> selectedTracks(const SWTableView& view,
     std::vector<const TrackRecord*> tracks;
     for (const int row : view.selectedRows())
         tracks.push_back(rows[static_cast<std::size_t>(row)]);
-    std::sort(tracks.begin(), tracks.end());
     return tracks;
 }
 
@@ -52,9 +51,11 @@ int TablePlace::newRow(int row, const std::vector<TrackRecord*>& rows) const {
 }
 
 std::vector<bool> TablePlace::chosenRows(const std::vector<TrackRecord*>& rows) const {
+    std::vector<const TrackRecord*> selected = m_selected;
+    std::sort(selected.begin(), selected.end());
     std::vector<bool> chosen(rows.size(), false);
     for (std::size_t row = 0; row < rows.size(); ++row)
-        chosen[row] = std::binary_search(m_selected.begin(), m_selected.end(), rows[row]);
+        chosen[row] = std::binary_search(selected.begin(), selected.end(), rows[row]);
     return chosen;
 }
 

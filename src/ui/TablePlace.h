@@ -27,8 +27,8 @@ class TablePlace {
     void restoreCurrent(SWTableView& view) const;
     void restoreScrollPlace(SWTableView& view) const;
 
-    DisplayedList m_before;                     ///< keeps the tracks alive until all is restored
-    std::vector<const TrackRecord*> m_selected; ///< ascending by address
+    DisplayedList m_before; ///< keeps the tracks alive until all is restored
+    std::vector<const TrackRecord*> m_selected;
     int m_current;
     int m_currentColumn;
     int m_topRow;    ///< first row in sight, -1 for none
