@@ -8,6 +8,8 @@ namespace songsweep {
 namespace {
 
 constexpr int sliceMilliseconds = 8;
+/// Fewer are counted in one slice.
+constexpr std::size_t manyRows = 20'000;
 
 } // namespace
 
@@ -18,7 +20,8 @@ SlicedGain::SlicedGain(QObject* parent)
 
 void SlicedGain::count(const std::vector<TrackRecord*>& rows) {
     m_pass = std::make_unique<GainPass>(rows);
-    goOn();
+    if (rows.size() < manyRows) return goOn();
+    m_slices.start(0);
 }
 
 void SlicedGain::goOn() {

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/TableFilter.h"
 
+#include "library/RowParts.h"
+
 #include <QElapsedTimer>
+
+#include <algorithm>
 
 namespace songsweep {
 
@@ -61,12 +65,21 @@ void TableFilter::goOn() {
 }
 
 void TableFilter::apply() {
+    std::vector<char> isShown(m_all.rows.size(), 0);
+    inParts(m_all.rows, [&](RowGroup part) {
+        for (std::size_t row = part.first; row < part.end; ++row) {
+            const auto group = static_cast<std::size_t>(m_all.rows[row]->gid);
+            isShown[row] = group < m_groups.size() && m_groups[group] ? 1 : 0;
+        }
+    });
+    const auto count = static_cast<std::size_t>(std::count(isShown.begin(), isShown.end(), 1));
     m_isApplied = true;
     m_shown = {{}, m_all.storage};
+    m_shown.rows.reserve(count);
     m_rows.clear();
+    m_rows.reserve(count);
     for (std::size_t row = 0; row < m_all.rows.size(); ++row) {
-        const auto group = static_cast<std::size_t>(m_all.rows[row]->gid);
-        if (group >= m_groups.size() || !m_groups[group]) continue;
+        if (isShown[row] == 0) continue;
         m_shown.rows.push_back(m_all.rows[row]);
         m_rows.push_back(static_cast<int>(row));
     }

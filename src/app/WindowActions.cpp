@@ -119,8 +119,17 @@ void WindowActions::connectMarkDialog() {
         dialog->setFolder(QString::fromStdString(spelled));
     });
     connect(dialog, &QDialog::rejected, this, [this] { m_controller.markCancelButtonClick(); });
-    connect(dialog, &MarkDialog::opening, this, &WindowActions::updateMarkPreview);
-    connect(&m_windows.mainWindow(), &MainWindow::tableReloaded, this, &WindowActions::updateMarkPreview);
+    connect(dialog, &MarkDialog::opening, this, &WindowActions::previewMarks);
+    connect(&m_windows.mainWindow(), &MainWindow::tableReloaded, this, &WindowActions::previewMarks);
+    m_previewing.setSingleShot(true);
+    connect(&m_previewing, &QTimer::timeout, this, &WindowActions::updateMarkPreview);
+}
+
+/// Of a million rows once what was done is on the screen.
+void WindowActions::previewMarks() {
+    constexpr std::size_t manyRows = 20'000;
+    if (m_controller.tableDataSource().rows.size() < manyRows) return updateMarkPreview();
+    m_previewing.start(0);
 }
 
 /// A walk over all rows, which nobody waits for while the dialog is hidden.

@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <string>
+#include <QTimer>
 
 namespace songsweep {
 
@@ -57,11 +58,13 @@ class WindowActions : public QObject {
     QString markReason(int row) const;
     void quit();
 
+    void previewMarks();
     Windows& m_windows;
     AppController& m_controller;
     OpenLibrary m_openLibrary;
     FolderActions m_folder;
     SoundActions m_sound;
+    QTimer m_previewing;
     Exporter m_exporter = [](const ResultsExport&) { return Result<void>(); };
 };
 

@@ -13,16 +13,6 @@ namespace {
 /// Beyond it the oldest step is forgotten.
 constexpr std::size_t mostSteps = 100;
 
-/// Bytes and no bits, so that several threads may set them.
-std::vector<char> marksOf(const std::vector<TrackRecord*>& rows) {
-    std::vector<char> marks(rows.size());
-    inParts(rows, [&](RowGroup part) {
-        for (std::size_t row = part.first; row < part.end; ++row)
-            marks[row] = rows[row]->checkbox ? 1 : 0;
-    });
-    return marks;
-}
-
 } // namespace
 
 void MarkHistory::record(By by, const std::string& name, const Rows& rows, const std::function<void()>& act) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dupes/MarkReasons.h"
 
+#include "library/RowParts.h"
 #include "platform/Words.h"
 
 #include <algorithm>
@@ -15,9 +16,7 @@ MarkReasons::MarkReasons(DisplayedList list, const MarkChoice& choice, Recording
         m_recordings.emplace(m_list.rows);
         m_list.rows = m_recordings->rows();
     }
-    m_marked.reserve(m_list.rows.size());
-    for (const TrackRecord* const row : m_list.rows)
-        m_marked.push_back(row->checkbox);
+    m_marked = marksOf(m_list.rows);
 }
 
 std::string MarkReasons::of(const TrackRecord& record) {
@@ -33,7 +32,7 @@ std::string MarkReasons::of(const TrackRecord& record) {
 
 std::string MarkReasons::ofRow(std::size_t row) {
     const bool isMarked = m_list.rows[row]->checkbox;
-    if (isMarked != m_marked[row])
+    if (isMarked != (m_marked[row] != 0))
         return isMarked ? words("MarkReason", "marked by hand") : words("MarkReason", "unmarked by hand");
     if (isMarked) return m_verdicts.of(row).reason;
     if (m_recordings && groupAt(m_list.rows, row).size() == 1) return {};

@@ -44,7 +44,7 @@ class MarkReasons {
     DisplayedList m_list;
     std::unordered_map<const TrackRecord*, std::size_t> m_rowOf; ///< empty before `index`
     MarkVerdicts m_verdicts;
-    std::vector<bool> m_marked; ///< by the rule
+    std::vector<char> m_marked; ///< by the rule
 };
 
 } // namespace songsweep

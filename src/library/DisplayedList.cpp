@@ -9,16 +9,42 @@
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
+#include <map>
+#include <mutex>
+#include <utility>
 
 namespace songsweep {
 
+namespace {
+
+/// How many groups each part has, by its first row.
+std::map<std::size_t, std::size_t> groupsOfParts(const std::vector<TrackRecord*>& rows) {
+    std::mutex lock;
+    std::map<std::size_t, std::size_t> counts;
+    inParts(rows, [&](RowGroup part) {
+        std::size_t count = 1;
+        for (std::size_t row = part.first + 1; row < part.end; ++row)
+            count += rows[row]->gid != rows[row - 1]->gid ? 1 : 0;
+        const std::lock_guard guard(lock);
+        counts.emplace(part.first, count);
+    });
+    return counts;
+}
+
+} // namespace
+
 void realignShowID(std::vector<TrackRecord*>& rows) {
-    bool band = false;
-    for (const RowGroup group : groupsOf(rows)) {
-        band = !band;
-        for (std::size_t row = group.first; row < group.end; ++row)
+    std::map<std::size_t, std::size_t> before = groupsOfParts(rows); // groups that stand before each part
+    std::size_t groups = 0;
+    for (auto& [first, count] : before)
+        count = std::exchange(groups, groups + count);
+    inParts(rows, [&](RowGroup part) {
+        bool band = before.at(part.first) % 2 == 0;
+        for (std::size_t row = part.first; row < part.end; ++row) {
+            if (row > part.first && rows[row]->gid != rows[row - 1]->gid) band = !band;
             rows[row]->showid = band;
-    }
+        }
+    });
 }
 
 void sortInsideGroups(std::vector<TrackRecord*>& rows, Column column, bool ascending) {

@@ -40,6 +40,15 @@ void inParts(const std::vector<TrackRecord*>& rows, const std::function<void(Row
     work();
 }
 
+std::vector<char> marksOf(const std::vector<TrackRecord*>& rows) {
+    std::vector<char> marks(rows.size());
+    inParts(rows, [&](RowGroup part) {
+        for (std::size_t row = part.first; row < part.end; ++row)
+            marks[row] = rows[row]->checkbox ? 1 : 0;
+    });
+    return marks;
+}
+
 std::vector<TrackRecord*> rowsOf(const std::vector<TrackRecord*>& rows, RowGroup part) {
     const auto begin = rows.begin();
     return {begin + static_cast<std::ptrdiff_t>(part.first), begin + static_cast<std::ptrdiff_t>(part.end)};

@@ -19,6 +19,9 @@ namespace songsweep {
 /// change the rows of their own part, and throw nothing.
 void inParts(const std::vector<TrackRecord*>& rows, const std::function<void(RowGroup part)>& walk);
 
+/// The check boxes of the rows: bytes and no bits, so that several threads may set them.
+std::vector<char> marksOf(const std::vector<TrackRecord*>& rows);
+
 /// The rows of a part as a list of their own.
 std::vector<TrackRecord*> rowsOf(const std::vector<TrackRecord*>& rows, RowGroup part);
 

@@ -39,6 +39,13 @@ TEST(FileKindTest, KindsStandInTheOrderOfTheirFirstAppearance) {
     EXPECT_THAT(kindsOf(rows.rows()), ElementsAre("MP3", "M4A", "AIFF"));
 }
 
+TEST(FileKindTest, KindsOfManyRowsStandInThatOrder) {
+    MarkRows rows;
+    for (int row = 0; row < 100'000; ++row)
+        rows.add(row, {.location = row == 90'000 ? "z.wav" : row < 60'000 ? "a.mp3" : "b.m4a"});
+    EXPECT_THAT(kindsOf(rows.rows()), ElementsAre("MP3", "M4A", "WAV"));
+}
+
 TEST(FileKindTest, NoRowsGiveNoKinds) { EXPECT_THAT(kindsOf({}), IsEmpty()); }
 
 } // namespace

@@ -72,6 +72,22 @@ TEST_F(DisplayedListTest, BandsOfTheGroupsThatAreLeftAlternateAgain) {
     EXPECT_EQ(bands(), "110011");
 }
 
+TEST_F(DisplayedListTest, BandsAlternateOverManyRows) {
+    std::mt19937 random(1);
+    std::string expected;
+    bool band = false;
+    for (int gid = 1; expected.size() < 100'000; ++gid) {
+        band = !band;
+        for (auto copies = 1 + random() % 4; copies > 0; --copies) {
+            m_list.rows.push_back(&m_list.storage->makeRecord());
+            m_list.rows.back()->gid = gid;
+            expected += band ? '1' : '0';
+        }
+    }
+    realignShowID(rows());
+    EXPECT_TRUE(bands() == expected);
+}
+
 TEST_F(DisplayedListTest, SortsInsideTheGroupsAlone) {
     add({.name = "z", .gid = 1});
     add({.name = "y", .gid = 1});
