@@ -6,11 +6,13 @@
 #include "theme/Announcement.h"
 #include "theme/CountedText.h"
 #include "theme/DialogFrame.h"
+#include "theme/Metrics.h"
 #include "ui_MarkDialog.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QPushButton>
+#include <QScreen>
 #include <QShowEvent>
 
 #include <array>
@@ -58,8 +60,10 @@ void setTag(const Ui::MarkDialog& ui, QRadioButton* radio, MarkField field) {
     ui.markRadioGroup->setId(radio, static_cast<int>(field));
 }
 
-QString previewText(const MarkPreview& preview) {
+QString previewText(const MarkPreview& preview, const MarkChoice& choice) {
     if (preview.total == 0) return MarkDialog::tr("No tracks to mark");
+    if (choice.markType == MarkType::folder && choice.text.empty() && !preview.inForce)
+        return MarkDialog::tr("No folder chosen");
     const QString none = preview.matches ? QString() : MarkDialog::tr("No track matches.") + QLatin1Char(' ');
     const QString counts =
         preview.inForce ? MarkDialog::tr("Marked %L1 of %L2") : MarkDialog::tr("Would mark %L1 of %L2");
@@ -146,7 +150,7 @@ void MarkDialog::setFolder(const QString& folder) {
 }
 
 void MarkDialog::setPreview(const MarkPreview& preview) {
-    showLive(*m_ui->markLiveLabel, previewText(preview));
+    showLive(*m_ui->markLiveLabel, previewText(preview, choice()));
     if (std::exchange(m_byRecordings, preview.byRecordings) != preview.byRecordings) updateHelper();
 }
 
@@ -156,8 +160,23 @@ void MarkDialog::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {
         if (QAbstractButton* chosen = m_ui->markRadioGroup->checkedButton()) chosen->setFocus();
         Q_EMIT opening();
+        fitIntoScreen();
     }
     QDialog::showEvent(event);
+}
+
+/// Large fonts on a low screen: the rows move together before the buttons leave it.
+void MarkDialog::fitIntoScreen() {
+    constexpr int frame = 40; // of the window manager, and more
+    constexpr int tightMargin = 8;
+    const int room = screen()->availableGeometry().height() - frame;
+    if (layout()->totalSizeHint().height() <= room) return;
+    for (QWidget* const each : findChildren<QWidget*>())
+        if (each->property("baseHeight").isValid()) each->setMinimumHeight(0);
+    const int margin = scaledLength(tightMargin, this);
+    const QMargins sides = layout()->contentsMargins();
+    layout()->setContentsMargins(sides.left(), margin, sides.right(), margin);
+    layout()->activate();
 }
 
 void MarkDialog::connectRule(QRadioButton* radio, QComboBox* combo) {

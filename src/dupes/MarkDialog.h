@@ -78,6 +78,7 @@ class MarkDialog : public QDialog {
     void connectKind();
     void connectFolder();
     void setUpButtons();
+    void fitIntoScreen();
     void updateHelper();
 
     bool m_byRecordings = false;

@@ -9,10 +9,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -235,6 +237,31 @@ TEST_F(MarkDialogTest, ShowsWhatTheChoiceWouldDo) {
     EXPECT_EQ(line.text(), QStringLiteral("No track matches. Would mark 37 of 81"));
     dialog.setPreview({});
     EXPECT_EQ(line.text(), QStringLiteral("No tracks to mark"));
+}
+
+TEST_F(MarkDialogTest, MovesTogetherWhereAScreenIsTooLow) {
+    const int room = QGuiApplication::primaryScreen()->availableGeometry().height();
+    setFont(1.44, 100);
+    MarkDialog dialog;
+    QCoreApplication::sendPostedEvents();
+    dialog.ensurePolished();
+    ASSERT_GT(dialog.sizeHint().height(), room - 40);
+    test::open(dialog);
+    EXPECT_LE(dialog.height(), room - 40);
+    EXPECT_EQ(test::clippedControls(dialog), QStringList());
+}
+
+TEST_F(MarkDialogTest, PromisesNoMarksBeforeAFolderIsChosen) {
+    MarkDialog dialog;
+    auto& line = child<QLabel>(dialog, "markLiveLabel");
+    child<QRadioButton>(dialog, "markFolderRB").click();
+    dialog.setPreview({.marked = 56, .total = 104, .matches = false});
+    EXPECT_EQ(line.text(), QStringLiteral("No folder chosen"));
+    dialog.setPreview({.marked = 56, .total = 104, .inForce = true});
+    EXPECT_EQ(line.text(), QStringLiteral("Marked 56 of 104"));
+    dialog.setFolder(QStringLiteral("/music"));
+    dialog.setPreview({.marked = 56, .total = 104});
+    EXPECT_EQ(line.text(), QStringLiteral("Would mark 56 of 104"));
 }
 
 TEST_F(MarkDialogTest, MarksAndStaysOpenOnReturnAndClosesOnEscape) {
