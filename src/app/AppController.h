@@ -153,6 +153,11 @@ class AppController {
     const Files& files() const { return m_services.files; }
     const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
+    /// The names of the playlists that hold the tracks of some persistent IDs. Any thread.
+    std::vector<std::vector<std::string>>
+    playlistsOfTracks(const std::vector<std::string>& persistentIds) const {
+        return m_services.playlistsOfTracks(persistentIds);
+    }
     int getCheckedCount() const { return m_results.getCheckedCount(); }
     int listedCount() const { return m_search.listedCount(); }
     const DeleteReport* lastDeleteReport() const { return m_deletion.lastReport().get(); }

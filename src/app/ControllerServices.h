@@ -49,6 +49,10 @@ struct ControllerServices {
     /// The tracks of the whole library that share a persistent ID, where iTunes tells; called on a worker
     /// thread.
     TracksOfId tracksOfId = {};
+    /// The names of the playlists that hold the tracks of some persistent IDs, where the library file is
+    /// known; called on a worker thread.
+    std::function<std::vector<std::vector<std::string>>(const std::vector<std::string>& persistentIds)>
+        playlistsOfTracks = [](const auto&) { return std::vector<std::vector<std::string>>(); };
     /// Whether the library could be written if a deletion began now; called on a worker thread.
     LibraryForesight libraryForesight = [](const CleanupSize&) { return CleanupRoom(); };
     /// The library file that the embedded iTunes works on, for restoring; "" where it is the system's.

@@ -123,6 +123,8 @@ ControllerServices Program::controllerServices() {
             [this](const std::vector<TrackRecord*>& records) { return areTracksOfITunes(records); },
         .openNodes = [this](const std::string& path) { return m_scripting.openNodes(path); },
         .tracksOfId = [this](std::string_view pid) { return tracksOfId(pid); },
+        .playlistsOfTracks =
+            [this](const std::vector<std::string>& persistentIds) { return playlistsOf(persistentIds); },
         .libraryForesight = [this](const CleanupSize& size) { return foreseeWriting(size); },
         .libraryFile = [this] { return m_scripts.usesEmbedded() ? m_libraryPath : std::string(); },
         .libraryContents = [this] { return libraryContents(); },
@@ -195,6 +197,11 @@ Result<MergePlan> Program::planMergeOf(const SongsToMerge& songs, const MergeCho
 /// The system's iTunes is not asked: it gives no ID twice.
 std::vector<std::string> Program::tracksOfId(std::string_view pid) {
     return m_scripts.usesEmbedded() ? m_scripting.tracksOfId(pid) : std::vector<std::string>();
+}
+
+std::vector<std::vector<std::string>> Program::playlistsOf(const std::vector<std::string>& persistentIds) {
+    if (!m_scripts.usesEmbedded()) return {};
+    return m_scripting.playlistsOf(persistentIds);
 }
 
 Result<CleanupRoom> Program::foreseeWriting(const CleanupSize& size) {

@@ -95,6 +95,7 @@ class Program {
     std::string withLibraryPath(const std::string& reason) const;
     bool areTracksOfITunes(const std::vector<TrackRecord*>& records);
     std::vector<std::string> tracksOfId(std::string_view pid);
+    std::vector<std::vector<std::string>> playlistsOf(const std::vector<std::string>& persistentIds);
     Result<CleanupRoom> foreseeWriting(const CleanupSize& size);
     Result<MergePlan> planMergeOf(const SongsToMerge& songs, const MergeChoice& choice);
     Result<LibraryContents> libraryContents();

@@ -5,6 +5,8 @@
 #include "hosts/ITunesApplication.h"
 #include "library/QuotedTrack.h"
 #include "library/XmlReader.h"
+#include "libraryfile/TrackPlaylists.h"
+#include "operations/BackgroundDelete.h"
 #include "platform/Desktop.h"
 #include "platform/Log.h"
 
@@ -142,7 +144,7 @@ Result<LibraryDocument*> EmbeddedScripting::currentDocument() {
 Result<void> EmbeddedScripting::openLibrary(std::string path) {
     const std::lock_guard lock(m_lock);
     if (auto written = flushLocked(); !written) return written;
-    m_library = EmbeddedLibrary(std::move(path), m_libraryOptions);
+    deleteInBackground(std::exchange(m_library, EmbeddedLibrary(std::move(path), m_libraryOptions)));
     return {};
 }
 
@@ -174,6 +176,14 @@ Result<std::vector<PlaylistInfo>> EmbeddedScripting::playlists() {
     const auto document = currentDocument();
     if (!document) return document.error();
     return document.value()->playlists();
+}
+
+std::vector<std::vector<std::string>>
+EmbeddedScripting::playlistsOf(const std::vector<std::string>& persistentIds) {
+    const std::lock_guard lock(m_lock);
+    const auto document = currentDocument();
+    if (!document) return {};
+    return playlistsOfTracks(*document.value(), persistentIds);
 }
 
 std::unique_ptr<NodeReader> EmbeddedScripting::openNodes(const std::string& path) {

@@ -79,6 +79,8 @@ class EmbeddedScripting final : public AppleScript {
 
     Result<int> trackCount();
     Result<std::vector<PlaylistInfo>> playlists();
+    /// See TrackPlaylists.h; nothing where the library cannot be read.
+    std::vector<std::vector<std::string>> playlistsOf(const std::vector<std::string>& persistentIds);
     /// The nodes of the library file at a path, by its index where that knows the file; null where it cannot
     /// be opened. The reader is the caller's, on any thread.
     std::unique_ptr<NodeReader> openNodes(const std::string& path);
