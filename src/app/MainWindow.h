@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/CopyLook.h"
 #include "app/LayoutLengths.h"
 #include "app/views/LibraryView.h"
 #include "app/views/NoticeView.h"
@@ -67,6 +68,8 @@ class MainWindow : public QMainWindow,
     void setSoundAvailable(bool available);
     /// Says how each copy of a song differs from the plainest one, "1 s longer"; "" for nothing.
     using CopyDifferences = std::function<QStringList(const std::vector<TrackRecord*>& copies)>;
+    /// What was found of the copies that the panel shows, one for each.
+    void showCopyFindings(std::vector<CopyFinding> findings);
     void setCopyDifferences(CopyDifferences differences) { m_copyDifferences = std::move(differences); }
     /// Shows only the songs of which no copy would be left: these, or where there are none, those that the
     /// marks say.
@@ -150,6 +153,8 @@ class MainWindow : public QMainWindow,
     void filesFolderChosen(const std::string& folder);
     void noticeClosed();
     void noticeDetails(const std::vector<std::string>& lines);
+    /// The panel shows those of another song, or none.
+    void otherCopiesShown(const std::vector<songsweep::CopyLook::Copy>& copies);
     void closed();
     void quit();
 
@@ -183,6 +188,7 @@ class MainWindow : public QMainWindow,
     void showFilteredRows();
     void setUpDetails();
     void updateDetails();
+    void noteCopies(const std::vector<TrackRecord*>& copies);
     void connectFileMenu();
     void connectMarkAndTrackMenu();
     void connectWindowAndHelpMenu();
@@ -207,7 +213,8 @@ class MainWindow : public QMainWindow,
     std::unordered_set<std::int32_t>
         m_lostSongs; ///< that the filter shows where it shows such; see RowFilter
     CopiesPanelView* m_details = nullptr;
-    int m_firstOfDetails = 0; ///< the shown row of the first copy in the panel
+    std::vector<CopyLook::Copy> m_copies; ///< in the panel
+    int m_firstOfDetails = 0;             ///< the shown row of the first copy in the panel
     std::function<QString(const TrackRecord&)> m_copyReason = [](const TrackRecord&) { return QString(); };
     CopyDifferences m_copyDifferences = [](const auto&) { return QStringList(); };
     std::function<bool()> m_mayOpenLibrary = [] { return true; };

@@ -36,7 +36,7 @@ void MainWindow::setUpDetails() {
 
 /// The group of the current row; nothing while nobody looks.
 void MainWindow::updateDetails() {
-    if (m_details->isHidden()) return;
+    if (m_details->isHidden()) return noteCopies({});
     const std::vector<TrackRecord*>& rows = m_model->rows();
     const int current = m_ui->tableview->currentIndex().row();
     std::vector<TrackRecord*> copies;
@@ -56,6 +56,23 @@ void MainWindow::updateDetails() {
         }
     }
     m_details->showCopies({copies.begin(), copies.end()}, reasons, m_copyDifferences(copies));
+    noteCopies(copies);
+}
+
+/// A mark that changes leaves the copies what they are.
+void MainWindow::noteCopies(const std::vector<TrackRecord*>& copies) {
+    std::vector<CopyLook::Copy> shown;
+    shown.reserve(copies.size());
+    for (const TrackRecord* const record : copies)
+        shown.push_back({record->pid.string(), record->location.string()});
+    if (shown == m_copies) return;
+    m_copies = std::move(shown);
+    m_details->setFindings({});
+    Q_EMIT otherCopiesShown(m_copies);
+}
+
+void MainWindow::showCopyFindings(std::vector<CopyFinding> findings) {
+    m_details->setFindings(std::move(findings));
 }
 
 } // namespace songsweep

@@ -23,7 +23,11 @@ WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLi
                [&controller](const std::string& title, std::vector<std::string> lines) {
                    controller.tellUnreadFiles(title, std::move(lines));
                })
-    , m_sound(windows, controller, log, listener) {
+    , m_sound(windows, controller, log, listener)
+    , m_copies(
+          windows.mainWindow(),
+          [&controller](const std::vector<std::string>& ids) { return controller.playlistsOfTracks(ids); },
+          controller.files(), log) {
     connectToolbarAndMenus();
     connectLinks();
     connectTable();
@@ -212,7 +216,9 @@ void WindowActions::exportResults(const std::string& path) {
 void WindowActions::offerMap(const std::string& folder) {
     const std::optional<MapGuess> guess = m_controller.guessMap(folder);
     if (!guess) return m_windows.alertNoFilesIn(folder);
-    m_windows.askToSearchWithMap(*guess, [this, rule = guess->rule] { m_controller.searchWithMap(rule); });
+    m_windows.askToSearchWithMap(*guess, [this, rule = guess->rule] {
+        m_copies.withoutFiles([&] { m_controller.searchWithMap(rule); });
+    });
 }
 
 void WindowActions::connectApplication() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/CopyActions.h"
 #include "app/FolderActions.h"
 #include "app/OpenedLibrary.h"
 #include "app/ResultsExport.h"
@@ -64,6 +65,7 @@ class WindowActions : public QObject {
     OpenLibrary m_openLibrary;
     FolderActions m_folder;
     SoundActions m_sound;
+    CopyActions m_copies;
     QTimer m_previewing;
     Exporter m_exporter = [](const ResultsExport&) { return Result<void>(); };
 };

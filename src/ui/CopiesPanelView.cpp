@@ -31,6 +31,11 @@ constexpr std::array shownColumns = {
     Column::playcount, Column::dateadded, Column::hasartwork, Column::location,
 };
 
+constexpr int playlistsRow = firstValueRow + static_cast<int>(shownColumns.size());
+constexpr int pictureRow = playlistsRow + 1;
+constexpr int pictureHeight = 88;
+constexpr int pictureEdge = 80;
+
 QString valueOf(const TrackRecord& record, Column column) {
     if (column == Column::rating) return record.rating > 0 ? QString::number(record.rating) : QString();
     return drawnText(record, column);
@@ -90,6 +95,7 @@ void CopiesPanelView::setUpRows() {
     for (const Column column : shownColumns)
         titles << columnLook(column).spokenTitle;
     titles.last() = CopiesPanelView::tr("Folder");
+    titles << CopiesPanelView::tr("Playlists") << CopiesPanelView::tr("Picture");
     setRowCount(static_cast<int>(titles.size()));
     setVerticalHeaderLabels(titles);
 }
@@ -99,8 +105,12 @@ QSize CopiesPanelView::sizeHint() const {
 }
 
 void CopiesPanelView::applyMetrics() {
-    verticalHeader()->setDefaultSectionSize(scaledLength(valueHeight, this));
+    const int height = scaledLength(valueHeight, this);
+    verticalHeader()->setMinimumSectionSize(height); // A style's own would make every row taller.
+    verticalHeader()->setDefaultSectionSize(height);
     horizontalHeader()->setDefaultSectionSize(scaledLength(copyWidth, this));
+    const int edge = scaledLength(pictureEdge, this);
+    setIconSize({edge, edge});
 }
 
 void CopiesPanelView::showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons,
@@ -130,6 +140,7 @@ void CopiesPanelView::fill() {
     setRowHidden(soundRow, !has(&Copy::sound));
     for (int column = 0; column < columnCount(); ++column)
         fillCopy(column, differing);
+    fillFindings();
 }
 
 void CopiesPanelView::fillCopy(int column, const std::vector<bool>& differing) {
@@ -141,15 +152,47 @@ void CopiesPanelView::fillCopy(int column, const std::vector<bool>& differing) {
     setItem(markRow, column, mark);
     setItem(differenceRow, column, makeItem(copy.difference));
     setItem(soundRow, column, makeItem(copy.sound));
-    for (int row = 0; row < static_cast<int>(differing.size()); ++row) {
-        const bool differs = differing[static_cast<std::size_t>(row)];
-        QTableWidgetItem* const item = makeItem(copy.values[row]);
-        QFont emphasis = font();
-        if (differs) emphasis.setWeight(QFont::DemiBold);
-        item->setFont(emphasis);
-        item->setForeground(differs ? themeColors(palette()).text : themeColors(palette()).secondaryText);
-        setItem(firstValueRow + row, column, item);
+    for (int row = 0; row < static_cast<int>(differing.size()); ++row)
+        setItem(firstValueRow + row, column,
+                makeValue(copy.values[row], differing[static_cast<std::size_t>(row)]));
+}
+
+QTableWidgetItem* CopiesPanelView::makeValue(const QString& text, bool differs) const {
+    QTableWidgetItem* const item = makeItem(text);
+    QFont emphasis = font();
+    if (differs) emphasis.setWeight(QFont::DemiBold);
+    item->setFont(emphasis);
+    item->setForeground(differs ? themeColors(palette()).text : themeColors(palette()).secondaryText);
+    return item;
+}
+
+void CopiesPanelView::setFindings(std::vector<CopyFinding> findings) {
+    m_findings = std::move(findings);
+    fillFindings();
+}
+
+/// Of the copies that are shown; where nothing is known yet, their cells are empty.
+void CopiesPanelView::fillFindings() {
+    const QScopedValueRollback<bool> filling(m_isFilling, true);
+    m_findings.resize(m_copies.size());
+    const auto differ = [this](auto same) {
+        return std::any_of(m_findings.begin(), m_findings.end(),
+                           [&](const CopyFinding& each) { return !same(each, m_findings.front()); });
+    };
+    const bool playlistsDiffer =
+        differ([](const auto& a, const auto& b) { return a.playlists == b.playlists; });
+    const bool picturesDiffer =
+        differ([](const auto& a, const auto& b) { return a.artworkHash == b.artworkHash; });
+    bool hasPicture = false;
+    for (int column = 0; column < static_cast<int>(m_findings.size()); ++column) {
+        const CopyFinding& finding = m_findings[static_cast<std::size_t>(column)];
+        setItem(playlistsRow, column, makeValue(finding.playlists, playlistsDiffer));
+        setItem(pictureRow, column, makeValue(finding.artworkText, picturesDiffer));
+        if (finding.artwork.isNull()) continue;
+        item(pictureRow, column)->setIcon(QIcon(QPixmap::fromImage(finding.artwork)));
+        hasPicture = true;
     }
+    setRowHeight(pictureRow, scaledLength(hasPicture ? pictureHeight : valueHeight, this));
 }
 
 void CopiesPanelView::changeEvent(QEvent* event) {

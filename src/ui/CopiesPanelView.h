@@ -2,6 +2,7 @@
 #pragma once
 
 #include "library/TrackRecord.h"
+#include "ui/CopyFinding.h"
 
 #include <QStringList>
 #include <QTableWidget>
@@ -13,8 +14,8 @@ namespace songsweep {
 /// The copies of one song side by side, a column for each: its mark with the reason, then value for value.
 /// What differs between them stands out, and what they have in common steps back.
 ///
-/// Shows texts and keeps no record; made again with every group, of which it shows the first dozen copies.
-/// Main thread.
+/// Shows texts and small pictures and keeps no record; made again with every group, of which it shows the
+/// first dozen copies. Main thread.
 class CopiesPanelView : public QTableWidget {
     Q_OBJECT
   public:
@@ -27,6 +28,9 @@ class CopiesPanelView : public QTableWidget {
     /// from the plainest one.
     void showCopies(const std::vector<const TrackRecord*>& copies, const QStringList& reasons,
                     const QStringList& differences = {});
+
+    /// What a look at the copies told, one for each; none while that is not known.
+    void setFindings(std::vector<CopyFinding> findings);
 
     QSize sizeHint() const override;
 
@@ -49,9 +53,12 @@ class CopiesPanelView : public QTableWidget {
     void setUpRows();
     void fill();
     void fillCopy(int column, const std::vector<bool>& differing);
+    void fillFindings();
+    QTableWidgetItem* makeValue(const QString& text, bool differs) const;
     void applyMetrics();
 
     std::vector<Copy> m_copies;
+    std::vector<CopyFinding> m_findings;
     bool m_isFilling = false;
 };
 
