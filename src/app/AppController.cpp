@@ -124,9 +124,7 @@ void AppController::paramOkButtonClick(SearchParameters choices) {
     m_search.paramOkButtonClick(std::move(choices));
 }
 
-std::optional<MapGuess> AppController::guessMap(const std::string& folder) const {
-    return songsweep::guessMap(m_search.findings().missing.sample, {folder});
-}
+std::vector<std::string> AppController::missingPaths() const { return m_search.findings().missing.sample; }
 
 void AppController::searchWithMap(const MapRule& rule) {
     if (!mayOpenLibrary()) return m_view.beep();
@@ -207,7 +205,7 @@ void AppController::redoMarks() {
 }
 
 std::string AppController::markReason(const TrackRecord& record) const {
-    return isDeletingRows() ? std::string() : m_results.markReason(record);
+    return isDeletingRows() || m_isExporting ? std::string() : m_results.markReason(record);
 }
 
 std::vector<std::string> AppController::differences(const std::vector<TrackRecord*>& copies) const {
@@ -235,21 +233,27 @@ void AppController::keepSounds(const DisplayedList& list, const ComparedSounds& 
     if (isIdle() && m_results.keepSounds(list, sounds.findings)) m_notices.tellSounds(sounds);
 }
 
-Result<void> AppController::exportResults(const std::string& path, const Exporter& exporter) {
-    const std::vector<TrackRecord*>& rows = tableDataSource().rows;
-    if (!isIdle() || rows.empty()) {
+std::optional<ResultsExport> AppController::beginExport(const std::string& path) {
+    if (!isIdle() || m_results.tableDataSource().rows.empty()) {
         m_view.beep();
-        return {};
+        return std::nullopt;
     }
+    const std::vector<TrackRecord*>& rows = tableDataSource().rows;
     ResultsExport results = {.path = path,
                              .format = exportFormat(path),
                              .rows = rows,
                              .tracks = m_search.libraryCount(),
                              .listed = listedCount(),
-                             .notes = searchVerdict().notes};
+                             .notes = searchVerdict().notes,
+                             .hasSounds = soundsCompared()};
     if (const auto reasons = m_results.reasonsOfRows())
         results.reason = [reasons](int row) { return reasons(static_cast<std::size_t>(row)); };
-    return exporter(results);
+    if (m_search.parameters().issimilar)
+        results.differences = [&rows, parameters = m_search.parameters()] {
+            return smallDifferencesOf(rows, parameters);
+        };
+    m_isExporting = true;
+    return results;
 }
 
 // Deleting.

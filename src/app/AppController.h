@@ -73,8 +73,8 @@ class AppController {
     /// Forgets results and playlists, for another library. Nothing happens while a worker runs.
     bool resetForLibrary();
 
-    /// The rule by which the files that the last search missed are found in a folder; nothing where none is.
-    std::optional<MapGuess> guessMap(const std::string& folder) const;
+    /// Some of the files that the last search missed, as the library has them.
+    std::vector<std::string> missingPaths() const;
     /// Looks for files by that rule, too, and searches again.
     void searchWithMap(const MapRule& rule);
 
@@ -99,8 +99,10 @@ class AppController {
     /// Why the record is marked, or stays; empty where no rule has marked anything, and while the rows are a
     /// worker's.
     std::string markReason(const TrackRecord& record) const;
-    /// Writes the results; nothing, and a beep, where there are none or a worker has them.
-    Result<void> exportResults(const std::string& path, const Exporter& exporter);
+    /// The results for a file, which another thread may write: they stand still until `endExport`. Nothing,
+    /// and a beep, where there are none or a worker has them.
+    std::optional<ResultsExport> beginExport(const std::string& path);
+    void endExport() { m_isExporting = false; }
     int marksByHand() const { return m_results.markHistory().marksByHand(); }
     /// What a choice of the mark dialog would do now.
     MarkEffect markEffect(const MarkChoice& choice) const { return m_marks.effect(choice); }
@@ -151,13 +153,13 @@ class AppController {
     /// Puts the rows into another order, the numbers of the rows as they stand; groups stay together.
     void arrangeRows(const std::vector<std::size_t>& order) { m_results.arrangeRows(order); }
     const Files& files() const { return m_services.files; }
-    const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
-    const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
     /// The names of the playlists that hold the tracks of some persistent IDs. Any thread.
     std::vector<std::vector<std::string>>
     playlistsOfTracks(const std::vector<std::string>& persistentIds) const {
         return m_services.playlistsOfTracks(persistentIds);
     }
+    const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
+    const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
     int getCheckedCount() const { return m_results.getCheckedCount(); }
     int listedCount() const { return m_search.listedCount(); }
     const DeleteReport* lastDeleteReport() const { return m_deletion.lastReport().get(); }
@@ -170,8 +172,8 @@ class AppController {
     /// Whether the rows are a worker's now, so that nobody else may look at them.
     bool isDeletingRows() const { return m_deletion.hasRows(); }
     bool isWorking() const { return m_queue.operationCount() > 0; }
-    /// Nothing runs and no deletion is being confirmed.
-    bool isIdle() const { return !isDeleting() && !isWorking(); }
+    /// Nothing runs, nothing is exported, and no deletion is being confirmed.
+    bool isIdle() const { return !isDeleting() && !isWorking() && !m_isExporting; }
     /// Nobody works with the present library, nor reads it.
     bool mayOpenLibrary() const { return isIdle() && !m_library.isReading(); }
     /// Called from the event loop each time the last worker has returned, and when a deletion was cancelled
@@ -209,6 +211,7 @@ class AppController {
     Notices m_notices;
     std::function<void()> m_idleHandler;
     bool m_userCancelled = false;
+    bool m_isExporting = false;
     OperationQueue m_queue; ///< last, so that its workers end before what they use
 };
 

@@ -4,6 +4,7 @@
 #include "library/TrackRecord.h"
 #include "platform/Result.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -22,9 +23,15 @@ struct ResultsExport {
     std::vector<std::string> notes = {};
     /// Why a row is marked, or stays.
     std::function<std::string(int row)> reason = {};
+    /// By row, how a copy differs from the plainest of its group; not set where small differences count.
+    std::function<std::vector<std::vector<std::string>>()> differences = {};
+    bool hasSounds = false;                                          ///< whether sounds were compared
+    std::function<void(std::size_t row)> onRow = [](std::size_t) {}; ///< called when it is written
+    /// Whether the user gave up the writing.
+    std::function<bool()> isInterrupted = [] { return false; };
 };
 
-/// Writes it. The windows do not know how: the writers are those of the command line.
+/// Writes it, on any thread. The windows do not know how: the writers are those of the command line.
 using Exporter = std::function<Result<void>(const ResultsExport& results)>;
 
 /// The format of a file's ending, "csv" for one that says nothing.

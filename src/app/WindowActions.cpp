@@ -24,6 +24,7 @@ WindowActions::WindowActions(Windows& windows, AppController& controller, OpenLi
                    controller.tellUnreadFiles(title, std::move(lines));
                })
     , m_sound(windows, controller, log, listener)
+    , m_export(windows, controller)
     , m_copies(
           windows.mainWindow(),
           [&controller](const std::vector<std::string>& ids) { return controller.playlistsOfTracks(ids); },
@@ -55,7 +56,8 @@ void WindowActions::connectToolbarAndMenus() {
     connect(window, &MainWindow::playMenuClick, this, [=] { controller->playMenuClick(); });
     connect(window, &MainWindow::showinFinderMenuClick, this, [=] { controller->showinFinderMenuClick(); });
     connect(window, &MainWindow::mainWindowMenuClick, this, [=] { controller->mainWindowMenuClick(); });
-    connect(window, &MainWindow::exportChosen, this, &WindowActions::exportResults);
+    connect(window, &MainWindow::exportChosen, this,
+            [=, this](const std::string& path) { m_export.begin(path); });
     connect(window, &MainWindow::openLibrary, this, &WindowActions::chooseLibrary);
     window->setOpenLibraryGuard([=] { return controller->mayOpenLibrary(); });
 }
@@ -188,7 +190,7 @@ void WindowActions::connectNotices() {
     MainWindow* window = &m_windows.mainWindow();
     connect(window, &MainWindow::noticeActionClick, this,
             [this](NoticeAction action) { takeNoticeAction(action); });
-    connect(window, &MainWindow::filesFolderChosen, this, &WindowActions::offerMap);
+    connect(window, &MainWindow::filesFolderChosen, this, &WindowActions::guessMap);
     connect(window, &MainWindow::noticeClosed, this, [this] { m_controller.noticeCloseButtonClick(); });
     connect(window, &MainWindow::noticeDetails, this, [this](const std::vector<std::string>& lines) {
         m_windows.showDetails(WindowActions::tr("Details"), lines);
@@ -206,15 +208,19 @@ void WindowActions::takeNoticeAction(NoticeAction action) {
     }
 }
 
-void WindowActions::exportResults(const std::string& path) {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const Result<void> written = m_controller.exportResults(path, m_exporter);
-    QGuiApplication::restoreOverrideCursor();
-    if (!written) m_windows.alertCantExport(written.error().message);
+/// The folder may lie on a disk that sleeps.
+void WindowActions::guessMap(const std::string& folder) {
+    if (m_guess.isOn()) return m_windows.beep();
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    m_guess.begin(
+        [paths = m_controller.missingPaths(), folder] { return songsweep::guessMap(paths, {folder}); },
+        [this, folder](const std::optional<MapGuess>& guess) {
+            QGuiApplication::restoreOverrideCursor();
+            offerMap(folder, guess);
+        });
 }
 
-void WindowActions::offerMap(const std::string& folder) {
-    const std::optional<MapGuess> guess = m_controller.guessMap(folder);
+void WindowActions::offerMap(const std::string& folder, const std::optional<MapGuess>& guess) {
     if (!guess) return m_windows.alertNoFilesIn(folder);
     m_windows.askToSearchWithMap(*guess, [this, rule = guess->rule] {
         m_copies.withoutFiles([&] { m_controller.searchWithMap(rule); });

@@ -2,17 +2,20 @@
 #pragma once
 
 #include "app/CopyActions.h"
+#include "app/ExportActions.h"
 #include "app/FolderActions.h"
+#include "app/MapGuess.h"
 #include "app/OpenedLibrary.h"
-#include "app/ResultsExport.h"
 #include "app/SoundActions.h"
 #include "app/views/NoticeView.h"
+#include "operations/BackgroundCall.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
+#include <optional>
 #include <string>
-#include <QTimer>
 
 namespace songsweep {
 
@@ -34,7 +37,7 @@ class WindowActions : public QObject {
                   const std::string& listener);
 
     /// How results are written to a file.
-    void setExporter(Exporter exporter) { m_exporter = std::move(exporter); }
+    void setExporter(Exporter exporter) { m_export.setExporter(std::move(exporter)); }
     /// Opens a library file or a folder, as if the user had dropped it on the window.
     void open(const std::string& path) { chooseLibrary(path); }
 
@@ -49,25 +52,26 @@ class WindowActions : public QObject {
     void connectNotices();
     void connectApplication();
     void takeNoticeAction(NoticeAction action);
-    void exportResults(const std::string& path);
-    void offerMap(const std::string& folder);
+    void guessMap(const std::string& folder);
+    void offerMap(const std::string& folder, const std::optional<MapGuess>& guess);
     void chooseLibrary(const std::string& path);
     void openLibrary(const std::string& path);
     void openFolder(const std::string& path);
     void openFile(const std::string& path);
+    void previewMarks();
     void updateMarkPreview();
     QString markReason(int row) const;
     void quit();
 
-    void previewMarks();
     Windows& m_windows;
     AppController& m_controller;
     OpenLibrary m_openLibrary;
     FolderActions m_folder;
     SoundActions m_sound;
+    ExportActions m_export;
     CopyActions m_copies;
     QTimer m_previewing;
-    Exporter m_exporter = [](const ResultsExport&) { return Result<void>(); };
+    BackgroundCall<std::optional<MapGuess>> m_guess;
 };
 
 } // namespace songsweep

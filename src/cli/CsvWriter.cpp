@@ -87,6 +87,7 @@ void writeCsv(Output& output, const SearchReport& report) {
         if (report.hasSounds) output.write("," + std::to_string(report.rows.at(index)->sound.set));
         if (report.reason) output.write("," + csvField(report.reason(index)));
         output.write("\r\n");
+        report.onRow(static_cast<std::size_t>(index));
     }
 }
 

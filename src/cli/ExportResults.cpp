@@ -23,13 +23,17 @@ OutputFormat formatOf(ResultsExport::Format format) {
 } // namespace
 
 Result<void> exportResults(const ResultsExport& results) {
-    Result<Output> output = Output::open(results.path);
+    Result<Output> output = Output::open(results.path, results.isInterrupted);
     if (!output) return output.error();
     const SearchReport report = {.tracks = results.tracks,
                                  .listed = results.listed,
                                  .notes = results.notes,
                                  .rows = results.rows,
-                                 .reason = results.reason};
+                                 .reason = results.reason,
+                                 .differences = results.differences ? results.differences()
+                                                                    : std::vector<std::vector<std::string>>(),
+                                 .hasSounds = results.hasSounds,
+                                 .onRow = results.onRow};
     writeReport(output.value(), report, formatOf(results.format));
     return output.value().finish();
 }

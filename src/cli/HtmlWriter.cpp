@@ -92,6 +92,7 @@ void writeRow(Output& output, const SearchReport& report, std::size_t row) {
     for (const Column column : shownColumns)
         line += cell("td", column, cellText(*report.rows.at(row), column));
     if (!report.differences.empty()) line += "<td>" + escaped(differencesOf(report, row)) + "</td>";
+    if (report.hasSounds) line += cell("td", Column::sound, cellText(*report.rows.at(row), Column::sound));
     if (report.reason) line += "<td>" + escaped(report.reason(static_cast<int>(row))) + "</td>";
     output.write(line + "</tr>\n");
 }
@@ -101,6 +102,7 @@ void writeHead(Output& output, const SearchReport& report) {
     for (const Column column : shownColumns)
         line += cell("th", column, title(column));
     if (!report.differences.empty()) line += "<th>" + words("Table", "Differences") + "</th>";
+    if (report.hasSounds) line += cell("th", Column::sound, title(Column::sound));
     if (report.reason) line += "<th>" + words("Table", "Reason") + "</th>";
     output.write(line + "</tr></thead>\n");
 }
@@ -115,8 +117,10 @@ void writeHtml(Output& output, const SearchReport& report) {
     writeHead(output, report);
     for (const RowGroup group : groupsOf(report.rows)) {
         output.write("<tbody>\n");
-        for (std::size_t row = group.first; row < group.end; ++row)
+        for (std::size_t row = group.first; row < group.end; ++row) {
             writeRow(output, report, row);
+            report.onRow(row);
+        }
         output.write("</tbody>\n");
     }
     output.write("</table>\n</body>\n</html>\n");

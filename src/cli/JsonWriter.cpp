@@ -75,6 +75,7 @@ void writeGroup(Output& output, const SearchReport& report, const RowGroup& grou
     for (std::size_t row = group.first; row < group.end; ++row) {
         output.write(row == group.first ? "\n      " : ",\n      ");
         writeTrack(output, report, row);
+        report.onRow(row);
     }
     output.write("\n    ]}");
 }

@@ -27,6 +27,7 @@ struct SearchReport {
     bool hasSounds = false; ///< whether sounds were compared
     /// By row, the playlists that hold the copy; empty where nobody asked.
     std::vector<std::vector<std::string>> playlists = {};
+    std::function<void(std::size_t row)> onRow = [](std::size_t) {}; ///< called when it is written
 };
 
 /// Writes the report in a format.

@@ -10,6 +10,7 @@
 #include <QPushButton>
 
 #include <optional>
+#include <thread>
 
 namespace songsweep::test {
 
@@ -64,11 +65,11 @@ TEST_F(WindowActionsTest, FilesOfAnotherMachineAreFoundAgain) {
     EXPECT_TRUE(rows()[0]->isdead);
     EXPECT_EQ(label("noticeLabel"), QStringLiteral("None of the 2 files were found."));
     Q_EMIT window().filesFolderChosen(folder.path() + "/moved");
-    ASSERT_NE(alert(), nullptr);
+    ASSERT_TRUE(runEventLoopUntil([this] { return alert() != nullptr; }));
     EXPECT_EQ(alert()->text(), QStringLiteral("None of the files were found there."));
     alert()->close();
     Q_EMIT window().filesFolderChosen(folder.path() + "/disk");
-    ASSERT_NE(alert(), nullptr);
+    ASSERT_TRUE(runEventLoopUntil([this] { return alert() != nullptr && alert()->isVisible(); }));
     EXPECT_TRUE(alert()->informativeText().contains(QStringLiteral("/Users/ann/Music")));
     alert()->defaultButton()->click();
     ASSERT_TRUE(runEventLoopUntil([this] { return controller->isIdle() && !controller->isSearching(); }));
@@ -83,14 +84,22 @@ TEST_F(WindowActionsTest, ResultsAreExportedWithReasonsInTheFormatOfTheName) {
     press("markMarkButton");
     std::vector<std::string> reasons;
     std::optional<ResultsExport::Format> format;
+    std::thread::id thread;
+    const bool wasChecked = isChecked(0);
     actions->setExporter([&](const ResultsExport& results) -> Result<void> {
+        thread = std::this_thread::get_id();
         format = results.format;
         EXPECT_EQ(results.rows, rows());
         for (int row = 0; row < static_cast<int>(results.rows.size()); ++row)
             reasons.push_back(results.reason(row));
         return Error{Error::Code::inputOutput, "no room is left"};
     });
+    const std::thread::id mainThread = std::this_thread::get_id();
     Q_EMIT window().exportChosen("/somewhere/Results.JSON");
+    click(0, Column::checkbox);
+    EXPECT_EQ(isChecked(0), wasChecked) << "the rows stand still while they are written";
+    ASSERT_TRUE(runEventLoopUntil([this] { return alert() != nullptr; }));
+    EXPECT_NE(thread, mainThread);
     EXPECT_EQ(format, ResultsExport::Format::json);
     ASSERT_EQ(reasons.size(), rows().size());
     EXPECT_EQ(reasons[0], controller->markReason(*rows()[0]));
