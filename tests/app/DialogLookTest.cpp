@@ -3,6 +3,9 @@
 #include "support/ThemedTest.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -40,6 +43,26 @@ TEST_P(DialogLook, ClipsNothingInAWiderFont) {
     setFont(1, 120);
     const auto dialog = GetParam().make();
     dialog->show();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(test::clippedControls(*dialog), QStringList());
+}
+
+/// As other languages have them: half as long again.
+void lengthenTexts(const QWidget& window) {
+    const auto longer = [](const QString& text) {
+        return text.isEmpty() ? text : text + QString((text.size() + 1) / 2, QLatin1Char('o'));
+    };
+    for (QLabel* label : window.findChildren<QLabel*>())
+        if (label->pixmap().isNull()) label->setText(longer(label->text()));
+    for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
+        button->setText(longer(button->text()));
+}
+
+TEST_P(DialogLook, ClipsNothingInLongerTexts) {
+    const auto dialog = GetParam().make();
+    lengthenTexts(*dialog);
+    dialog->show();
+    QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ(test::clippedControls(*dialog), QStringList());
 }
