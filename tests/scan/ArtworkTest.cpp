@@ -5,6 +5,7 @@
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+#include <taglib/apetag.h>
 #include <taglib/attachedpictureframe.h>
 #include <taglib/id3v2tag.h>
 #include <taglib/mpegfile.h>
@@ -28,9 +29,9 @@ class ArtworkTest : public ::testing::Test {
 };
 
 TEST_F(ArtworkTest, IsFoundInEveryFormatThatCarriesPictures) {
-    for (const SoundKind kind : {SoundKind::aac, SoundKind::alac, SoundKind::flac, SoundKind::mp3,
-                                 SoundKind::musepack, SoundKind::oggFlac, SoundKind::opus, SoundKind::speex,
-                                 SoundKind::vorbis, SoundKind::wav, SoundKind::wma}) {
+    for (const SoundKind kind :
+         {SoundKind::aac, SoundKind::alac, SoundKind::flac, SoundKind::mp3, SoundKind::oggFlac,
+          SoundKind::opus, SoundKind::speex, SoundKind::vorbis, SoundKind::wav, SoundKind::wma}) {
         SCOPED_TRACE(static_cast<int>(kind));
         const Result<std::string> artwork = artworkOf(write(kind, 2));
         ASSERT_TRUE(artwork);
@@ -59,6 +60,20 @@ TEST_F(ArtworkTest, IsTheFrontCoverOfSeveral) {
     const Result<std::string> artwork = artworkOf(path);
     ASSERT_TRUE(artwork);
     EXPECT_EQ(artwork.value(), "front");
+}
+
+TEST_F(ArtworkTest, OfAnApeTagStandsBehindItsName) {
+    const std::string path = write(SoundKind::mp3, 0);
+    {
+        TagLib::MPEG::File file(path.c_str());
+        file.APETag(true)->setItem(
+            "COVER ART (FRONT)",
+            TagLib::APE::Item("COVER ART (FRONT)", TagLib::ByteVector("cover.png\0picture", 17), true));
+        ASSERT_TRUE(file.save());
+    }
+    const Result<std::string> artwork = artworkOf(path);
+    ASSERT_TRUE(artwork);
+    EXPECT_EQ(artwork.value(), "picture");
 }
 
 TEST_F(ArtworkTest, WhatIsNoSoundFileHasAReasonForNone) {
