@@ -2008,7 +2008,7 @@ Here: %2
     </message>
     <message>
         <source>Open &amp;recent</source>
-        <translation>最近使った項目を開く(&amp;R)</translation>
+        <translation>最近使った項目を開く(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -2060,11 +2060,11 @@ Here: %2
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>取り消す(&amp;U)</translation>
+        <translation>取り消す(&amp;Z)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>やり直す(&amp;R)</translation>
+        <translation>やり直す(&amp;Y)</translation>
     </message>
     <message>
         <source>Mark by &amp;rule...</source>
