@@ -18,7 +18,7 @@ struct NamedKey {
     LibraryKey key;
 };
 
-/// By length. Sample values are as libraries have them.
+/// Sample values are as libraries have them.
 constexpr std::array namedKeys = {
     NamedKey{"Name", LibraryKey::name},        // Don&#39;t Stop &#38; Go
     NamedKey{"Size", LibraryKey::size},        // 7437492; 3221225472 of a film
@@ -49,33 +49,38 @@ constexpr std::array namedKeys = {
     NamedKey{"Playlist Persistent ID", LibraryKey::playlistPersistentId}, // F2A4C9D1E87B6053
 };
 
-static_assert(std::is_sorted(namedKeys.begin(), namedKeys.end(), [](const NamedKey& a, const NamedKey& b) {
-    return a.name.size() < b.name.size();
-}));
+constexpr std::size_t slotCount = 64;
+constexpr std::size_t shortestName = 4;
 
-constexpr std::size_t longestName = namedKeys.back().name.size();
+/// The place of a name, of at least two letters, the same in any case: the factors leave no two names in one.
+constexpr std::size_t slotOf(std::string_view name) {
+    const auto smallLetter = [](char c) { return static_cast<std::size_t>(c) | 0x20; };
+    return (smallLetter(name[0]) + 7 * smallLetter(name[1]) + 10 * name.size()) % slotCount;
+}
 
-/// Where the names of each length begin; those of the next length end them.
-constexpr std::array<std::uint8_t, longestName + 2> firstOfLength = [] {
-    std::array<std::uint8_t, longestName + 2> first{};
-    for (std::size_t length = 0; length < first.size(); ++length)
-        while (first[length] < namedKeys.size() && namedKeys[first[length]].name.size() < length)
-            ++first[length];
-    return first;
+/// By their places, so that a text is compared with one name at most.
+constexpr std::array<NamedKey, slotCount> keysBySlot = [] {
+    std::array<NamedKey, slotCount> keys{};
+    for (const NamedKey& named : namedKeys)
+        keys[slotOf(named.name)] = named;
+    return keys;
 }();
 
-/// The same name, of the same length, in any case; nearly all are as iTunes writes them, or another.
+static_assert(std::all_of(namedKeys.begin(), namedKeys.end(), [](const NamedKey& named) {
+    return named.name.size() >= shortestName && keysBySlot[slotOf(named.name)].key == named.key;
+}));
+
+/// The same name in any case; nearly all are as iTunes writes them.
 bool isName(std::string_view text, std::string_view name) {
-    if (asciiLower(text.front()) != asciiLower(name.front())) return false;
-    return text == name || std::equal(text.begin(), text.end(), name.begin(),
-                                      [](char a, char b) { return asciiLower(a) == asciiLower(b); });
+    return text == name || (text.size() == name.size() &&
+                            std::equal(text.begin(), text.end(), name.begin(),
+                                       [](char a, char b) { return asciiLower(a) == asciiLower(b); }));
 }
 
 LibraryKey keyNamed(std::string_view text) {
-    if (text.size() > longestName) return LibraryKey::other;
-    for (std::size_t i = firstOfLength[text.size()]; i < firstOfLength[text.size() + 1]; ++i)
-        if (isName(text, namedKeys[i].name)) return namedKeys[i].key;
-    return LibraryKey::other;
+    if (text.size() < shortestName) return LibraryKey::other;
+    const NamedKey& named = keysBySlot[slotOf(text)];
+    return isName(text, named.name) ? named.key : LibraryKey::other;
 }
 
 } // namespace
