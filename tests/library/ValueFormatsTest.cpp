@@ -3,10 +3,16 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unicode/datefmt.h>
+#include <unicode/locid.h>
 #include <unicode/timezone.h>
 #include <unicode/unistr.h>
 
+#include <array>
+#include <cstdint>
 #include <limits>
+#include <memory>
+#include <string>
 
 namespace songsweep {
 namespace {
@@ -154,6 +160,37 @@ TEST_F(ShortDateTime, ShowsTheUsersTimeZone) {
     EXPECT_THAT(shortDateTime(1237043366), testing::HasSubstr("4:09"));
     setZone("Etc/UTC");
     EXPECT_THAT(shortDateTime(1237043366), testing::HasSubstr("3:09"));
+}
+
+/// The text as the system's own format writes it in one piece.
+std::string written(std::int64_t secondsSince1970, icu::DateFormat::EStyle time, const icu::Locale& locale) {
+    const std::unique_ptr<icu::DateFormat> format(
+        icu::DateFormat::createDateTimeInstance(icu::DateFormat::kShort, time, locale));
+    icu::UnicodeString text;
+    format->format(static_cast<UDate>(secondsSince1970) * 1000.0, text);
+    std::string utf8;
+    return text.toUTF8String(utf8);
+}
+
+TEST_F(ShortDateTime, IsThatOfTheSystemInEveryLocaleAndZone) {
+    const icu::Locale before;
+    std::int32_t count = 0;
+    const icu::Locale* const locales = icu::Locale::getAvailableLocales(count);
+    const std::array zones{"Europe/Berlin", "America/St_Johns", "Asia/Kathmandu", "Pacific/Apia"};
+    std::int64_t second = -1'000'000'000;
+    for (std::int32_t i = 0; i < count; ++i) {
+        UErrorCode status = U_ZERO_ERROR;
+        icu::Locale::setDefault(locales[i], status);
+        setZone(zones[static_cast<std::size_t>(i) % zones.size()]);
+        for (int date = 0; date < 4; ++date, second += 1'234'567) {
+            const std::string expected = written(second, icu::DateFormat::kShort, locales[i]);
+            EXPECT_EQ(shortDateTime(second), expected) << locales[i].getName();
+            EXPECT_EQ(shortDateTime(second), expected) << "asked for again";
+            EXPECT_EQ(dateTimeWithSeconds(second), written(second, icu::DateFormat::kMedium, locales[i]));
+        }
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    icu::Locale::setDefault(before, status);
 }
 
 TEST_F(ShortDateTime, OfARecordIsEmptyWithoutADate) {
