@@ -51,11 +51,7 @@ void LibraryWalk::readText(std::string_view text) {
         return;
     }
     if (m_state.section == Section::tracks) {
-        if (!m_currentRecord || m_state.currentKey == LibraryKey::none ||
-            m_state.currentKey == LibraryKey::other)
-            return;
-        const std::string_view value = trimmed(text);
-        if (!value.empty()) m_filler.store(*m_currentRecord, m_state.currentKey, value);
+        storeValue(text);
     } else if (m_state.depth == 2) {
         if (m_state.inPlaylists && m_state.currentKey == LibraryKey::name) readPlaylistName(trimmed(text));
     } else if (m_state.depth == 3) {
@@ -63,6 +59,14 @@ void LibraryWalk::readText(std::string_view text) {
         const std::string_view trackId = trimmed(text);
         if (!trackId.empty()) m_songlist.add(trackId);
     }
+}
+
+/// Of a track; before the first one there is no record.
+void LibraryWalk::storeValue(std::string_view text) {
+    if (!m_currentRecord || m_state.currentKey == LibraryKey::none || m_state.currentKey == LibraryKey::other)
+        return;
+    const std::string_view value = trimmed(text);
+    if (!value.empty()) m_filler.store(*m_currentRecord, m_state.currentKey, value);
 }
 
 void LibraryWalk::readKey(std::string_view text) {

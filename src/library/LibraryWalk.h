@@ -73,6 +73,14 @@ class LibraryWalk {
         }
     }
 
+    /// The nodes of a key, whose text is not blank, and of the value behind it, which is no dictionary, in
+    /// one step; only before the walk is past the tracks.
+    void feedProperty(LibraryKey key, std::string_view value) {
+        m_state.currentKey = key;
+        m_state.elementName = ElementName::other;
+        storeValue(value);
+    }
+
     /// After the last node.
     void finish() { m_filler.finish(); }
 
@@ -106,6 +114,7 @@ class LibraryWalk {
     void makeRecord();
     void readText(std::string_view text);
     void readKey(std::string_view text);
+    void storeValue(std::string_view text);
     void readPlaylistName(std::string_view name);
     void noteMaster();
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace songsweep {
@@ -54,6 +57,33 @@ constexpr Element usualElement(const char* name) {
     default:
         return Element::other;
     }
+}
+
+/// A tag's name and the ">" behind it as a number, to compare them in one step.
+struct TagWord {
+    std::uint64_t bytes = 0;
+    std::uint64_t mask = 0; ///< of the bytes that count
+};
+
+/// Of all elements but `other`, whose names have seven letters at most.
+constexpr auto tagWords = [] {
+    std::array<TagWord, elementNames.size()> words{};
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        std::array<char, sizeof(std::uint64_t)> name{};
+        std::array<char, sizeof(std::uint64_t)> mask{};
+        *std::copy(elementNames[i].begin(), elementNames[i].end(), name.begin()) = '>';
+        std::fill_n(mask.begin(), elementNames[i].size() + 1, '\xFF');
+        words[i] = {std::bit_cast<std::uint64_t>(name), std::bit_cast<std::uint64_t>(mask)};
+    }
+    return words;
+}();
+
+/// Whether the element's name and ">" stand there, where eight bytes can be looked at.
+inline bool isTagOf(Element element, const char* name) {
+    const TagWord& word = tagWords[static_cast<std::size_t>(element)];
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, name, sizeof bytes);
+    return (bytes & word.mask) == word.bytes;
 }
 
 } // namespace songsweep

@@ -71,7 +71,7 @@ class Indexer {
     /// What its four tags would do; only where properties are expected.
     bool take(const Property& property) {
         m_leaf = false;
-        m_key = libraryKey(property.key);
+        m_key = property.meaning;
         valueEnds(property.element, property.value);
         return !m_reason;
     }
@@ -366,19 +366,24 @@ Result<LibraryIndex> LibraryIndex::read(const LibraryFile& file, TrackPass* trac
     PlainNodes nodes(file);
     Tag tag;
     Property property;
-    const auto takeNodes = [&](const auto& piece) {
-        index.plain = index.plain && nodes.take(piece);
-        if (index.plain && tracks != nullptr) tracks->take(nodes, piece.end);
+    const auto takeProperty = [&] {
+        const auto value = index.plain ? nodes.valueOf(property) : std::nullopt;
+        index.plain = value.has_value();
+        if (value && tracks != nullptr) tracks->take(property, *value);
+    };
+    const auto takeTag = [&] {
+        index.plain = index.plain && nodes.take(tag);
+        if (index.plain && tracks != nullptr) tracks->take(nodes, tag.end);
     };
     do {
         if (indexer.expectsProperties() && scanner.takeProperty(property)) {
             if (!indexer.take(property)) return scanner.errorAt(property.end, indexer.reason());
-            takeNodes(property);
+            takeProperty();
             continue;
         }
         if (!scanner.next(tag)) return scanner.error();
         if (!indexer.take(tag)) return scanner.errorAt(tag.begin, indexer.reason());
-        takeNodes(tag);
+        takeTag();
     } while (tag.kind != Tag::Kind::endOfDocument);
     index.entities = scanner.entities();
     return index;

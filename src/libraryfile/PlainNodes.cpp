@@ -5,9 +5,12 @@
 #include "platform/Utf8.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <cstring>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace songsweep {
 
@@ -59,36 +62,47 @@ bool isBlank(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c == '\n' || c == '\t' || c == ' '; });
 }
 
+/// Whether a parser gives no node for a text: references may have made carriage returns.
+bool isSpace(std::string_view text) { return std::all_of(text.begin(), text.end(), isXmlSpace); }
+
 /// An ASCII character that neither is control nor could be part of markup.
 constexpr bool isSimple(char c) {
     return static_cast<signed char>(c) >= ' ' && c != '&' && c != '<' && c != ']';
 }
 
-/// The same of eight bytes at once.
-bool areSimple(std::uint64_t bytes) {
-    constexpr std::uint64_t ones = 0x0101010101010101;
-    constexpr std::uint64_t highBits = ones << 7;
-    const auto none = [&](char c) {
-        const std::uint64_t difference = bytes ^ (ones * static_cast<unsigned char>(c));
-        return (difference - ones) & ~difference; // has a high bit where a byte is the character
-    };
-    const std::uint64_t control = (bytes - ones * ' ') & ~bytes;
-    return ((bytes | control | none('&') | none('<') | none(']')) & highBits) == 0;
+/// Sixteen bytes, which the compiler compares at once.
+using Block [[gnu::vector_size(16)]] = signed char;
+using Halves = std::array<std::uint64_t, 2>;
+
+/// The same of sixteen bytes.
+bool areSimple(Block bytes) {
+    const auto odd = (bytes < ' ') | (bytes == '&') | (bytes == '<') | (bytes == ']');
+    const auto halves = std::bit_cast<Halves>(odd);
+    return (halves[0] | halves[1]) == 0;
 }
 
-/// Whether a text is its bytes as they stand, without a further look. Texts are short, so that vectors of
-/// the processor's own gain nothing.
+template <typename Number>
+Number numberAt(const char* bytes) {
+    Number number{};
+    std::memcpy(&number, bytes, sizeof number);
+    return number;
+}
+
+/// Whether a text is its bytes as they stand, without a further look. Texts are short, so that the last
+/// block of a text overlaps the one before it, and the halves of a block each other.
 bool isSimple(std::string_view text) {
-    constexpr std::size_t word = sizeof(std::uint64_t);
-    if (text.size() < word) return std::all_of(text.begin(), text.end(), [](char c) { return isSimple(c); });
-    const auto wordAt = [&](std::size_t at) {
-        std::uint64_t bytes = 0;
-        std::memcpy(&bytes, text.data() + at, word);
-        return bytes;
-    };
-    for (std::size_t at = 0; at + word < text.size(); at += word)
-        if (!areSimple(wordAt(at))) return false;
-    return areSimple(wordAt(text.size() - word));
+    const auto lastAt = [&](std::size_t size) { return text.data() + text.size() - size; };
+    if (text.size() >= sizeof(Block)) {
+        for (const char* at = text.data(); at < lastAt(sizeof(Block)); at += sizeof(Block))
+            if (!areSimple(numberAt<Block>(at))) return false;
+        return areSimple(numberAt<Block>(lastAt(sizeof(Block))));
+    }
+    if (text.size() >= sizeof(std::uint64_t)) {
+        const Halves halves{numberAt<std::uint64_t>(text.data()),
+                            numberAt<std::uint64_t>(lastAt(sizeof(std::uint64_t)))};
+        return areSimple(std::bit_cast<Block>(halves));
+    }
+    return std::all_of(text.begin(), text.end(), [](char c) { return isSimple(c); });
 }
 
 /// Whether the raw bytes are a text that any parser of XML reads alike, once its references are replaced.
@@ -147,17 +161,22 @@ bool PlainNodes::take(const Tag& tag) {
 
 bool PlainNodes::take(const Property& property) {
     m_count = 0;
-    if (m_depth == deepest) return false;
+    const auto value = valueOf(property);
+    if (!value) return false;
     const std::string_view key = nameOf(Element::key);
     const std::string_view name = nameOf(property.element);
     add({NodeType::element, key, {}});
-    if (!takeText(property.key)) return false;
+    add({NodeType::text, {}, property.key});
     add({NodeType::endElement, key, {}});
     add({NodeType::element, name, {}});
-    if (property.isEmptyTag) return true;
-    if (!takeText(property.value)) return false;
-    add({NodeType::endElement, name, {}});
+    if (!isSpace(*value)) add({NodeType::text, {}, *value});
+    if (!property.isEmptyTag) add({NodeType::endElement, name, {}});
     return true;
+}
+
+std::optional<std::string_view> PlainNodes::valueOf(const Property& property) {
+    const bool plain = m_depth < deepest && (isSimple(property.key) || textOf(property.key));
+    return plain ? textOf(property.value) : std::nullopt;
 }
 
 bool PlainNodes::takeRoot(const Tag& tag) {
@@ -188,19 +207,21 @@ bool PlainNodes::takeEnd(const Tag& tag) {
 }
 
 bool PlainNodes::takeText(std::string_view raw) {
-    std::string_view text = raw;
-    if (!isSimple(raw)) {
-        if (raw.size() > longestText || !isPlainText(raw) || !hasKnownReferencesAlone(raw)) return false;
-        if (raw.find('&') != std::string_view::npos) {
-            auto replaced = decodeXmlText(raw, {});
-            if (!replaced) return false;
-            m_decoded = std::move(*replaced);
-            text = m_decoded;
-        }
-    }
-    const bool blank = std::all_of(text.begin(), text.end(), isXmlSpace);
-    if (!blank) add({NodeType::text, {}, text});
-    return raw.size() <= longestText;
+    const auto text = textOf(raw);
+    if (text && !isSpace(*text)) add({NodeType::text, {}, *text});
+    return text.has_value();
+}
+
+/// The text of raw bytes, where they are plain.
+std::optional<std::string_view> PlainNodes::textOf(std::string_view raw) {
+    if (raw.size() > longestText) return {};
+    if (isSimple(raw)) return raw;
+    if (!isPlainText(raw) || !hasKnownReferencesAlone(raw)) return {};
+    if (raw.find('&') == std::string_view::npos) return raw;
+    auto replaced = decodeXmlText(raw, {});
+    if (!replaced) return {};
+    m_decoded = std::move(*replaced);
+    return m_decoded;
 }
 
 } // namespace songsweep

@@ -7,8 +7,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace songsweep {
 
@@ -30,6 +32,10 @@ class PlainNodes {
     /// The same of a whole property.
     bool take(const Property& property);
 
+    /// The text of a property's value, for whoever needs no nodes; nothing where the property is not plain.
+    /// Live until the next is asked for or taken.
+    std::optional<std::string_view> valueOf(const Property& property);
+
     /// What that added: of a tag at most a text and its own. Live until the next is taken.
     std::span<const XmlNode> nodes() const { return {m_nodes.data(), m_count}; }
 
@@ -44,6 +50,7 @@ class PlainNodes {
     bool takeBeginning(const Tag& tag);
     bool takeEnd(const Tag& tag);
     bool takeText(std::string_view raw);
+    std::optional<std::string_view> textOf(std::string_view raw);
     void add(const XmlNode& node) { m_nodes[m_count++] = node; }
 
     std::uint64_t m_rootBegin = 0; // 0 where it is not plain what stands before it

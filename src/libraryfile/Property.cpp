@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "libraryfile/Property.h"
 
+#include "libraryfile/XmlText.h"
+
 #include <cstddef>
 #include <cstring>
 
@@ -36,20 +38,19 @@ bool canBeValue(Element element) {
 /// Reads the value whose tag's name begins there.
 const char* readValue(const char* nameBegin, const char* end, Property& property) {
     property.element = usualElement(nameBegin);
+    if (!canBeValue(property.element)) return nullptr;
     const std::string_view name = nameOf(property.element);
-    const char* at = nameBegin + name.size();
-    if (!canBeValue(property.element) || !standsAt(nameBegin, name)) return nullptr;
-    property.isEmptyTag = standsAt(at, "/>");
+    const char* const at = nameBegin + name.size();
     property.value = {};
     property.endTag = at;
-    if (property.isEmptyTag) return at + std::strlen("/>");
-    if (*at++ != '>') return nullptr;
-    property.endTag = findTag(at, end);
+    property.isEmptyTag = !isTagOf(property.element, nameBegin);
+    if (property.isEmptyTag)
+        return standsAt(nameBegin, name) && standsAt(at, "/>") ? at + std::strlen("/>") : nullptr;
+    property.endTag = findTag(at + 1, end);
     if (property.endTag == nullptr || property.endTag[1] != '/') return nullptr;
-    property.value = {at, static_cast<std::size_t>(property.endTag - at)};
+    property.value = {at + 1, static_cast<std::size_t>(property.endTag - at - 1)};
     const char* const closingName = property.endTag + std::strlen("</");
-    const char* const closingEnd = closingName + name.size();
-    return standsAt(closingName, name) && *closingEnd == '>' ? closingEnd + 1 : nullptr;
+    return isTagOf(property.element, closingName) ? closingName + name.size() + 1 : nullptr;
 }
 
 } // namespace
@@ -61,9 +62,12 @@ const char* readProperty(const char* begin, const char* end, Property& property)
     if (end - at < roomOfTags || !standsAt(at, keyBegin)) return nullptr;
     at += keyBegin.size();
     const char* const behindKey = findTag(at, end);
-    if (behindKey == nullptr || !standsAt(behindKey, keyEnd)) return nullptr;
+    if (behindKey == nullptr || behindKey == at || isXmlSpace(*at) || !standsAt(behindKey, keyEnd))
+        return nullptr;
     property.key = {at, static_cast<std::size_t>(behindKey - at)};
-    if (property.key.find('&') != std::string_view::npos) return nullptr;
+    property.meaning = libraryKey(property.key);
+    const bool isKnown = property.meaning != LibraryKey::other;
+    if (!isKnown && property.key.find('&') != std::string_view::npos) return nullptr;
     return readValue(behindKey + keyEnd.size(), end, property);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/LibraryKeys.h"
 #include "libraryfile/Element.h"
 
 #include <cstdint>
@@ -11,8 +12,9 @@ namespace songsweep {
 /// A key of a dictionary and the element behind it that is its value: "<key>Size</key><integer>7</integer>",
 /// or "<key>Master</key><true/>".
 struct Property {
-    std::string_view key;   ///< without references; as long as the bytes live
+    std::string_view key;   ///< without references, not beginning with a blank; as long as the bytes live
     std::string_view value; ///< raw bytes, the same; empty of an empty tag
+    LibraryKey meaning = LibraryKey::none; ///< of the key
     Element element = Element::other;
     bool isEmptyTag = false;
     const char* endTag = nullptr; ///< the tag that ends the value

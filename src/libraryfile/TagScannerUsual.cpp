@@ -26,9 +26,10 @@ bool TagScanner::takeUsualTag(Tag& tag) {
     const std::string_view name = nameOf(element);
     const char* nameBegin = at + (closes ? 2 : 1);
     const char* nameEnd = nameBegin + name.size();
-    if (name.empty() || std::memcmp(nameBegin, name.data(), name.size()) != 0) return false;
-    const bool empty = !closes && nameEnd[0] == '/' && nameEnd[1] == '>';
-    if (nameEnd[0] != '>' && !empty) return false;
+    if (name.empty()) return false;
+    const bool empty = !closes && nameEnd[0] == '/' && nameEnd[1] == '>' &&
+                       std::memcmp(nameBegin, name.data(), name.size()) == 0;
+    if (!empty && !isTagOf(element, nameBegin)) return false;
 
     m_at = at;
     tag.kind = closes ? Tag::Kind::close : empty ? Tag::Kind::empty : Tag::Kind::open;

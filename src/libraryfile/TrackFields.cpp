@@ -54,7 +54,7 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
 }
 
 bool TrackFields::keep(const Property& property, const XmlEntities& entities) {
-    const LibraryKey key = libraryKey(property.key);
+    const LibraryKey key = property.meaning;
     if (isItsOwnText(property.value)) {
         if (key != LibraryKey::other) keep(key, std::string(property.value));
         return true;

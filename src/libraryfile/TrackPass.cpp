@@ -26,6 +26,15 @@ void TrackPass::take(const PlainNodes& nodes, std::uint64_t end) {
     }
 }
 
+void TrackPass::take(const Property& property, std::string_view value) {
+    if (m_state != State::reading) return;
+    try {
+        m_walk.feedProperty(property.meaning, value);
+    } catch (const std::exception&) {
+        m_state = State::failed;
+    }
+}
+
 std::optional<TracksOfPass> TrackPass::found() {
     if (m_state != State::found) return {};
     return std::move(m_found);

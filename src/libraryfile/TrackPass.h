@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace songsweep {
@@ -31,8 +32,10 @@ class TrackPass {
     TrackPass& operator=(const TrackPass&) = delete;
     ~TrackPass() = default;
 
-    /// The nodes of the next tag or property, and where in the file it ends.
+    /// The nodes of the next tag, and where in the file it ends.
     void take(const PlainNodes& nodes, std::uint64_t end);
+    /// The next property, and the text of its value.
+    void take(const Property& property, std::string_view value);
 
     /// The tracks, once the pass is over and the file was plain; nothing where their end did not come, or the
     /// walk would have ended with an exception: the search is to meet that itself.

@@ -30,6 +30,7 @@ TEST(Property, IsAKeyAndTheElementBehindIt) {
     Property property;
     EXPECT_EQ(readProperty(bytes.data(), bytes.data() + bytes.size(), property), bytes.data() + text.size());
     EXPECT_EQ(property.key, "Total Time");
+    EXPECT_EQ(property.meaning, LibraryKey::totalTime);
     EXPECT_EQ(property.value, "187429");
     EXPECT_EQ(property.element, Element::integer);
     EXPECT_FALSE(property.isEmptyTag);
@@ -76,6 +77,10 @@ TEST(Property, EverythingElseIsNone) {
                              "<key>&#107;</key><true/>",
                              "<key>a<b></key><true/>",
                              "<key/><true/>",
+                             "<key></key><true/>",
+                             "<key> k</key><true/>",
+                             "<key>k</key><integers>7</integers>",
+                             "<key>k</key><integers/>",
                              "<string>k</string><true/>",
                              "<key>k</key></dict>",
                              "<key>k</key><plist/>"})
