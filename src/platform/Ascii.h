@@ -2,6 +2,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -29,11 +31,18 @@ constexpr bool isAscii(std::string_view text) {
     return bits < 0x80;
 }
 
+/// By character, since the digits of an ID follow no rule that a processor could foresee.
+constexpr auto hexDigits = [] {
+    std::array<std::int8_t, 256> digits{};
+    digits.fill(-1);
+    for (std::int8_t value = 0; value < 16; ++value) {
+        const auto digit = static_cast<unsigned char>("0123456789abcdef"[value]);
+        digits[digit] = digits[static_cast<unsigned char>(asciiUpper(static_cast<char>(digit)))] = value;
+    }
+    return digits;
+}();
+
 /// The value of a hexadecimal digit, in either case; -1 for anything else.
-constexpr int hexDigit(char c) {
-    if (c >= '0' && c <= '9') return c - '0';
-    const char letter = asciiLower(c);
-    return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
-}
+constexpr int hexDigit(char c) { return hexDigits[static_cast<unsigned char>(c)]; }
 
 } // namespace songsweep
