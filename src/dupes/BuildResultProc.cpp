@@ -84,10 +84,15 @@ void BuildResultProc::sortList() {
         m_joined = std::move(order.joined);
         return;
     }
-    if (!comparesAnything(m_searchparams)) return;
-    reorder(records, orderOfKeys(records.size(), [&](SortKey& key, std::uint32_t record) {
-                addRecord(key, *records[record], m_searchparams);
-            }));
+    if (!comparesAnything(m_searchparams)) {
+        m_joined.assign(records.size(), true);
+        return;
+    }
+    KeyOrder order = orderOfKeys(records.size(), [&](SortKey& key, std::uint32_t record) {
+        addRecord(key, *records[record], m_searchparams);
+    });
+    m_joined = std::move(order.repeats);
+    reorder(records, std::move(order.items));
 }
 
 void BuildResultProc::group() {
@@ -109,9 +114,10 @@ void BuildResultProc::group() {
     }
 }
 
-/// Whether the record at the place is in the group of the one before it.
+/// Whether the record at the place is in the group of the one before it. Records of the same tag have one
+/// key, so that most need not be looked at once more.
 bool BuildResultProc::joinsGroup(std::size_t place) const {
-    if (m_searchparams.issimilar) return m_joined[place];
+    if (!m_joined[place] || m_searchparams.issimilar) return m_joined[place];
     return isSameTag(*m_list->records[place - 1], *m_list->records[place], m_searchparams);
 }
 

@@ -44,7 +44,7 @@ class BuildResultProc final : public Operation {
 
     std::shared_ptr<TrackList> m_list;
     SearchParameters m_searchparams;
-    std::vector<bool> m_joined; ///< of a search with small differences: GroupOrder
+    std::vector<bool> m_joined; ///< by place: whether the record may be in the group of the one before it
     NotificationCenter<WorkerEvent>& m_center;
 };
 

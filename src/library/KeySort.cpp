@@ -4,7 +4,9 @@
 #include "library/CaseFolding.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
+#include <span>
 
 namespace songsweep {
 
@@ -79,8 +81,10 @@ SortKey& SortKey::text(std::string_view text) {
 SortKey& SortKey::number(std::int64_t number) {
     // With the sign turned around the numbers below zero stand before those above.
     const std::uint64_t word = static_cast<std::uint64_t>(number) ^ (std::uint64_t{1} << 63);
-    for (int shift = 56; shift >= 0; shift -= 8)
-        m_bytes += static_cast<char>(static_cast<unsigned char>(word >> shift));
+    std::array<char, sizeof word> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(static_cast<unsigned char>(word >> (56 - 8 * i)));
+    m_bytes.append(bytes.data(), bytes.size());
     return *this;
 }
 
@@ -113,24 +117,35 @@ std::vector<Beginning> sortedBeginnings(std::size_t count,
     return beginnings;
 }
 
+/// Puts items that agree in the beginning of their keys behind those in the order.
+void appendRun(KeyOrder& order, std::span<const Beginning> run,
+               const std::function<void(SortKey&, std::uint32_t)>& addKey) {
+    const std::size_t begin = order.items.size();
+    order.repeats.resize(begin + run.size());
+    if (run.size() == 1) return order.items.push_back(run.front().item);
+    KeySort sort(run.size());
+    SortKey key;
+    for (const Beginning& beginning : run) {
+        addKey(key.clear(), beginning.item);
+        sort.add(key.bytes());
+    }
+    for (const std::uint32_t place : sort.order())
+        order.items.push_back(run[place].item);
+    for (const KeySort::Run equal : sort.equalRuns())
+        for (std::size_t place = equal.begin + 1; place < equal.end; ++place)
+            order.repeats[begin + place] = true;
+}
+
 } // namespace
 
-std::vector<std::uint32_t> orderOfKeys(std::size_t count,
-                                       const std::function<void(SortKey&, std::uint32_t)>& addKey) {
+KeyOrder orderOfKeys(std::size_t count, const std::function<void(SortKey&, std::uint32_t)>& addKey) {
     const std::vector<Beginning> beginnings = sortedBeginnings(count, addKey);
-    std::vector<std::uint32_t> order;
-    order.reserve(count);
-    SortKey key;
+    KeyOrder order;
+    order.items.reserve(count);
     for (auto begin = beginnings.begin(); begin != beginnings.end();) {
         const auto end = std::find_if(begin, beginnings.end(),
                                       [&](const Beginning& other) { return other.word != begin->word; });
-        KeySort run(static_cast<std::size_t>(end - begin));
-        for (auto at = begin; at != end && end - begin > 1; ++at) {
-            addKey(key.clear(), at->item);
-            run.add(key.bytes());
-        }
-        for (const std::uint32_t place : end - begin > 1 ? run.order() : std::vector<std::uint32_t>{0})
-            order.push_back(begin[place].item);
+        appendRun(order, {begin, end}, addKey);
         begin = end;
     }
     return order;

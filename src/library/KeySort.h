@@ -76,11 +76,15 @@ class SortKey {
     std::string m_bytes;
 };
 
-/// The numbers of `count` items in the order of their keys, those of equal keys ascending. `addKey` adds the
-/// key of an item; it is called twice for items that agree with others in the first eight bytes. The same
-/// order as KeySort's, and 16 bytes an item in place of some 60, since no keys are kept but those of one such
-/// run.
-std::vector<std::uint32_t> orderOfKeys(std::size_t count,
-                                       const std::function<void(SortKey& key, std::uint32_t item)>& addKey);
+/// Items in the order of their keys, those of equal keys ascending.
+struct KeyOrder {
+    std::vector<std::uint32_t> items;
+    std::vector<bool> repeats; ///< by place: whether the key is that of the item before
+};
+
+/// The order of `count` items. `addKey` adds the key of an item; it is called twice for items that agree with
+/// others in the first eight bytes. The same order as KeySort's, and 16 bytes an item in place of some 60,
+/// since no keys are kept but those of one such run.
+KeyOrder orderOfKeys(std::size_t count, const std::function<void(SortKey& key, std::uint32_t item)>& addKey);
 
 } // namespace songsweep

@@ -109,17 +109,21 @@ TEST(KeySort, OrdersAlikeWithoutKeepingKeys) {
                 std::string(random() % 3 == 0 ? "the same 8 and more " : "the ") + char('a' + random() % 4);
             text.append(random() % 12, 'x');
         }
-        EXPECT_EQ(orderOfKeys(texts.size(),
-                              [&](SortKey& key, std::uint32_t item) { key.text(texts[item]).number(3); }),
-                  orderOfTexts(texts));
+        const KeyOrder order = orderOfKeys(
+            texts.size(), [&](SortKey& key, std::uint32_t item) { key.text(texts[item]).number(3); });
+        EXPECT_EQ(order.items, orderOfTexts(texts));
+        for (std::size_t place = 0; place < texts.size(); ++place)
+            EXPECT_EQ(order.repeats[place],
+                      place > 0 && texts[order.items[place]] == texts[order.items[place - 1]]);
     }
 }
 
 TEST(KeySort, WithoutKeptKeysKnowsKeysOfLessThanEightBytes) {
     const std::vector<std::string> texts{"b", "", "a", "b", ""};
-    EXPECT_THAT(orderOfKeys(texts.size(), [&](SortKey& key, std::uint32_t item) { key.text(texts[item]); }),
-                ElementsAre(1, 4, 2, 0, 3));
-    EXPECT_THAT(orderOfKeys(0, [](SortKey&, std::uint32_t) {}), IsEmpty());
+    const auto addKey = [&](SortKey& key, std::uint32_t item) { key.text(texts[item]); };
+    EXPECT_THAT(orderOfKeys(texts.size(), addKey).items, ElementsAre(1, 4, 2, 0, 3));
+    EXPECT_THAT(orderOfKeys(texts.size(), addKey).repeats, ElementsAre(false, true, false, false, true));
+    EXPECT_THAT(orderOfKeys(0, addKey).items, IsEmpty());
 }
 
 } // namespace
