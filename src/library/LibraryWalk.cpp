@@ -46,12 +46,19 @@ void LibraryWalk::makeRecord() {
 
 void LibraryWalk::readText(std::string_view text) {
     if (m_state.elementName == ElementName::none || m_state.section == Section::done) return;
-    if (m_state.elementName == ElementName::key) {
-        readKey(text);
-        return;
-    }
+    if (m_state.elementName == ElementName::key)
+        readKey(libraryKey(text));
+    else
+        readValue(text);
+}
+
+void LibraryWalk::readValue(std::string_view text) {
     if (m_state.section == Section::tracks) {
-        storeValue(text);
+        if (!m_currentRecord || m_state.currentKey == LibraryKey::none ||
+            m_state.currentKey == LibraryKey::other)
+            return;
+        const std::string_view value = trimmed(text);
+        if (!value.empty()) m_filler.store(*m_currentRecord, m_state.currentKey, value);
     } else if (m_state.depth == 2) {
         if (m_state.inPlaylists && m_state.currentKey == LibraryKey::name) readPlaylistName(trimmed(text));
     } else if (m_state.depth == 3) {
@@ -61,16 +68,8 @@ void LibraryWalk::readText(std::string_view text) {
     }
 }
 
-/// Of a track; before the first one there is no record.
-void LibraryWalk::storeValue(std::string_view text) {
-    if (!m_currentRecord || m_state.currentKey == LibraryKey::none || m_state.currentKey == LibraryKey::other)
-        return;
-    const std::string_view value = trimmed(text);
-    if (!value.empty()) m_filler.store(*m_currentRecord, m_state.currentKey, value);
-}
-
-void LibraryWalk::readKey(std::string_view text) {
-    m_state.currentKey = libraryKey(text);
+void LibraryWalk::readKey(LibraryKey key) {
+    m_state.currentKey = key;
     if (m_state.section != Section::playlists) return;
     if (m_state.depth == 2 && m_state.currentKey == LibraryKey::master) noteMaster();
     if (m_state.depth != 1) return;

@@ -73,12 +73,12 @@ class LibraryWalk {
         }
     }
 
-    /// The nodes of a key, whose text is not blank, and of the value behind it, which is no dictionary, in
-    /// one step; only before the walk is past the tracks.
-    void feedProperty(LibraryKey key, std::string_view value) {
-        m_state.currentKey = key;
+    /// The same of all nodes of a property.
+    void feed(const XmlProperty& property) {
         m_state.elementName = ElementName::other;
-        storeValue(value);
+        if (m_state.section == Section::done) return;
+        readKey(property.key);
+        if (!property.value.empty()) readValue(property.value);
     }
 
     /// After the last node.
@@ -113,8 +113,8 @@ class LibraryWalk {
     void closeDict();
     void makeRecord();
     void readText(std::string_view text);
-    void readKey(std::string_view text);
-    void storeValue(std::string_view text);
+    void readKey(LibraryKey key);
+    void readValue(std::string_view text);
     void readPlaylistName(std::string_view name);
     void noteMaster();
 

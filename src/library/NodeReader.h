@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "library/LibraryKeys.h"
 #include "library/ReadError.h"
 
 #include <memory>
@@ -21,6 +22,13 @@ struct XmlNode {
     std::string_view value; ///< of a text
 };
 
+/// A key of a dictionary, whose text is not blank, and the value behind it, which is no dictionary: the nodes
+/// of both in one.
+struct XmlProperty {
+    LibraryKey key = LibraryKey::none;
+    std::string_view value; ///< empty where there would be no node of a text; lives until the next read
+};
+
 /// Streams a document, node by node.
 ///
 /// Blank texts are not reported; neighbouring texts come as one, but at entities of the document's own. Used,
@@ -35,6 +43,9 @@ class NodeReader {
     /// The next node; false at the end of the document. After a read error there is no end: every further
     /// step gives a node of type none.
     virtual bool read(XmlNode& node) = 0;
+
+    /// Reads a whole property, where the reader can and one is next; false, and nothing is read, otherwise.
+    virtual bool readProperty(XmlProperty& property);
 
     /// The tracks that were read before, once; the nodes are then those behind them. Null where the nodes are
     /// all there is.

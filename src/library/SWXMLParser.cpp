@@ -124,7 +124,12 @@ bool SWXMLParser::agreesWithITunes() const {
 
 bool SWXMLParser::walkWhole(NodeReader& reader, LibraryWalk& walk) {
     XmlNode node;
+    XmlProperty property;
     while (!isCancelled()) {
+        if (reader.readProperty(property)) {
+            walk.feed(property);
+            continue;
+        }
         if (!reader.read(node)) return true;
         walk.feed(node.type, node.name, node.value);
         if (!reader.error()) continue;

@@ -367,9 +367,9 @@ Result<LibraryIndex> LibraryIndex::read(const LibraryFile& file, TrackPass* trac
     Tag tag;
     Property property;
     const auto takeProperty = [&] {
-        const auto value = index.plain ? nodes.valueOf(property) : std::nullopt;
-        index.plain = value.has_value();
-        if (value && tracks != nullptr) tracks->take(property, *value);
+        const auto read = index.plain ? nodes.read(property) : std::nullopt;
+        index.plain = read.has_value();
+        if (read && tracks != nullptr) tracks->take(*read);
     };
     const auto takeTag = [&] {
         index.plain = index.plain && nodes.take(tag);

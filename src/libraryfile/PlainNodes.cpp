@@ -159,24 +159,12 @@ bool PlainNodes::take(const Tag& tag) {
     return false;
 }
 
-bool PlainNodes::take(const Property& property) {
-    m_count = 0;
-    const auto value = valueOf(property);
-    if (!value) return false;
-    const std::string_view key = nameOf(Element::key);
-    const std::string_view name = nameOf(property.element);
-    add({NodeType::element, key, {}});
-    add({NodeType::text, {}, property.key});
-    add({NodeType::endElement, key, {}});
-    add({NodeType::element, name, {}});
-    if (!isSpace(*value)) add({NodeType::text, {}, *value});
-    if (!property.isEmptyTag) add({NodeType::endElement, name, {}});
-    return true;
-}
-
-std::optional<std::string_view> PlainNodes::valueOf(const Property& property) {
-    const bool plain = m_depth < deepest && (isSimple(property.key) || textOf(property.key));
-    return plain ? textOf(property.value) : std::nullopt;
+std::optional<XmlProperty> PlainNodes::read(const Property& property) {
+    // Names of keys that are known need no look.
+    if (m_depth == deepest || (property.meaning == LibraryKey::other && !textOf(property.key))) return {};
+    const auto value = textOf(property.value);
+    if (!value) return {};
+    return XmlProperty{property.meaning, isSpace(*value) ? std::string_view() : *value};
 }
 
 bool PlainNodes::takeRoot(const Tag& tag) {

@@ -29,14 +29,10 @@ class PlainNodes {
 
     /// The next tag of the file, or its end; false where the document is not plain.
     bool take(const Tag& tag);
-    /// The same of a whole property.
-    bool take(const Property& property);
+    /// What a property is to a reader; nothing where it is not plain.
+    std::optional<XmlProperty> read(const Property& property);
 
-    /// The text of a property's value, for whoever needs no nodes; nothing where the property is not plain.
-    /// Live until the next is asked for or taken.
-    std::optional<std::string_view> valueOf(const Property& property);
-
-    /// What that added: of a tag at most a text and its own. Live until the next is taken.
+    /// What the last tag added: at most a text and its own. Live until the next is taken.
     std::span<const XmlNode> nodes() const { return {m_nodes.data(), m_count}; }
 
     /// The elements open behind it.
@@ -59,7 +55,7 @@ class PlainNodes {
     std::size_t m_depth = 0;
     bool m_rootSeen = false;
     std::string m_decoded;
-    std::array<XmlNode, 6> m_nodes; // of a property
+    std::array<XmlNode, 2> m_nodes;
     std::size_t m_count = 0;
 };
 

@@ -21,22 +21,34 @@ bool PlainReader::read(XmlNode& node) {
         node = {};
         if (m_error) return true;
         if (m_ended) return false;
-        if (!readOn()) m_error = ReadError{0, "The file was changed while it was read"};
+        if (!readTag()) fail();
     }
     node = m_nodes.nodes()[m_next++];
     return true;
 }
 
-bool PlainReader::readOn() {
+bool PlainReader::readTag() {
+    if (!m_scanner.next(m_tag) || !m_nodes.take(m_tag)) return false;
     m_next = 0;
-    if (m_scanner.takeProperty(m_property)) {
-        if (m_nodes.take(m_property)) return true;
-    } else if (m_scanner.next(m_tag) && m_nodes.take(m_tag)) {
-        m_ended = m_tag.kind == Tag::Kind::endOfDocument;
-        return true;
+    m_ended = m_tag.kind == Tag::Kind::endOfDocument;
+    return true;
+}
+
+bool PlainReader::readProperty(XmlProperty& property) {
+    const bool isNext = m_next == m_nodes.nodes().size() && !m_error && m_scanner.takeProperty(m_property);
+    if (!isNext) return false;
+    const auto read = m_nodes.read(m_property);
+    if (!read) {
+        fail();
+        return false;
     }
+    property = *read;
+    return true;
+}
+
+void PlainReader::fail() {
+    m_error = ReadError{0, "The file was changed while it was read"};
     m_next = m_nodes.nodes().size();
-    return false;
 }
 
 } // namespace songsweep

@@ -24,10 +24,12 @@ class PlainReader final : public NodeReader {
 
     std::unique_ptr<ReadTracks> takeTracks() override { return std::move(m_tracks); }
     bool read(XmlNode& node) override;
+    bool readProperty(XmlProperty& property) override;
     const std::optional<ReadError>& error() const override { return m_error; }
 
   private:
-    bool readOn();
+    bool readTag();
+    void fail();
 
     std::unique_ptr<const LibraryFile> m_file;
     std::unique_ptr<ReadTracks> m_tracks;

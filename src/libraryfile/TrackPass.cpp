@@ -26,10 +26,10 @@ void TrackPass::take(const PlainNodes& nodes, std::uint64_t end) {
     }
 }
 
-void TrackPass::take(const Property& property, std::string_view value) {
+void TrackPass::take(const XmlProperty& property) {
     if (m_state != State::reading) return;
     try {
-        m_walk.feedProperty(property.meaning, value);
+        m_walk.feed(property);
     } catch (const std::exception&) {
         m_state = State::failed;
     }

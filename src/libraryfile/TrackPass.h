@@ -10,7 +10,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 namespace songsweep {
@@ -34,8 +33,8 @@ class TrackPass {
 
     /// The nodes of the next tag, and where in the file it ends.
     void take(const PlainNodes& nodes, std::uint64_t end);
-    /// The next property, and the text of its value.
-    void take(const Property& property, std::string_view value);
+    /// The next property.
+    void take(const XmlProperty& property);
 
     /// The tracks, once the pass is over and the file was plain; nothing where their end did not come, or the
     /// walk would have ended with an exception: the search is to meet that itself.

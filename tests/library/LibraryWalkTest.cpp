@@ -16,8 +16,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Playlist = SearchCoverage::Playlist;
 
+/// How a key and its value come.
+enum class Properties { inNodes, whole };
+
 /// Feeds a walk by hand, in the words of a library file.
-class LibraryWalkTest : public testing::Test {
+class LibraryWalkTest : public testing::TestWithParam<Properties> {
   protected:
     void open(std::string_view name) { m_walk.feed(NodeType::element, name, {}); }
     void close(std::string_view name) { m_walk.feed(NodeType::endElement, name, {}); }
@@ -28,6 +31,11 @@ class LibraryWalkTest : public testing::Test {
         close("key");
     }
     void value(std::string_view name, std::string_view value) {
+        if (GetParam() == Properties::whole) {
+            const bool isBlank = value.find_first_not_of(" \t\n") == std::string_view::npos;
+            m_walk.feed(XmlProperty{libraryKey(name), isBlank ? std::string_view() : value});
+            return;
+        }
         key(name);
         open("string");
         text(value);
@@ -94,7 +102,12 @@ class LibraryWalkTest : public testing::Test {
                        [this](int count) { m_progress.push_back(count); }};
 };
 
-TEST_F(LibraryWalkTest, MakesARecordOfEachTrack) {
+INSTANTIATE_TEST_SUITE_P(Properties, LibraryWalkTest, testing::Values(Properties::inNodes, Properties::whole),
+                         [](const auto& way) {
+                             return way.param == Properties::whole ? "Whole" : "InNodes";
+                         });
+
+TEST_P(LibraryWalkTest, MakesARecordOfEachTrack) {
     openTracks();
     track("10", "One");
     track("12", "Two");
@@ -103,7 +116,7 @@ TEST_F(LibraryWalkTest, MakesARecordOfEachTrack) {
     EXPECT_EQ(m_walk.trackCount(), 2);
 }
 
-TEST_F(LibraryWalkTest, IgnoresValuesBeforeTheFirstTrack) {
+TEST_P(LibraryWalkTest, IgnoresValuesBeforeTheFirstTrack) {
     open("plist");
     open("dict");
     value("Name", "of no track");
@@ -113,18 +126,18 @@ TEST_F(LibraryWalkTest, IgnoresValuesBeforeTheFirstTrack) {
     EXPECT_THAT(names(), ElementsAre("One"));
 }
 
-TEST_F(LibraryWalkTest, IgnoresTextBeforeTheFirstElement) {
+TEST_P(LibraryWalkTest, IgnoresTextBeforeTheFirstElement) {
     text("stray");
     EXPECT_THAT(m_list.records, IsEmpty());
 }
 
-TEST_F(LibraryWalkTest, TrimsValues) {
+TEST_P(LibraryWalkTest, TrimsValues) {
     openTracks();
     track("1", "\n  One and \u00a0Two\u3000\t");
     EXPECT_THAT(names(), ElementsAre("One and \u00a0Two"));
 }
 
-TEST_F(LibraryWalkTest, KeysCountInAnyCaseButWithTheirBlanks) {
+TEST_P(LibraryWalkTest, KeysCountInAnyCaseButWithTheirBlanks) {
     openTracks();
     openTrack("1");
     value("NAME", "One");
@@ -133,7 +146,7 @@ TEST_F(LibraryWalkTest, KeysCountInAnyCaseButWithTheirBlanks) {
     EXPECT_EQ(m_list.records[0]->artist, "");
 }
 
-TEST_F(LibraryWalkTest, JoinsTextThatComesInPiecesEachTrimmed) {
+TEST_P(LibraryWalkTest, JoinsTextThatComesInPiecesEachTrimmed) {
     openTracks();
     openTrack("1");
     key("Name");
@@ -151,7 +164,7 @@ TEST_F(LibraryWalkTest, JoinsTextThatComesInPiecesEachTrimmed) {
     EXPECT_EQ(m_list.records[0]->playcount, "2");
 }
 
-TEST_F(LibraryWalkTest, OfAKeyInPiecesTheLastCounts) {
+TEST_P(LibraryWalkTest, OfAKeyInPiecesTheLastCounts) {
     openTracks();
     openTrack("1");
     open("key");
@@ -163,7 +176,7 @@ TEST_F(LibraryWalkTest, OfAKeyInPiecesTheLastCounts) {
     EXPECT_EQ(m_list.records[0]->name, "One");
 }
 
-TEST_F(LibraryWalkTest, AnEmptyKeyElementLeavesTheKeyBefore) {
+TEST_P(LibraryWalkTest, AnEmptyKeyElementLeavesTheKeyBefore) {
     openTracks();
     openTrack("1");
     value("Name", "One");
@@ -175,7 +188,7 @@ TEST_F(LibraryWalkTest, AnEmptyKeyElementLeavesTheKeyBefore) {
     EXPECT_EQ(m_list.records[0]->name, "OneTwo");
 }
 
-TEST_F(LibraryWalkTest, TextAfterAnEndOfElementStillBelongsToTheElementOpenedLast) {
+TEST_P(LibraryWalkTest, TextAfterAnEndOfElementStillBelongsToTheElementOpenedLast) {
     openTracks();
     openTrack("1");
     key("Name");
@@ -185,7 +198,7 @@ TEST_F(LibraryWalkTest, TextAfterAnEndOfElementStillBelongsToTheElementOpenedLas
     EXPECT_EQ(m_list.records[0]->name, "");
 }
 
-TEST_F(LibraryWalkTest, ASelfClosingDictRaisesTheDepthForTheRestOfTheFile) {
+TEST_P(LibraryWalkTest, ASelfClosingDictRaisesTheDepthForTheRestOfTheFile) {
     openTracks();
     openTrack("1");
     key("Extras");
@@ -196,7 +209,7 @@ TEST_F(LibraryWalkTest, ASelfClosingDictRaisesTheDepthForTheRestOfTheFile) {
     EXPECT_EQ(m_list.records[0]->trackid, "2");
 }
 
-TEST_F(LibraryWalkTest, TellsOfEvery500thRecord) {
+TEST_P(LibraryWalkTest, TellsOfEvery500thRecord) {
     openTracks();
     for (int i = 0; i < 1100; ++i)
         track("1", "x");
@@ -204,7 +217,7 @@ TEST_F(LibraryWalkTest, TellsOfEvery500thRecord) {
     EXPECT_EQ(m_walk.trackCount(), 1100);
 }
 
-TEST_F(LibraryWalkTest, CollectsTheItemsOfTheChosenPlaylistInAnyCase) {
+TEST_P(LibraryWalkTest, CollectsTheItemsOfTheChosenPlaylistInAnyCase) {
     openTracks();
     track("1", "One");
     openPlaylists();
@@ -216,7 +229,7 @@ TEST_F(LibraryWalkTest, CollectsTheItemsOfTheChosenPlaylistInAnyCase) {
                                            "Music Playlist End"));
 }
 
-TEST_F(LibraryWalkTest, OfTwoPlaylistsOfTheNameTheFirstCounts) {
+TEST_P(LibraryWalkTest, OfTwoPlaylistsOfTheNameTheFirstCounts) {
     openTracks();
     openPlaylists();
     playlist("My Music", {"1"});
@@ -224,7 +237,7 @@ TEST_F(LibraryWalkTest, OfTwoPlaylistsOfTheNameTheFirstCounts) {
     EXPECT_THAT(m_songlist.left(), ElementsAre("1"));
 }
 
-TEST_F(LibraryWalkTest, APlaylistWithoutANameContinuesTheOneBefore) {
+TEST_P(LibraryWalkTest, APlaylistWithoutANameContinuesTheOneBefore) {
     openTracks();
     openPlaylists();
     playlist("My Music", {"1"});
@@ -234,7 +247,7 @@ TEST_F(LibraryWalkTest, APlaylistWithoutANameContinuesTheOneBefore) {
     EXPECT_THAT(m_songlist.left(), ElementsAre("1", "2"));
 }
 
-TEST_F(LibraryWalkTest, CollectsNothingBeforeThePlaylistsKey) {
+TEST_P(LibraryWalkTest, CollectsNothingBeforeThePlaylistsKey) {
     openTracks();
     close("dict");
     key("Music Folder");
@@ -244,7 +257,7 @@ TEST_F(LibraryWalkTest, CollectsNothingBeforeThePlaylistsKey) {
     EXPECT_THAT(m_log.lines(), IsEmpty());
 }
 
-TEST_F(LibraryWalkTest, TheNextTopLevelKeyEndsThePlaylists) {
+TEST_P(LibraryWalkTest, TheNextTopLevelKeyEndsThePlaylists) {
     openTracks();
     openPlaylists();
     playlist("Other", {"1"});
@@ -258,7 +271,7 @@ TEST_F(LibraryWalkTest, TheNextTopLevelKeyEndsThePlaylists) {
                 ElementsAre("Playlists Begin", "Music Playlist End", "Playlists Begin", "Playlists End"));
 }
 
-TEST_F(LibraryWalkTest, TrackValuesAfterTheTracksAreNotStored) {
+TEST_P(LibraryWalkTest, TrackValuesAfterTheTracksAreNotStored) {
     openTracks();
     track("1", "One");
     close("dict");
@@ -270,7 +283,7 @@ TEST_F(LibraryWalkTest, TrackValuesAfterTheTracksAreNotStored) {
     EXPECT_THAT(names(), ElementsAre("One"));
 }
 
-TEST_F(LibraryWalkTest, AFirstDictionaryWithoutAChildDoesNotEndTheTracks) {
+TEST_P(LibraryWalkTest, AFirstDictionaryWithoutAChildDoesNotEndTheTracks) {
     open("plist");
     open("dict");
     close("dict");
@@ -279,7 +292,7 @@ TEST_F(LibraryWalkTest, AFirstDictionaryWithoutAChildDoesNotEndTheTracks) {
     EXPECT_THAT(names(), ElementsAre("One"));
 }
 
-TEST_F(LibraryWalkTest, ALibraryWithoutTracksHasPlaylists) {
+TEST_P(LibraryWalkTest, ALibraryWithoutTracksHasPlaylists) {
     openTracks();
     openPlaylists();
     playlist("My Music", {"1"});
@@ -287,7 +300,7 @@ TEST_F(LibraryWalkTest, ALibraryWithoutTracksHasPlaylists) {
     EXPECT_THAT(m_songlist.left(), ElementsAre("1"));
 }
 
-TEST_F(LibraryWalkTest, WithoutAPlaylistNameNothingIsCollected) {
+TEST_P(LibraryWalkTest, WithoutAPlaylistNameNothingIsCollected) {
     PlaylistItems songlist;
     LibraryWalk walk(m_list, songlist, std::nullopt, m_log, [](int) {});
     const auto feed = [&](NodeType type, std::string_view text) { walk.feed(type, text, text); };
@@ -304,7 +317,7 @@ TEST_F(LibraryWalkTest, WithoutAPlaylistNameNothingIsCollected) {
     EXPECT_THAT(m_log.lines(), ElementsAre("Playlists Begin", "Music Playlist End"));
 }
 
-TEST_F(LibraryWalkTest, OtherNodesAreSkipped) {
+TEST_P(LibraryWalkTest, OtherNodesAreSkipped) {
     openTracks();
     openTrack("1");
     key("Name");
@@ -316,7 +329,7 @@ TEST_F(LibraryWalkTest, OtherNodesAreSkipped) {
     EXPECT_EQ(m_walk.trackCount(), 1);
 }
 
-TEST_F(LibraryWalkTest, ADateThatIsNoneEndsTheWalk) {
+TEST_P(LibraryWalkTest, ADateThatIsNoneEndsTheWalk) {
     openTracks();
     openTrack("1");
     key("Date Added");
@@ -324,7 +337,7 @@ TEST_F(LibraryWalkTest, ADateThatIsNoneEndsTheWalk) {
     EXPECT_THROW(text("someday"), std::runtime_error);
 }
 
-TEST_F(LibraryWalkTest, TellsWhetherItMetThePlaylist) {
+TEST_P(LibraryWalkTest, TellsWhetherItMetThePlaylist) {
     EXPECT_EQ(m_walk.playlist(), Playlist::none);
     openTracks();
     openPlaylists();
@@ -334,7 +347,7 @@ TEST_F(LibraryWalkTest, TellsWhetherItMetThePlaylist) {
     EXPECT_EQ(m_walk.playlist(), Playlist::chosen) << "no playlist is marked as the library";
 }
 
-TEST_F(LibraryWalkTest, KnowsTheLibraryByItsMark) {
+TEST_P(LibraryWalkTest, KnowsTheLibraryByItsMark) {
     openTracks();
     openPlaylists();
     openMaster("My Music");
@@ -343,7 +356,7 @@ TEST_F(LibraryWalkTest, KnowsTheLibraryByItsMark) {
     EXPECT_EQ(m_walk.playlist(), Playlist::chosen);
 }
 
-TEST_F(LibraryWalkTest, KnowsAPlaylistThatComesBeforeTheLibrary) {
+TEST_P(LibraryWalkTest, KnowsAPlaylistThatComesBeforeTheLibrary) {
     openTracks();
     openPlaylists();
     playlist("My Music", {"1"});
@@ -353,7 +366,7 @@ TEST_F(LibraryWalkTest, KnowsAPlaylistThatComesBeforeTheLibrary) {
     EXPECT_EQ(m_walk.playlist(), Playlist::other);
 }
 
-TEST_F(LibraryWalkTest, KnowsTheMarkBeforeTheNameToo) {
+TEST_P(LibraryWalkTest, KnowsTheMarkBeforeTheNameToo) {
     openTracks();
     openPlaylists();
     playlist("Another", {});
@@ -366,7 +379,7 @@ TEST_F(LibraryWalkTest, KnowsTheMarkBeforeTheNameToo) {
     EXPECT_EQ(m_walk.playlist(), Playlist::chosen);
 }
 
-TEST_F(LibraryWalkTest, TakesNoMarkOfTheNextPlaylist) {
+TEST_P(LibraryWalkTest, TakesNoMarkOfTheNextPlaylist) {
     openTracks();
     openPlaylists();
     playlist("My Music", {"1"});
@@ -379,7 +392,7 @@ TEST_F(LibraryWalkTest, TakesNoMarkOfTheNextPlaylist) {
     EXPECT_EQ(m_walk.playlist(), Playlist::other);
 }
 
-TEST_F(LibraryWalkTest, TakesNoMarkOfAnItem) {
+TEST_P(LibraryWalkTest, TakesNoMarkOfAnItem) {
     openTracks();
     openPlaylists();
     playlist("My Music", {});

@@ -86,6 +86,54 @@ TEST_F(PlainReaderTest, GivesElementsAndTextsWithoutBlankOnes) {
                             "<key", ">key", "<string", ">string", "<string", ">dict", ">plist"));
 }
 
+/// All whole properties, "-" for each node between.
+Nodes propertiesOf(NodeReader& reader) {
+    Nodes found;
+    XmlNode node;
+    XmlProperty property;
+    for (;;) {
+        if (reader.readProperty(property))
+            found.push_back(std::to_string(static_cast<int>(property.key)) + "=" +
+                            std::string(property.value));
+        else if (reader.read(node) && !reader.error())
+            found.emplace_back("-");
+        else
+            break;
+    }
+    if (reader.error()) found.push_back("error: " + reader.error()->reason);
+    return found;
+}
+
+std::string shown(LibraryKey key, const std::string& value) {
+    return std::to_string(static_cast<int>(key)) + "=" + value;
+}
+
+TEST_F(PlainReaderTest, GivesWholeProperties) {
+    m_path = m_folder.write("library.xml",
+                            document("<dict><key>Name</key><string>R&#38;B </string><key>Size</key>\n"
+                                     "<integer>7</integer><key>Year</key><integer> &#13;</integer>\n"
+                                     "<key>Master</key><true/></dict>"));
+    PlainReader plain(file());
+    EXPECT_THAT(propertiesOf(plain),
+                ElementsAre("-", "-", shown(LibraryKey::name, "R&B "), "-", "-", "-", "-", "-", "-",
+                            shown(LibraryKey::other, ""), shown(LibraryKey::master, ""), "-", "-"));
+}
+
+TEST_F(PlainReaderTest, APropertyThatIsNotPlainIsAChangeWhileItWasRead) {
+    for (const char* property : {"<key>Name</key><string>a\rb</string>", "<key>a]]></key><true/>",
+                                 "<key>Name</key><string>&x;</string>"}) {
+        m_path = m_folder.write("library.xml", document("<dict>" + std::string(property) + "</dict>"));
+        PlainReader plain(file());
+        EXPECT_THAT(propertiesOf(plain),
+                    ElementsAre("-", "-", "error: The file was changed while it was read"));
+        XmlNode node;
+        XmlProperty next;
+        EXPECT_TRUE(plain.read(node));
+        EXPECT_EQ(node.type, NodeType::none);
+        EXPECT_FALSE(plain.readProperty(next));
+    }
+}
+
 TEST_F(PlainReaderTest, GivesCharactersWrittenAsReferencesInOneText) {
     EXPECT_THAT(
         plainNodesOf(document("<string>&#38; R&amp;B &lt;&gt;&quot;&apos;&#x20AC; é &#10;</string>"
