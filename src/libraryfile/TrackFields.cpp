@@ -16,6 +16,8 @@ constexpr std::size_t usualValues = 16;
 
 std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlEntities& entities) {
     TrackFields fields;
+    fields.m_values.reserve(usualValues);
+    fields.m_texts.reserve(entry.size());
     EntryTags tags(entry);
     LibraryKey key = LibraryKey::none;
     int depth = 0;
@@ -43,7 +45,7 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
             if (tags.name() == "key") {
                 key = libraryKey(*value);
             } else if (tags.name() != "dict" && tags.name() != "array") {
-                fields.keep(key, std::move(*value));
+                fields.keep(key, *value);
                 key = LibraryKey::none;
             }
         }
@@ -54,26 +56,25 @@ std::optional<TrackFields> TrackFields::parse(std::string_view entry, const XmlE
 }
 
 bool TrackFields::keep(const Property& property, const XmlEntities& entities) {
-    const LibraryKey key = property.meaning;
     if (isItsOwnText(property.value)) {
-        if (key != LibraryKey::other) keep(key, std::string(property.value));
+        keep(property.meaning, property.value);
         return true;
     }
-    auto value = decodeXmlText(property.value, entities);
-    if (value) keep(key, std::move(*value));
+    const auto value = decodeXmlText(property.value, entities);
+    if (value) keep(property.meaning, *value);
     return value.has_value();
 }
 
-void TrackFields::keep(LibraryKey key, std::string value) {
+void TrackFields::keep(LibraryKey key, std::string_view value) {
     if (key == LibraryKey::none || key == LibraryKey::other) return;
-    if (m_values.empty()) m_values.reserve(usualValues);
-    m_values.emplace_back(key, std::move(value));
+    m_values.push_back({key, m_texts.size(), value.size()});
+    m_texts += value;
 }
 
-const std::string* TrackFields::find(LibraryKey key) const {
-    const auto found = std::find_if(m_values.rbegin(), m_values.rend(),
-                                    [&](const auto& value) { return value.first == key; });
-    return found == m_values.rend() ? nullptr : &found->second;
+std::optional<std::string_view> TrackFields::find(LibraryKey key) const {
+    const auto found = std::ranges::find(m_values.rbegin(), m_values.rend(), key, &Value::key);
+    if (found == m_values.rend()) return {};
+    return std::string_view(m_texts).substr(found->begin, found->length);
 }
 
 } // namespace songsweep

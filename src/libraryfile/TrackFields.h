@@ -4,10 +4,10 @@
 #include "library/LibraryKeys.h"
 #include "libraryfile/XmlText.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace songsweep {
@@ -24,20 +24,25 @@ class TrackFields {
     /// Reads an entry's bytes, key and all; nothing where they are no entry.
     static std::optional<TrackFields> parse(std::string_view entry, const XmlEntities& entities);
 
-    /// The value of the key; of several, the last. Null where there is none.
-    const std::string* find(LibraryKey key) const;
+    /// The value of the key; of several, the last. Lives as long as the fields stay where they are.
+    std::optional<std::string_view> find(LibraryKey key) const;
 
     /// The same, "" where there is none.
-    std::string_view text(LibraryKey key) const {
-        const std::string* value = find(key);
-        return value ? std::string_view(*value) : std::string_view();
-    }
+    std::string_view text(LibraryKey key) const { return find(key).value_or(std::string_view()); }
 
   private:
-    bool keep(const Property& property, const XmlEntities& entities);
-    void keep(LibraryKey key, std::string value);
+    /// A value's place in `m_texts`.
+    struct Value {
+        LibraryKey key;
+        std::size_t begin;
+        std::size_t length;
+    };
 
-    std::vector<std::pair<LibraryKey, std::string>> m_values;
+    bool keep(const Property& property, const XmlEntities& entities);
+    void keep(LibraryKey key, std::string_view value);
+
+    std::vector<Value> m_values;
+    std::string m_texts; // one behind the other, so that an entry costs two pieces of memory
 };
 
 } // namespace songsweep

@@ -84,11 +84,11 @@ TEST_F(LibraryDocumentTest, ReadsTheValuesOfATrackAsTheyStand) {
     EXPECT_EQ(text(track, LibraryKey::name), " A & B <x> <&>\n! ");
     EXPECT_EQ(text(track, LibraryKey::persistentId), "00A1B2C3D4E5F607");
     EXPECT_EQ(text(track, LibraryKey::bitRate), "192");
-    EXPECT_NE(library.fields(track).value()->find(LibraryKey::album), nullptr);
-    EXPECT_NE(library.fields(track).value()->find(LibraryKey::trackType), nullptr);
-    EXPECT_EQ(library.fields(track).value()->find(LibraryKey::location), nullptr);
-    EXPECT_EQ(library.fields(track).value()->find(LibraryKey::other), nullptr);
-    EXPECT_EQ(library.fields(track).value()->find(LibraryKey::none), nullptr);
+    EXPECT_TRUE(library.fields(track).value()->find(LibraryKey::album));
+    EXPECT_TRUE(library.fields(track).value()->find(LibraryKey::trackType));
+    EXPECT_FALSE(library.fields(track).value()->find(LibraryKey::location));
+    EXPECT_FALSE(library.fields(track).value()->find(LibraryKey::other));
+    EXPECT_FALSE(library.fields(track).value()->find(LibraryKey::none));
 }
 
 TEST_F(LibraryDocumentTest, ReplacesDeclaredEntitiesWithinBounds) {
