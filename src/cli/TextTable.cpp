@@ -5,6 +5,7 @@
 #include <unicode/utf8.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace songsweep::cli {
 
@@ -51,19 +52,51 @@ std::string oneLine(std::string_view text) {
     return line;
 }
 
-std::string cut(const std::string& text, int width) {
-    if (displayWidth(text) <= width) return text;
+std::string cut(std::string_view text, int width) {
     return std::string(beginning(text, width - static_cast<int>(ellipsis.size()))) + std::string(ellipsis);
 }
 
-std::string withoutTrailingBlanks(std::string line) {
-    line.erase(line.find_last_not_of(' ') + 1);
-    return line;
+void eraseTrailingBlanks(std::string& line) { line.erase(line.find_last_not_of(' ') + 1); }
+
+/// Looks at all characters, which the compiler does many at a time.
+bool isVisibleAscii(std::string_view text) {
+    bool isVisible = true;
+    for (const char c : text)
+        isVisible &= static_cast<unsigned char>(c - ' ') <= '~' - ' ';
+    return isVisible;
 }
 
-bool isVisibleAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
-}
+/// A text for one line, and the places that it takes.
+class LineText {
+  public:
+    explicit LineText(std::string_view text)
+        : m_text(text)
+        , m_width(static_cast<int>(text.size())) {
+        if (isVisibleAscii(text)) return;
+        keep(oneLine(text));
+    }
+    LineText(const LineText&) = delete;
+    LineText& operator=(const LineText&) = delete;
+    ~LineText() = default;
+
+    std::string_view text() const { return m_text; }
+    int width() const { return m_width; }
+
+    void cutTo(int width) {
+        if (m_width > width) keep(cut(m_text, width));
+    }
+
+  private:
+    void keep(std::string text) {
+        m_made = std::move(text);
+        m_text = m_made;
+        m_width = displayWidth(m_text);
+    }
+
+    std::string_view m_text;
+    std::string m_made;
+    int m_width;
+};
 
 } // namespace
 
@@ -88,7 +121,7 @@ TextTable::TextTable(std::vector<ColumnTitle> columns)
 void TextTable::measure(const std::vector<std::string>& cells) {
     for (std::size_t i = 0; i < cells.size(); ++i)
         m_widths.at(i) =
-            std::max(m_widths.at(i), std::min(displayWidth(oneLine(cells[i])), m_columns.at(i).widest));
+            std::max(m_widths.at(i), std::min(LineText(cells[i]).width(), m_columns.at(i).widest));
 }
 
 std::string TextTable::titles() const {
@@ -101,12 +134,16 @@ std::string TextTable::titles() const {
 std::string TextTable::line(const std::vector<std::string>& cells) const {
     std::string whole;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        const std::string text = cut(oneLine(cells[i]), m_widths.at(i));
-        const std::string padding(static_cast<std::size_t>(m_widths.at(i) - displayWidth(text)), ' ');
+        LineText cell(cells[i]);
+        cell.cutTo(m_widths.at(i));
+        const auto padding = static_cast<std::size_t>(m_widths.at(i) - cell.width());
+        const bool isRight = m_columns.at(i).alignment == Alignment::right;
         if (i > 0) whole += gap;
-        whole += m_columns.at(i).alignment == Alignment::right ? padding + text : text + padding;
+        whole.append(isRight ? padding : 0, ' ').append(cell.text()).append(isRight ? 0 : padding, ' ');
     }
-    return withoutTrailingBlanks(std::move(whole)) + '\n';
+    eraseTrailingBlanks(whole);
+    whole += '\n';
+    return whole;
 }
 
 } // namespace songsweep::cli
