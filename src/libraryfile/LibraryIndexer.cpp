@@ -5,11 +5,11 @@
 #include "libraryfile/LibraryIndex.h"
 #include "libraryfile/PlainNodes.h"
 #include "libraryfile/TagScanner.h"
+#include "libraryfile/TrackIds.h"
 #include "libraryfile/TrackPass.h"
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 
 namespace songsweep {
 
@@ -143,7 +143,6 @@ class Indexer {
             break;
         case LibraryPlace::playlist:
             m_index.playlists.emplace_back().begin = tag.begin;
-            m_itemIds.emplace_back();
             break;
         case LibraryPlace::items:
             m_index.playlists.back().container = containerAt(tag);
@@ -189,10 +188,6 @@ class Indexer {
             break;
         case LibraryPlace::playlist:
             if (tag.kind == Tag::Kind::close) m_index.playlists.back().end = withSpaceBefore(tag);
-            m_key = LibraryKey::none;
-            break;
-        case LibraryPlace::items:
-            m_index.playlists.back().items.shrink_to_fit();
             m_key = LibraryKey::none;
             break;
         default:
@@ -288,8 +283,11 @@ class Indexer {
         const std::uint64_t end = tag.end - playlist.begin;
         if (end > std::numeric_limits<std::uint32_t>::max()) m_reason = "a playlist is longer than 4 GB";
         const auto begin = static_cast<std::uint32_t>(m_itemBegin - playlist.begin);
-        playlist.items.push_back({LibraryIndex::noTrack, begin, static_cast<std::uint32_t>(end) - begin});
-        m_itemIds.back().push_back(m_itemId);
+        if (m_itemId >= LibraryIndex::noTrack)
+            m_longIds.push_back({m_index.playlists.size() - 1, playlist.items.size(), m_itemId});
+        const bool isShort = m_itemId >= 0 && m_itemId < LibraryIndex::noTrack;
+        playlist.items.push_back({isShort ? static_cast<std::uint32_t>(m_itemId) : LibraryIndex::noTrack,
+                                  begin, static_cast<std::uint32_t>(end) - begin});
     }
 
     /// The text of raw bytes; mostly they are the text.
@@ -306,18 +304,24 @@ class Indexer {
             m_reason = "the file is not a library: it has no dictionary of tracks";
             return false;
         }
-        m_index.tracks.shrink_to_fit();
         resolveItems();
         return true;
     }
 
-    /// Turns the track IDs of the items into positions, once all tracks are known.
+    /// Turns the track IDs of the items into positions, once all tracks are known. Until then they stand
+    /// where the positions will, but those for which there is no room.
     void resolveItems();
+
+    struct LongId {
+        std::size_t playlist;
+        std::size_t item;
+        std::int64_t id;
+    };
 
     LibraryIndex& m_index;
     const XmlEntities& m_entities;
     std::vector<LibraryPlace> m_places;
-    std::vector<std::vector<std::int64_t>> m_itemIds; // of every playlist
+    std::vector<LongId> m_longIds;
     TrackSlot m_track;
     std::uint64_t m_entryBegin = 0;
     std::int64_t m_entryId = -1;
@@ -332,27 +336,13 @@ class Indexer {
 };
 
 void Indexer::resolveItems() {
-    const auto& tracks = m_index.tracks;
-    std::vector<std::uint32_t> order(tracks.size());
-    std::iota(order.begin(), order.end(), 0U);
-    const auto byId = [&](std::uint32_t a, std::uint32_t b) { return tracks[a].trackId < tracks[b].trackId; };
-    if (!std::is_sorted(order.begin(), order.end(), byId)) std::stable_sort(order.begin(), order.end(), byId);
-
-    m_index.trackIdsRepeat =
-        std::adjacent_find(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
-            return tracks[a].trackId == tracks[b].trackId && tracks[a].trackId >= 0;
-        }) != order.end();
-    const auto find = [&](std::int64_t id) {
-        if (id < 0) return LibraryIndex::noTrack;
-        const auto found =
-            std::lower_bound(order.begin(), order.end(), id, [&](std::uint32_t track, auto wanted) {
-                return tracks[track].trackId < wanted;
-            });
-        return found != order.end() && tracks[*found].trackId == id ? *found : LibraryIndex::noTrack;
-    };
-    for (std::size_t p = 0; p < m_index.playlists.size(); ++p)
-        for (std::size_t i = 0; i < m_itemIds[p].size(); ++i)
-            m_index.playlists[p].items[i].track = find(m_itemIds[p][i]);
+    TrackIds ids(m_index.tracks);
+    m_index.trackIdsRepeat = ids.repeat();
+    for (PlaylistSlot& playlist : m_index.playlists)
+        for (ItemSlot& item : playlist.items)
+            if (item.track != LibraryIndex::noTrack) item.track = ids.find(item.track);
+    for (const LongId& item : m_longIds)
+        m_index.playlists[item.playlist].items[item.item].track = ids.find(item.id);
 }
 
 } // namespace

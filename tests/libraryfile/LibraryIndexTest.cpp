@@ -102,6 +102,41 @@ TEST(LibraryIndex, LeavesItemsOfUnknownTracksAlone) {
     EXPECT_EQ(index.value().playlists[0].items[1].track, 0U);
 }
 
+TEST(LibraryIndex, FindsTheTracksOfItemsInAnyOrder) {
+    const std::string text =
+        libraryXml({{10, "00000000000000A1", ""}, {12, "00000000000000A2", ""}, {14, "00000000000000A3", ""}},
+                   {{"Mine", "", {10, 12, 12, 10, 14, 11, 13, 14, 15}}});
+    const auto index = indexOf(text);
+    ASSERT_TRUE(index) << index.error().message;
+    std::vector<std::uint32_t> tracks;
+    for (const ItemSlot& item : index.value().playlists[0].items)
+        tracks.push_back(item.track);
+    constexpr std::uint32_t none = LibraryIndex::noTrack;
+    EXPECT_EQ(tracks, (std::vector<std::uint32_t>{0, 1, 1, 0, 2, none, none, 2, none}));
+}
+
+TEST(LibraryIndex, OfTwoTracksOfOneIdTheFirstIsAnItems) {
+    const std::string text =
+        libraryXml({{10, "00000000000000A1", ""}, {10, "00000000000000A2", ""}}, {{"Mine", "", {10, 10}}});
+    const auto index = indexOf(text);
+    ASSERT_TRUE(index) << index.error().message;
+    EXPECT_EQ(index.value().playlists[0].items[0].track, 0U);
+    EXPECT_EQ(index.value().playlists[0].items[1].track, 0U);
+}
+
+TEST(LibraryIndex, KnowsIdsOfMoreThan32Bits) {
+    std::string text = libraryXml({{10, "00000000000000A1", ""}, {12, "00000000000000A2", ""}},
+                                  {{"Mine", "", {12, 10, 12}}});
+    for (std::size_t at = 0; (at = text.find(">12<", at)) != std::string::npos;)
+        text.replace(at, 4, ">5000000012<");
+    const auto index = indexOf(text);
+    ASSERT_TRUE(index) << index.error().message;
+    const std::vector<ItemSlot>& items = index.value().playlists[0].items;
+    EXPECT_EQ(items[0].track, 1U);
+    EXPECT_EQ(items[1].track, 0U);
+    EXPECT_EQ(items[2].track, 1U);
+}
+
 TEST(LibraryIndex, IsNotMisledByTextsThatLookLikeTags) {
     const auto index =
         indexOf(libraryXml({{10, "00000000000000A1",
