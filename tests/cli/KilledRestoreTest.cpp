@@ -16,7 +16,7 @@ using std::chrono::microseconds;
 using test::RunResult;
 
 constexpr int songs = 12;
-constexpr int fewKills = 5;
+constexpr int fewKills = 50;
 
 class KilledRestore : public test::RecordedDeletionTest, public testing::WithParamInterface<unsigned> {
   protected:

@@ -138,6 +138,20 @@ TEST_F(OtherProgram, ThatWritesAfterTheExchangeIsNotMovedWhereTheDiskFails) {
     EXPECT_EQ(contentOf(m_path), text(true, added));
 }
 
+TEST_F(OtherProgram, FindsTheOldLibraryWhereTheNewOneIsNotSurelyOnTheDisk) {
+    ASSERT_TRUE(m_library->beginCleanup({"a test"}));
+    remove();
+    SystemCalls::before("renameat2", [] { // the exchange; what follows is the folder's flush
+        SystemCalls::before("fsync", [] { SystemCalls::failAt(1, EIO); });
+    });
+    const auto written = m_library->flush();
+    SystemCalls::stop();
+    EXPECT_EQ(SystemCalls::failed(), "fsync");
+    ASSERT_FALSE(written);
+    EXPECT_EQ(written.error().code, Error::Code::inputOutput);
+    EXPECT_EQ(contentOf(m_path), text(true, ""));
+}
+
 TEST_F(OtherProgram, WithoutAnExchangeTheWindowIsNarrowAndSaidToBeSo) {
     SystemCalls::failAll("renameat2", EINVAL);
     ASSERT_TRUE(m_library->beginCleanup({"a test"}));
