@@ -10,7 +10,8 @@ SurveySources ControllerServices::surveySources() const {
             .locations = libraryLocations,
             .trash = &desktop.trash(),
             .libraryForesight = libraryForesight,
-            .tracksOfId = tracksOfId};
+            .tracksOfId = tracksOfId,
+            .planMerge = planMerge};
 }
 
 } // namespace songsweep

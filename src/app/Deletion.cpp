@@ -64,6 +64,7 @@ void Deletion::deleteButtonClick() {
         facts.lastOfRecordings = recordingsLosingEveryCopy(m_results.tableDataSource().rows);
     facts.embeddedLibrary = m_services.embeddedLibrary();
     facts.filesPending = facts.tracks > 0;
+    facts.mergeOffered = songsToMerge() > 0;
     if (facts.filesPending) startSurvey(facts);
     m_view.beginDeleteConfirmation(facts);
 }
@@ -127,19 +128,23 @@ void Deletion::beginDelete() {
     m_progress.showProgressWindow(ProgressBar::progress);
 }
 
+/// Songs of which copies go and others stay, where these can be given anything.
+int Deletion::songsToMerge() const {
+    if (!m_services.planMerge || !m_services.embeddedLibrary()) return 0;
+    return groupsLosingSomeCopies(m_results.tableDataSource().rows);
+}
+
 /// False where there is nothing to merge.
 bool Deletion::startMerge() {
-    if (!m_mergeChoice.isAny() || !m_services.planMerge) return false;
-    const DisplayedList& list = m_results.tableDataSource();
-    SongsToMerge songs(list.rows, list.storage);
-    if (songs.songs.empty()) return false;
+    const int songs = m_mergeChoice.isAny() ? songsToMerge() : 0;
+    if (songs == 0) return false;
     m_phase = Phase::running;
     Progress& progress = m_progress.progress();
-    progress.total = static_cast<int>(songs.songs.size());
+    progress.total = songs;
     progress.beginPhase(0, 100);
     const MergeServices services = {m_workers.center, m_services.scripts, m_services.log, m_services.cleanup,
                                     m_services.planMerge};
-    m_workers.queue.add(std::make_unique<MergeProc>(std::move(songs), m_mergeChoice, services));
+    m_workers.queue.add(std::make_unique<MergeProc>(m_results.tableDataSource(), m_mergeChoice, services));
     m_progress.setText(ProgressBar::progress, words("Deletion", "Merging..."));
     return true;
 }

@@ -78,6 +78,7 @@ class Deletion {
     void startSurvey(const DeleteConfirmationFacts& facts);
     void forgetSurvey();
     void unlockLibrary();
+    int songsToMerge() const;
     bool startMerge();
     void startWorker();
     void end(const WorkerEvent& event);

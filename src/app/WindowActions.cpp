@@ -157,8 +157,8 @@ void WindowActions::updateMarkPreview() {
 void WindowActions::connectDeletion() {
     DeleteConfirmation* confirmation = &m_windows.deleteConfirmation();
     connect(confirmation, &DeleteConfirmation::deleteRequested, this,
-            [this](bool deleteFiles, bool leaveSharedFiles) {
-                m_controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles);
+            [this](bool deleteFiles, bool leaveSharedFiles, MergeChoice merge) {
+                m_controller.delConfOkButtonClick(deleteFiles, leaveSharedFiles, merge);
             });
     connect(confirmation, &DeleteConfirmation::lostSongsRequested, this,
             [this, confirmation](FilesToTrash files) {

@@ -2,6 +2,7 @@
 #include "delete/ConfirmationTexts.h"
 
 #include "library/ValueFormats.h"
+#include "merge/MergeWords.h"
 #include "theme/CountedText.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,13 @@ namespace songsweep::confirmationTexts {
 namespace {
 
 int going(const DeleteConfirmationFacts& facts) { return facts.tracks - facts.keptTracks; }
+
+/// "none" for nothing.
+QString number(const DeleteConfirmationFacts& facts, std::string (*words)(const MergeCounts&)) {
+    if (!facts.merge) return {};
+    const std::string text = words(*facts.merge);
+    return text.empty() ? QStringLiteral("none") : QString::fromStdString(text);
+}
 
 } // namespace
 
@@ -26,12 +34,14 @@ QString heading(const DeleteConfirmationFacts& facts) {
 
 QString explanation(const DeleteConfirmationFacts& facts) {
     if (going(facts) == 0) return QCoreApplication::translate("Confirmation", "Nothing will be deleted.");
+    const QString undoing =
+        facts.embeddedLibrary
+            ? QCoreApplication::translate("Confirmation", "A copy of the library file is kept beside it.")
+            : QCoreApplication::translate("Confirmation", "iTunes cannot undo this.");
+    if (facts.mergeOffered) return undoing; // A box of its own tells of playlists.
     return countedText("Confirmation", "They also leave every playlist.", "It also leaves every playlist.",
                        going(facts)) +
-           QLatin1Char(' ') +
-           (facts.embeddedLibrary
-                ? QCoreApplication::translate("Confirmation", "A copy of the library file is kept beside it.")
-                : QCoreApplication::translate("Confirmation", "iTunes cannot undo this."));
+           QLatin1Char(' ') + undoing;
 }
 
 QString filesGo(const DeleteConfirmationFacts& facts) {
@@ -42,6 +52,16 @@ QString filesGo(const DeleteConfirmationFacts& facts) {
 QString fileOption(const DeleteConfirmationFacts& facts) {
     return countedText("Confirmation", "Move their &files to the Trash too",
                        "Move its &file to the Trash too", going(facts));
+}
+
+QString placesNumber(const DeleteConfirmationFacts& facts) { return number(facts, placesWords); }
+
+QString historyNumber(const DeleteConfirmationFacts& facts) { return number(facts, historyWords); }
+
+QString fillInNumber(const DeleteConfirmationFacts& facts) { return number(facts, fillInWords); }
+
+QString unmergedLine(const DeleteConfirmationFacts& facts) {
+    return facts.merge ? QString::fromStdString(leftWords(*facts.merge)) : QString();
 }
 
 QString deleteButton(const DeleteConfirmationFacts& facts) {

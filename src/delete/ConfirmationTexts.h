@@ -30,6 +30,12 @@ QString trashLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString sharedLine(const DeleteConfirmationFacts& facts, bool leaveShared);
 QString missingLine(const DeleteConfirmationFacts& facts);
 QString refusedLine(const DeleteConfirmationFacts& facts);
+/// What copies that stay are given; "" until it is known.
+QString placesNumber(const DeleteConfirmationFacts& facts);
+QString historyNumber(const DeleteConfirmationFacts& facts);
+QString fillInNumber(const DeleteConfirmationFacts& facts);
+/// The songs whose copies are left as they are.
+QString unmergedLine(const DeleteConfirmationFacts& facts);
 /// What will be lost for good, or else what is in the way of all.
 QString warning(const DeleteConfirmationFacts& facts, FilesToTrash files);
 

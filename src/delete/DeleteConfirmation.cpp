@@ -94,6 +94,13 @@ bool DeleteConfirmation::hasSharedOption() const {
     return deletesFiles() && m_facts.sharedFiles > 0 && !m_facts.filesPending && !m_facts.libraryUnknown;
 }
 
+MergeChoice DeleteConfirmation::mergeChoice() const {
+    if (!m_facts.mergeOffered) return {};
+    return {.places = !m_filesAlwaysGo && m_ui->delConfPlacesCK->isChecked(),
+            .history = m_ui->delConfHistoryCK->isChecked(),
+            .fillIns = m_ui->delConfFillInCK->isChecked()};
+}
+
 void DeleteConfirmation::showEvent(QShowEvent* event) {
     m_cancelButton->setFocus();
     QDialog::showEvent(event);
@@ -111,13 +118,15 @@ void DeleteConfirmation::setUpButtons() {
     m_cancelButton->setDefault(true);
     connect(m_cancelButton, &QPushButton::clicked, this, &DeleteConfirmation::reject);
     connect(m_deleteButton, &QPushButton::clicked, this,
-            [this] { Q_EMIT deleteRequested(deletesFiles(), leavesSharedFiles()); });
+            [this] { Q_EMIT deleteRequested(deletesFiles(), leavesSharedFiles(), mergeChoice()); });
 }
 
 void DeleteConfirmation::updateHeading() {
     const bool some = m_facts.tracks > m_facts.keptTracks;
     m_ui->delConfHeadingLabel->setText(confirmationTexts::heading(m_facts));
-    QString explanation = confirmationTexts::explanation(m_facts);
+    DeleteConfirmationFacts told = m_facts;
+    told.mergeOffered = m_facts.mergeOffered && !m_filesAlwaysGo; // No box there tells of playlists.
+    QString explanation = confirmationTexts::explanation(told);
     if (m_filesAlwaysGo && some) explanation += QChar::Space + confirmationTexts::filesGo(m_facts);
     // A line for each sentence of more than one line, so that no word or two are left for the last.
     const bool isLong = m_facts.embeddedLibrary || m_filesAlwaysGo;
@@ -134,7 +143,21 @@ void DeleteConfirmation::updateHeading() {
                              m_ui->delConfTextLabel->text().replace(QLatin1Char('\n'), QChar::Space));
 }
 
+void DeleteConfirmation::updateMerge() {
+    using namespace confirmationTexts;
+    m_ui->delConfMerge->setVisible(m_facts.mergeOffered);
+    m_ui->delConfPlacesCK->setVisible(!m_filesAlwaysGo);
+    m_ui->delConfPlacesLabel->setVisible(!m_filesAlwaysGo);
+    showLive(*m_ui->delConfPlacesLabel, placesNumber(m_facts));
+    showLive(*m_ui->delConfHistoryLabel, historyNumber(m_facts));
+    showLive(*m_ui->delConfFillInLabel, fillInNumber(m_facts));
+    const QString left = unmergedLine(m_facts);
+    m_ui->delConfUnmergedLabel->setVisible(!left.isEmpty());
+    showLive(*m_ui->delConfUnmergedLabel, left);
+}
+
 void DeleteConfirmation::updateLines() {
+    updateMerge();
     m_deleteButton->setEnabled(!deletesFiles() || !m_facts.filesPending);
     showWarning();
     showLines();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "delete/DeleteConfirmationFacts.h"
+#include "merge/MergeChoice.h"
 
 #include <QDialog>
 
@@ -19,9 +20,9 @@ class DeleteConfirmation;
 ///
 /// Return and Escape both cancel; deleting needs a deliberate key or click. Whether files go to the Trash is
 /// kept from one confirmation to the next; files that other tracks use are left each time again, unless
-/// somebody opens the options and says otherwise. The room of the lines that there can be about files is
-/// kept, so that nothing moves when the box is switched. Until the files have been looked at they cannot be
-/// deleted, but tracks can. Main thread.
+/// somebody opens the options and says otherwise. What copies that stay are given is kept from one to the
+/// next, too. The room of the lines that there can be about files is kept, so that nothing moves when the box
+/// is switched. Until the files have been looked at they cannot be deleted, but tracks can. Main thread.
 class DeleteConfirmation : public QDialog {
     Q_OBJECT
 
@@ -41,10 +42,12 @@ class DeleteConfirmation : public QDialog {
     /// Whether files that tracks which stay use too are kept, as they are until somebody looks for the
     /// option.
     bool leavesSharedFiles() const;
+    /// What the copies that stay are to be given of those that go.
+    MergeChoice mergeChoice() const;
 
   Q_SIGNALS:
     /// The user confirmed. Cancelling is `rejected`.
-    void deleteRequested(bool deleteFiles, bool leaveSharedFiles);
+    void deleteRequested(bool deleteFiles, bool leaveSharedFiles, songsweep::MergeChoice merge);
     /// The user wants to see the songs of the warning.
     void lostSongsRequested(songsweep::FilesToTrash files);
 
@@ -55,6 +58,7 @@ class DeleteConfirmation : public QDialog {
     void setUpButtons();
     void updateHeading();
     void updateLines();
+    void updateMerge();
     void showOptions();
     bool hasSharedOption() const;
     FilesToTrash filesToTrash() const;

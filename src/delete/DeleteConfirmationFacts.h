@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "merge/MergeCounts.h"
+
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace songsweep {
@@ -29,7 +32,9 @@ struct DeleteConfirmationFacts {
     int lastOfRecordings = 0;         ///< marked copies of whose recordings none stays, by their sounds
     bool embeddedLibrary = false;     ///< the library is a file that this program itself writes
     bool libraryUnknown = false;      ///< the other tracks could not be looked at, so that no file goes
-    bool filesPending = false;        ///< the files are still looked at: the file counts say nothing yet
+    bool mergeOffered = false;        ///< copies stay that may be given what others know
+    std::optional<MergeCounts> merge = {}; ///< what that comes to if all of it is chosen; once it is known
+    bool filesPending = false;             ///< the files are still looked at: the file counts say nothing yet
 
     /// Groups of which no copy is left; by what the search saw until the files were looked at.
     int songsLost(FilesToTrash files) const {

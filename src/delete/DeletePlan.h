@@ -42,7 +42,8 @@ struct SurveySources {
     LibraryLocations locations = {}; ///< not set: the library is not known
     Trash* trash = nullptr;          ///< null: nobody foresees what it refuses
     LibraryForesight libraryForesight = [](const CleanupSize&) { return CleanupRoom(); };
-    TracksOfId tracksOfId = {}; ///< not set: the rows are all that is known
+    TracksOfId tracksOfId = {};  ///< not set: the rows are all that is known
+    MergePlanner planMerge = {}; ///< not set: nothing is merged
 };
 
 /// The file of a marked track as it was when it was looked at.

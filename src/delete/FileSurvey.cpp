@@ -18,19 +18,35 @@ FileSurvey::FileSurvey(DisplayedList list, RowsLock lock, DeleteConfirmationFact
     , m_cleanup(cleanup)
     , m_center(center) {}
 
-SurveyedRows FileSurvey::takeRows() {
+/// What is taken from the rows, for the files and for the copies that stay.
+struct FileSurvey::Rows {
+    SurveyedRows files;
+    SongsToMerge songs;
+};
+
+FileSurvey::Rows FileSurvey::takeRows() {
     const std::lock_guard reading(*m_rowsLock);
     const DisplayedList list = std::exchange(m_list, {});
-    return SurveyedRows(list.rows, list.storage, [this] { return isCancelled(); });
+    static const std::vector<TrackRecord*> none;
+    return {SurveyedRows(list.rows, list.storage, [this] { return isCancelled(); }),
+            SongsToMerge(m_facts.mergeOffered ? list.rows : none, list.storage)};
+}
+
+/// Nothing is told where the library cannot be read, as the deletion will say.
+void FileSurvey::countMerge(const SongsToMerge& songs) {
+    if (!m_facts.mergeOffered || isCancelled()) return;
+    const auto plan = m_sources.planMerge(songs, {.places = true, .history = true, .fillIns = true});
+    if (plan) m_facts.merge = plan.value().counts;
 }
 
 /// What keeps the library from being locked but another program, the look at the library tells.
 void FileSurvey::main() {
     m_facts.filesPending = false;
-    const SurveyedRows rows = takeRows();
+    const Rows rows = takeRows();
     const Result<void> locked = m_cleanup.lock();
-    auto plan = surveyFiles(rows, m_sources, m_facts, [this] { return isCancelled(); });
+    auto plan = surveyFiles(rows.files, m_sources, m_facts, [this] { return isCancelled(); });
     if (!plan) return;
+    countMerge(rows.songs);
     m_facts.libraryInUse = !locked && locked.error().code == Error::Code::busy;
     if (m_facts.libraryInUse) m_facts.libraryObstacle = locked.error().message;
     auto answer = std::make_shared<SurveyAnswer>(SurveyAnswer{std::move(*plan), m_facts});

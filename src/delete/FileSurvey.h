@@ -42,7 +42,9 @@ class FileSurvey final : public Operation {
     void main() override;
 
   private:
-    SurveyedRows takeRows();
+    struct Rows;
+    Rows takeRows();
+    void countMerge(const SongsToMerge& songs);
 
     DisplayedList m_list;
     RowsLock m_rowsLock;

@@ -2,6 +2,7 @@
 #include "delete/MergeProc.h"
 
 #include "delete/Cleanup.h"
+#include "library/DisplayedList.h"
 #include "library/WorkerEvent.h"
 #include "merge/MergeTexts.h"
 #include "operations/NotificationCenter.h"
@@ -36,8 +37,8 @@ MergeReport foreseenMerge(const MergePlan& plan) {
     return report;
 }
 
-MergeProc::MergeProc(SongsToMerge songs, MergeChoice choice, MergeServices services)
-    : m_songs(std::move(songs))
+MergeProc::MergeProc(const DisplayedList& list, MergeChoice choice, MergeServices services)
+    : m_list(list)
     , m_choice(choice)
     , m_services(std::move(services)) {}
 
@@ -53,7 +54,7 @@ void MergeProc::main() {
 
 Result<MergePlan> MergeProc::begin() {
     if (auto begun = m_services.cleanup.beginMerge(); !begun) return begun.error();
-    return m_services.plan(m_songs, m_choice);
+    return m_services.plan(SongsToMerge(m_list.rows, m_list.storage), m_choice);
 }
 
 void MergeProc::mergeSongs(const MergePlan& plan) {

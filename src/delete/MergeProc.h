@@ -15,6 +15,7 @@ namespace songsweep {
 class AppleScript;
 class Cleanup;
 class Log;
+struct DisplayedList;
 struct TrackRecord;
 struct WorkerEvent;
 template <typename Event>
@@ -53,7 +54,8 @@ struct MergeServices {
 /// back where it was cancelled. The copies of a song whose text failed are in `failed`, and must stay.
 class MergeProc final : public Operation {
   public:
-    MergeProc(SongsToMerge songs, MergeChoice choice, MergeServices services);
+    /// Of the list, which outlives it, and does not change meanwhile.
+    MergeProc(const DisplayedList& list, MergeChoice choice, MergeServices services);
 
     void main() override;
 
@@ -64,7 +66,7 @@ class MergeProc final : public Operation {
     std::string run(const SongMerge& song);
     void postEnd();
 
-    SongsToMerge m_songs;
+    const DisplayedList& m_list;
     MergeChoice m_choice;
     MergeServices m_services;
     std::shared_ptr<MergeReport> m_report = std::make_shared<MergeReport>();

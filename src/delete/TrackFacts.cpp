@@ -19,6 +19,30 @@ bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group) {
     });
 }
 
+namespace {
+
+bool losesSomeCopies(const std::vector<TrackRecord*>& rows, RowGroup group) {
+    const auto first = rows.begin() + static_cast<std::ptrdiff_t>(group.first);
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(group.end);
+    const auto isMarked = [](const TrackRecord* record) { return record->checkbox; };
+    return std::any_of(first, end, isMarked) && !std::all_of(first, end, isMarked);
+}
+
+int countGroups(const std::vector<TrackRecord*>& rows,
+                bool (*counts)(const std::vector<TrackRecord*>& rows, RowGroup group)) {
+    std::atomic<int> count = 0;
+    inParts(rows, [&](RowGroup part) {
+        for (std::size_t row = part.first; row < part.end;) {
+            const RowGroup group = {row, groupEnd(rows, row)};
+            if (counts(rows, group)) ++count;
+            row = group.end;
+        }
+    });
+    return count;
+}
+
+} // namespace
+
 DeleteConfirmationFacts trackFacts(const std::vector<TrackRecord*>& rows) {
     DeleteConfirmationFacts facts;
     facts.tracks = checkedCount(rows);
@@ -33,16 +57,10 @@ std::unordered_set<std::int32_t> songsLosingEveryCopy(const std::vector<TrackRec
     return songs;
 }
 
-int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) {
-    std::atomic<int> count = 0;
-    inParts(rows, [&](RowGroup part) {
-        for (std::size_t row = part.first; row < part.end;) {
-            const RowGroup group = {row, groupEnd(rows, row)};
-            if (losesEveryCopy(rows, group)) ++count;
-            row = group.end;
-        }
-    });
-    return count;
+int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows) { return countGroups(rows, losesEveryCopy); }
+
+int groupsLosingSomeCopies(const std::vector<TrackRecord*>& rows) {
+    return countGroups(rows, losesSomeCopies);
 }
 
 } // namespace songsweep

@@ -25,6 +25,9 @@ bool losesEveryCopy(const std::vector<TrackRecord*>& rows, RowGroup group);
 /// The groups of which no copy is left so, by their numbers.
 std::unordered_set<std::int32_t> songsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
 
+/// The number of groups that lose copies and keep some, by the marks alone.
+int groupsLosingSomeCopies(const std::vector<TrackRecord*>& rows);
+
 /// The number of groups of which no copy is left so.
 int groupsLosingEveryCopy(const std::vector<TrackRecord*>& rows);
 

@@ -3,6 +3,7 @@
 
 #include "merge/CopyFacts.h"
 #include "merge/MergeChoice.h"
+#include "merge/MergeCounts.h"
 #include "merge/SongsToMerge.h"
 
 #include <cstddef>
@@ -57,19 +58,6 @@ struct SongMerge {
     std::vector<MergedPlaces> places;
 
     bool isNothing() const { return values.empty() && places.empty(); }
-};
-
-/// What all of it comes to, for people who decide.
-struct MergeCounts {
-    std::size_t places = 0;
-    std::size_t playlists = 0; ///< in which they are
-    std::int64_t plays = 0;
-    std::size_t ratings = 0; ///< songs that get a better one
-    std::size_t fillIns = 0; ///< values that a kept copy lacks
-    std::size_t keepSeveral = 0;
-    std::size_t unclear = 0; ///< songs of which a copy shares its persistent ID, or cannot be read
-
-    bool operator==(const MergeCounts&) const = default;
 };
 
 /// What copies that stay are given of those that go, all songs of it: a value, made before the first text.

@@ -38,6 +38,22 @@ inline std::unique_ptr<QDialog> deleteConfirmation() {
     return sheet;
 }
 
+inline std::unique_ptr<QDialog> mergingConfirmation() {
+    auto sheet = std::make_unique<DeleteConfirmation>();
+    DeleteConfirmationFacts facts;
+    facts.tracks = facts.filesToTrash = 123;
+    facts.embeddedLibrary = facts.mergeOffered = true;
+    facts.merge = MergeCounts{.places = 1234,
+                              .playlists = 123,
+                              .plays = 12345,
+                              .ratings = 1234,
+                              .fillIns = 1234,
+                              .keepSeveral = 1234,
+                              .unclear = 0};
+    sheet->setFacts(facts);
+    return sheet;
+}
+
 inline std::unique_ptr<QDialog> markDialog() {
     auto dialog = std::make_unique<MarkDialog>();
     dialog->selectMissingItems();
@@ -79,6 +95,7 @@ inline const std::array allDialogs = {
     Opener{"Parameters", parametersDialog, 440},
     Opener{"Mark", markDialog, 500},
     Opener{"Delete", deleteConfirmation, 464},
+    Opener{"Merge", mergingConfirmation, 560},
     Opener{"Restore", restoreDialog, 560},
     Opener{"Progress", [] { return std::make_unique<ProgressSheet>(); }, 400},
     Opener{"About", [] { return std::make_unique<AboutDialog>(); }, 380}};

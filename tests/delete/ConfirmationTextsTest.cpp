@@ -85,6 +85,20 @@ TEST(ConfirmationTexts, SpeakOfTheLibraryAndItsCopyWhereItIsEmbedded) {
         QStringLiteral("They also leave every playlist. A copy of the library file is kept beside it."));
 }
 
+TEST(ConfirmationTexts, TellWhatTheCopyThatStaysIsGivenOnceItIsKnown) {
+    DeleteConfirmationFacts facts = counts(3);
+    facts.mergeOffered = true;
+    EXPECT_EQ(texts::explanation(facts), QStringLiteral("iTunes cannot undo this."));
+    EXPECT_EQ(texts::placesNumber(facts), QString());
+    EXPECT_EQ(texts::unmergedLine(facts), QString());
+    facts.merge = MergeCounts{
+        .places = 12, .playlists = 5, .plays = 31, .ratings = 4, .fillIns = 0, .keepSeveral = 2, .unclear = 0};
+    EXPECT_EQ(texts::placesNumber(facts), QStringLiteral("12 places in 5 playlists"));
+    EXPECT_EQ(texts::historyNumber(facts), QStringLiteral("31 plays, 4 ratings"));
+    EXPECT_EQ(texts::fillInNumber(facts), QStringLiteral("none"));
+    EXPECT_EQ(texts::unmergedLine(facts), QStringLiteral("2 songs keep two copies or more: not merged"));
+}
+
 TEST(ConfirmationTexts, AddSharedFilesToTheTrashWhenTheyAreNotLeft) {
     EXPECT_EQ(texts::trashLine(counts(1), false), QStringLiteral("2 files, 6.2 MB, go to the Trash."));
     EXPECT_EQ(texts::sharedLine(counts(1), false),

@@ -70,6 +70,22 @@ TEST_F(FileSurveyTest, AnswersWithThePlanAndTheCompletedFacts) {
     EXPECT_EQ(m_answer->plan.files.size(), 1U);
 }
 
+TEST_F(FileSurveyTest, CountsWhatCopiesThatStayAreToBeGivenWhereThatIsOffered) {
+    const auto planned = [](const SongsToMerge& songs, const MergeChoice& choice) -> Result<MergePlan> {
+        EXPECT_EQ(songs.songs.size(), 1U);
+        EXPECT_TRUE(choice.places && choice.history && choice.fillIns);
+        return MergePlan{{}, {.places = 3}};
+    };
+    for (const bool isOffered : {true, false}) {
+        SurveySources sources{m_files};
+        sources.planMerge = planned;
+        FileSurvey(m_list, std::make_shared<std::mutex>(), {.mergeOffered = isOffered}, sources, m_cleanup,
+                   m_center)
+            .main();
+        EXPECT_EQ(m_answer->facts.merge, isOffered ? std::optional(MergeCounts{.places = 3}) : std::nullopt);
+    }
+}
+
 TEST_F(FileSurveyTest, LocksTheLibraryForTheDeletionThatMayFollow) {
     bool wasLocked = false;
     survey([&](const LocationVisitor&) {

@@ -51,6 +51,19 @@ TEST_F(TrackFactsTest, AnEntryThatSharesItsIdWithAMarkedOneStays) {
     EXPECT_EQ(lost(), 0);
 }
 
+TEST_F(TrackFactsTest, AGroupLosesSomeCopiesWhereOthersStay) {
+    add(1, "A", true);
+    add(1, "B", false);
+    add(1, "C", false);
+    add(2, "D", true);
+    add(2, "E", true);
+    add(3, "F", false);
+    add(3, "G", false);
+    add(4, "H", false);
+    add(4, "I", true);
+    EXPECT_EQ(groupsLosingSomeCopies(m_list.rows), 2);
+}
+
 TEST_F(TrackFactsTest, TheFactsCountMarkedTracksAndLostGroupsAndNoFiles) {
     addFile("A", true, "a.mp3");
     addFile("B", true, "b.mp3");

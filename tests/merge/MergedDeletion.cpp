@@ -74,7 +74,7 @@ MergeReport MergedDeletion::merge(const MergeChoice& choice, Cleanup& cleanup, A
         return m_scripts->withLibrary(
             [&](LibraryDocument& library) { return planMerge(library, songs, chosen); });
     };
-    MergeProc(SongsToMerge(m_list.rows), choice, {*m_center, scripts, m_log, cleanup, plan}).main();
+    MergeProc(m_list, choice, {*m_center, scripts, m_log, cleanup, plan}).main();
     EXPECT_EQ(m_merged->notBegun, "");
     return *m_merged;
 }
