@@ -160,6 +160,10 @@ class AppController {
     }
     const DisplayedList& tableDataSource() const { return m_results.tableDataSource(); }
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_results.lastMarkChoice(); }
+    /// The songs of which copies that stay can be given what the marked ones know.
+    SongsToMerge songsToMerge() const {
+        return SongsToMerge(tableDataSource().rows, tableDataSource().storage, m_results.keptByReason());
+    }
     int getCheckedCount() const { return m_results.getCheckedCount(); }
     int listedCount() const { return m_search.listedCount(); }
     const DeleteReport* lastDeleteReport() const { return m_deletion.lastReport().get(); }

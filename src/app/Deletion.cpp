@@ -71,7 +71,9 @@ void Deletion::deleteButtonClick() {
 
 void Deletion::startSurvey(const DeleteConfirmationFacts& facts) {
     const DisplayedList& list = m_results.tableDataSource();
-    auto survey = std::make_unique<FileSurvey>(list, m_rowsLock, facts, m_services.surveySources(),
+    SurveySources sources = m_services.surveySources();
+    sources.keptByReason = m_results.keptByReason();
+    auto survey = std::make_unique<FileSurvey>(list, m_rowsLock, facts, std::move(sources),
                                                m_services.cleanup, m_workers.center);
     m_pendingSurvey = survey->serial();
     m_surveys.add(std::move(survey));
@@ -142,8 +144,8 @@ bool Deletion::startMerge() {
     Progress& progress = m_progress.progress();
     progress.total = songs;
     progress.beginPhase(0, 100);
-    const MergeServices services = {m_workers.center, m_services.scripts, m_services.log, m_services.cleanup,
-                                    m_services.planMerge};
+    const MergeServices services = {m_workers.center,   m_services.scripts,   m_services.log,
+                                    m_services.cleanup, m_services.planMerge, m_results.keptByReason()};
     m_workers.queue.add(std::make_unique<MergeProc>(m_results.tableDataSource(), m_mergeChoice, services));
     m_progress.setText(ProgressBar::progress, words("Deletion", "Merging..."));
     return true;

@@ -2,6 +2,7 @@
 #include "app/Results.h"
 
 #include "app/views/ResultsView.h"
+#include "dupes/KeptByReason.h"
 #include "dupes/RecordingGroups.h"
 #include "sound/SoundComparison.h"
 
@@ -68,6 +69,13 @@ void Results::setMarkedBy(std::optional<MarkChoice> rule) {
         m_reasons = std::make_unique<MarkReasons>(m_tableDataSource, *m_lastMark,
                                                   m_soundsCompared ? MarkReasons::Recordings::compared
                                                                    : MarkReasons::Recordings::unknown);
+}
+
+KeptByReason Results::keptByReason() const {
+    if (!m_reasons) return {};
+    return [choice = m_reasons->choice()](const std::vector<TrackRecord*>& copies) {
+        return songsweep::keptByReason(copies, choice);
+    };
 }
 
 std::string Results::markReason(const TrackRecord& record) const {

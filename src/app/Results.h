@@ -6,6 +6,7 @@
 #include "dupes/MarkHistory.h"
 #include "dupes/MarkReasons.h"
 #include "library/DisplayedList.h"
+#include "merge/SongsToMerge.h"
 
 #include <cstddef>
 #include <functional>
@@ -37,6 +38,8 @@ class Results {
     /// The rule that set the present marks, for their reasons; nothing once a mark or the order has changed,
     /// since the rule might keep another copy now.
     const std::optional<MarkChoice>& lastMarkChoice() const { return m_lastMark; }
+    /// Of the rule that has marked last; not set where none has. Good on any thread.
+    KeptByReason keptByReason() const;
     int getCheckedCount() const;
     /// Whether the delete button is on, as the last status said.
     bool isDeleteEnabled() const { return m_deleteEnabled; }

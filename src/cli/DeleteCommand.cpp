@@ -61,8 +61,8 @@ std::optional<DeletePlan> planOf(LibrarySession& session, const DeleteOptions& o
 /// What the copies that stay would be given.
 Result<void> foreseeMerge(LibrarySession& session, const DeleteOptions& options, DeletePlan& plan) {
     if (!options.merge.isAny()) return {};
-    const SongsToMerge songs(session.controller().tableDataSource().rows);
-    const auto merge = session.program().controllerServices().planMerge(songs, options.merge);
+    const auto merge =
+        session.program().controllerServices().planMerge(session.controller().songsToMerge(), options.merge);
     if (!merge) return merge.error();
     plan.merge = foreseenMerge(merge.value());
     return {};

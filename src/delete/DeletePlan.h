@@ -44,6 +44,7 @@ struct SurveySources {
     LibraryForesight libraryForesight = [](const CleanupSize&) { return CleanupRoom(); };
     TracksOfId tracksOfId = {};  ///< not set: the rows are all that is known
     MergePlanner planMerge = {}; ///< not set: nothing is merged
+    KeptByReason keptByReason = {};
 };
 
 /// The file of a marked track as it was when it was looked at.

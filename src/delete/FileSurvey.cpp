@@ -29,7 +29,7 @@ FileSurvey::Rows FileSurvey::takeRows() {
     const DisplayedList list = std::exchange(m_list, {});
     static const std::vector<TrackRecord*> none;
     return {SurveyedRows(list.rows, list.storage, [this] { return isCancelled(); }),
-            SongsToMerge(m_facts.mergeOffered ? list.rows : none, list.storage)};
+            SongsToMerge(m_facts.mergeOffered ? list.rows : none, list.storage, m_sources.keptByReason)};
 }
 
 /// Nothing is told where the library cannot be read, as the deletion will say.

@@ -54,7 +54,7 @@ void MergeProc::main() {
 
 Result<MergePlan> MergeProc::begin() {
     if (auto begun = m_services.cleanup.beginMerge(); !begun) return begun.error();
-    return m_services.plan(SongsToMerge(m_list.rows, m_list.storage), m_choice);
+    return m_services.plan(SongsToMerge(m_list.rows, m_list.storage, m_services.keptByReason), m_choice);
 }
 
 void MergeProc::mergeSongs(const MergePlan& plan) {

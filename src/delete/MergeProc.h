@@ -44,6 +44,7 @@ struct MergeServices {
     Log& log;
     Cleanup& cleanup;
     MergePlanner plan;
+    KeptByReason keptByReason = {}; ///< not set: a song that keeps several copies is left as it is
 };
 
 /// Gives the copies that stay what the marked ones know, before a deletion takes these: one text a song.

@@ -33,6 +33,7 @@ class MarkReasons {
     /// it stays, "kept: 320 against 128". Empty where there is nothing to say, as of the only copy of a
     /// recording, which no rule looks at: see recordingReason().
     std::string of(const TrackRecord& record);
+    const MarkChoice& choice() const { return m_verdicts.choice(); }
     /// For whoever asks of every record: a pass over the rows, and then none for each question.
     void index();
 

@@ -28,6 +28,11 @@ std::string MarkVerdicts::reasonToKeep(std::size_t row) {
     return words("MarkReason", "kept: one copy stays");
 }
 
+const TrackRecord* MarkVerdicts::keptOf(std::size_t row) {
+    (void)of(row);
+    return m_marks.kept == noRow ? nullptr : m_rows.at(m_marks.kept);
+}
+
 /// Of the kept copy against another one, which loses: the values in the reason of that one change places.
 std::string MarkVerdicts::valuesAgainst(std::size_t other) const {
     const TrackRecord& kept = *m_rows.at(m_marks.kept);

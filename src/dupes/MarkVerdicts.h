@@ -18,10 +18,14 @@ class MarkVerdicts {
   public:
     MarkVerdicts(const TrackRows& rows, MarkChoice choice);
 
+    const MarkChoice& choice() const { return m_choice; }
+
     MarkVerdict of(std::size_t row);
     /// Why a row stays, "kept: 320 against 128", by the values that the rule compares; empty for a row that
     /// the rule checks.
     std::string reasonToKeep(std::size_t row);
+    /// The copy that the rule keeps of the row's group; null where none works.
+    const TrackRecord* keptOf(std::size_t row);
 
   private:
     void evaluateGroupOf(std::size_t row);

@@ -5,17 +5,24 @@
 #include "library/TrackStorage.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace songsweep {
 
-/// The songs of which copies go and exactly one stays, taken from the rows at one moment.
+/// Of the copies of one song, marked ones among them, the one that the reasons of all these marks name as the
+/// kept one; null where they do not. Any thread.
+using KeptByReason = std::function<const TrackRecord*(const std::vector<TrackRecord*>& copies)>;
+
+/// The songs of which copies go and one is to have what they know, taken from the rows at one moment.
 ///
-/// Where several copies stay nobody knows whose the places and plays are to be, so that such a song is left
-/// as it is, and counted. A copy that cannot be named to iTunes stays, whatever its mark. The records are
-/// keys and never read through, so that another thread may work with this while the rows change; the texts
-/// are those of the storage, which is kept. A value; linear in the rows.
+/// That is the only copy that stays, or else the one that the marks' reasons name. Where several stay and
+/// none is named, nobody knows whose the places and plays are to be, so that such a song is left as it is,
+/// and counted. Where sounds were compared a song is a recording. A copy that cannot be named to iTunes
+/// stays, whatever its mark. The records are keys and never read through, so that another thread may work
+/// with this while the rows change; the texts are those of the storage, which is kept. A value; linear in the
+/// rows.
 struct SongsToMerge {
     struct Copy {
         const TrackRecord* record = nullptr;
@@ -28,7 +35,8 @@ struct SongsToMerge {
     };
 
     explicit SongsToMerge(const std::vector<TrackRecord*>& rows,
-                          std::shared_ptr<const TrackStorage> kept = nullptr);
+                          std::shared_ptr<const TrackStorage> kept = nullptr,
+                          const KeptByReason& keptByReason = {});
 
     std::vector<Song> songs;
     std::size_t keepSeveral = 0; ///< songs that lose copies and keep two or more

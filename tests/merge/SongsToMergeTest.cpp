@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <deque>
 
 namespace songsweep {
@@ -42,6 +43,38 @@ TEST_F(SongsToMergeTest, AreThoseThatKeepExactlyOneCopy) {
     EXPECT_EQ(songs.songs[0].removed[1].number, 1U);
     EXPECT_EQ(songs.songs[1].removed[0].number, 5U) << "numbers are those among all marked rows";
     EXPECT_EQ(songs.keepSeveral, 1U);
+}
+
+TEST_F(SongsToMergeTest, OfSeveralThatStayTheOneIsKeptThatTheReasonsName) {
+    add(1, "A1", true);
+    add(1, "A2", false);
+    add(1, "A3", false);
+    const auto third = [](const std::vector<TrackRecord*>& copies) -> const TrackRecord* {
+        return copies[2];
+    };
+    const SongsToMerge songs(m_rows, nullptr, third);
+    ASSERT_EQ(songs.songs.size(), 1U);
+    EXPECT_EQ(songs.songs[0].kept.pid, "A3");
+    EXPECT_EQ(songs.keepSeveral, 0U);
+    const auto none = [](const std::vector<TrackRecord*>&) -> const TrackRecord* { return nullptr; };
+    EXPECT_EQ(SongsToMerge(m_rows, nullptr, none).keepSeveral, 1U);
+}
+
+TEST_F(SongsToMergeTest, AreRecordingsWhereSoundsWereCompared) {
+    add(1, "A1", true);
+    add(1, "B1", false);
+    add(1, "A2", false);
+    add(1, "B2", true);
+    add(1, "C1", true);
+    const std::array sets{1, 2, 1, 2, 0};
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
+        m_rows[row]->sound = {sets[row], SoundVerdict::same, 100};
+    const SongsToMerge songs(m_rows);
+    ASSERT_EQ(songs.songs.size(), 2U) << "a copy that could not be compared gives nobody anything";
+    EXPECT_EQ(songs.songs[0].kept.pid, "A2");
+    EXPECT_EQ(songs.songs[0].removed.at(0).pid, "A1");
+    EXPECT_EQ(songs.songs[1].kept.pid, "B1");
+    EXPECT_EQ(songs.songs[1].removed.at(0).number, 1U);
 }
 
 TEST_F(SongsToMergeTest, ACopyThatCannotBeNamedStays) {
