@@ -132,7 +132,7 @@ void Deletion::beginDelete() {
 
 /// Songs of which copies go and others stay, where these can be given anything.
 int Deletion::songsToMerge() const {
-    if (!m_services.planMerge || !m_services.embeddedLibrary()) return 0;
+    if (!m_services.planMerge) return 0;
     return groupsLosingSomeCopies(m_results.tableDataSource().rows);
 }
 

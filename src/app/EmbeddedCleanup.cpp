@@ -63,10 +63,12 @@ Result<void> EmbeddedCleanup::beginMerge() {
 }
 
 void EmbeddedCleanup::noteMerge(const MergedSong& song) {
+    if (!m_isEmbedded()) return;
     m_scripts.withCleanup([&](LibraryCleanup& cleanup) { cleanup.noteMerge(song); });
 }
 
 void EmbeddedCleanup::abandonMerge() {
+    if (!m_isEmbedded()) return;
     m_scripts.withCleanup([](LibraryCleanup& cleanup) { cleanup.abandonMerge(); });
 }
 

@@ -187,11 +187,11 @@ bool Program::areTracksOfITunes(const std::vector<TrackRecord*>& records) {
     return same && same.value();
 }
 
-/// Of the system's iTunes nobody reads here what is to be merged, so that nothing is.
+/// What the system's iTunes knows stands in the library file that it writes.
 Result<MergePlan> Program::planMergeOf(const SongsToMerge& songs, const MergeChoice& choice) {
-    if (!m_scripts.usesEmbedded()) return MergePlan();
+    const auto road = m_scripts.usesEmbedded() ? MergeRoad::libraryFile : MergeRoad::iTunes;
     return m_scripting.withLibrary(
-        [&](LibraryDocument& library) { return planMerge(library, songs, choice); });
+        [&](LibraryDocument& library) { return planMerge(library, songs, choice, road); });
 }
 
 /// The system's iTunes is not asked: it gives no ID twice.

@@ -60,6 +60,11 @@ QString historyNumber(const DeleteConfirmationFacts& facts) { return number(fact
 
 QString fillInNumber(const DeleteConfirmationFacts& facts) { return number(facts, fillInWords); }
 
+QString iTunesLine(const DeleteConfirmationFacts& facts) {
+    if (facts.embeddedLibrary) return {};
+    return QStringLiteral("In iTunes it goes to the end of each playlist, and its date added stays.");
+}
+
 QString unmergedLine(const DeleteConfirmationFacts& facts) {
     return facts.merge ? QString::fromStdString(leftWords(*facts.merge)) : QString();
 }

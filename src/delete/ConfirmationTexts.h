@@ -34,6 +34,8 @@ QString refusedLine(const DeleteConfirmationFacts& facts);
 QString placesNumber(const DeleteConfirmationFacts& facts);
 QString historyNumber(const DeleteConfirmationFacts& facts);
 QString fillInNumber(const DeleteConfirmationFacts& facts);
+/// What the system's iTunes does otherwise; "" for a library file.
+QString iTunesLine(const DeleteConfirmationFacts& facts);
 /// The songs whose copies are left as they are.
 QString unmergedLine(const DeleteConfirmationFacts& facts);
 /// What will be lost for good, or else what is in the way of all.

@@ -30,6 +30,12 @@ void hideKeepingRoom(QLabel& label, bool keepsRoom) {
     label.hide();
 }
 
+/// "" hides it.
+void showLine(QLabel& label, const QString& text) {
+    label.setVisible(!text.isEmpty());
+    showLive(label, text);
+}
+
 /// Shows each line that has something to say, and keeps room below them for as many as there can be. The
 /// others go first: the sheet grows at once when one is shown.
 void showInLabels(const QStringList& lines, const QList<QLabel*>& labels, int mostLines) {
@@ -151,9 +157,8 @@ void DeleteConfirmation::updateMerge() {
     showLive(*m_ui->delConfPlacesLabel, placesNumber(m_facts));
     showLive(*m_ui->delConfHistoryLabel, historyNumber(m_facts));
     showLive(*m_ui->delConfFillInLabel, fillInNumber(m_facts));
-    const QString left = unmergedLine(m_facts);
-    m_ui->delConfUnmergedLabel->setVisible(!left.isEmpty());
-    showLive(*m_ui->delConfUnmergedLabel, left);
+    showLine(*m_ui->delConfITunesLabel, iTunesLine(m_facts));
+    showLine(*m_ui->delConfUnmergedLabel, unmergedLine(m_facts));
 }
 
 void DeleteConfirmation::updateLines() {

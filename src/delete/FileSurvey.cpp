@@ -32,10 +32,11 @@ FileSurvey::Rows FileSurvey::takeRows() {
             SongsToMerge(m_facts.mergeOffered ? list.rows : none, list.storage, m_sources.keptByReason)};
 }
 
-/// Nothing is told where the library cannot be read, as the deletion will say.
+/// Where the library cannot be read, nobody knows what to give.
 void FileSurvey::countMerge(const SongsToMerge& songs) {
     if (!m_facts.mergeOffered || isCancelled()) return;
     const auto plan = m_sources.planMerge(songs, {.places = true, .history = true, .fillIns = true});
+    m_facts.mergeOffered = plan.hasValue();
     if (plan) m_facts.merge = plan.value().counts;
 }
 

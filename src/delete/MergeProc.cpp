@@ -61,14 +61,14 @@ void MergeProc::mergeSongs(const MergePlan& plan) {
     m_report->counts = plan.counts;
     for (const SongMerge& song : plan.songs) {
         if (isCancelled()) return;
-        mergeSong(song);
+        mergeSong(song, plan.road);
         m_services.center.post({EventName::mergeAddCount, {}, this});
     }
 }
 
 /// Also one that failed is told to the clean-up, which takes back what its text has done.
-void MergeProc::mergeSong(const SongMerge& song) {
-    const std::string problem = run(song);
+void MergeProc::mergeSong(const SongMerge& song, MergeRoad road) {
+    const std::string problem = run(song, road);
     m_services.cleanup.noteMerge(mergedSong(song));
     if (problem.empty()) return noteGiven(song, *m_report);
     m_services.log.line("Not merged : " + song.copies.kept.pid.string() + " : " + problem);
@@ -78,8 +78,8 @@ void MergeProc::mergeSong(const SongMerge& song) {
 }
 
 /// The problem, "" for none.
-std::string MergeProc::run(const SongMerge& song) {
-    const Result<Descriptor> result = m_services.scripts.executeAndReturnError(mergeTexts::mergeSong(song));
+std::string MergeProc::run(const SongMerge& song, MergeRoad road) {
+    const auto result = m_services.scripts.executeAndReturnError(mergeTexts::mergeSong(song, road));
     return result ? result.value().stringValue().value_or("") : result.error().message;
 }
 

@@ -63,8 +63,8 @@ class MergeProc final : public Operation {
   private:
     Result<MergePlan> begin();
     void mergeSongs(const MergePlan& plan);
-    void mergeSong(const SongMerge& song);
-    std::string run(const SongMerge& song);
+    void mergeSong(const SongMerge& song, MergeRoad road);
+    std::string run(const SongMerge& song, MergeRoad road);
     void postEnd();
 
     const DisplayedList& m_list;

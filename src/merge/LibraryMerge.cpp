@@ -18,9 +18,11 @@ using Position = LibraryDocument::TrackPosition;
 
 class Planner {
   public:
-    Planner(LibraryDocument& library, const MergeChoice& choice)
+    Planner(LibraryDocument& library, const MergeChoice& choice, MergeRoad road)
         : m_library(library)
-        , m_choice(choice) {}
+        , m_choice(choice) {
+        m_plan.road = road;
+    }
 
     void add(const SongsToMerge::Song& song) {
         const auto kept = onlyTrackOf(song.kept);
@@ -72,7 +74,7 @@ class Planner {
             merge.removed.push_back(*facts);
         }
         if (!keptFacts) return false;
-        merge.values = mergedValues(*keptFacts, merge.removed, m_choice);
+        merge.values = mergedValues(*keptFacts, merge.removed, m_choice, m_plan.road);
         return true;
     }
 
@@ -92,6 +94,7 @@ class Planner {
         for (const auto& [number, items] : itemsOfSong) {
             SongMerge& song = m_plan.songs[number];
             MergedPlaces places = mergedPlaces(playlist + 1, items, song.copies.removed.size());
+            places.playlistId = m_library.playlist(playlist).persistentId;
             const auto taken = std::accumulate(places.taken.begin(), places.taken.end(), std::size_t{0});
             isConcerned = isConcerned || taken > 0;
             m_plan.counts.places += taken;
@@ -118,8 +121,9 @@ class Planner {
 
 } // namespace
 
-Result<MergePlan> planMerge(LibraryDocument& library, const SongsToMerge& songs, const MergeChoice& choice) {
-    Planner planner(library, choice);
+Result<MergePlan> planMerge(LibraryDocument& library, const SongsToMerge& songs, const MergeChoice& choice,
+                            MergeRoad road) {
+    Planner planner(library, choice, road);
     for (const SongsToMerge::Song& song : songs.songs)
         planner.add(song);
     planner.addPlaces();

@@ -13,6 +13,7 @@ class LibraryDocument;
 /// Reads the entries of the copies, and goes once over the items of the playlists that people fill. A song of
 /// which a copy is not the only track of its persistent ID is left as it is, and counted. Good while the
 /// library is the same.
-Result<MergePlan> planMerge(LibraryDocument& library, const SongsToMerge& songs, const MergeChoice& choice);
+Result<MergePlan> planMerge(LibraryDocument& library, const SongsToMerge& songs, const MergeChoice& choice,
+                            MergeRoad road = MergeRoad::libraryFile);
 
 } // namespace songsweep

@@ -62,7 +62,7 @@ class Values {
 } // namespace
 
 std::vector<MergedValue> mergedValues(const CopyFacts& kept, const std::vector<CopyFacts>& removed,
-                                      const MergeChoice& choice) {
+                                      const MergeChoice& choice, MergeRoad road) {
     const auto isMore = [](auto one, auto other) { return one > other; };
     const auto isEarlier = [](const auto& one, const auto& other) {
         return one && (!other || *one < *other);
@@ -75,7 +75,7 @@ std::vector<MergedValue> mergedValues(const CopyFacts& kept, const std::vector<C
         values.addBest(Property::albumRating, &CopyFacts::albumRating, isMore);
         values.addBest(Property::lastPlayed, &CopyFacts::lastPlayed, isMore);
         values.addBest(Property::lastSkipped, &CopyFacts::lastSkipped, isMore);
-        values.addBest(Property::added, &CopyFacts::added, isEarlier);
+        if (road == MergeRoad::libraryFile) values.addBest(Property::added, &CopyFacts::added, isEarlier);
         values.addBest(Property::loved, &CopyFacts::isLoved, isMore);
         values.addBest(Property::enabled, &CopyFacts::isEnabled, isMore);
     }
@@ -85,7 +85,7 @@ std::vector<MergedValue> mergedValues(const CopyFacts& kept, const std::vector<C
 
 MergedPlaces mergedPlaces(std::size_t playlist, const std::vector<std::uint32_t>& items,
                           std::size_t removedCount) {
-    MergedPlaces places{playlist, std::vector<std::size_t>(removedCount), 0};
+    MergedPlaces places{playlist, {}, std::vector<std::size_t>(removedCount), 0};
     const std::vector<PlaceFate> fates = placeFates(items);
     for (std::size_t i = 0; i < items.size(); ++i) {
         if (fates[i] == PlaceFate::goesToKept) ++places.taken[items[i] - 1];

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace songsweep {
@@ -44,6 +45,7 @@ struct MergedValue {
 /// Places of one song in one playlist.
 struct MergedPlaces {
     std::size_t playlist = 0;       ///< as iTunes counts them, from 1
+    std::string playlistId = {};    ///< persistent
     std::vector<std::size_t> taken; ///< of each removed copy, how many of its first items the kept one gets
     std::size_t givenUp = 0;        ///< how many of the kept copy's last items go
 
@@ -60,8 +62,13 @@ struct SongMerge {
     bool isNothing() const { return values.empty() && places.empty(); }
 };
 
+/// Who carries a plan out. The system's iTunes puts a song at the end of a playlist alone, and lets nobody
+/// set the day on which it was added.
+enum class MergeRoad : std::uint8_t { libraryFile, iTunes };
+
 /// What copies that stay are given of those that go, all songs of it: a value, made before the first text.
 struct MergePlan {
+    MergeRoad road = MergeRoad::libraryFile;
     std::vector<SongMerge> songs; ///< those that are given something
     MergeCounts counts;
 };
@@ -72,7 +79,7 @@ struct MergePlan {
 /// the days on which they were added the earliest; loved and enabled if any was. What the kept copy lacks
 /// comes from the first copy that has it.
 std::vector<MergedValue> mergedValues(const CopyFacts& kept, const std::vector<CopyFacts>& removed,
-                                      const MergeChoice& choice);
+                                      const MergeChoice& choice, MergeRoad road = MergeRoad::libraryFile);
 
 /// The places of a song in one playlist, whose items are given by their copies in order (0 is the kept one,
 /// the others by their places among the removed, from 1). See PlaylistPlaces.h for the rule.

@@ -11,8 +11,9 @@ namespace songsweep::mergeTexts {
 /// is "" or, where something failed, the reason.
 ///
 /// Values of other copies are told by their tracks and not written out, so that no date and no quote changes
-/// on the way. A place is found by the copy that has it, and not by its number, which other texts may have
-/// moved.
-std::string mergeSong(const SongMerge& song);
+/// on the way. In a library file a place is found by the copy that has it, and not by its number, which other
+/// texts may have moved. The system's iTunes may have counted on since its library was read, so that it adds
+/// up sums itself.
+std::string mergeSong(const SongMerge& song, MergeRoad road = MergeRoad::libraryFile);
 
 } // namespace songsweep::mergeTexts

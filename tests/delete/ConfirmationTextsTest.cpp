@@ -79,6 +79,7 @@ TEST(ConfirmationTexts, SayNothingWhereThereIsNothingToCount) {
 TEST(ConfirmationTexts, SpeakOfTheLibraryAndItsCopyWhereItIsEmbedded) {
     DeleteConfirmationFacts facts = counts(3);
     facts.embeddedLibrary = true;
+    EXPECT_EQ(texts::iTunesLine(facts), QString());
     EXPECT_EQ(texts::heading(facts), QStringLiteral("Delete 3 tracks from the library?"));
     EXPECT_EQ(
         texts::explanation(facts),
@@ -89,10 +90,17 @@ TEST(ConfirmationTexts, TellWhatTheCopyThatStaysIsGivenOnceItIsKnown) {
     DeleteConfirmationFacts facts = counts(3);
     facts.mergeOffered = true;
     EXPECT_EQ(texts::explanation(facts), QStringLiteral("iTunes cannot undo this."));
+    EXPECT_EQ(texts::iTunesLine(facts),
+              QStringLiteral("In iTunes it goes to the end of each playlist, and its date added stays."));
     EXPECT_EQ(texts::placesNumber(facts), QString());
     EXPECT_EQ(texts::unmergedLine(facts), QString());
-    facts.merge = MergeCounts{
-        .places = 12, .playlists = 5, .plays = 31, .ratings = 4, .fillIns = 0, .keepSeveral = 2, .unclear = 0};
+    facts.merge = MergeCounts{.places = 12,
+                              .playlists = 5,
+                              .plays = 31,
+                              .ratings = 4,
+                              .fillIns = 0,
+                              .keepSeveral = 2,
+                              .unclear = 0};
     EXPECT_EQ(texts::placesNumber(facts), QStringLiteral("12 places in 5 playlists"));
     EXPECT_EQ(texts::historyNumber(facts), QStringLiteral("31 plays, 4 ratings"));
     EXPECT_EQ(texts::fillInNumber(facts), QStringLiteral("none"));

@@ -77,6 +77,18 @@ TEST_F(DeleteConfirmationTest, LeavesPlaylistsAloneWhereATrackIsItsFile) {
         text(sheet, "delConfTextLabel").startsWith(QStringLiteral("They also leave every playlist.")));
 }
 
+TEST_F(DeleteConfirmationTest, TellsOfTheSystemsITunesWhatItDoesOtherwise) {
+    DeleteConfirmation sheet;
+    DeleteConfirmationFacts facts = counted();
+    sheet.setFacts(facts);
+    EXPECT_TRUE(child<QLabel>(sheet, "delConfITunesLabel").isHidden());
+    facts.embeddedLibrary = false;
+    sheet.setFacts(facts);
+    EXPECT_FALSE(child<QLabel>(sheet, "delConfITunesLabel").isHidden());
+    test::open(sheet);
+    EXPECT_EQ(test::clippedControls(sheet), QStringList());
+}
+
 TEST_F(DeleteConfirmationTest, DoesNotMoveWhenTheNumbersOfAMergeComeIn) {
     DeleteConfirmation sheet;
     sheet.setFacts(threeCopies());

@@ -86,6 +86,16 @@ TEST_F(FileSurveyTest, CountsWhatCopiesThatStayAreToBeGivenWhereThatIsOffered) {
     }
 }
 
+TEST_F(FileSurveyTest, OffersNoMergeWhereTheLibraryCannotBeRead) {
+    SurveySources sources{m_files};
+    sources.planMerge = [](const SongsToMerge&, const MergeChoice&) -> Result<MergePlan> {
+        return Error{Error::Code::notFound, "there is no such file"};
+    };
+    FileSurvey(m_list, std::make_shared<std::mutex>(), {.mergeOffered = true}, sources, m_cleanup, m_center)
+        .main();
+    EXPECT_FALSE(m_answer->facts.mergeOffered);
+}
+
 TEST_F(FileSurveyTest, LocksTheLibraryForTheDeletionThatMayFollow) {
     bool wasLocked = false;
     survey([&](const LocationVisitor&) {

@@ -89,8 +89,8 @@ TEST(MergePlan, FillsInWhatIsLackingFromTheFirstCopyThatHasIt) {
 }
 
 TEST(MergePlan, CountsThePlacesOfASongInAPlaylist) {
-    EXPECT_EQ(mergedPlaces(3, {1, 2, 0, 1}, 2), (MergedPlaces{3, {1, 1}, 1}));
-    EXPECT_EQ(mergedPlaces(3, {0, 1}, 1), (MergedPlaces{3, {0}, 0}));
+    EXPECT_EQ(mergedPlaces(3, {1, 2, 0, 1}, 2), (MergedPlaces{3, {}, {1, 1}, 1}));
+    EXPECT_EQ(mergedPlaces(3, {0, 1}, 1), (MergedPlaces{3, {}, {0}, 0}));
 }
 
 TEST(MergePlan, IsTextsOfOneTryBlockASong) {
@@ -98,7 +98,7 @@ TEST(MergePlan, IsTextsOfOneTryBlockASong) {
     song.copies.kept.pid = "K\"1";
     song.copies.removed = {{nullptr, "R1", 0}, {nullptr, "R2", 1}};
     song.values = {{Property::plays, 31, {}}, {Property::lastPlayed, 0, 1}};
-    song.places = {{3, {1, 0}, 1}};
+    song.places = {{3, {}, {1, 0}, 1}};
     EXPECT_EQ(mergeTexts::mergeSong(song),
               "tell application \"iTunes\" \ntry \n"
               "set kept to (first track of playlist 1 whose persistent ID is \"K\\\"1\") \n"
@@ -110,13 +110,42 @@ TEST(MergePlan, IsTextsOfOneTryBlockASong) {
               "return \"\" \non error reason \nreturn reason \nend try \nend tell");
 }
 
+TEST(MergePlan, LeavesTheDayOfAdditionToTheSystemsITunes) {
+    const CopyFacts kept = factsOf("<key>Date Added</key><date>2012-01-01T00:00:00Z</date>");
+    const CopyFacts older = factsOf("<key>Date Added</key><date>2010-01-01T00:00:00Z</date>");
+    EXPECT_THAT(mergedValues(kept, {older}, history), ElementsAre(MergedValue{Property::added, 0, 0}));
+    EXPECT_THAT(mergedValues(kept, {older}, history, MergeRoad::iTunes), IsEmpty());
+}
+
+TEST(MergePlan, HasTheSystemsITunesAddUpAndPutTheSongAtTheEndOfItsPlaylists) {
+    SongMerge song;
+    song.copies.kept.pid = "K1";
+    song.copies.removed = {{nullptr, "R1", 0}, {nullptr, "R2", 1}};
+    song.removed.resize(2);
+    song.values = {{Property::plays, 31, {}}, {Property::rating, 0, 1}};
+    song.places = {{3, "P3", {1, 1}, 1}};
+    EXPECT_EQ(mergeTexts::mergeSong(song, MergeRoad::iTunes),
+              "tell application \"iTunes\" \ntry \n"
+              "set kept to (first track of playlist 1 whose persistent ID is \"K1\") \n"
+              "set other1 to (first track of playlist 1 whose persistent ID is \"R1\") \n"
+              "set other2 to (first track of playlist 1 whose persistent ID is \"R2\") \n"
+              "set played count of kept to (played count of kept) + (played count of other1) + "
+              "(played count of other2) \n"
+              "set rating of kept to rating of other2 \n"
+              "set place to (first user playlist whose persistent ID is \"P3\") \n"
+              "delete (last track of place whose persistent ID is \"K1\") \n"
+              "duplicate kept to place \n"
+              "duplicate kept to place \n"
+              "return \"\" \non error reason \nreturn reason \nend try \nend tell");
+}
+
 TEST(MergePlan, IsToldInWords) {
     SongMerge song;
     song.copies.kept.pid = "K";
     song.copies.removed = {{nullptr, "R1", 0}, {nullptr, "R2", 1}};
     song.removed = {factsOf("<key>Play Count</key><integer>1</integer>"), factsOf("")};
     song.values = {{Property::plays, 31, {}}, {Property::rating, 0, 0}};
-    song.places = {{3, {1, 1}, 1}, {4, {1, 0}, 0}};
+    song.places = {{3, {}, {1, 1}, 1}, {4, {}, {1, 0}, 0}};
     EXPECT_EQ(wordsOf(mergedCopy(song, 0)), "2 places, 1 play, rating");
     EXPECT_EQ(wordsOf(mergedCopy(song, 1)), "1 place");
     const MergeCounts counts{12, 5, 31, 4, 2, 2, 1};

@@ -72,7 +72,7 @@ DeleteReport MergedDeletion::carryOut(const MergeChoice& choice) {
 MergeReport MergedDeletion::merge(const MergeChoice& choice, Cleanup& cleanup, AppleScript& scripts) {
     const auto plan = [this](const SongsToMerge& songs, const MergeChoice& chosen) {
         return m_scripts->withLibrary(
-            [&](LibraryDocument& library) { return planMerge(library, songs, chosen); });
+            [&](LibraryDocument& library) { return planMerge(library, songs, chosen, road); });
     };
     MergeProc(m_list, choice, {*m_center, scripts, m_log, cleanup, plan}).main();
     EXPECT_EQ(m_merged->notBegun, "");

@@ -48,6 +48,9 @@ class MergedDeletion {
     int writes() const;
     std::vector<std::string> names() const { return m_folder.names(); }
 
+    /// Who carries the next one out, by the texts that it understands.
+    MergeRoad road = MergeRoad::libraryFile;
+
     /// Called with each event.
     std::function<void(const WorkerEvent&)> observer = [](const WorkerEvent&) {};
     /// Of texts that fail when they have run, and of those that do not run at all; "" for none.

@@ -4,6 +4,7 @@
 #include "merge/MergedDeletion.h"
 
 #include "library/WorkerEvent.h"
+#include "libraryfile/LibraryDocument.h"
 #include "libraryfile/RecordedCleanup.h"
 
 #include <gmock/gmock.h>
@@ -50,6 +51,28 @@ TEST(MergedDeletionTest, TheCopyThatStaysGetsPlacesAndPlaysInTheSameWrite) {
     EXPECT_EQ(outcomeText(report.outcomes[1]), "deleted, 6 plays given to A1");
     deletion.restore();
     EXPECT_EQ(deletion.content(), smallLibrary());
+}
+
+/// The texts for the system's iTunes are ones that any iTunes understands.
+TEST(MergedDeletionTest, TheSystemsITunesPutsTheSongAtTheEndOfThePlaylist) {
+    const auto library = [](const std::vector<test::FixtureTrack>& tracks, const std::vector<int>& master,
+                            const std::vector<int>& list) {
+        const std::string flags = "<key>Playlist Persistent ID</key><string>00000000000000AB</string>";
+        return libraryXml(tracks, {{"Library", "<key>Master</key><true/>", master}, {"List", flags, list}});
+    };
+    MergedDeletion deletion(
+        library({{1, "A1", plays(5)}, {2, "A2", plays(20)}, {3, "B1", ""}}, {1, 2, 3}, {2, 3}),
+        {{1, "A1", false}, {1, "A2", true}});
+    deletion.road = MergeRoad::iTunes;
+    deletion.carryOut(everything);
+    EXPECT_EQ(deletion.content().find(plays(20)), std::string::npos);
+    EXPECT_THAT(deletion.content(), HasSubstr(plays(25)));
+    const auto opened = LibraryDocument::open(deletion.path());
+    ASSERT_TRUE(opened) << opened.error().message;
+    std::vector<std::int64_t> items;
+    for (const ItemSlot& item : opened.value()->playlist(1).items)
+        items.push_back(opened.value()->trackId(item.track));
+    EXPECT_THAT(items, ElementsAre(3, 1));
 }
 
 TEST(MergedDeletionTest, TheRecordHoldsTheValuesBefore) {
