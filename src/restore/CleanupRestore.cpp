@@ -34,9 +34,10 @@ RestoreReport reportFor(const RecordedCleanup& cleanup, const LibraryRestore::Ou
     return report;
 }
 
-/// Takes tracks out of a clean-up, and the merges of which not all copies are left.
+/// Takes tracks out of a clean-up, and the merges of which not all copies are left. Gives the number of
+/// these.
 template <class Test>
-void takeOut(RecordedCleanup& cleanup, const Test& goes) {
+std::size_t takeOut(RecordedCleanup& cleanup, const Test& goes) {
     constexpr auto gone = static_cast<std::size_t>(-1);
     std::vector<std::size_t> numbers(cleanup.tracks.size(), gone);
     std::vector<RecordedCleanup::Track> left;
@@ -49,20 +50,20 @@ void takeOut(RecordedCleanup& cleanup, const Test& goes) {
     for (RecordedMerge& merge : cleanup.merges)
         for (std::size_t& track : merge.removed)
             track = numbers[track];
-    std::erase_if(cleanup.merges, [&](const RecordedMerge& merge) {
+    return std::erase_if(cleanup.merges, [&](const RecordedMerge& merge) {
         return std::ranges::find(merge.removed, gone) != merge.removed.end();
     });
 }
 
 /// Takes the tracks out of the clean-up whose files are lost; a second track of one file has no fate of its
 /// own.
-std::vector<RestoredTrack> takeOutLost(RecordedCleanup& cleanup, Trash& trash) {
+std::vector<RestoredTrack> takeOutLost(RecordedCleanup& cleanup, Trash& trash, std::size_t& mergesLeft) {
     const std::vector<FileReturn> files = lookForFiles(cleanup, trash);
     std::unordered_set<std::string> lost;
     for (std::size_t i = 0; i < files.size(); ++i)
         if (files[i].fate == FileReturn::Fate::isGone) lost.insert(cleanup.tracks[i].plan.path);
     std::vector<RestoredTrack> leftOut;
-    takeOut(cleanup, [&](const RecordedCleanup::Track& track) {
+    mergesLeft = takeOut(cleanup, [&](const RecordedCleanup::Track& track) {
         if (!lost.contains(track.plan.path)) return false;
         leftOut.push_back({track.plan, RestoredTrack::Entry::leftOut, {}, {}});
         leftOut.back().setFileGone();
@@ -107,12 +108,16 @@ CleanupRestore::CleanupRestore(std::string library, RecordedCleanup cleanup, Tra
     : m_library(std::move(library))
     , m_cleanup(std::move(cleanup))
     , m_trash(trash) {
-    takeOut(m_cleanup, [this](const auto& track) { return !isWanted(track, m_cleanup); });
-    if (lostFiles == LostFiles::tracksStayAway) m_leftOut = takeOutLost(m_cleanup, trash);
+    (void)takeOut(m_cleanup, [this](const auto& track) { return !isWanted(track, m_cleanup); });
+    if (lostFiles == LostFiles::tracksStayAway) m_leftOut = takeOutLost(m_cleanup, trash, m_mergesLeft);
 }
 
 RestoreReport CleanupRestore::withLeftOut(RestoreReport report) const {
     report.tracks.insert(report.tracks.end(), m_leftOut.begin(), m_leftOut.end());
+    if (m_mergesLeft > 0)
+        report.notes.push_back("songs of which not every copy comes back, where the copies that stayed keep "
+                               "what they were given: " +
+                               std::to_string(m_mergesLeft));
     return report;
 }
 

@@ -47,6 +47,7 @@ class CleanupRestore {
     std::string m_library;
     RecordedCleanup m_cleanup;            // with the tracks that are wanted
     std::vector<RestoredTrack> m_leftOut; // those that are not, though the clean-up took them
+    std::size_t m_mergesLeft = 0;         // songs of which those are copies
     Trash& m_trash;
 };
 

@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
+
 namespace songsweep {
 namespace {
 
@@ -86,6 +88,15 @@ TEST_F(MergeTest, TheDryRunTellsAllOfItAndChangesNothing) {
                 HasSubstr("(0000000000000003) would be deleted, 1 place, 6 plays would be given to "
                           "0000000000000002, "));
     EXPECT_THAT(result.output, HasSubstr("29 plays, 1 rating would be given to copies that stay\n"));
+}
+
+TEST_F(MergeTest, ARestoreThatLeavesACopyOutSaysThatTheCopyThatStayedKeepsWhatItWasGiven) {
+    ASSERT_EQ(remove({"--yes", "--files"}).exitCode, 0);
+    ASSERT_TRUE(std::filesystem::remove(path("home/data/Trash/files/1.mp3")));
+    const RunResult result = run({"restore", "--library", m_library, "--yes", "--leave-lost"});
+    EXPECT_THAT(result.output, HasSubstr("the copies that stayed keep what they were given: 1"));
+    EXPECT_THAT(library(), HasSubstr("<key>Play Count</key><integer>31</integer>"));
+    EXPECT_THAT(library(), Not(HasSubstr("0000000000000001")));
 }
 
 TEST_F(MergeTest, EachPartIsLeftOutByItsOption) {
