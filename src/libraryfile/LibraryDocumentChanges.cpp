@@ -17,7 +17,8 @@ Result<void> LibraryDocument::setValue(TrackPosition track, ValueChange change) 
     if (!entry) return entry.error();
     if (auto tried = replacementsFor(entry.value(), m_index.entities, {change}); !tried) return tried.error();
     m_changes.set(track, std::move(change));
-    forgetValues();
+    if (m_values.track == track) m_values = {};
+    if (Cached& cached = m_cache[track % m_cache.size()]; cached.track == track) cached = {};
     return {};
 }
 
