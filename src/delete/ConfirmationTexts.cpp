@@ -34,7 +34,7 @@ QString heading(const DeleteConfirmationFacts& facts) {
 
 QString explanation(const DeleteConfirmationFacts& facts) {
     if (going(facts) == 0) return QCoreApplication::translate("Confirmation", "Nothing will be deleted.");
-    const QString undoing =
+    QString undoing =
         facts.embeddedLibrary
             ? QCoreApplication::translate("Confirmation", "A copy of the library file is kept beside it.")
             : QCoreApplication::translate("Confirmation", "iTunes cannot undo this.");
@@ -61,7 +61,7 @@ QString historyNumber(const DeleteConfirmationFacts& facts) { return number(fact
 QString fillInNumber(const DeleteConfirmationFacts& facts) { return number(facts, fillInWords); }
 
 QString iTunesLine(const DeleteConfirmationFacts& facts) {
-    if (facts.embeddedLibrary) return {};
+    if (!facts.mergeOffered || facts.embeddedLibrary) return {};
     return QStringLiteral("In iTunes it goes to the end of each playlist, and its date added stays.");
 }
 

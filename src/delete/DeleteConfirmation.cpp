@@ -151,9 +151,12 @@ void DeleteConfirmation::updateHeading() {
 
 void DeleteConfirmation::updateMerge() {
     using namespace confirmationTexts;
-    m_ui->delConfMerge->setVisible(m_facts.mergeOffered);
-    m_ui->delConfPlacesCK->setVisible(!m_filesAlwaysGo);
-    m_ui->delConfPlacesLabel->setVisible(!m_filesAlwaysGo);
+    for (QWidget* const widget :
+         {static_cast<QWidget*>(m_ui->delConfHistoryCK), static_cast<QWidget*>(m_ui->delConfHistoryLabel),
+          static_cast<QWidget*>(m_ui->delConfFillInCK), static_cast<QWidget*>(m_ui->delConfFillInLabel)})
+        widget->setVisible(m_facts.mergeOffered);
+    m_ui->delConfPlacesCK->setVisible(m_facts.mergeOffered && !m_filesAlwaysGo);
+    m_ui->delConfPlacesLabel->setVisible(m_facts.mergeOffered && !m_filesAlwaysGo);
     showLive(*m_ui->delConfPlacesLabel, placesNumber(m_facts));
     showLive(*m_ui->delConfHistoryLabel, historyNumber(m_facts));
     showLive(*m_ui->delConfFillInLabel, fillInNumber(m_facts));

@@ -49,7 +49,10 @@ TEST_F(DeleteConfirmationTest, OffersNothingToMergeWhereNoCopyStays) {
     DeleteConfirmation sheet;
     sheet.setFacts(threeTracks());
     EXPECT_EQ(sheet.mergeChoice(), MergeChoice());
-    EXPECT_TRUE(child<QWidget>(sheet, "delConfMerge").isHidden());
+    for (const char* const name :
+         {"delConfPlacesCK", "delConfHistoryCK", "delConfFillInCK", "delConfPlacesLabel",
+          "delConfHistoryLabel", "delConfFillInLabel", "delConfITunesLabel"})
+        EXPECT_TRUE(child<QWidget>(sheet, name).isHidden()) << name;
 }
 
 TEST_F(DeleteConfirmationTest, TellsTheNumbersOfAMergeOnceTheyAreKnown) {
