@@ -1977,6 +1977,14 @@ Hier: %2
         <source>Folder</source>
         <translation>Ordner</translation>
     </message>
+    <message>
+        <source>Playlists</source>
+        <translation>Wiedergabelisten</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 <context>
     <name>songsweep::DeleteConfirmation</name>
@@ -2023,6 +2031,18 @@ Hier: %2
     <message>
         <source>&amp;Delete</source>
         <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Keep their &amp;places in playlists</source>
+        <translation>Ihre &amp;Plätze in Wiedergabelisten behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Add their plays and ratings to the copy that stays</source>
+        <translation>&amp;Wiedergaben und Wertungen der bleibenden Kopie hinzufügen</translation>
+    </message>
+    <message>
+        <source>Fill &amp;in what the copy that stays lacks</source>
+        <translation>&amp;Ergänzen, was der bleibenden Kopie fehlt</translation>
     </message>
 </context>
 <context>
@@ -2568,6 +2588,10 @@ Hier: %2
     <message>
         <source>Recordings were told apart by their sound.</source>
         <translation>Die Aufnahmen wurden am Klang unterschieden.</translation>
+    </message>
+    <message>
+        <source>No folder chosen</source>
+        <translation>Kein Ordner gewählt</translation>
     </message>
 </context>
 <context>

@@ -1897,6 +1897,14 @@ Here: %2
         <source>Folder</source>
         <translation>フォルダ</translation>
     </message>
+    <message>
+        <source>Playlists</source>
+        <translation>プレイリスト</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
 </context>
 <context>
     <name>songsweep::DeleteConfirmation</name>
@@ -1943,6 +1951,18 @@ Here: %2
     <message>
         <source>&amp;Delete</source>
         <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Keep their &amp;places in playlists</source>
+        <translation>プレイリスト内の位置を保つ(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Add their plays and ratings to the copy that stays</source>
+        <translation>残るコピーに再生回数と評価を加える(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Fill &amp;in what the copy that stays lacks</source>
+        <translation>残るコピーにない情報を補う(&amp;I)</translation>
     </message>
 </context>
 <context>
@@ -2488,6 +2508,10 @@ Here: %2
     <message>
         <source>Recordings were told apart by their sound.</source>
         <translation>録音を音で区別しました。</translation>
+    </message>
+    <message>
+        <source>No folder chosen</source>
+        <translation>フォルダが選ばれていません</translation>
     </message>
 </context>
 <context>

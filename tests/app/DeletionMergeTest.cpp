@@ -48,6 +48,12 @@ class DeletionMergeTest : public ControllerFixture {
         view.calls.clear();
         controller->beginDelete();
     }
+    /// The merge's worker ends before the deletion's begins.
+    void runUntilEnd() {
+        ASSERT_TRUE(runEventLoopUntil([this] {
+            return !controller->isDeleting() && !controller->isWorking();
+        })) << "a worker does not end";
+    }
     /// Texts that are merges and deletions, by what they are about.
     std::vector<std::string> steps() const {
         std::vector<std::string> steps;
@@ -74,7 +80,7 @@ TEST_F(DeletionMergeTest, EachSongIsMergedBeforeTheFirstTrackIsDeleted) {
     begin(history);
     EXPECT_THAT(view.calls, ElementsAre("setProgressTitle Merging...", "beginProgress progress"));
     EXPECT_EQ(controller->progress().total, 2);
-    runUntilIdle();
+    runUntilEnd();
     EXPECT_EQ(chosen, history);
     EXPECT_THAT(steps(), ElementsAre("merge", "merge", "delete", "delete", "delete"));
     EXPECT_TRUE(view.has("setProgressTitle Deleting..."));
@@ -88,7 +94,7 @@ TEST_F(DeletionMergeTest, EachSongIsMergedBeforeTheFirstTrackIsDeleted) {
 TEST_F(DeletionMergeTest, NothingIsMergedThatNobodyAskedFor) {
     begin({});
     EXPECT_THAT(view.calls, ElementsAre("setProgressTitle Deleting...", "beginProgress progress"));
-    runUntilIdle();
+    runUntilEnd();
     EXPECT_THAT(steps(), ElementsAre("delete", "delete", "delete"));
 }
 
@@ -104,7 +110,7 @@ TEST_F(DeletionMergeTest, ACancelDuringTheMergeDeletesNothing) {
     merging.acquire();
     controller->cancelButtonClick();
     cancelled.release();
-    runUntilIdle();
+    runUntilEnd();
     EXPECT_THAT(steps(), ElementsAre("merge"));
     EXPECT_FALSE(controller->isDeleting());
     EXPECT_EQ(controller->getCheckedCount(), 3);
@@ -116,13 +122,13 @@ TEST_F(DeletionMergeTest, ACancelDuringTheMergeDeletesNothing) {
 TEST_F(DeletionMergeTest, AMergeThatCannotBeginIsToldAsADeletionThatCannot) {
     planned = Error{Error::Code::busy, "the library is being rewritten"};
     begin(history);
-    runUntilIdle();
+    runUntilEnd();
     EXPECT_TRUE(view.has("alertCantBeginDelete the library is being rewritten"));
     EXPECT_THAT(steps(), ElementsAre());
     EXPECT_FALSE(controller->isDeleting());
     planned = {};
     begin(history);
-    runUntilIdle();
+    runUntilEnd();
     EXPECT_THAT(steps(), ElementsAre("merge", "merge", "delete", "delete", "delete"));
 }
 
@@ -131,7 +137,7 @@ TEST_F(DeletionMergeTest, TheCopiesOfASongWhoseMergeFailedAreNotDeleted) {
         return isMerge(text) && text.find("\"A4\"") != std::string::npos;
     };
     begin(history);
-    runUntilIdle();
+    runUntilEnd();
     EXPECT_THAT(steps(), ElementsAre("merge", "merge", "delete"));
     const auto& outcomes = controller->lastDeleteReport()->outcomes;
     EXPECT_EQ(outcomes.at(0).track, DeleteOutcome::Track::deleted);

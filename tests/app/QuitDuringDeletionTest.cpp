@@ -71,8 +71,7 @@ class QuitDuringDeletion : public WindowsFixture {
         press("deleteButton");
         press("delConfOkButton");
         ASSERT_TRUE(runEventLoopUntil([this] { return windows.progressWindow().isVisible(); }));
-        while (program->scripting().pendingDeletions() == 0)
-            std::this_thread::yield();
+        ASSERT_TRUE(runEventLoopUntil([this] { return program->scripting().pendingDeletions() > 0; }));
     }
     /// The end of the program, in the order in which it goes.
     void endProgram() {

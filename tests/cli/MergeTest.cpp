@@ -40,7 +40,7 @@ class MergeTest : public test::ProgramTest {
     }
     std::string before() {
         return libraryText({track(1, "A", 128, 20, 80), track(2, "A", 320, 5, 40), track(3, "A", 192, 6, 0),
-                            track(4, "B", 128, 3, 0), track(5, "B", 320, 0, 0), track(6, "B", 320, 0, 0),
+                            track(4, "B", 128, 3, 0), track(5, "B", 320, 1, 0), track(6, "B", 320, 0, 0),
                             track(missing, "C", 320, 9, 0), track(8, "C", 320, 0, 0),
                             track(9, "C", 320, 0, 0)},
                            {{"Library", {1, 2, 3, 4, 5, 6, missing, 8, 9}, true},
@@ -65,7 +65,7 @@ class MergeTest : public test::ProgramTest {
 TEST_F(MergeTest, TheCopyThatStaysIsGivenPlacesAndHistory) {
     const RunResult result = remove({"--yes"});
     EXPECT_EQ(result.exitCode, 0) << result.errors;
-    EXPECT_EQ(library(), after(31, 80, 3, {2, 5}));
+    EXPECT_EQ(library(), after(31, 80, 4, {2, 5}));
     EXPECT_THAT(result.output,
                 HasSubstr("(0000000000000001) deleted, 20 plays, rating given to 0000000000000002, "));
     EXPECT_THAT(result.output,
@@ -101,13 +101,13 @@ TEST_F(MergeTest, ARestoreThatLeavesACopyOutSaysThatTheCopyThatStayedKeepsWhatIt
 
 TEST_F(MergeTest, EachPartIsLeftOutByItsOption) {
     ASSERT_EQ(remove({"--yes", "--no-keep-places"}).exitCode, 0);
-    EXPECT_EQ(library(), after(31, 80, 3, {5}));
+    EXPECT_EQ(library(), after(31, 80, 4, {5}));
     m_folder.write("Library.xml", before());
     ASSERT_EQ(remove({"--yes", "--no-keep-history"}).exitCode, 0);
-    EXPECT_EQ(library(), after(5, 40, 0, {2, 5}));
+    EXPECT_EQ(library(), after(5, 40, 1, {2, 5}));
     m_folder.write("Library.xml", before());
     const RunResult result = remove({"--yes", "--no-keep-places", "--no-keep-history"});
-    EXPECT_EQ(library(), after(5, 40, 0, {5}));
+    EXPECT_EQ(library(), after(5, 40, 1, {5}));
     EXPECT_THAT(result.output, Not(HasSubstr("merged")));
 }
 

@@ -74,7 +74,9 @@ TEST_F(FileSurveyTest, CountsWhatCopiesThatStayAreToBeGivenWhereThatIsOffered) {
     const auto planned = [](const SongsToMerge& songs, const MergeChoice& choice) -> Result<MergePlan> {
         EXPECT_EQ(songs.songs.size(), 1U);
         EXPECT_TRUE(choice.places && choice.history && choice.fillIns);
-        return MergePlan{{}, {.places = 3}};
+        MergePlan plan;
+        plan.counts.places = 3;
+        return plan;
     };
     for (const bool isOffered : {true, false}) {
         SurveySources sources{m_files};

@@ -43,9 +43,15 @@ void DeletionFixture::begin() {
     ASSERT_NO_FATAL_FAILURE(search());
 }
 
+void DeletionFixture::keepNothing() {
+    m_input.press("alt+p");
+    m_input.press("alt+a");
+}
+
 void DeletionFixture::deleteMarked() {
     const int count = countMarked();
     ASSERT_NO_FATAL_FAILURE(askToDelete());
+    keepNothing();
     m_input.press("alt+d");
     ASSERT_NO_FATAL_FAILURE(waitForOutcomes(static_cast<std::size_t>(count)));
     // The main window may be active for a moment before the sheet is, too.

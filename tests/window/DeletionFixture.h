@@ -26,6 +26,8 @@ class DeletionFixture : public WindowTest {
     void begin();
     /// Deletes what is marked, without the files, and waits for the end.
     void deleteMarked();
+    /// Unticks what gives the copies that stay places and plays: tests hold the library against its text.
+    void keepNothing();
     /// Begins a search, which waits until the library file was written.
     void searchAgain();
     /// Waits until the log has told that so many tracks are deleted.

@@ -35,6 +35,7 @@ TEST_F(DeletionInAWindow, TakesTheMarkedTracksAndTheirFilesAndNothingElse) {
         return std::any_of(texts.begin(), texts.end(),
                            [](const std::string& text) { return text.ends_with("go to the Trash."); });
     }));
+    keepNothing();
     m_input.press("alt+d");
     ASSERT_NO_FATAL_FAILURE(waitForOutcomes(marked.size()));
     const auto deleted = deletedTracks();
