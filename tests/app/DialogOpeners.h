@@ -95,7 +95,7 @@ inline const std::array allDialogs = {
     Opener{"Parameters", parametersDialog, 440},
     Opener{"Mark", markDialog, 500},
     Opener{"Delete", deleteConfirmation, 464},
-    Opener{"Merge", mergingConfirmation, 600},
+    Opener{"Merge", mergingConfirmation, 620},
     Opener{"Restore", restoreDialog, 560},
     Opener{"Progress", [] { return std::make_unique<ProgressSheet>(); }, 400},
     Opener{"About", [] { return std::make_unique<AboutDialog>(); }, 380}};
