@@ -131,6 +131,17 @@ bool SongsweepStyle::drawBar(ControlElement element, const QStyleOption* option,
         if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option))
             painting::headerSection(canvas, *header);
         return true;
+    case CE_HeaderLabel:
+        if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option);
+            header != nullptr && header->orientation == Qt::Vertical) {
+            // The margin is meant for the sides; of a row of 22 it would leave six.
+            QStyleOptionHeader label = *header;
+            const int margin = proxy()->pixelMetric(PM_HeaderMargin, option, widget);
+            label.rect.adjust(0, -margin, 0, margin);
+            QProxyStyle::drawControl(element, &label, painter, widget);
+            return true;
+        }
+        return false;
     case CE_HeaderEmptyArea:
         painter->fillRect(option->rect, canvas.colors.header);
         return true;

@@ -9,12 +9,14 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFocusFrame>
+#include <QHeaderView>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
 #include <QToolTip>
@@ -290,6 +292,27 @@ TEST(TextToolButton, KeepsNoRoomForAnIcon) {
     const int text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width();
     EXPECT_EQ(button.sizeHint().width(), text + 2 * scaledLength(10, &button));
     EXPECT_LT(button.sizeHint().height(), scaledLength(28, &button)) << "it fits into a line";
+}
+
+TEST(RowHeader, CutsNothingOffItsText) {
+    applyTheme(*qApp);
+    QTableWidget table(1, 1);
+    table.verticalHeader()->setMinimumSectionSize(22);
+    table.verticalHeader()->setFixedWidth(60);
+    table.setRowHeight(0, 22);
+    const auto painted = [&](const QString& label) {
+        table.setVerticalHeaderLabels({label});
+        return table.verticalHeader()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const QImage blank = painted(QStringLiteral(" "));
+    const QImage text = painted(QStringLiteral("Mg"));
+    int rows = 0;
+    for (int y = 0; y < text.height(); ++y)
+        rows += std::equal(text.constScanLine(y), text.constScanLine(y) + text.bytesPerLine(),
+                           blank.constScanLine(y))
+                    ? 0
+                    : 1;
+    EXPECT_GT(rows, table.fontMetrics().capHeight()) << "letters with their tails";
 }
 
 TEST(ArrowToolButton, ShowsWhereItsArrowPoints) {
