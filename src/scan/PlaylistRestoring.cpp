@@ -5,7 +5,6 @@
 #include "scan/PlaylistReturn.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace songsweep {
 
@@ -16,8 +15,8 @@ PlaylistRestoring::Outcome PlaylistRestoring::carryOut() const { return run(Way:
 /// The last change first, as a file may have been changed more than once.
 PlaylistRestoring::Outcome PlaylistRestoring::run(Way way) const {
     Outcome outcome;
-    for (const RecordedPlaylist& playlist : std::ranges::reverse_view(m_playlists))
-        if (playlist.state != RecordedPlaylist::State::failed) restore(playlist, way, outcome);
+    for (auto playlist = m_playlists.rbegin(); playlist != m_playlists.rend(); ++playlist)
+        if (playlist->state != RecordedPlaylist::State::failed) restore(*playlist, way, outcome);
     return outcome;
 }
 

@@ -52,7 +52,7 @@ std::uint64_t SoundStream::soundHash() {
 }
 
 TagLib::ByteVector SoundStream::readBlock(unsigned long length) {
-    if (m_place >= m_size) return {};
+    if (length == 0 || m_place >= m_size) return {};
     const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(length, m_size - m_place));
     TagLib::ByteVector block(static_cast<unsigned int>(wanted), 0);
     std::size_t count = 0;
